@@ -1,0 +1,43 @@
+#include "core/aircraft.h"
+
+namespace tarnel {
+
+void Aircraft::turn() {
+    constexpr double ticksPerSecond = 3;
+    trueHeading += (turnRateUsed / ticksPerSecond) * simTimeFactor;
+    if (trueHeading >= 360)
+        trueHeading -= 360;
+    else if (trueHeading < 0)
+        trueHeading += 360;
+}
+
+void Aircraft::flyLeg(double speed, double& course) {
+    const double distance = (1 / (3600 / simTimeStep)) * speed * simTimeFactor;
+    const DeadReckoned reached = DeadReckon(position, distance, course);
+    position = reached.split;
+    posLat = reached.plain.latitude;
+    posLon = reached.plain.longitude;
+}
+
+void Aircraft::fly(const Wind& wind) {
+    flyLeg(tasUsed, trueHeading);
+    double windCourse = wind.direction + 180;
+    flyLeg(wind.speed, windCourse);
+    aircraftLat = posLat;
+    aircraftLon = posLon;
+}
+
+void Aircraft::placeAt(const SplitPosition& target) {
+    position = target;
+    const GeoPosition plain = toPlain(target);
+    aircraftLat = posLat = plain.latitude;
+    aircraftLon = posLon = plain.longitude;
+}
+
+void Aircraft::placeAt(const GeoPosition& target) {
+    position = toSplit(target);
+    aircraftLat = posLat = target.latitude;
+    aircraftLon = posLon = target.longitude;
+}
+
+} // namespace tarnel

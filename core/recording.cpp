@@ -1,0 +1,46 @@
+#include "core/recording.h"
+
+#include "core/run_time_error.h"
+
+
+#include <algorithm>
+#include <utility>
+
+namespace tarnel {
+
+Recording::Recording() : samples(static_cast<std::size_t>(lastSample) + 1) {}
+
+const Sample& Recording::at(int index) const {
+    if (index < 0 || index > lastSample)
+        throw RunTimeError(RunTimeError::subscriptOutOfRange, "Recording",
+                           "Subscript out of range");
+    return samples[static_cast<std::size_t>(index)];
+}
+
+Sample& Recording::at(int index) {
+    return const_cast<Sample&>(std::as_const(*this).at(index));
+}
+
+bool Recording::tickIsSample() {
+    constexpr std::int16_t ticksPerSecond = 3;
+    if (++sampleTick > ticksPerSecond)
+        sampleTick = 0;
+    return sampleTick == ticksPerSecond;
+}
+
+BufferWarning Recording::advance() {
+    ++newest;
+    if (newest == almostFullAt)
+        return BufferWarning::almostFull;
+    if (newest != fullAt)
+        return BufferWarning::none;
+    newest = 1;
+    return BufferWarning::full;
+}
+
+void Recording::clear() {
+    std::fill(samples.begin(), samples.end(), Sample{});
+    newest = 0;
+}
+
+} // namespace tarnel

@@ -1,0 +1,83 @@
+#pragma once
+
+#include "core/geo_position.h"
+#include "core/stations.h"
+
+#include <array>
+#include <cstdint>
+#include <vector>
+
+namespace tarnel {
+
+/// The whole state of a flight at one moment.
+struct Sample {
+    double traceLat = 0; ///< aircraft, plain degrees
+    double traceLon = 0;
+    double traceHeading = 0;
+    std::int16_t traceStopMinutes = 0;
+    std::int16_t traceStopSeconds = 0;
+    std::int16_t traceFlightMinutes = 0;
+    std::int16_t traceFlightSeconds = 0;
+    std::int16_t traceFlightHours = 0;
+    std::int16_t traceTAS = 0;
+    std::int16_t traceTurnRate = 0;
+    std::array<GeoPosition, slotCount> traceStations{};
+    std::int16_t traceLocCourse = 0;
+    std::int16_t traceWindDirection = 0;
+    std::int16_t traceWindSpeed = 0;
+    double traceObsI2 = 0;
+    double traceObsI3 = 0;
+    std::int16_t traceInst2 = 0;
+    std::int16_t traceInst3 = 0;
+    std::int16_t traceInst2NAVselect = 0;
+    std::int16_t traceInst3NAVselect = 0;
+    std::int16_t traceInst2ADFCard = 0;
+    std::int16_t traceInst3ADFCard = 0;
+    std::int16_t traceNAV1freq = 0;
+    std::int16_t traceNAV2freq = 0;
+    std::int16_t traceADFfreq = 0;
+    std::int16_t traceDMEfreq = 0;
+    std::int16_t traceAPhdg = 0;
+    std::int16_t traceAPtas = 0;
+    std::int16_t traceAPalt = 0;
+    std::int16_t traceHDGbug = 0;
+};
+
+/// What the user has to be told when the buffer runs out.
+enum class BufferWarning { none, almostFull, full };
+
+/// The flight recorder: at most 6,000 samples, numbered from 1.
+class Recording {
+  public:
+    static constexpr std::int16_t lastSample = 6000;
+    static constexpr std::int16_t almostFullAt = 5900;
+    static constexpr std::int16_t fullAt = 5980;
+
+    Recording();
+
+    /// Sample `index`, 0 to 6000 (0 is never recorded). Throws the subscript error outside.
+    [[nodiscard]] Sample& at(int index);
+    [[nodiscard]] const Sample& at(int index) const;
+
+    /// The newest sample, 0 before the first.
+    [[nodiscard]] std::int16_t sampleIndex() const { return newest; }
+
+    /// Counts a simulation tick; true on ticks 3, 7, 11 and so on, which are recorded.
+    bool tickIsSample();
+
+    /// Moves on to the next sample. At 5980 it starts over at 1; old samples stay until overwritten.
+    BufferWarning advance();
+
+    /// Forgets all samples: the next one is number 1.
+    void clear();
+
+    /// Makes sample 1 the newest.
+    void startAtFirst() { newest = 1; }
+
+  private:
+    std::vector<Sample> samples;
+    std::int16_t newest = 1;
+    std::int16_t sampleTick = 0;
+};
+
+} // namespace tarnel
