@@ -1,0 +1,88 @@
+#include "core/rounding.h"
+#include "engine/user_control_2.h"
+
+namespace tarnel {
+
+RadialInputs UserControl2::radialInputs() const {
+    RadialInputs inputs;
+    inputs.navFreq = {c_NAV1freq, c_NAV2freq};
+    inputs.inst2 = {c_Inst2NAVselect, c_NAVRadI2 != 0, c_obsI2};
+    inputs.inst3 = {c_Inst3NAVselect, c_NAVRadI3 != 0, c_obsI3};
+    inputs.center = c_NAVRadCenter == on;
+    inputs.border = c_NAVRadBorder == on;
+    inputs.locCourse = c_LocCrs1;
+    return inputs;
+}
+
+void UserControl2::redrawChart() {
+    DrawNAVSymbols(picture, view, stations, rotation(), radialInputs());
+}
+
+void UserControl2::switchRadials() {
+    hideRadials(picture, picture.radialsI2);
+    hideRadials(picture, picture.radialsI3);
+    redrawChart();
+}
+
+void UserControl2::switchAirplane() {
+    showAirplane();
+    redrawTrace();
+}
+
+void UserControl2::showScale() {
+    view.plot.mapScaleTwips = c_MAPscale;
+    picture.surface.set(picture.milesPer500Twips, view.scaleLabelMiles());
+}
+
+void UserControl2::MapCenterSelect() {
+    view.plot.mapRefX = view.plot.mapRefY = toInt16(c_CenterTwips);
+    view.MapCenterSelect(c_MAPCenterSelect, aircraft, stations);
+}
+
+void UserControl2::MapScale() {
+    MapCenterSelect();
+    showScale();
+    view.placeAircraft(aircraft);
+    redrawChart();
+    redrawTrace();
+    refresh();
+}
+
+void UserControl2::resizeChart() {
+    picture.surface.set(picture.size, 2 * c_CenterTwips);
+    view.plot.mapRefX = view.plot.mapRefY = toInt16(c_CenterTwips);
+    view.centreOn(toSplit(aircraft.published()));
+    showScale();
+    view.placeAircraft(aircraft);
+    redrawChart();
+    redrawTrace();
+    refresh();
+}
+
+void UserControl2::switchView() {
+    view.northUpMode = c_MAPnorthUP == 1;
+    airplaneOutline = RotateAirplaneSymbol(view.northUpMode ? aircraft.trueHeading : 0);
+    view.centreOn(toSplit(aircraft.published()));
+    showScale();
+    view.placeAircraft(aircraft);
+    refresh();
+    redrawChart();
+    redrawTrace();
+}
+
+void UserControl2::placeAircraft(ChartPoint point) {
+    aircraft.place = {point, {static_cast<double>(point.x), static_cast<double>(point.y)}};
+    aircraft.placeAt(view.plot.MapToGeo(point).split);
+    picture.trace.clear();
+    markFreshStart();
+    refresh();
+}
+
+void UserControl2::turnAircraft(double heading) {
+    aircraft.trueHeading = heading == 360 ? 0 : heading;
+    c_HDG.publish(aircraft.trueHeading);
+    airplaneOutline = RotateAirplaneSymbol(view.northUpMode ? aircraft.trueHeading : 0);
+    refresh();
+}
+
+} // namespace tarnel

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "core/drawing_surface.h"
+
+#include <cstdint>
+#include <functional>
+
+namespace tarnel {
+
+class UserControl2;
+
+enum class ChartButton { left, right, other };
+
+/// The mouse on the chart: it places the aircraft, or turns it with the heading tool. It acts only
+/// in the north-up view and only while the simulation stands still.
+class ChartMouse {
+  public:
+    explicit ChartMouse(UserControl2& simulation) : sim(simulation) {}
+
+    /// A press at a chart position in twips. The right button picks the heading tool, and puts it
+    /// away at its second press.
+    void down(ChartButton button, Point at);
+    void move(Point at);
+    void up();
+    /// Puts every tool away and hides what they show.
+    void cancel();
+
+    [[nodiscard]] bool headingTool() const { return tool == Tool::heading; }
+
+    /// Called with the heading that was just drawn, whole degrees 0 to 359.
+    std::function<void(std::int16_t)> headingDrawn;
+
+  private:
+    enum class Tool { standard, heading };
+
+    [[nodiscard]] bool allowed() const;
+    void decodeRightButton();
+    void drawHeading(Point at);
+    void place(Point at);
+
+    UserControl2& sim;
+    Tool tool = Tool::standard;
+    bool airplaneDragging = false;
+    bool headingDragging = false;
+};
+
+} // namespace tarnel

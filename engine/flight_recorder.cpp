@@ -1,0 +1,81 @@
+#include "chart/trace_dots.h"
+#include "core/rounding.h"
+#include "engine/user_control_2.h"
+
+namespace tarnel {
+
+Sample UserControl2::presentSample() const {
+    Sample sample;
+    sample.traceLat = aircraft.aircraftLat;
+    sample.traceLon = aircraft.aircraftLon;
+    sample.traceHeading = aircraft.trueHeading;
+    sample.traceStopMinutes = clock.stopwatchMinutes;
+    sample.traceStopSeconds = static_cast<std::int16_t>(clock.stopwatchSeconds);
+    sample.traceFlightMinutes = clock.flightMinutes;
+    sample.traceFlightSeconds = static_cast<std::int16_t>(clock.flightSeconds);
+    sample.traceFlightHours = clock.flightHours;
+    sample.traceTAS = c_TAS;
+    sample.traceTurnRate = Turn_Rate;
+    for (std::size_t i = 0; i < slotCount; ++i)
+        sample.traceStations[i] = toPlain(stations[i].position);
+    sample.traceLocCourse = toInt16(c_LocCrs1);
+    sample.traceWindDirection = toInt16(wind.direction);
+    sample.traceWindSpeed = wind.speed;
+    const double turned = c_MAPnorthUP == 1 ? 0 : c_HDG.get();
+    sample.traceObsI2 = turned + c_obsI2;
+    sample.traceObsI3 = turned + c_obsI3;
+    sample.traceInst2 = c_inst2;
+    sample.traceInst3 = c_inst3;
+    sample.traceInst2NAVselect = c_Inst2NAVselect;
+    sample.traceInst3NAVselect = c_Inst3NAVselect;
+    sample.traceInst2ADFCard = c_Inst2_ADFCardselect;
+    sample.traceInst3ADFCard = c_Inst3_ADFCardselect;
+    sample.traceNAV1freq = c_NAV1freq;
+    sample.traceNAV2freq = c_NAV2freq;
+    sample.traceADFfreq = c_ADFfreq;
+    sample.traceDMEfreq = c_DMEfreq;
+    sample.traceAPhdg = c_APhdg;
+    sample.traceAPtas = c_APtas;
+    sample.traceAPalt = c_APalt;
+    sample.traceHDGbug = c_HDGbug;
+    return sample;
+}
+
+void UserControl2::recordSample() {
+    if (c_TAS > 0) {
+        const BufferWarning warning = recording.advance();
+        if (warning != BufferWarning::none)
+            messages.bufferWarning(warning);
+        if (warning == BufferWarning::full)
+            clock.resetFlightTime();
+    }
+    if (recording.sampleIndex() == 0)
+        recording.startAtFirst();
+    recording.at(recording.sampleIndex()) = presentSample();
+    c_TraceBufferMax.publish(recording.sampleIndex());
+    if (!traceShown())
+        return;
+    DeleteTrace(picture);
+    DrawTrace2(picture, view, recording, aircraft.trueHeading);
+}
+
+void UserControl2::markFreshStart() {
+    resumeMode = ResumeMode::clear;
+    recording.startAtFirst();
+    recording.at(1) = presentSample();
+    c_TraceBufferMax.publish(1);
+}
+
+void UserControl2::freshRecording() {
+    recording.clear();
+    clock = FlightClock{};
+    resumeMode = ResumeMode::goOn;
+}
+
+void UserControl2::redrawTrace() {
+    picture.trace.clear();
+    if (traceShown())
+        DrawReplayTrace(picture, view, recording, aircraft.trueHeading);
+}
+
+} // namespace tarnel

@@ -1,0 +1,61 @@
+#include "chart/trace_dots.h"
+#include "core/radios.h"
+#include "engine/user_control_2.h"
+
+namespace tarnel {
+
+void UserControl2::SimStep() {
+    aircraft.tasUsed = c_TAS;
+    aircraft.turnRateUsed = Turn_Rate;
+    if (!redrawOnly && c_TimerEN == 1)
+        moveAircraft();
+    redrawOnly = false;
+    followHeadingUp();
+
+    const double heading = view.northUpMode ? aircraft.trueHeading : 0;
+    const double windCourse = wind.direction - 180 - (view.northUpMode ? 0 : aircraft.trueHeading);
+    speedVectors = layOutSpeedVectors(aircraft.place.wide, heading, aircraft.tasUsed, windCourse,
+                                      wind.speed, view.plot.mapScaleTwips);
+    drawSpeedVectors(picture, speedVectors, c_SpeedVectorEN == 1);
+    showAirplane();
+    measure();
+}
+
+void UserControl2::moveAircraft() {
+    aircraft.fly(wind);
+    view.placeAircraft(aircraft);
+    if (view.northUpMode)
+        view.plot.mapRef = view.mapCenter;
+}
+
+/// In the heading-up view the chart turns and slides under the aircraft, running or paused.
+void UserControl2::followHeadingUp() {
+    if (view.northUpMode)
+        return;
+    view.placeAircraft(aircraft);
+    redrawChart();
+    if (c_TimerEN == 1 && traceShown()) {
+        DeleteTrace(picture);
+        DrawTrace2(picture, view, recording, aircraft.trueHeading);
+    }
+}
+
+void UserControl2::showAirplane() {
+    MinatureAirplane(picture, aircraft.place.wide, airplaneOutline, c_AirplaneEN == 1);
+}
+
+void UserControl2::measure() {
+    const RadioReadings readings =
+        measureRadios(stations, aircraft,
+                      {static_cast<double>(view.plot.mapScaleTwips), c_Altitude,
+                       speedVectors.groundSpeed, speedVectors.groundTrack});
+    for (std::size_t i = 0; i < slotCount; ++i) {
+        slots[i].radial.publish(readings.radial[i]);
+        if (!hasDme(i))
+            continue;
+        slots[i].dme.publish(readings.dme[i]);
+        slots[i].dmeGroundSpeed.publish(readings.dmeGroundSpeed[i]);
+    }
+}
+
+} // namespace tarnel

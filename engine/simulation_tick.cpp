@@ -1,0 +1,38 @@
+#include "engine/user_control_2.h"
+
+namespace tarnel {
+
+void UserControl2::Timer1() {
+    if (c_ResetTimer == 0)
+        clock.resetStopwatch();
+    c_ResetTimer.publish(1);
+    if (c_Timer_on_off == 1)
+        clock.tickStopwatch();
+    publishStopwatch();
+
+    if (c_TAS > 0) {
+        clock.tickFlightTime();
+        c_ApHours2.publish(clock.flightHours);
+        c_ApMinutes2.publish(clock.flightMinutes);
+        c_ApSeconds2.publish(static_cast<std::int16_t>(clock.flightSeconds));
+    }
+    turnByTick();
+    if (recording.tickIsSample())
+        recordSample();
+    SimStep();
+}
+
+void UserControl2::publishStopwatch() {
+    c_ApMinutes.publish(clock.stopwatchMinutes);
+    c_ApSeconds.publish(static_cast<std::int16_t>(clock.stopwatchSeconds));
+}
+
+void UserControl2::turnByTick() {
+    if (aircraft.turnRateUsed == 0)
+        return;
+    aircraft.turn();
+    c_HDG.publish(aircraft.trueHeading);
+    airplaneOutline = RotateAirplaneSymbol(view.northUpMode ? aircraft.trueHeading : 0);
+}
+
+} // namespace tarnel

@@ -1,0 +1,187 @@
+#pragma once
+
+#include "chart/chart_drawing.h"
+#include "chart/chart_picture.h"
+#include "chart/map_view.h"
+#include "core/aircraft.h"
+#include "core/flight_clock.h"
+#include "core/property.h"
+#include "core/recording.h"
+#include "core/speed_vectors.h"
+#include "core/stations.h"
+#include "engine/chart_mouse.h"
+#include "engine/station_properties.h"
+#include "persistence/chart_file.h"
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+namespace tarnel {
+
+class RunTimeError;
+
+/// What the simulation has to tell the user; the shell shows it in a box.
+class SimulationMessages {
+  public:
+    virtual ~SimulationMessages() = default;
+    virtual void bufferWarning(BufferWarning warning) = 0;
+    virtual void chartFailed(const std::string& path, const RunTimeError& error) = 0;
+    virtual void chartWrong(const std::string& path, const ChartProblem& problem) = 0;
+};
+
+/// `UserControl2`: the simulation engine: aircraft, chart, radios and recording behind one set of
+/// properties. It knows neither window nor clock: whoever owns it calls `Timer1` three times per
+/// simulated second while `c_TimerEN` is 1.
+class UserControl2 {
+  public:
+    explicit UserControl2(SimulationMessages& messages);
+
+    /// One tick of simulated time: 1/3 second.
+    void Timer1();
+    /// Moves the aircraft if a tick asks for it, and brings chart, radios and read-outs up to date.
+    void SimStep();
+
+    /// The properties of a station slot.
+    [[nodiscard]] StationProperties& slot(Slot which) { return inSlot(slots, which); }
+    [[nodiscard]] const StationProperties& slot(Slot which) const { return inSlot(slots, which); }
+
+    /// Redraws for a new scale, centre or station position.
+    void MapScale();
+    void MapCenterSelect();
+    /// The start of a recording: the next start of the clock discards what was recorded, and sample
+    /// 1 holds the present state.
+    void markFreshStart();
+    /// Moves the aircraft by hand to a chart position.
+    void placeAircraft(ChartPoint point);
+    /// Turns the aircraft by hand. Degrees, 0 up to 360.
+    void turnAircraft(double heading);
+
+    [[nodiscard]] RadialInputs radialInputs() const;
+    [[nodiscard]] bool stopped() const { return c_TimerEN == 0; }
+
+    PropertyBag properties;
+
+    // Flight. A set refreshes the picture without moving the aircraft.
+    Property<std::int16_t> Turn_Rate{properties, "Turn_Rate", 0, [this] { refresh(); }};
+    Property<std::int16_t> c_TAS{properties, "c_TAS", 0, [this] { refresh(); }};
+    Property<double> c_Altitude{properties, "c_Altitude", 0, [this] { refresh(); }};
+    Property<double> c_HDG{properties, "c_HDG"};
+    Property<std::int16_t> c_HDGbug{properties, "c_HDGbug"};
+    Property<std::int16_t> c_HDGchanged{properties, "c_HDGchanged"};
+    Property<std::int16_t> c_APhdg{properties, "c_APhdg"};
+    Property<std::int16_t> c_APtas{properties, "c_APtas"};
+    Property<std::int16_t> c_APalt{properties, "c_APalt"};
+    Property<std::int16_t> c_FlyEN{properties, "c_FlyEN"};
+    Property<std::int16_t> c_PractiseStopFly{properties, "c_PractiseStopFly"};
+
+    // Clocks. `c_TimerSIMrate` is the real time of one tick in milliseconds.
+    Property<std::int16_t> c_TimerEN{properties, "c_TimerEN", 0, [this] { switchClock(); }};
+    Property<std::int16_t> c_TimerSIMrate{properties, "c_TimerSIMrate", 333};
+    Property<std::int16_t> c_ResetTimer{properties, "c_ResetTimer", 1, [this] { resetStopwatch(); }};
+    Property<std::int16_t> c_Timer_on_off{properties, "c_Timer_on_off"};
+    Property<std::int16_t> c_ApSeconds{properties, "c_ApSeconds"};
+    Property<std::int16_t> c_ApMinutes{properties, "c_ApMinutes"};
+    Property<std::int16_t> c_ApSeconds2{properties, "c_ApSeconds2"};
+    Property<std::int16_t> c_ApMinutes2{properties, "c_ApMinutes2"};
+    Property<std::int16_t> c_ApHours2{properties, "c_ApHours2"};
+
+    // Receivers: 0 VOR 1, 1 VOR 2, 2 localizer; ADF 0 NDB 1, 1 NDB 2.
+    Property<std::int16_t> c_NAV1freq{properties, "c_NAV1freq", 0, [this] { redrawChart(); }};
+    Property<std::int16_t> c_NAV2freq{properties, "c_NAV2freq", 0, [this] { redrawChart(); }};
+    Property<std::int16_t> c_ADFfreq{properties, "c_ADFfreq"};
+    Property<std::int16_t> c_DMEfreq{properties, "c_DMEfreq"};
+    Property<std::int16_t> c_Inst2NAVselect{properties, "c_Inst2NAVselect", 1,
+                                            [this] { redrawChart(); }};
+    Property<std::int16_t> c_Inst3NAVselect{properties, "c_Inst3NAVselect", 1,
+                                            [this] { redrawChart(); }};
+    Property<std::int16_t> c_NAVRadI2{properties, "c_NAVRadI2", 0, [this] { switchRadials(); }};
+    Property<std::int16_t> c_NAVRadI3{properties, "c_NAVRadI3", 0, [this] { switchRadials(); }};
+    Property<double> c_obsI2{properties, "c_obsI2", 0, [this] { redrawChart(); }};
+    Property<double> c_obsI3{properties, "c_obsI3", 0, [this] { redrawChart(); }};
+    Property<double> c_OBS1{properties, "c_OBS1"};
+    Property<double> c_OBS2{properties, "c_OBS2"};
+    Property<std::int16_t> c_NAVRadCenter{properties, "c_NAVRadCenter", on,
+                                          [this] { switchRadials(); }};
+    Property<std::int16_t> c_NAVRadBorder{properties, "c_NAVRadBorder", off,
+                                          [this] { switchRadials(); }};
+    Property<double> c_LocCrs1{properties, "c_LocCrs1", 0, [this] { redrawChart(); }};
+
+    // The instruments' settings, kept for the recording.
+    Property<std::int16_t> c_inst2{properties, "c_inst2"};
+    Property<std::int16_t> c_inst3{properties, "c_inst3"};
+    Property<std::int16_t> c_Inst2_ADFCardselect{properties, "c_Inst2_ADFCardselect", 1};
+    Property<std::int16_t> c_Inst3_ADFCardselect{properties, "c_Inst3_ADFCardselect", 1};
+
+    // Chart.
+    Property<std::int16_t> c_MAPnorthUP{properties, "c_MAPnorthUP", 1, [this] { switchView(); }};
+    Property<std::int16_t> c_MAPscale{properties, "c_MAPscale", 250, [this] { MapScale(); }};
+    Property<double> c_CenterTwips{properties, "c_CenterTwips", 3405, [this] { resizeChart(); }};
+    Property<std::int16_t> c_MAPCenterSelect{properties, "c_MAPCenterSelect", 1};
+    Property<std::int16_t> c_NAV1NULLPositionX{properties, "c_NAV1NULLPositionX"};
+    Property<std::int16_t> c_AirplaneEN{properties, "c_AirplaneEN", 1, [this] { switchAirplane(); }};
+    Property<std::int16_t> c_TraceEN{properties, "c_TraceEN", 0, [this] { redrawTrace(); }};
+    Property<std::int16_t> c_SpeedVectorEN{properties, "c_SpeedVectorEN", 0, [this] { refresh(); }};
+    Property<std::int16_t> c_TraceBufferMax{properties, "c_TraceBufferMax", 1};
+
+    // Replay: 1 restores the instruments' settings from the recording.
+    Property<std::int16_t> c_replayInstLock{properties, "c_replayInstLock"};
+
+    // Files. `c_loadChart` 2 loads the chart at `c_ChartFileName` and goes back to 0.
+    Property<std::string> c_MainAppPath{properties, "c_MainAppPath"};
+    Property<std::string> c_ChartFileName{properties, "c_ChartFileName"};
+    Property<std::string> c_SessionFileName{properties, "c_SessionFileName"};
+    Property<std::int16_t> c_loadChart{properties, "c_loadChart", 0, [this] { loadChart(); }};
+
+    Aircraft aircraft;
+    Wind wind;
+    FlightClock clock;
+    Stations stations = defaultStations();
+    Recording recording;
+    MapView view;
+    ChartPicture picture;
+    SpeedVectors speedVectors;
+    ChartMouse mouse{*this};
+
+  private:
+    using Slots = std::array<StationProperties, slotCount>;
+
+    Slots makeSlots();
+    void relabel(Slot which);
+    void stationOnOff(Slot which);
+    void refresh();
+    void redrawChart();
+    void redrawTrace();
+    void switchRadials();
+    void switchAirplane();
+    void switchClock();
+    void switchView();
+    void resizeChart();
+    void resetStopwatch();
+    void publishStopwatch();
+    void showScale();
+    void showAirplane();
+    [[nodiscard]] bool traceShown() const { return c_TraceEN == 1 && c_AirplaneEN == 1; }
+    [[nodiscard]] double rotation() const { return view.rotation(aircraft.trueHeading); }
+
+    void turnByTick();
+    void recordSample();
+    [[nodiscard]] Sample presentSample() const;
+    void freshRecording();
+
+    void moveAircraft();
+    void measure();
+    void followHeadingUp();
+
+    void loadChart();
+    void applyChart(const ChartFile& chart);
+    void applyStation(Slot which, const ChartStation& station);
+
+    SimulationMessages& messages;
+    Slots slots = makeSlots();
+    AirplaneOutline airplaneOutline;
+    bool redrawOnly = false;
+    enum class ResumeMode { goOn, clear } resumeMode = ResumeMode::goOn;
+};
+
+} // namespace tarnel
