@@ -1,0 +1,38 @@
+#include "instruments/digit_readout.h"
+
+#include "core/number_text.h"
+
+#include <cmath>
+
+namespace tarnel {
+
+namespace {
+
+std::int16_t digitPicture(char character) {
+    if (character >= '0' && character <= '9')
+        return static_cast<std::int16_t>(character - 47);
+    return character == '-' ? DigitReadout::dashPicture : DigitReadout::blankPicture;
+}
+
+} // namespace
+
+DigitReadout::DigitReadout(DrawingSurface& owner, std::span<const std::size_t> places)
+    : surface(owner), characters(places), shown(places.size(), blankPicture) {}
+
+void DigitReadout::show(std::string_view text) {
+    for (std::size_t i = 0; i < shown.size(); ++i) {
+        const std::size_t place = characters[i];
+        surface.set(shown[i], place < text.size() ? digitPicture(text[place]) : blankPicture);
+    }
+}
+
+void DigitReadout::showNumber(double value) {
+    show(zeroPadded(static_cast<std::int64_t>(std::floor(value)), 3));
+}
+
+void DigitReadout::fill(std::int16_t picture) {
+    for (std::int16_t& digit : shown)
+        surface.set(digit, picture);
+}
+
+} // namespace tarnel

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "core/drawing_surface.h"
+#include "instruments/knob_drag.h"
+
+#include <cstdint>
+
+namespace tarnel {
+
+class UserControl_1;
+struct KnobArea;
+
+/// What can be turned or clicked on an instrument.
+enum class InstrumentArea { none, obsKnob, headingBugKnob, selector, card };
+
+/// The mouse on an instrument: it turns the knobs and the card and clicks the selector. Positions
+/// are twips of the control. While `c_DisableKnobs` is 0 nothing takes the mouse.
+///
+/// A drag runs on its horizontal way: 40 twips a degree with the left button, 250 with any other.
+/// To the right the heading bug rises and the course falls.
+class InstrumentMouse {
+  public:
+    explicit InstrumentMouse(UserControl_1& control) : instrument(control) {}
+
+    /// What takes the mouse at a position.
+    [[nodiscard]] InstrumentArea areaAt(Point at) const;
+
+    /// A press; says what it took hold of. A press on a numeral sets the course under it.
+    InstrumentArea down(Point at);
+    void move(Point at, MouseButton held);
+    /// A release; over the selector, if it was pressed there, it is a click.
+    void up(Point at);
+    /// A press and a release at one place.
+    void click(Point at);
+    /// On the heading bug knob: the bug to the heading under the lubber line. Elsewhere a press.
+    void doubleClick(Point at);
+
+    /// Turns by wheel or key: the heading bug or the course (by its knob or the card) rises by one
+    /// degree a step. Any number of steps on the selector is one click.
+    void stepKnob(InstrumentArea area, int steps);
+
+    /// To be called when the values that a drag counts from were set.
+    void headingBugWasSet();
+    void mouseObsWasSet();
+
+  private:
+    [[nodiscard]] bool takesMouse(const KnobArea& knob, Point at) const;
+    [[nodiscard]] bool usable(InstrumentArea area) const;
+    /// 360 minus the bearing of a position from the middle, whole degrees.
+    [[nodiscard]] std::int16_t faceAngle(Point at) const;
+    void grabCard(Point at);
+    void turnHeadingBug(double heading);
+    void turnCourse(double mouseObs);
+    void clickSelector();
+
+    UserControl_1& instrument;
+    InstrumentArea pressed = InstrumentArea::none;
+    KnobDrag hdgDrag;
+    KnobDrag obsDrag;
+    std::int16_t cardGrab = 0;
+    std::int16_t cardBase = 0;
+};
+
+} // namespace tarnel

@@ -1,0 +1,73 @@
+#pragma once
+
+#include "core/drawing_surface.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+
+namespace tarnel {
+
+/// The values of `Display`.
+enum class InstrumentKind : std::int16_t { adf = 1, rmi, vor, hsi, dg };
+
+/// An area over the background that takes the mouse.
+struct KnobArea {
+    Area area;
+    bool visible = false;
+    bool enabled = true; ///< false while the knobs are locked
+    bool operator==(const KnobArea&) const = default;
+};
+
+/// Everything that an instrument shows, in twips of the control.
+struct InstrumentPicture {
+    DrawingSurface surface;
+    double size = 3855; ///< width and height
+
+    Picture Image1;  ///< the background
+    KnobArea Image2; ///< heading bug knob
+    KnobArea Image3; ///< selector
+    KnobArea Image4; ///< OBS knob
+
+    std::array<Line, 72> Line1;     ///< card ticks: 36 long ones, then 36 short ones
+    std::array<Label, 12> Label1;   ///< card numerals
+    std::array<Line, 4> Line3to6;   ///< first needle, or the head of the HSI's course arrow
+    std::array<Line, 6> Line7to12;  ///< second needle
+    Line Line13;                    ///< deviation bar
+    Line Line14;                    ///< tail of the HSI's course arrow
+    std::array<Line, 3> Line15;     ///< TO/FROM triangle of the HSI
+    std::array<Line, 3> Line16;     ///< the aircraft in the middle
+    std::array<Line, 7> Line17to23; ///< heading bug
+    Line Line24;                    ///< lubber line of the HSI
+    std::array<Round, 11> Shape2;   ///< deviation dots; the first is the centre
+    Label Label2_3;                 ///< what the second needle points to
+    Label Label2_4;                 ///< flag of the VOR indicator
+    Label Text1;                    ///< "OFF" flag of the HSI
+
+    /// Hands every primitive to `paint`, the lowest first. `paint` takes a `Picture`, a `Line`, a
+    /// `Round` or a `Label`, visible or not.
+    template <class Paint>
+    void paintInOrder(Paint&& paint) const {
+        const auto paintAll = [&paint](const auto& primitives) {
+            for (const auto& primitive : primitives)
+                paint(primitive);
+        };
+        paint(Image1);
+        paintAll(Line1);
+        paintAll(Label1);
+        paintAll(Line17to23);
+        paintAll(Shape2);
+        paintAll(Line7to12);
+        paintAll(Line3to6);
+        paint(Line14);
+        paintAll(Line15);
+        paint(Line13);
+        paint(Line24);
+        paintAll(Line16);
+        paint(Label2_3);
+        paint(Label2_4);
+        paint(Text1);
+    }
+};
+
+} // namespace tarnel
