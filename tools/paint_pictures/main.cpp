@@ -1,0 +1,109 @@
+// paint_pictures OUTDIR: paints every picture of the program into a folder.
+
+#include "tools/paint_pictures/digit_painter.h"
+#include "tools/paint_pictures/icon_painter.h"
+#include "tools/paint_pictures/instrument_faces.h"
+#include "tools/paint_pictures/knob_painter.h"
+#include "tools/paint_pictures/palette.h"
+
+#include <QDir>
+#include <QGuiApplication>
+#include <QImageWriter>
+
+#include <cstdio>
+#include <stdexcept>
+
+namespace tarnel {
+
+namespace {
+
+// A folder that pictures are written to; what cannot be written is thrown as a std::runtime_error.
+class PictureFolder {
+  public:
+    explicit PictureFolder(const QString& path) : folder(path) {
+        if (!QDir().mkpath(path))
+            fail(path, QStringLiteral("the folder cannot be made"));
+    }
+
+    void write(const QString& name, const QImage& picture) const {
+        constexpr int jpgQuality = 95;
+        QImageWriter writer(folder.filePath(name));
+        if (name.endsWith(QLatin1String(".jpg")))
+            writer.setQuality(jpgQuality);
+        if (!writer.write(picture))
+            fail(writer.fileName(), writer.errorString());
+    }
+
+  private:
+    [[noreturn]] static void fail(const QString& name, const QString& reason) {
+        throw std::runtime_error((name + ": " + reason).toStdString());
+    }
+
+    QDir folder;
+};
+
+void writeFaces(const PictureFolder& folder) {
+    for (const FaceParts& parts : instrumentFaces())
+        for (const FaceForm& form : faceForms())
+            folder.write(parts.fileStem + form.suffix + ".jpg", paintFace(parts, form.side));
+}
+
+void writeKnobs(const PictureFolder& folder) {
+    constexpr int side = 512;
+    folder.write("knob.png", paintKnob(side, KnobLook::Resting));
+    folder.write("knob_hover.png", paintKnob(side, KnobLook::Hovered));
+    folder.write("knob_concentric.png", paintDoubleKnob(side, KnobLook::Resting));
+    folder.write("knob_concentric_hover.png", paintDoubleKnob(side, KnobLook::Hovered));
+    folder.write("knob_pointer.png", paintPointer(side));
+}
+
+void writeDigits(const PictureFolder& folder, const QString& colourWord, QRgb colour) {
+    for (int sign = 0; sign < segmentSigns; ++sign) {
+        const QString number = QString::number(sign + 1).rightJustified(2, '0');
+        folder.write("digit_" + colourWord + "_" + number + ".png", paintDigit(sign, colour));
+    }
+}
+
+void writeIcons(const PictureFolder& folder) {
+    folder.write("tarnel.png", paintIcon(256));
+    folder.write("tarnel_64.png", paintIcon(64));
+    folder.write("tarnel_32.png", paintIcon(32));
+}
+
+void paintPictures(const QString& path) {
+    const PictureFolder folder(path);
+    writeFaces(folder);
+    writeKnobs(folder);
+    writeDigits(folder, "amber", palette::amber);
+    writeDigits(folder, "green", palette::green);
+    writeIcons(folder);
+}
+
+} // namespace
+
+} // namespace tarnel
+
+namespace {
+
+constexpr int exitUnwritable = 1;
+constexpr int exitUsage = 2;
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication application(argc, argv);
+    const QStringList arguments = QGuiApplication::arguments();
+    if (arguments.size() != 2) {
+        std::fputs("usage: paint_pictures OUTDIR\n", stderr);
+        return exitUsage;
+    }
+    try {
+        tarnel::paintPictures(arguments.at(1));
+    } catch (const std::runtime_error& error) {
+        std::fprintf(stderr, "paint_pictures: %s\n", error.what());
+        return exitUnwritable;
+    }
+    return 0;
+}
