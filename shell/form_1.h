@@ -1,0 +1,216 @@
+#pragma once
+
+#include "core/run_time_error.h"
+#include "engine/user_control_2.h"
+#include "instruments/ap_control_face.h"
+#include "instruments/dme_control_face.h"
+#include "instruments/radio_face.h"
+#include "instruments/stopwatch_face.h"
+#include "instruments/user_control_1.h"
+#include "shell/form_controls.h"
+#include "shell/instrument_feed.h"
+#include "shell/instrument_position.h"
+#include "shell/outside_world.h"
+#include "strings/string_table.h"
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+namespace tarnel {
+
+/// `Form1`: the whole trainer without its window: the simulation, the panel, the strip, and the tick
+/// that couples them. It never looks at a clock: a window's timers, a test or a scripted flight call
+/// the timer procedures.
+class Form1 : private SimulationMessages {
+  public:
+    /// `applicationPath` is the folder of charts and pictures.
+    Form1(const StringTable& texts, OutsideWorld& outside, std::string applicationPath);
+
+    // The timer procedures. A run-time error in one pauses the flight and is shown once; none runs
+    // while a box is up.
+    void Timer1();          ///< the coupling, as often as the window can
+    void simulationTimer(); ///< 1/3 simulated second, every `c_TimerSIMrate` ms while `c_TimerEN` is 1
+    void autopilotTimer();  ///< the rate drive of the autopilot's knobs, a few times a second
+
+    /// Runs what the user's hand started, with the same catch as the timer procedures.
+    template <class Action>
+    void guarded(Action action) {
+        try {
+            action();
+        } catch (const RunTimeError& error) {
+            reportRunTimeError(error);
+        }
+    }
+
+    void SelectInst2(std::int16_t type) { selectInstrument(inst2Links, type); }
+    void SelectInst3(std::int16_t type) { selectInstrument(inst3Links, type); }
+    void PositionInst2(bool large) { resizeInstrument(inst2, large); }
+    void SwitchInst3(bool large) { resizeInstrument(inst3, large); }
+    void StopFly();
+
+    /// The next of the radial-line displays: the centre radial, the lines beside it, none.
+    void cycleRadialLines();
+    /// Moves the chart's scale by `steps` of those offered; positive shows less chart, larger.
+    void stepScale(int steps);
+    void setNorthUp(bool northUp);
+    void setFloatingGyroOpen(bool open);
+    /// Says once that pictures can't be loaded.
+    void pictureMissing(const std::string& file);
+
+    /// Sets the heading bug everywhere, and the autopilot's heading with it.
+    void setHeadingBug(std::int16_t heading);
+
+    [[nodiscard]] FeedSources feedSources();
+    [[nodiscard]] bool simulationRuns() const { return simStopped == 0; }
+    [[nodiscard]] const PositionLinks& links2() const { return inst2Links; }
+    [[nodiscard]] const PositionLinks& links3() const { return inst3Links; }
+    [[nodiscard]] bool anyInstrumentLarge() const;
+
+    const StringTable& texts;
+    FormState state;
+
+    UserControl2 UserControl11;
+    InstrumentPosition inst1; ///< the reserve instrument `UserControl12`
+    InstrumentPosition inst2; ///< `UserControl13(0)`
+    InstrumentPosition inst3; ///< `UserControl13(1)`
+    UserControl_1 UserControl_DG;
+    NAVControlFace NAVControlFace1;
+    NAVControlFace NAVControlFace2;
+    ADFControlFace ADFControlFace1;
+    ADFControlFace ADFControlFace2;
+    DMEControlFace DMEControlFace1;
+    DMEControlFace DMEControlFace2;
+    APControlFace APControlFace1;
+    tvsmtimer tvsmtimer1;
+
+    // The control strip.
+    CommandButton startButton{state, "Command6", Text::startSim, Text::startSimTip};
+    OptionGroup rateGroup;
+    OptionButton rateReal{state, rateGroup, "Option5", Text::realTime, Text::realTimeTip};
+    OptionButton rateHalf{state, rateGroup, "Option6", Text::rateHalf, Text::rateHalfTip};
+    OptionButton rateDouble{state, rateGroup, "Option7", Text::rateDouble, Text::rateDoubleTip};
+    OptionButton rateQuadruple{state, rateGroup, "Option8", Text::rateQuadruple,
+                               Text::rateQuadrupleTip};
+    CheckBox traceBox{state, "Check4", Text::showTrack, Text::showTrackTip};
+    CheckBox hideBox{state, "Check7", Text::hideAircraft, Text::hideAircraftTip};
+    CheckBox lockBox{state, "Check6", Text::lockInstruments, Text::lockInstrumentsTip};
+    CommandButton radialCycleButton{state, "Command8", Text::cycleRadialLines,
+                                    Text::cycleRadialLinesTip};
+    CommandButton stopwatchStartButton{state, "StopwatchStart", Text::stopwatchStart,
+                                       Text::stopwatchStartTip};
+    CommandButton stopwatchResetButton{state, "StopwatchReset", Text::stopwatchReset,
+                                       Text::stopwatchResetTip};
+    CheckBox floatingGyroBox{state, "FloatingGyro", Text::floatingGyro, Text::floatingGyroTip};
+
+    // The instrument panel.
+    SelectionList inst3TypeList{state, "Combo2", instrumentKinds(), Text::instrument2Selection};
+    SelectionList inst2TypeList{state, "Combo3", instrumentKinds(), Text::instrument1Selection};
+    CommandButton inst1ChannelButton{state, "Command5", Text::channelNav, Text::channelTip};
+    CommandButton inst2ChannelButton{state, "Command10", Text::channelNav, Text::channelTip};
+    CommandButton inst3ChannelButton{state, "Command9", Text::channelNav, Text::channelTip};
+    OptionGroup inst2SizeGroup;
+    OptionButton inst2Small{state, inst2SizeGroup, "Option1", Text::smallDisplay,
+                            Text::smallDisplayTip};
+    OptionButton inst2Large{state, inst2SizeGroup, "Option2", Text::largeDisplay,
+                            Text::largeDisplayTip};
+    OptionGroup inst3SizeGroup;
+    OptionButton inst3Small{state, inst3SizeGroup, "Option3", Text::smallDisplay,
+                            Text::smallDisplayTip};
+    OptionButton inst3Large{state, inst3SizeGroup, "Option4", Text::largeDisplay,
+                            Text::largeDisplayTip};
+    CheckBox inst2RadialBox{state, "Check2", Text::showRadial, Text::showRadialTip};
+    CheckBox inst3RadialBox{state, "Check1", Text::showRadial, Text::showRadialTip};
+    CheckBox inst2OverlayBox{state, "Check12", Text::rmiPointer, Text::rmiPointerTip};
+    CheckBox inst3OverlayBox{state, "Check10", Text::rmiPointer, Text::rmiPointerTip};
+
+    // The status bar.
+    TextPanel sessionPanel{state, "StatusPanel1"};
+    TextPanel windPanel{state, "StatusPanel4", {}, Text::panelWindTip};
+    TextPanel hidePanel{state, "StatusPanel5", {}, Text::panelHideTip};
+    TextPanel tracePanel{state, "StatusPanel6", {}, Text::panelTraceTip};
+    TextPanel vectorsPanel{state, "StatusPanel7", {}, Text::panelVectorsTip};
+    TextPanel modePanel{state, "StatusPanel8", {}, Text::panelModeTip};
+    TextPanel flightTimePanel{state, "FlightTime", {}, Text::flightTime};
+    TextPanel speedReadout{state, "Text1_16"};
+    TextPanel turnReadout{state, "Text1_3"};
+
+  private:
+    static std::vector<Text> instrumentKinds();
+    [[nodiscard]] std::string text(Text id) const { return std::string(texts[id]); }
+
+    // Start-up.
+    void connectControls();
+    void connectPosition(const PositionLinks& links);
+    void startUp(const std::string& applicationPath);
+    void setApplicationPath(const std::string& path);
+    void setReceiverDefaults();
+    void setPanelDefaults();
+
+    // The tick, in this order.
+    void tick();
+    void guardPractiseArea();
+    void echoReplayLock();
+    void followFrequencies();
+    void echoSelectors();
+    void copyReceiverSelections();
+    void followInstrumentSelectors();
+    void coupleAutopilot();
+    void coupleHeadingBug();
+    void showDme();
+    void pinAltitude();
+    void echoChannelButtons();
+    void takeMouseObs(InstrumentPosition& position);
+    void pullPanelState();
+    void turnFloatingGyro();
+    void showStopwatch();
+    void showFlightTime();
+    void showReadouts();
+
+    void writeHeadingBug(std::int16_t heading);
+    void rewriteFrequency(Slot slot, std::size_t listIndex);
+
+    // The instrument panel.
+    void selectInstrument(const PositionLinks& links, std::int16_t type);
+    void labelInstrument(InstrumentPosition& position);
+    void seedAdf(UserControl_1& instrument);
+    void resizeInstrument(InstrumentPosition& position, bool large);
+    void stepChannel(InstrumentPosition& position);
+    void stepVorChannel(InstrumentPosition& position, std::int16_t& channel);
+    void takeVor(InstrumentPosition& position, std::int16_t channel);
+    [[nodiscard]] std::string dmeText(Slot slot) const;
+
+    // The control strip.
+    void startOrStop();
+    void startFlight();
+    void stopFlight();
+    void setRate(std::int16_t milliseconds);
+    void setHidden(bool hidden);
+    void applyTrace();
+    void setLocked(bool locked);
+    void toggleStopwatch();
+    void resetStopwatch();
+
+    // Boxes.
+    void showBox(const std::string& title, const std::string& message);
+    void reportRunTimeError(const RunTimeError& error);
+    void bufferWarning(BufferWarning warning) override;
+    void chartFailed(const std::string& path, const RunTimeError& error) override;
+    void chartWrong(const std::string& path, const ChartProblem& problem) override;
+
+    OutsideWorld& outside;
+    PositionLinks inst2Links;
+    PositionLinks inst3Links;
+    std::int16_t simStopped = 1;
+    std::int16_t hideOn = 0;
+    std::int16_t traceOn = 0;
+    std::int16_t locCourse = 0;
+    std::int16_t radialCycle = 0;
+    bool boxUp = false;
+    bool pictureMissingSaid = false;
+    std::array<std::int16_t, 3> flightTimeShown{-1, -1, -1};
+    std::array<std::int16_t, 2> stopwatchShown{-1, -1};
+    std::array<std::int16_t, 2> readoutsShown{-1, -1};
+};
+
+} // namespace tarnel

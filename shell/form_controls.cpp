@@ -1,0 +1,60 @@
+#include "shell/form_controls.h"
+
+namespace tarnel {
+
+FormControl* FormState::find(std::string_view name) const {
+    for (FormControl* control : all)
+        if (control->name() == name)
+            return control;
+    return nullptr;
+}
+
+FormControl::FormControl(FormState& owner, std::string_view name, std::optional<Text> caption,
+                         std::optional<Text> tip)
+    : form(owner), controlName(name), captionText(caption), tipText(tip) {
+    form.all.push_back(this);
+}
+
+void CommandButton::click() {
+    if (enabled() && visible() && onClick)
+        onClick();
+}
+
+void CheckBox::set(int value) {
+    if (change(state, value) && onClick)
+        onClick();
+}
+
+void CheckBox::click() {
+    if (enabled() && visible())
+        set(state == 1 ? 0 : 1);
+}
+
+OptionButton::OptionButton(FormState& owner, OptionGroup& options, std::string_view name,
+                           std::optional<Text> caption, std::optional<Text> tip)
+    : FormControl(owner, name, caption, tip), group(options) {}
+
+void OptionButton::choose() {
+    if (chosen())
+        return;
+    group.chosen = this;
+    change(turns, static_cast<std::uint8_t>(turns + 1));
+    if (onClick)
+        onClick();
+}
+
+void OptionButton::click() {
+    if (enabled() && visible())
+        choose();
+}
+
+SelectionList::SelectionList(FormState& owner, std::string_view name, std::vector<Text> entries,
+                             std::optional<Text> tip)
+    : FormControl(owner, name, {}, tip), texts(std::move(entries)) {}
+
+void SelectionList::select(int index) {
+    if (change(selected, index) && onClick)
+        onClick();
+}
+
+} // namespace tarnel

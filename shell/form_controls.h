@@ -1,0 +1,147 @@
+#pragma once
+
+#include "strings/text.h"
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tarnel {
+
+class FormControl;
+
+/// Counts the changes of a form's controls, so that a window knows when to look at them again, and
+/// lists them by name.
+class FormState {
+  public:
+    [[nodiscard]] std::uint64_t revision() const { return changes; }
+    [[nodiscard]] const std::vector<FormControl*>& controls() const { return all; }
+    /// The control called `name`, or null.
+    [[nodiscard]] FormControl* find(std::string_view name) const;
+
+  private:
+    friend class FormControl;
+    std::uint64_t changes = 0;
+    std::vector<FormControl*> all;
+};
+
+/// A control of the form without its looks. `name` is the widget's name, by which tests and scripts
+/// find it.
+class FormControl {
+  public:
+    FormControl(FormState& form, std::string_view name, std::optional<Text> caption = {},
+                std::optional<Text> tip = {});
+    FormControl(const FormControl&) = delete;
+    FormControl& operator=(const FormControl&) = delete;
+    virtual ~FormControl() = default;
+
+    [[nodiscard]] std::string_view name() const { return controlName; }
+    [[nodiscard]] std::optional<Text> caption() const { return captionText; }
+    [[nodiscard]] std::optional<Text> tip() const { return tipText; }
+    [[nodiscard]] bool visible() const { return isVisible; }
+    [[nodiscard]] bool enabled() const { return isEnabled; }
+
+    void setCaption(Text caption) { change(captionText, std::optional(caption)); }
+    void setTip(Text tip) { change(tipText, std::optional(tip)); }
+    void setVisible(bool visible) { change(isVisible, visible); }
+    void setEnabled(bool enabled) { change(isEnabled, enabled); }
+
+  protected:
+    /// Stores and counts a change. True if the value differs.
+    template <class T>
+    bool change(T& field, const T& value) {
+        if (field == value)
+            return false;
+        field = value;
+        ++form.changes;
+        return true;
+    }
+
+  private:
+    FormState& form;
+    std::string_view controlName;
+    std::optional<Text> captionText;
+    std::optional<Text> tipText;
+    bool isVisible = true;
+    bool isEnabled = true;
+};
+
+/// A button: a click runs its handler while it is enabled and visible.
+class CommandButton : public FormControl {
+  public:
+    using FormControl::FormControl;
+    std::function<void()> onClick;
+    void click();
+};
+
+/// A check box, 0 clear, 1 ticked, 2 greyed. A change of the value by code runs the handler at once,
+/// just as a click does.
+class CheckBox : public FormControl {
+  public:
+    using FormControl::FormControl;
+    std::function<void()> onClick;
+    [[nodiscard]] int value() const { return state; }
+    void set(int value);
+    /// The user's click: a ticked box becomes clear, any other ticked.
+    void click();
+
+  private:
+    int state = 0;
+};
+
+class OptionButton;
+
+/// Option buttons of which one at most is chosen.
+class OptionGroup {
+  private:
+    friend class OptionButton;
+    OptionButton* chosen = nullptr;
+};
+
+/// An option button. Choosing it runs its handler at once unless it was chosen already.
+class OptionButton : public FormControl {
+  public:
+    OptionButton(FormState& form, OptionGroup& group, std::string_view name,
+                 std::optional<Text> caption = {}, std::optional<Text> tip = {});
+    std::function<void()> onClick;
+    [[nodiscard]] bool chosen() const { return group.chosen == this; }
+    void choose();
+    /// The user's click.
+    void click();
+
+  private:
+    OptionGroup& group;
+    std::uint8_t turns = 0;
+};
+
+/// A list of which one entry is selected. Selecting another runs the handler at once.
+class SelectionList : public FormControl {
+  public:
+    SelectionList(FormState& form, std::string_view name, std::vector<Text> entries,
+                  std::optional<Text> tip = {});
+    std::function<void()> onClick;
+    [[nodiscard]] const std::vector<Text>& entries() const { return texts; }
+    /// -1 before the first selection.
+    [[nodiscard]] int index() const { return selected; }
+    void select(int index);
+
+  private:
+    std::vector<Text> texts;
+    int selected = -1;
+};
+
+/// A text that the program writes: a read-out or a panel of the status bar.
+class TextPanel : public FormControl {
+  public:
+    using FormControl::FormControl;
+    [[nodiscard]] const std::string& text() const { return content; }
+    void setText(std::string text) { change(content, text); }
+
+  private:
+    std::string content;
+};
+
+} // namespace tarnel

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string>
+
+namespace tarnel {
+
+/// What the trainer needs of the world around it: a window shows boxes, a test writes them down.
+class OutsideWorld {
+  public:
+    virtual ~OutsideWorld() = default;
+    /// Shows a box and comes back when the user has closed it.
+    virtual void messageBox(const std::string& title, const std::string& text) = 0;
+};
+
+} // namespace tarnel
