@@ -1,6 +1,7 @@
 #include "instruments/digit_readout.h"
 
 #include "core/number_text.h"
+#include "core/rounding.h"
 
 #include <cmath>
 
@@ -27,7 +28,7 @@ void DigitReadout::show(std::string_view text) {
 }
 
 void DigitReadout::showNumber(double value) {
-    show(zeroPadded(static_cast<std::int64_t>(std::floor(value)), 3));
+    show(zeroPadded(toInt32(std::floor(value)), 3));
 }
 
 void DigitReadout::fill(std::int16_t picture) {

@@ -23,7 +23,7 @@ class DigitReadout {
     /// Shows a text. A character that is missing or no digit stays dark.
     void show(std::string_view text);
     /// Shows a number of 0 or more without its decimals, with leading zeros to three digits. Of a
-    /// longer one the first digits are seen.
+    /// longer one the first digits are seen. Throws the overflow error outside the 32-bit range.
     void showNumber(double value);
     void showDashes() { fill(dashPicture); }
     void blank() { fill(blankPicture); }

@@ -4,7 +4,7 @@ namespace tarnel {
 
 namespace {
 
-std::string fileName(std::string stem, bool large) {
+std::string fileName(const std::string& stem, bool large) {
     return stem + (large ? "g.jpg" : ".jpg");
 }
 

@@ -20,48 +20,51 @@ std::int16_t otherOne(std::int16_t selection) {
 
 } // namespace
 
-bool InstrumentMouse::takesMouse(const KnobArea& knob, Point at) const {
-    return knob.visible && knob.enabled && knob.area.contains(at);
+const KnobArea* InstrumentMouse::knobOf(InstrumentArea area) const {
+    const InstrumentPicture& picture = instrument.picture;
+    switch (area) {
+    case InstrumentArea::obsKnob:
+        return &picture.Image4;
+    case InstrumentArea::headingBugKnob:
+        return &picture.Image2;
+    case InstrumentArea::selector:
+        return &picture.Image3;
+    case InstrumentArea::card:
+    case InstrumentArea::none:
+        break;
+    }
+    return nullptr;
+}
+
+bool InstrumentMouse::usable(InstrumentArea area) const {
+    if (const KnobArea* knob = knobOf(area))
+        return knob->visible && knob->enabled;
+    return area == InstrumentArea::card && instrument.c_DisableKnobs != 0;
 }
 
 InstrumentArea InstrumentMouse::areaAt(Point at) const {
-    const InstrumentPicture& picture = instrument.picture;
-    if (takesMouse(picture.Image4, at))
-        return InstrumentArea::obsKnob;
-    if (takesMouse(picture.Image2, at))
-        return InstrumentArea::headingBugKnob;
-    if (takesMouse(picture.Image3, at))
-        return InstrumentArea::selector;
+    for (const InstrumentArea area :
+         {InstrumentArea::obsKnob, InstrumentArea::headingBugKnob, InstrumentArea::selector})
+        if (usable(area) && knobOf(area)->area.contains(at))
+            return area;
+    const auto& numerals = instrument.picture.Label1;
     const bool onNumeral =
-        std::any_of(picture.Label1.begin(), picture.Label1.end(), [at](const Label& numeral) {
+        std::any_of(numerals.begin(), numerals.end(), [at](const Label& numeral) {
             return numeral.visible && numeralBox(numeral).contains(at);
         });
     return onNumeral && usable(InstrumentArea::card) ? InstrumentArea::card : InstrumentArea::none;
 }
 
-bool InstrumentMouse::usable(InstrumentArea area) const {
-    const InstrumentPicture& picture = instrument.picture;
-    switch (area) {
-    case InstrumentArea::obsKnob:
-        return picture.Image4.visible && picture.Image4.enabled;
-    case InstrumentArea::headingBugKnob:
-        return picture.Image2.visible && picture.Image2.enabled;
-    case InstrumentArea::selector:
-        return picture.Image3.visible && picture.Image3.enabled;
-    case InstrumentArea::card:
-        return instrument.c_DisableKnobs != 0;
-    case InstrumentArea::none:
-        break;
-    }
-    return false;
+double InstrumentMouse::acrossKnob(Point at) const {
+    return at.x - knobOf(pressed)->area.left;
 }
 
 InstrumentArea InstrumentMouse::down(Point at) {
     pressed = areaAt(at);
     if (pressed == InstrumentArea::headingBugKnob)
-        hdgDrag.press(at.x - instrument.picture.Image2.area.left);
+        hdgDrag.press(acrossKnob(at));
     else if (pressed == InstrumentArea::obsKnob)
-        obsDrag.press(at.x - instrument.picture.Image4.area.left);
+        obsDrag.press(acrossKnob(at));
     else if (pressed == InstrumentArea::card)
         grabCard(at);
     return pressed;
@@ -71,12 +74,12 @@ void InstrumentMouse::move(Point at, MouseButton held) {
     if (!usable(pressed))
         return;
     if (pressed == InstrumentArea::headingBugKnob && hdgDrag.active()) {
-        const double x = at.x - instrument.picture.Image2.area.left;
-        const double delta = intoCircle(toInt16(hdgDrag.travel(x) / twipsPerDegree(held)));
+        const double turned = hdgDrag.travel(acrossKnob(at)) / twipsPerDegree(held);
+        const double delta = intoCircle(toInt16(turned));
         turnHeadingBug(hdgDrag.base() + delta);
     } else if (pressed == InstrumentArea::obsKnob && obsDrag.active()) {
-        const double x = at.x - instrument.picture.Image4.area.left;
-        const double delta = intoCircle(obsDrag.travel(x) / twipsPerDegree(held));
+        const double turned = obsDrag.travel(acrossKnob(at)) / twipsPerDegree(held);
+        const double delta = intoCircle(turned);
         turnCourse(obsDrag.base() - delta);
     } else if (pressed == InstrumentArea::card) {
         turnCourse(cardBase - (faceAngle(at) - cardGrab));

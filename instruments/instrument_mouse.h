@@ -44,7 +44,10 @@ class InstrumentMouse {
     void mouseObsWasSet();
 
   private:
-    [[nodiscard]] bool takesMouse(const KnobArea& knob, Point at) const;
+    /// The knob of an area; null for the card.
+    [[nodiscard]] const KnobArea* knobOf(InstrumentArea area) const;
+    /// Twips from the left edge of the knob that was pressed.
+    [[nodiscard]] double acrossKnob(Point at) const;
     [[nodiscard]] bool usable(InstrumentArea area) const;
     /// 360 minus the bearing of a position from the middle, whole degrees.
     [[nodiscard]] std::int16_t faceAngle(Point at) const;

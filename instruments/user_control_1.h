@@ -41,7 +41,7 @@ class UserControl_1 {
     void VOR(double course, double courseX, double heading, double radial);
     /// Loads the VOR indicator's background: 1 TO, 2 FROM, 3 localizer or no flag.
     void LoadVORDisplay(std::int16_t flagKind);
-    /// Turns the heading bug to `angle` degrees from the top of the instrument.
+    /// Turns the heading bug to `bugAngle` degrees from the top of the instrument.
     void DrawHDGbug(std::int16_t bugAngle);
     /// Moves what shows something that has changed since the last update.
     void UpdateInstrument();
@@ -94,8 +94,8 @@ class UserControl_1 {
   private:
     /// The inputs as last drawn.
     struct Drawn {
-        double adfradial = 999;
-        double adf2radial = 999;
+        double adfradial = 0;
+        double adf2radial = 0;
         double c_OBS = 0;
         double c_OBS_x = 0;
         std::int16_t c_HDG = 0;
@@ -119,7 +119,7 @@ class UserControl_1 {
 
     CardSquare square;
     Drawn drawn;
-    std::int32_t lastAngle = 999;
+    std::int32_t lastAngle = -1; ///< no angle of a card: the next update draws it
     std::int16_t forceRedraw = 0;
     FlagState flagState = FlagState::none;
     Sector sector = Sector::abeam;

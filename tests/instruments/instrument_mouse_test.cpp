@@ -1,0 +1,188 @@
+#include "instrument_fixture.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+
+namespace tarnel {
+namespace {
+
+// Left edges of the knobs of the small form.
+constexpr double bugLeft = 2800;
+constexpr Point bugKnob{bugLeft + 100, 3100};
+constexpr Point obsKnob{100, 3200};
+constexpr Point selector{3100, 50};
+
+Point besides(Point place, double dx) {
+    return {place.x + dx, place.y};
+}
+
+struct Drag {
+    double base;
+    double twips;
+    MouseButton button;
+    double result;
+};
+
+TEST(InstrumentMouse, headingBugKnob) {
+    PanelInstrument rmi(InstrumentKind::rmi);
+    const Drag drags[] = {
+        {0, -40, MouseButton::left, 359},     {0, 40, MouseButton::left, 1},
+        {350, 800, MouseButton::left, 10},    {90, 14400, MouseButton::left, 90},
+        {0, 14400, MouseButton::left, 360},   {340, 800, MouseButton::left, 360},
+        {90, 2500, MouseButton::other, 100},  {90, 100, MouseButton::other, 90},
+        {10, -5000, MouseButton::other, 350},
+    };
+    for (const Drag& drag : drags) {
+        rmi.c_HDGbug = static_cast<std::int16_t>(drag.base);
+        rmi.c_HDGbugChange = 0;
+        EXPECT_EQ(rmi.mouse.down(bugKnob), InstrumentArea::headingBugKnob);
+        rmi.mouse.move(besides(bugKnob, drag.twips), drag.button);
+        rmi.mouse.up(besides(bugKnob, drag.twips));
+        EXPECT_EQ(rmi.c_HDGbug, drag.result) << drag.base << " by " << drag.twips;
+        EXPECT_EQ(rmi.c_HDGbugChange, 1);
+    }
+}
+
+TEST(InstrumentMouse, aSetFromOutsideMovesTheNextDragOnly) {
+    PanelInstrument rmi(InstrumentKind::rmi);
+    rmi.c_HDGbug = 100;
+    rmi.mouse.down({bugLeft, 3100}); // a press at the very edge is a live drag
+    rmi.mouse.move({bugLeft + 400, 3100}, MouseButton::left);
+    EXPECT_EQ(rmi.c_HDGbug, 110);
+    rmi.c_HDGbug = 200;
+    rmi.mouse.move({bugLeft + 800, 3100}, MouseButton::left);
+    EXPECT_EQ(rmi.c_HDGbug, 120);
+    rmi.mouse.up({bugLeft + 800, 3100});
+    rmi.mouse.move({bugLeft + 1600, 3100}, MouseButton::left);
+    EXPECT_EQ(rmi.c_HDGbug, 120) << "not held any more";
+    rmi.mouse.down(bugKnob);
+    rmi.mouse.move(besides(bugKnob, 40), MouseButton::left);
+    EXPECT_EQ(rmi.c_HDGbug, 121) << "goes on from the last drag";
+
+    rmi.c_MouseOBS = 50;
+    rmi.mouse.down(obsKnob);
+    rmi.mouse.move(besides(obsKnob, 400), MouseButton::left);
+    EXPECT_EQ(rmi.c_MouseOBS, 40);
+}
+
+TEST(InstrumentMouse, obsKnobTurnsTheOtherWay) {
+    PanelInstrument vor(InstrumentKind::vor);
+    vor.c_OBS = 123;
+    vor.mouse.down(obsKnob);
+    vor.mouse.move(besides(obsKnob, 60), MouseButton::left);
+    EXPECT_EQ(vor.c_MouseOBS, 358.5) << "counts from 0, in fractions";
+    EXPECT_EQ(vor.c_MouseOBS_HSI, 358.5);
+    EXPECT_EQ(vor.c_OBSKnobchange, 1);
+    vor.mouse.move(besides(obsKnob, -500), MouseButton::other);
+    EXPECT_EQ(vor.c_MouseOBS, 2);
+    vor.mouse.up(besides(obsKnob, -500));
+    vor.mouse.down(obsKnob);
+    vor.mouse.move(besides(obsKnob, -400), MouseButton::left);
+    EXPECT_EQ(vor.c_MouseOBS, 12);
+}
+
+TEST(InstrumentMouse, cardDragPutsTheNumeralOnTopAndFollows) {
+    PanelInstrument hsi(InstrumentKind::hsi);
+    hsi.feed(0, 0, 330, 330); // heading 30
+    const Point east = hsi.picture.Label1[3].anchor;
+    EXPECT_EQ(hsi.mouse.down(east), InstrumentArea::card);
+    EXPECT_EQ(hsi.c_MouseOBS, 270) << "course 90";
+    EXPECT_EQ(hsi.c_MouseOBS_HSI, 270);
+    EXPECT_EQ(hsi.c_OBSKnobchange, 1);
+    hsi.mouse.move(hsi.picture.Label1[4].anchor, MouseButton::left); // 30 degrees clockwise
+    EXPECT_EQ(hsi.c_MouseOBS, 300);
+    hsi.mouse.move(hsi.picture.Label1[8].anchor, MouseButton::left);
+    EXPECT_GE(hsi.c_MouseOBS, 0);
+    EXPECT_LE(hsi.c_MouseOBS, 360);
+    hsi.mouse.up({0, 0});
+    const double left = hsi.c_MouseOBS;
+    hsi.mouse.move(east, MouseButton::left);
+    EXPECT_EQ(hsi.c_MouseOBS, left);
+    EXPECT_EQ(hsi.mouse.down({1927, 1927}), InstrumentArea::none);
+}
+
+TEST(InstrumentMouse, selectorGoesRound) {
+    for (const auto kind : {InstrumentKind::rmi, InstrumentKind::vor, InstrumentKind::hsi}) {
+        PanelInstrument instrument(kind);
+        instrument.mouse.click(selector);
+        EXPECT_EQ(instrument.c_NAVselect, 2);
+        instrument.mouse.doubleClick(selector); // the second press of a fast pair
+        instrument.mouse.up(selector);
+        EXPECT_EQ(instrument.c_NAVselect, 1);
+        EXPECT_EQ(instrument.c_ADFCardselect, 1);
+    }
+    PanelInstrument adf(InstrumentKind::adf);
+    adf.mouse.down(selector);
+    adf.mouse.up({0, 0});
+    EXPECT_EQ(adf.c_ADFCardselect, 1) << "released elsewhere";
+    adf.mouse.click(selector);
+    EXPECT_EQ(adf.c_ADFCardselect, 2);
+    EXPECT_EQ(adf.picture.Image1.file, "pictures/QXRadfs.jpg");
+    PanelInstrument dg(InstrumentKind::dg);
+    dg.mouse.click(selector);
+    EXPECT_EQ(dg.c_NAVselect, 1);
+}
+
+TEST(InstrumentMouse, doubleClickSyncsTheBug) {
+    PanelInstrument dg(InstrumentKind::dg);
+    dg.angle = 290;
+    dg.mouse.doubleClick(bugKnob);
+    EXPECT_EQ(dg.c_HDGbug, 70);
+    EXPECT_EQ(dg.c_HDGbugChange, 1);
+}
+
+TEST(InstrumentMouse, wheelAndKeysStep) {
+    PanelInstrument hsi(InstrumentKind::hsi);
+    struct Step {
+        std::int16_t from;
+        int steps;
+        std::int16_t to;
+    };
+    for (const Step& step : {Step{359, 1, 360}, {360, 1, 1}, {0, -1, 359}, {10, 15, 25}}) {
+        hsi.c_HDGbug = step.from;
+        hsi.mouse.stepKnob(InstrumentArea::headingBugKnob, step.steps);
+        EXPECT_EQ(hsi.c_HDGbug, step.to);
+    }
+    hsi.mouse.stepKnob(InstrumentArea::obsKnob, 1);
+    EXPECT_EQ(hsi.c_MouseOBS, 359);
+    EXPECT_EQ(hsi.c_MouseOBS_HSI, 359);
+    EXPECT_EQ(hsi.c_OBSKnobchange, 1);
+    hsi.mouse.stepKnob(InstrumentArea::selector, 3);
+    EXPECT_EQ(hsi.c_NAVselect, 2);
+}
+
+TEST(InstrumentMouse, lockedKnobsTakeNoMouse) {
+    PanelInstrument hsi(InstrumentKind::hsi);
+    hsi.feed(0, 0, 0, 0);
+    hsi.mouse.down(obsKnob);
+    hsi.c_DisableKnobs = 0;
+    hsi.mouse.move(besides(obsKnob, 400), MouseButton::left);
+    hsi.mouse.up(obsKnob);
+    for (const Point place : {bugKnob, obsKnob, selector, hsi.picture.Label1[3].anchor}) {
+        EXPECT_EQ(hsi.mouse.down(place), InstrumentArea::none);
+        hsi.mouse.move(besides(place, 400), MouseButton::left);
+        hsi.mouse.up(place);
+        hsi.mouse.doubleClick(place);
+    }
+    for (const auto area : {InstrumentArea::obsKnob, InstrumentArea::headingBugKnob,
+                            InstrumentArea::selector, InstrumentArea::card})
+        hsi.mouse.stepKnob(area, 1);
+    EXPECT_EQ(hsi.c_HDGbugChange, 0);
+    EXPECT_EQ(hsi.c_OBSKnobchange, 0);
+    EXPECT_EQ(hsi.c_NAVselect, 1);
+    hsi.c_DisableKnobs = 7;
+    EXPECT_EQ(hsi.mouse.down(bugKnob), InstrumentArea::headingBugKnob);
+}
+
+TEST(InstrumentMouse, hiddenKnobsTakeNoMouse) {
+    PanelInstrument vor(InstrumentKind::vor);
+    vor.mouse.doubleClick(bugKnob);
+    vor.mouse.stepKnob(InstrumentArea::headingBugKnob, 1);
+    EXPECT_EQ(vor.c_HDGbugChange, 0);
+    PanelInstrument dg(InstrumentKind::dg);
+    EXPECT_EQ(dg.mouse.down(obsKnob), InstrumentArea::none);
+}
+
+} // namespace
+} // namespace tarnel

@@ -1,0 +1,199 @@
+#include "instruments/dme_control_face.h"
+#include "instruments/radio_face.h"
+#include "instruments/stopwatch_face.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <initializer_list>
+#include <vector>
+
+namespace tarnel {
+namespace {
+
+using Pictures = std::vector<std::int16_t>;
+using Knob = RadioFace::KnobArea;
+
+template <class Face>
+void tune(Face& face) {
+    face.c_OnOff = 1;
+    face.c_LockSettings = 1;
+    face.c_Freq1 = "112.30";
+    face.c_Freq2 = "108.45";
+    face.c_Freq3 = "109.70";
+    face.c_NumberOfFreqs = 3;
+    face.c_SetFreq = 0;
+}
+
+void click(RadioFace& face, Knob area) {
+    face.mouseDown(area, {100, 100});
+    face.mouseMove({110, 95});
+    face.mouseUp();
+}
+
+TEST(RadioFaces, readoutsTakeTheirDigits) {
+    NAVControlFace nav;
+    EXPECT_EQ(nav.frequency.pictures(), (Pictures{12, 12, 12, 12, 12}));
+    nav.c_Freq1 = "112.30";
+    EXPECT_EQ(nav.frequency.pictures()[0], 12) << "a new text waits for its selection";
+    nav.c_SetFreq = 0;
+    EXPECT_EQ(nav.frequency.pictures(), (Pictures{2, 2, 3, 4, 1}));
+    nav.c_SetFreq = 3;
+    EXPECT_EQ(nav.frequency.pictures(), (Pictures{9, 9, 9, 9, 9}));
+    nav.c_SetFreq = 99;
+    EXPECT_EQ(nav.frequency.pictures(), (Pictures{12, 12, 12, 12, 12})) << "no such slot";
+
+    ADFControlFace adf;
+    adf.c_Freq2 = "369";
+    adf.c_SetFreq = 1;
+    EXPECT_EQ(adf.frequency.pictures(), (Pictures{4, 7, 10}));
+
+    tvsmtimer stopwatch;
+    EXPECT_EQ(stopwatch.digits.pictures(), (Pictures{1, 1, 2, 3}));
+    stopwatch.minsec = "59.08";
+    EXPECT_EQ(stopwatch.digits.pictures(), (Pictures{6, 10, 1, 9}));
+}
+
+TEST(RadioFaces, knobGoesRoundTheSlots) {
+    struct Round {
+        std::int16_t slots;
+        std::vector<std::int32_t> up, down;
+    };
+    const Round rounds[] = {{3, {1, 2, 0}, {2, 1, 0}}, {1, {0, 0}, {0, 0}}, {0, {0, 0}, {0, 0}}};
+    for (const Round& round : rounds) {
+        NAVControlFace face;
+        tune(face);
+        face.c_NumberOfFreqs = round.slots;
+        for (const std::int32_t slot : round.up) {
+            click(face, Knob::inner);
+            EXPECT_EQ(face.c_SetFreq, slot);
+        }
+        for (const std::int32_t slot : round.down) {
+            face.stepDown();
+            EXPECT_EQ(face.c_SetFreq, slot);
+        }
+    }
+    ADFControlFace adf;
+    tune(adf);
+    click(adf, Knob::outer);
+    EXPECT_EQ(adf.c_SetFreq, 1);
+    EXPECT_EQ(adf.frequency.pictures(), (Pictures{2, 1, 9}));
+    DMEControlFace dme;
+    tune(dme);
+    click(dme, Knob::outer);
+    EXPECT_EQ(dme.c_SetFreq, 0) << "the DME's outer knob is only dragged";
+    click(dme, Knob::inner);
+    EXPECT_EQ(dme.c_SetFreq, 1);
+}
+
+TEST(RadioFaces, dragStepsEvery700TwipsAndIsNoClick) {
+    NAVControlFace face;
+    tune(face);
+    face.mouseDown(Knob::outer, {100, 100});
+    const std::pair<double, int> way[] = {{799, 0},  {800, 1},  {1499, 1}, {1500, 2}, {2200, 0},
+                                          {2199, 2}, {1499, 1}, {799, 0},  {99, 2}};
+    for (const auto& [x, slot] : way) {
+        face.mouseMove({x, 100});
+        EXPECT_EQ(face.c_SetFreq, slot) << x;
+    }
+    face.mouseUp();
+    EXPECT_EQ(face.c_SetFreq, 2);
+    face.mouseMove({5000, 100});
+    EXPECT_EQ(face.c_SetFreq, 2) << "not held";
+    face.mouseDown(Knob::outer, {100, 100});
+    face.mouseMove({101, 100});
+    EXPECT_EQ(face.c_SetFreq, 0) << "the step of the last drag, -1, is still there";
+}
+
+TEST(RadioFaces, lockedOrSwitchedOffKnobDoesNothing) {
+    for (const auto& [lock, power] : {std::pair<int, int>{0, 1}, {1, 0}, {2, 1}}) {
+        NAVControlFace face;
+        tune(face);
+        face.c_LockSettings = static_cast<std::int16_t>(lock);
+        face.c_OnOff = static_cast<std::int16_t>(power);
+        click(face, Knob::inner);
+        face.stepUp();
+        face.stepDown();
+        face.mouseDown(Knob::outer, {0, 0});
+        face.mouseMove({900, 0});
+        EXPECT_EQ(face.c_SetFreq, 0);
+        EXPECT_EQ(face.frequency.pictures()[0], 2) << "the readout stays lit";
+    }
+}
+
+TEST(RadioFaces, dmeReadouts) {
+    DMEControlFace dme;
+    struct Reading {
+        std::int16_t nm, kt;
+        Pictures distance, speed;
+    };
+    const Reading readings[] = {
+        {0, 0, {1, 1, 1}, {1, 1, 1}},    {105, 98, {2, 1, 6}, {1, 10, 9}},
+        {10, 120, {1, 2, 1}, {2, 3, 1}}, {-1, 120, {11, 11, 11}, {11, 11, 11}},
+        {9, 7, {1, 1, 10}, {1, 1, 8}},   {1234, 5, {2, 3, 4}, {1, 1, 6}},
+    };
+    for (const Reading& reading : readings) {
+        dme.c_DMEnm = reading.nm;
+        dme.c_DMEkt = reading.kt;
+        EXPECT_EQ(dme.distance.pictures(), reading.distance) << reading.nm;
+        EXPECT_EQ(dme.speed.pictures(), reading.speed) << reading.nm;
+    }
+    dme.ShowDistance("--.-");
+    dme.ShowSpeed("---");
+    EXPECT_EQ(dme.distance.pictures(), dme.speed.pictures());
+    dme.c_BlankDisplay = 1;
+    EXPECT_EQ(dme.distance.pictures(), (Pictures{12, 12, 12}));
+    EXPECT_EQ(dme.frequency.pictures(), (Pictures{12, 12, 12, 12, 12}));
+    dme.c_DMEnm = 42;
+    const auto revision = dme.surface.revision();
+    dme.c_DMEnm = 42;
+    EXPECT_EQ(dme.surface.revision(), revision);
+    EXPECT_EQ(dme.distance.pictures(), (Pictures{1, 5, 3}));
+}
+
+TEST(RadioFaces, dmeFollowsAReceiver) {
+    DMEControlFace dme;
+    tune(dme);
+    dme.c_NAV1f = 2;
+    EXPECT_EQ(dme.c_SetFreq, 0) << "not while on its own frequency";
+    dme.selectMode(DmeMode::r1);
+    EXPECT_EQ(dme.c_SetFreq, 0);
+    dme.c_NAV2f = 1;
+    EXPECT_EQ(dme.c_SetFreq, 0);
+    dme.c_NAV1f = 2;
+    EXPECT_EQ(dme.c_SetFreq, 2);
+    EXPECT_EQ(dme.frequency.pictures()[4], 1) << "the readout shows the dial's slot";
+    dme.selectMode(DmeMode::freq);
+    EXPECT_EQ(dme.c_SetFreq, 0);
+}
+
+TEST(RadioFaces, dmeSelectorTakesDragsOnEitherAxis) {
+    struct Drag {
+        DmeMode area;
+        Point from, to;
+        DmeMode result;
+    };
+    const Drag drags[] = {
+        {DmeMode::freq, {100, 100}, {229, 100}, DmeMode::freq},
+        {DmeMode::freq, {100, 100}, {230, 100}, DmeMode::r1},
+        {DmeMode::freq, {100, 100}, {450, 120}, DmeMode::r2},
+        {DmeMode::freq, {100, 100}, {120, 449}, DmeMode::r1},
+        {DmeMode::freq, {100, 100}, {90, 450}, DmeMode::r2},
+        {DmeMode::r1, {100, 100}, {-1, 100}, DmeMode::freq},
+        {DmeMode::r1, {100, 100}, {0, 100}, DmeMode::r1},
+        {DmeMode::r1, {100, 100}, {100, 210}, DmeMode::r2},
+        {DmeMode::r1, {100, 100}, {100, -1}, DmeMode::freq},
+        {DmeMode::r1, {100, 100}, {110, 100}, DmeMode::r1},
+        {DmeMode::r2, {100, 100}, {110, 100}, DmeMode::r2},
+    };
+    for (const Drag& drag : drags) {
+        DMEControlFace dme;
+        dme.selectorDown(drag.area, drag.from);
+        dme.selectorMove(drag.to);
+        dme.selectorUp();
+        EXPECT_EQ(dme.mode(), drag.result) << drag.to.x << "," << drag.to.y;
+    }
+}
+
+} // namespace
+} // namespace tarnel
