@@ -6,7 +6,9 @@
 namespace tarnel {
 
 Form1::Form1(const StringTable& table, OutsideWorld& world, std::string applicationPath)
-    : texts(table), UserControl11(*this), outside(world),
+    : texts(table),
+      UserControl11(*this),
+      outside(world),
       inst2Links{inst2,
                  inst2ChannelButton,
                  inst2TypeList,

@@ -19,9 +19,9 @@
 
 namespace tarnel {
 
-/// `Form1`: the whole trainer without its window: the simulation, the panel, the strip, and the tick
-/// that couples them. It never looks at a clock: a window's timers, a test or a scripted flight call
-/// the timer procedures.
+/// `Form1`: the whole trainer without its window: the simulation, the panel, the strip, and the
+/// tick that couples them. It never looks at a clock: a window's timers, a test or a scripted
+/// flight call the timer procedures.
 class Form1 : private SimulationMessages {
   public:
     /// `applicationPath` is the folder of charts and pictures.
@@ -29,9 +29,10 @@ class Form1 : private SimulationMessages {
 
     // The timer procedures. A run-time error in one pauses the flight and is shown once; none runs
     // while a box is up.
-    void Timer1();          ///< the coupling, as often as the window can
-    void simulationTimer(); ///< 1/3 simulated second, every `c_TimerSIMrate` ms while `c_TimerEN` is 1
-    void autopilotTimer();  ///< the rate drive of the autopilot's knobs, a few times a second
+    void Timer1(); ///< the coupling, as often as the window can
+    void
+    simulationTimer(); ///< 1/3 simulated second, every `c_TimerSIMrate` ms while `c_TimerEN` is 1
+    void autopilotTimer(); ///< the rate drive of the autopilot's knobs, a few times a second
 
     /// Runs what the user's hand started, with the same catch as the timer procedures.
     template <class Action>

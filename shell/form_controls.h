@@ -77,8 +77,8 @@ class CommandButton : public FormControl {
     void click();
 };
 
-/// A check box, 0 clear, 1 ticked, 2 greyed. A change of the value by code runs the handler at once,
-/// just as a click does.
+/// A check box, 0 clear, 1 ticked, 2 greyed. A change of the value by code runs the handler at
+/// once, just as a click does.
 class CheckBox : public FormControl {
   public:
     using FormControl::FormControl;

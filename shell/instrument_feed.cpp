@@ -10,7 +10,10 @@ namespace {
 class Feed {
   public:
     Feed(const PositionLinks& owner, const FeedSources& from)
-        : links(owner), sources(from), sim(from.simulation), position(owner.position),
+        : links(owner),
+          sources(from),
+          sim(from.simulation),
+          position(owner.position),
           instrument(owner.position.instrument) {}
 
     void feedAdf();

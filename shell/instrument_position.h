@@ -48,11 +48,11 @@ struct PositionLinks {
     SelectionList& typeList;
     CheckBox& overlayBox;
     CheckBox& radialBox;
-    Property<std::int16_t>& instType;     ///< `c_inst2` or `c_inst3`
-    Property<std::int16_t>& navSelect;    ///< `c_Inst2NAVselect` or `c_Inst3NAVselect`
-    Property<std::int16_t>& cardSelect;   ///< `c_Inst2_ADFCardselect` or `c_Inst3_ADFCardselect`
-    Property<std::int16_t>& radialShown;  ///< `c_NAVRadI2` or `c_NAVRadI3`
-    Property<double>& courseOnChart;      ///< `c_obsI2` or `c_obsI3`
+    Property<std::int16_t>& instType;    ///< `c_inst2` or `c_inst3`
+    Property<std::int16_t>& navSelect;   ///< `c_Inst2NAVselect` or `c_Inst3NAVselect`
+    Property<std::int16_t>& cardSelect;  ///< `c_Inst2_ADFCardselect` or `c_Inst3_ADFCardselect`
+    Property<std::int16_t>& radialShown; ///< `c_NAVRadI2` or `c_NAVRadI3`
+    Property<double>& courseOnChart;     ///< `c_obsI2` or `c_obsI3`
 };
 
 } // namespace tarnel

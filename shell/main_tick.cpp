@@ -80,9 +80,15 @@ void Form1::followFrequencies() {
         if (differs(faces...))
             (write(faces), ...);
     };
-    const auto first = [](auto& face) -> auto& { return face.c_Freq1; };
-    const auto second = [](auto& face) -> auto& { return face.c_Freq2; };
-    const auto third = [](auto& face) -> auto& { return face.c_Freq3; };
+    const auto first = [](auto& face) -> auto& {
+        return face.c_Freq1;
+    };
+    const auto second = [](auto& face) -> auto& {
+        return face.c_Freq2;
+    };
+    const auto third = [](auto& face) -> auto& {
+        return face.c_Freq3;
+    };
     follow(Slot::vor1, first, NAVControlFace1, NAVControlFace2, DMEControlFace1);
     follow(Slot::vor2, second, NAVControlFace1, NAVControlFace2, DMEControlFace1);
     follow(Slot::localizer, third, NAVControlFace1, NAVControlFace2, DMEControlFace1);

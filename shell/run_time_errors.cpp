@@ -54,8 +54,8 @@ void Form1::showBox(const std::string& title, const std::string& message) {
 void Form1::reportRunTimeError(const RunTimeError& error) {
     StopFly();
     showBox(text(Text::errorTitle),
-            filledIn(texts[Text::flightPaused], {numberText(std::int64_t{error.number()}),
-                                                 error.source(), error.what()}));
+            filledIn(texts[Text::flightPaused],
+                     {numberText(std::int64_t{error.number()}), error.source(), error.what()}));
 }
 
 void Form1::bufferWarning(BufferWarning warning) {

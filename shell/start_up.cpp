@@ -94,9 +94,9 @@ void Form1::startUp(const std::string& applicationPath) {
 
     UserControl11.c_ChartFileName = applicationPath + "/default.map";
     UserControl11.c_loadChart = 2;
-    UserControl11.markFreshStart();
     UserControl11.c_SessionFileName = text(Text::newSessionFile);
     tick();
+    UserControl11.markFreshStart();
 }
 
 } // namespace tarnel

@@ -601,6 +601,10 @@ constexpr StringEntry entries[] = {
     {724, "Autopilot altitude"},
     {725, "chart, aircraft at %1, heading %2"},
     {726, "chart, aircraft hidden"},
+
+    // Read-outs and dialogs of the flight.
+    {727, "Turn"},
+    {728, "°/s"},
 };
 
 } // namespace

@@ -605,6 +605,10 @@ constexpr StringEntry entries[] = {
     {724, "Autopilot Höhe"},
     {725, "Karte, Flugzeug bei %1, Heading %2"},
     {726, "Karte, Flugzeug versteckt"},
+
+    // Read-outs and dialogs of the flight.
+    {727, "Drehrate"},
+    {728, "°/s"},
 };
 
 } // namespace

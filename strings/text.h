@@ -556,6 +556,10 @@ enum class Text : int {
     spokenAutopilotAltitudeKnob = 724,
     spokenChart = 725,
     spokenChartHidden = 726,
+
+    // Read-outs and dialogs of the flight.
+    turnRate = 727,
+    unitDegreesPerSecond = 728,
 };
 
 } // namespace tarnel

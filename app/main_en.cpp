@@ -1,0 +1,6 @@
+#include "strings/tables.h"
+#include "window/application.h"
+
+int main(int argc, char** argv) {
+    return tarnel::runApplication(argc, argv, tarnel::englishTable());
+}

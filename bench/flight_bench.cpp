@@ -1,0 +1,62 @@
+#include "shell/application_folder.h"
+#include "shell/form_1.h"
+#include "strings/tables.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <ctime>
+#include <vector>
+
+namespace {
+
+using namespace tarnel;
+
+constexpr int simulatedSeconds = 3600;
+constexpr int ticksPerSecond = 3;
+constexpr int couplingTicks = 3;
+constexpr int runs = 7;
+constexpr double leastTimesRealTime = 10000;
+
+struct SilentWorld : OutsideWorld {
+    void messageBox(const std::string&, const std::string& text) override {
+        std::fprintf(stderr, "%s\n", text.c_str());
+    }
+};
+
+double cpuSeconds() {
+    timespec now{};
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
+    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
+}
+
+/// An hour of turns about the stations with both instruments fed. Returns its CPU seconds.
+double flyAnHour() {
+    SilentWorld world;
+    Form1 form(englishTable(), world, applicationFolder());
+    form.startButton.click();
+    const double start = cpuSeconds();
+    for (int tick = 0; tick < simulatedSeconds * ticksPerSecond; ++tick) {
+        if (tick % 720 == 0)
+            form.setHeadingBug(static_cast<std::int16_t>(tick / 720 * 100 % 360));
+        form.simulationTimer();
+        for (int i = 0; i < couplingTicks; ++i)
+            form.Timer1();
+    }
+    const double used = cpuSeconds() - start;
+    return form.simulationRuns() ? used : 1e9;
+}
+
+} // namespace
+
+int main() {
+    std::vector<double> seconds;
+    for (int run = 0; run < runs; ++run)
+        seconds.push_back(flyAnHour());
+    std::sort(seconds.begin(), seconds.end());
+    const double median = seconds[runs / 2];
+    const double ratio = simulatedSeconds / median;
+    std::printf("a simulated hour without a window: %.3f s of CPU, %.0f times real time"
+                " (at least %.0f) %s\n",
+                median, ratio, leastTimesRealTime, ratio >= leastTimesRealTime ? "" : "MISSED");
+    return ratio >= leastTimesRealTime ? 0 : 1;
+}

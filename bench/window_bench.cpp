@@ -1,0 +1,175 @@
+#include "shell/application_folder.h"
+#include "shell/form_1.h"
+#include "strings/tables.h"
+#include "window/application.h"
+#include "window/main_window.h"
+#include "window/qt_outside_world.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QMainWindow>
+#include <QProcess>
+#include <QTimer>
+
+#include <algorithm>
+#include <cstdio>
+#include <ctime>
+#include <functional>
+#include <vector>
+
+// Each measurement is a process of its own: this program runs itself with the name of one.
+
+namespace {
+
+using namespace tarnel;
+
+constexpr int warmUpMilliseconds = 1000;
+constexpr int measuredMilliseconds = 4000;
+constexpr int pairs = 5;
+
+double cpuSeconds() {
+    timespec now{};
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
+    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
+}
+
+/// Runs the event loop and prints the share of a core that it takes once it has settled.
+int printCpuShare() {
+    double start = 0;
+    QElapsedTimer clock;
+    QTimer::singleShot(warmUpMilliseconds, [&] {
+        start = cpuSeconds();
+        clock.start();
+        QTimer::singleShot(measuredMilliseconds, [&] {
+            const double elapsed = static_cast<double>(clock.nsecsElapsed()) * 1e-9;
+            std::printf("%.6f\n", (cpuSeconds() - start) / elapsed);
+            QCoreApplication::quit();
+        });
+    });
+    return QApplication::exec();
+}
+
+/// A program that does nothing a thousand times a second.
+int emptyTimer() {
+    QTimer timer;
+    timer.setTimerType(Qt::PreciseTimer);
+    QObject::connect(&timer, &QTimer::timeout, [] {});
+    timer.start(1);
+    QMainWindow window;
+    window.resize(1280, 800);
+    window.show();
+    return printCpuShare();
+}
+
+int trainer(QApplication& application, const std::function<void(Form1&)>& prepare) {
+    QtOutsideWorld outside;
+    dressApplication(application, englishTable(), QString::fromStdString(applicationFolder()));
+    Form1 form(englishTable(), outside, applicationFolder());
+    MainWindow window(form);
+    window.resize(1280, 800);
+    window.show();
+    prepare(form);
+    window.startTimers();
+    return printCpuShare();
+}
+
+void flyHeadingUp(Form1& form) {
+    form.setNorthUp(false);
+    form.rateQuadruple.click();
+    form.startButton.click();
+    form.setHeadingBug(170);
+}
+
+/// Prints the milliseconds from the start of main to the first painted window.
+int firstPaint(const QElapsedTimer& started, const std::function<int(std::function<int()>)>& show) {
+    return show([&started] {
+        QCoreApplication::processEvents();
+        std::printf("%.3f\n", static_cast<double>(started.nsecsElapsed()) * 1e-6);
+        return 0;
+    });
+}
+
+int emptyPaint(const QElapsedTimer& started) {
+    return firstPaint(started, [](const std::function<int()>& painted) {
+        QMainWindow window;
+        window.resize(1280, 800);
+        window.show();
+        return painted();
+    });
+}
+
+int trainerPaint(QApplication& application, const QElapsedTimer& started) {
+    return firstPaint(started, [&application](const std::function<int()>& painted) {
+        QtOutsideWorld outside;
+        const std::string folder = applicationFolder();
+        dressApplication(application, englishTable(), QString::fromStdString(folder));
+        Form1 form(englishTable(), outside, folder);
+        MainWindow window(form);
+        window.resize(1280, 800);
+        window.show();
+        return painted();
+    });
+}
+
+double measure(const char* what) {
+    QProcess process;
+    process.start(QCoreApplication::applicationFilePath(), {QString::fromLatin1(what)});
+    process.waitForFinished(60'000);
+    return process.readAllStandardOutput().trimmed().toDouble();
+}
+
+double median(std::vector<double> values) {
+    std::sort(values.begin(), values.end());
+    return values[values.size() / 2];
+}
+
+/// Measures two things in turn and prints the median of their ratios.
+bool compare(const char* title, const char* measured, const char* against, double most) {
+    std::vector<double> ratios;
+    std::vector<double> firsts;
+    std::vector<double> seconds;
+    for (int i = 0; i < pairs; ++i) {
+        firsts.push_back(measure(measured));
+        seconds.push_back(measure(against));
+        ratios.push_back(firsts.back() / seconds.back());
+    }
+    const double ratio = median(ratios);
+    std::printf("%-44s %10.4f %10.4f %8.2f %8.2f %s\n", title, median(firsts), median(seconds),
+                ratio, most, ratio <= most ? "" : "MISSED");
+    return ratio <= most;
+}
+
+int compareAll() {
+    constexpr double mostOfACore = 0.10;
+    std::printf("%-44s %10s %10s %8s %8s\n", "measured against an empty program", "", "against",
+                "ratio", "at most");
+    bool met = compare("share of a core at rest", "rest", "empty", 1.5);
+    met = compare("first paint, ms", "paint", "empty-paint", 10) && met;
+    std::vector<double> shares;
+    for (int i = 0; i < pairs; ++i)
+        shares.push_back(measure("fly"));
+    const double share = median(shares);
+    std::printf("%-44s %10.4f %10s %8s %8.2f %s\n", "share of a core, x 4, heading up, 1280 x 800",
+                share, "", "", mostOfACore, share <= mostOfACore ? "" : "MISSED");
+    return met && share <= mostOfACore ? 0 : 1;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QElapsedTimer started;
+    started.start();
+    QApplication application(argc, argv);
+    const QString mode = argc > 1 ? QString::fromLatin1(argv[1]) : QString();
+    if (mode == "empty")
+        return emptyTimer();
+    if (mode == "rest")
+        return trainer(application, [](Form1&) {});
+    if (mode == "fly")
+        return trainer(application, flyHeadingUp);
+    if (mode == "empty-paint")
+        return emptyPaint(started);
+    if (mode == "paint")
+        return trainerPaint(application, started);
+    return compareAll();
+}

@@ -1,0 +1,161 @@
+#include "trainer_fixture.h"
+
+#include <cmath>
+
+namespace tarnel {
+namespace {
+
+constexpr double munLatitude = 48.180302;
+constexpr double munLongitude = 11.816;
+
+double folded(double angle) {
+    return std::fmod(std::fmod(angle, 360) + 360, 360);
+}
+
+/// The difference of two angles, -180 to 180.
+double between(double a, double b) {
+    return std::remainder(a - b, 360);
+}
+
+// The needles show the same whichever way the chart lies, running or paused.
+TEST(Needles, AgreeInBothViews) {
+    for (const double heading : {0.0, 75.0, 181.0, 300.0}) {
+        Trainer north;
+        Trainer turned;
+        turned.form.setNorthUp(false);
+        for (Trainer* trainer : {&north, &turned}) {
+            trainer->placeAt(48.05, 11.62, heading);
+            trainer->setCourse(trainer->form.inst3, 40);
+        }
+        for (const bool flying : {false, true}) {
+            if (flying) {
+                north.start();
+                turned.start();
+                north.fly(120);
+                turned.fly(120);
+            }
+            EXPECT_NEAR(between(north.form.inst2.instrument.adfradial,
+                                turned.form.inst2.instrument.adfradial),
+                        0, 0.5)
+                << heading;
+            EXPECT_NEAR(between(north.form.inst2.instrument.adf2radial,
+                                turned.form.inst2.instrument.adf2radial),
+                        0, 0.5)
+                << heading;
+            EXPECT_NEAR(north.reading3().deviation, turned.reading3().deviation, 1) << heading;
+            EXPECT_EQ(north.reading3().flag, turned.reading3().flag) << heading;
+        }
+    }
+}
+
+TEST(Needles, RmiPointsAtItsStationsAndParksOnALocalizer) {
+    Trainer trainer;
+    trainer.placeAt(munLatitude - 0.2, munLongitude, 30);
+    EXPECT_NEAR(folded(trainer.form.inst2.instrument.adfradial), 330, 0.5);
+    trainer.form.NAVControlFace1.c_SetFreq = 2;
+    trainer.couple();
+    EXPECT_EQ(trainer.form.inst2.instrument.adfradial, 90);
+    trainer.sim().slot(Slot::ndb1).enabled = off;
+    trainer.couple();
+    EXPECT_EQ(trainer.form.inst2.instrument.adf2radial, 0);
+}
+
+TEST(Needles, AdfCardIsFixedByHandOrSlaved) {
+    Trainer trainer;
+    trainer.form.inst2TypeList.select(adf - 1);
+    trainer.placeAt(48.0, 11.9, 60);
+    trainer.setCourse(trainer.form.inst2, 25);
+    EXPECT_EQ(trainer.form.inst2.instrument.angle, 335);
+    trainer.form.inst2.instrument.mouse.stepKnob(InstrumentArea::selector, 1);
+    trainer.couple();
+    EXPECT_EQ(trainer.form.inst2.instrument.angle, 300);
+}
+
+TEST(Needles, VorTrackedInboundFlipsOverTheStation) {
+    Trainer trainer;
+    trainer.form.inst2TypeList.select(vor - 1);
+    trainer.placeAt(munLatitude - 0.1, munLongitude, 0);
+    trainer.setCourse(trainer.form.inst2, 360);
+    EXPECT_EQ(trainer.reading2().flag, FlagState::to);
+    EXPECT_NEAR(trainer.reading2().deviation, 0, 1);
+    trainer.start();
+    trainer.fly(150);
+    EXPECT_EQ(trainer.reading2().flag, FlagState::to);
+    trainer.fly(90);
+    EXPECT_EQ(trainer.reading2().flag, FlagState::from);
+    trainer.setCourse(trainer.form.inst2, 90);
+    EXPECT_FALSE(trainer.reading2().received) << "abeam";
+}
+
+// On the approach to 26R, left of the course the bar stands right, on both instruments.
+TEST(Needles, LocalizerSensesTheRightWay) {
+    Trainer trainer;
+    Form1& form = trainer.form;
+    form.inst2TypeList.select(vor - 1);
+    form.NAVControlFace1.c_SetFreq = 2;
+    const auto approach = [&](double offset) {
+        trainer.placeAt(48.3624 + 0.0155 + offset, 11.95, 263);
+    };
+    for (const auto& [offset, sign] : {std::pair{-0.004, 1}, {0.004, -1}}) {
+        approach(offset);
+        EXPECT_GT(trainer.reading2().deviation * sign, 0);
+        EXPECT_GT(trainer.reading3().deviation * sign, 0);
+        EXPECT_EQ(trainer.reading3().flag, FlagState::loc);
+        EXPECT_TRUE(trainer.reading3().received);
+    }
+    trainer.placeAt(48.42, 12.35, 263);
+    EXPECT_FALSE(trainer.reading3().received) << "out of reach";
+}
+
+TEST(Needles, SwitchedOffStationsFlag) {
+    Trainer trainer;
+    Form1& form = trainer.form;
+    form.inst2TypeList.select(vor - 1);
+    for (const auto& [tuning, slot] : {std::pair{0, Slot::vor1}, {2, Slot::localizer}}) {
+        form.NAVControlFace1.c_SetFreq = tuning;
+        trainer.sim().slot(slot).enabled = on;
+        trainer.placeAt(48.38, 11.95, 263);
+        trainer.setCourse(form.inst2, 250);
+        trainer.setCourse(form.inst3, 250);
+        EXPECT_TRUE(trainer.reading2().received && trainer.reading3().received) << tuning;
+        trainer.sim().slot(slot).enabled = off;
+        trainer.couple();
+        EXPECT_FALSE(trainer.reading2().received || trainer.reading3().received) << tuning;
+        EXPECT_EQ(form.inst3.instrument.c_OBS_x, 250) << "the arrow follows the knob";
+    }
+}
+
+TEST(Needles, SecondPointerIsNamedByWhatItShows) {
+    Trainer trainer;
+    Form1& form = trainer.form;
+    trainer.couple();
+    EXPECT_EQ(form.inst2.instrument.c_LabelText4.get(), "NDB 1");
+    form.ADFControlFace1.stepUp();
+    trainer.couple();
+    EXPECT_EQ(form.inst2.instrument.c_LabelText4.get(), "NDB 2");
+    EXPECT_EQ(form.inst3.instrument.c_LabelText4.get(), "");
+    form.inst3OverlayBox.click();
+    trainer.couple();
+    EXPECT_EQ(form.inst3.instrument.c_LabelText4.get(), "VOR 1");
+    form.NAVControlFace1.c_SetFreq = 2;
+    trainer.couple();
+    EXPECT_EQ(form.inst3OverlayBox.value(), 2) << "greyed on a localizer";
+    form.NAVControlFace1.c_SetFreq = 0;
+    trainer.couple();
+    EXPECT_EQ(form.inst3OverlayBox.value(), 1);
+}
+
+// A station 20 NM away at the largest scale lies far beyond 16-bit twips on a turned chart.
+TEST(Needles, StayTrueAtEveryScale) {
+    Trainer trainer;
+    trainer.placeAt(munLatitude, munLongitude - 1.2, 0);
+    for (const std::int16_t scale : MapView::offeredScales) {
+        trainer.sim().c_MAPscale = scale;
+        trainer.couple();
+        EXPECT_NEAR(folded(trainer.form.inst2.instrument.adfradial), 89.55, 0.5) << scale;
+        EXPECT_NEAR(trainer.sim().slot(Slot::vor1).dme, 48.2, 0.3) << scale;
+    }
+}
+
+} // namespace
+} // namespace tarnel
