@@ -61,9 +61,9 @@ int emptyTimer() {
     return printCpuShare();
 }
 
-int trainer(QApplication& application, const std::function<void(Form1&)>& prepare) {
+int trainer(const std::function<void(Form1&)>& prepare) {
     QtOutsideWorld outside;
-    dressApplication(application, englishTable(), QString::fromStdString(applicationFolder()));
+    dressApplication(englishTable(), QString::fromStdString(applicationFolder()));
     Form1 form(englishTable(), outside, applicationFolder());
     MainWindow window(form);
     window.resize(1280, 800);
@@ -98,11 +98,11 @@ int emptyPaint(const QElapsedTimer& started) {
     });
 }
 
-int trainerPaint(QApplication& application, const QElapsedTimer& started) {
-    return firstPaint(started, [&application](const std::function<int()>& painted) {
+int trainerPaint(const QElapsedTimer& started) {
+    return firstPaint(started, [](const std::function<int()>& painted) {
         QtOutsideWorld outside;
         const std::string folder = applicationFolder();
-        dressApplication(application, englishTable(), QString::fromStdString(folder));
+        dressApplication(englishTable(), QString::fromStdString(folder));
         Form1 form(englishTable(), outside, folder);
         MainWindow window(form);
         window.resize(1280, 800);
@@ -164,12 +164,12 @@ int main(int argc, char** argv) {
     if (mode == "empty")
         return emptyTimer();
     if (mode == "rest")
-        return trainer(application, [](Form1&) {});
+        return trainer([](Form1&) {});
     if (mode == "fly")
-        return trainer(application, flyHeadingUp);
+        return trainer(flyHeadingUp);
     if (mode == "empty-paint")
         return emptyPaint(started);
     if (mode == "paint")
-        return trainerPaint(application, started);
+        return trainerPaint(started);
     return compareAll();
 }

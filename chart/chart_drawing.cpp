@@ -95,8 +95,7 @@ void DrawNAVSymbols(ChartPicture& picture, MapView& view, Stations& stations, do
     for (Station& station : stations)
         view.placeOnChart(toPlain(station.position), rotation, station.place);
     const double localizerAngle = rotation + inputs.locCourse;
-    DrawLocalizer(picture, inSlot(stations, Slot::localizer).place.wide,
-                  localizerAngle);
+    DrawLocalizer(picture, inSlot(stations, Slot::localizer).place.wide, localizerAngle);
     drawReceiverRadials(picture, stations, 1, localizerAngle, inputs);
     drawReceiverRadials(picture, stations, 2, localizerAngle, inputs);
     for (std::size_t slot = 0; slot < slotCount; ++slot)
@@ -126,12 +125,15 @@ void showLocalizer(ChartPicture& picture, bool visible) {
     for (Line* line : {&lines.centre, &lines.leftEdge, &lines.rightEdge, &lines.leftClosing,
                        &lines.rightClosing})
         picture.surface.show(*line, visible);
+    StationSymbol& symbol = inSlot(picture.symbols, Slot::localizer);
+    picture.surface.show(symbol.leader, visible);
+    picture.surface.show(symbol.name, visible);
 }
 
 void MinatureAirplane(ChartPicture& picture, Point place, const AirplaneOutline& outline,
                       bool visible) {
     const auto at = [&](Point offset) -> Point {
-        return {place.x + std::trunc(offset.x), place.y + std::trunc(offset.y)};
+        return {place.x + offset.x, place.y + offset.y};
     };
     AirplaneLines& lines = picture.airplane;
     picture.surface.place(lines.fuselage, at(outline.nose), at(outline.tail));

@@ -28,9 +28,9 @@ struct RadialInputs {
     double locCourse = 0;
 };
 
-/// Lays out the five symbols with their labels, the localizer's feather and the radials of the tuned
-/// stations, with the chart turned by `rotation` degrees. A symbol that is less than 16 twips off
-/// stays where it is, so symbols do not jitter.
+/// Lays out the five symbols with their labels, the localizer's feather and the radials of the
+/// tuned stations, with the chart turned by `rotation` degrees. A symbol that is less than 16 twips
+/// off stays where it is, so symbols do not jitter.
 void DrawNAVSymbols(ChartPicture& picture, MapView& view, Stations& stations, double rotation,
                     const RadialInputs& inputs);
 
@@ -39,7 +39,7 @@ void hideRadials(ChartPicture& picture, RadialLines& lines);
 /// Shows a station's symbol by its facilities, and its name label with it.
 void showStation(ChartPicture& picture, std::size_t slot, bool stationOn, bool dmeOn);
 
-/// Shows the localizer's feather.
+/// Shows the localizer's feather and its name label, which a DME alone does not have.
 void showLocalizer(ChartPicture& picture, bool visible);
 
 /// Places the miniature airplane with its outline at `place`.

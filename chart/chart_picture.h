@@ -25,7 +25,7 @@ struct StationSymbol {
 struct RadialLines {
     Line course;
     Line reciprocal;
-    Line borderLeft;  ///< 10 degrees to either side: full deflection
+    Line borderLeft; ///< 10 degrees to either side: full deflection
     Line borderRight;
     double angle = 0; ///< degrees from the top of the chart, for the lettering along the line
 };

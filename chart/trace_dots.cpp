@@ -12,7 +12,8 @@ constexpr int shownSamples = 1000;
 constexpr int edgeMargin = 200;
 
 int thinningStep(std::int16_t mapScaleTwips) {
-    return std::max(1, static_cast<int>(roundToEven(1000.0 / mapScaleTwips + 1000.0 / mapScaleTwips)));
+    return std::max(1,
+                    static_cast<int>(roundToEven(1000.0 / mapScaleTwips + 1000.0 / mapScaleTwips)));
 }
 
 void drawDots(ChartPicture& picture, MapView& view, const Recording& recording, int first,

@@ -27,17 +27,10 @@ void Aircraft::fly(const Wind& wind) {
     aircraftLon = posLon;
 }
 
-void Aircraft::placeAt(const SplitPosition& target) {
-    position = target;
-    const GeoPosition plain = toPlain(target);
-    aircraftLat = posLat = plain.latitude;
-    aircraftLon = posLon = plain.longitude;
-}
-
-void Aircraft::placeAt(const GeoPosition& target) {
-    position = toSplit(target);
-    aircraftLat = posLat = target.latitude;
-    aircraftLon = posLon = target.longitude;
+void Aircraft::placeAt(const DeadReckoned& target) {
+    position = target.split;
+    aircraftLat = posLat = target.plain.latitude;
+    aircraftLon = posLon = target.plain.longitude;
 }
 
 } // namespace tarnel

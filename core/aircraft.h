@@ -2,6 +2,7 @@
 
 #include "core/chart_plot.h"
 #include "core/geo_position.h"
+#include "core/sailing.h"
 
 #include <cstdint>
 
@@ -21,13 +22,15 @@ struct Wind {
 /// The aircraft: a point that is carried along its heading, without lift, drag or inertia.
 struct Aircraft {
     SplitPosition position{{49, 0}, {11, 0}};
-    double posLat = 49.0; ///< plain position of the last conversion; the localizer's radial uses it as
-    double posLon = 11.0; ///< scratch, so it holds that station between the steps
+    double posLat =
+        49.0; ///< plain position of the last conversion; the localizer's radial uses it as
+    double posLon = 11.0;      ///< scratch, so it holds that station between the steps
     double aircraftLat = 49.0; ///< the position as last published: what everybody else reads
     double aircraftLon = 11.0;
-    double trueHeading = 0;       ///< 0 up to 360
-    std::int16_t tasUsed = 0;     ///< knots, as taken by the last step
-    std::int16_t turnRateUsed = 0; ///< degrees a second, right is positive, as taken by the last step
+    double trueHeading = 0;   ///< 0 up to 360
+    std::int16_t tasUsed = 0; ///< knots, as taken by the last step
+    std::int16_t turnRateUsed =
+        0; ///< degrees a second, right is positive, as taken by the last step
     ChartPlace place{{3405, 3405}, {3405, 3405}};
 
     /// Turns the heading by one tick at `turnRateUsed`.
@@ -37,8 +40,9 @@ struct Aircraft {
     void fly(const Wind& wind);
 
     /// Puts the aircraft at `target`.
-    void placeAt(const SplitPosition& target);
-    void placeAt(const GeoPosition& target);
+    void placeAt(const DeadReckoned& target);
+    void placeAt(const SplitPosition& target) { placeAt({target, toPlain(target)}); }
+    void placeAt(const GeoPosition& target) { placeAt({toSplit(target), target}); }
 
     [[nodiscard]] GeoPosition published() const { return {aircraftLat, aircraftLon}; }
 

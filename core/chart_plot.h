@@ -8,9 +8,9 @@
 
 namespace tarnel {
 
-/// A place on the chart twice: narrowed to 16 bits as the system publishes it, and in twips that are
-/// rounded but not narrowed. The two agree wherever the first fits 16 bits; radios measure on the
-/// second, so that a station far off the picture still gives its true radial.
+/// A place on the chart twice: narrowed to 16 bits as the system publishes it, and in twips that
+/// are rounded but not narrowed. The two agree wherever the first fits 16 bits; radios measure on
+/// the second, so that a station far off the picture still gives its true radial.
 struct ChartPlace {
     ChartPoint point;
     Point wide;

@@ -25,7 +25,8 @@ struct GeoPosition {
     bool operator==(const GeoPosition&) const = default;
 };
 
-/// Degrees of a split value: minutes are added to degrees of 0 or more and taken from negative ones.
+/// Degrees of a split value: minutes are added to degrees of 0 or more and taken from negative
+/// ones.
 [[nodiscard]] double toPlain(const SplitAngle& angle);
 [[nodiscard]] GeoPosition toPlain(const SplitPosition& position);
 

@@ -2,9 +2,11 @@
 
 #include "core/number_text.h"
 
+#include <cmath>
 #include <concepts>
 #include <cstdint>
 #include <functional>
+#include <limits>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -34,8 +36,8 @@ class PropertyBag {
     std::vector<PropertyBase*> properties;
 };
 
-/// A property without its type: its name, and its value as text. One without a name is not listed in
-/// its bag.
+/// A property without its type: its name, and its value as text. One without a name is not listed
+/// in its bag.
 class PropertyBase {
   public:
     PropertyBase(PropertyBag& owner, std::string_view name) : bag(owner), propertyName(name) {
@@ -95,8 +97,7 @@ class Property final : public PropertyBase {
 
     /// A number of another type is a mistake: round it with `toInt16` or `toInt32` first.
     template <class Other>
-        requires(std::integral<T> && std::floating_point<Other>)
-    Property& operator=(Other) = delete;
+    requires(std::integral<T>&& std::floating_point<Other>) Property& operator=(Other) = delete;
 
     /// Sets the value only if it differs, for writes whose effect is a redraw.
     void setIfChanged(const T& next) {
@@ -125,8 +126,9 @@ class Property final : public PropertyBase {
             if (!number)
                 return false;
             if constexpr (std::integral<T>) {
-                if (*number != static_cast<double>(static_cast<std::int64_t>(*number)) ||
-                    !std::in_range<T>(static_cast<std::int64_t>(*number)))
+                using Limits = std::numeric_limits<T>;
+                if (*number < Limits::min() || *number > Limits::max() ||
+                    *number != std::trunc(*number))
                     return false;
             }
             *this = static_cast<T>(*number);

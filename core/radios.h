@@ -15,8 +15,8 @@ struct RadioReadings {
     std::array<double, slotCount> radial{};
     /// Slant range in NM with one decimal (ties to even); slots 1, 2 and 5 only.
     std::array<double, slotCount> dme{};
-    /// The closing or opening speed along the line to the station in knots, never negative; slots 1,
-    /// 2 and 5 only.
+    /// The closing or opening speed along the line to the station in knots, never negative; slots
+    /// 1, 2 and 5 only.
     std::array<std::int16_t, slotCount> dmeGroundSpeed{};
 };
 

@@ -2,18 +2,24 @@
 
 #include "core/run_time_error.h"
 
-
 #include <algorithm>
 #include <utility>
 
 namespace tarnel {
 
+namespace {
+
+RunTimeError outOfRange() {
+    return {RunTimeError::subscriptOutOfRange, "Recording", "Subscript out of range"};
+}
+
+} // namespace
+
 Recording::Recording() : samples(static_cast<std::size_t>(lastSample) + 1) {}
 
 const Sample& Recording::at(int index) const {
     if (index < 0 || index > lastSample)
-        throw RunTimeError(RunTimeError::subscriptOutOfRange, "Recording",
-                           "Subscript out of range");
+        throw outOfRange();
     return samples[static_cast<std::size_t>(index)];
 }
 
@@ -41,6 +47,13 @@ BufferWarning Recording::advance() {
 void Recording::clear() {
     std::fill(samples.begin(), samples.end(), Sample{});
     newest = 0;
+}
+
+void Recording::beginComment(std::string text) {
+    if (comments.size() == mostComments)
+        throw outOfRange();
+    comments.push_back(std::move(text));
+    selected = static_cast<std::int16_t>(comments.size() - 1);
 }
 
 } // namespace tarnel

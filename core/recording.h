@@ -4,10 +4,15 @@
 #include "core/stations.h"
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
+#include <string>
 #include <vector>
 
 namespace tarnel {
+
+/// The comment index of a sample without a comment.
+constexpr std::int16_t noComment = -1;
 
 /// The whole state of a flight at one moment.
 struct Sample {
@@ -41,17 +46,19 @@ struct Sample {
     std::int16_t traceAPtas = 0;
     std::int16_t traceAPalt = 0;
     std::int16_t traceHDGbug = 0;
+    std::int16_t traceComment = noComment; ///< index into the comment texts
 };
 
 /// What the user has to be told when the buffer runs out.
 enum class BufferWarning { none, almostFull, full };
 
-/// The flight recorder: at most 6,000 samples, numbered from 1.
+/// The flight recorder: at most 6,000 samples, numbered from 1, and the comments on them.
 class Recording {
   public:
     static constexpr std::int16_t lastSample = 6000;
     static constexpr std::int16_t almostFullAt = 5900;
     static constexpr std::int16_t fullAt = 5980;
+    static constexpr std::size_t mostComments = 101;
 
     Recording();
 
@@ -65,19 +72,32 @@ class Recording {
     /// Counts a simulation tick; true on ticks 3, 7, 11 and so on, which are recorded.
     bool tickIsSample();
 
-    /// Moves on to the next sample. At 5980 it starts over at 1; old samples stay until overwritten.
+    /// Moves on to the next sample. At 5980 it starts over at 1; old samples stay until
+    /// overwritten.
     BufferWarning advance();
 
-    /// Forgets all samples: the next one is number 1.
+    /// Forgets all samples, but no comment text: the next sample is number 1.
     void clear();
 
     /// Makes sample 1 the newest.
     void startAtFirst() { newest = 1; }
 
+    /// Adds a comment, which the samples to come carry. Throws the subscript error when there are
+    /// `mostComments` already.
+    void beginComment(std::string text);
+    /// The samples to come carry no comment.
+    void endComment() { selected = noComment; }
+
+    [[nodiscard]] const std::vector<std::string>& commentTexts() const { return comments; }
+    /// The comment that samples take now, or `noComment`.
+    [[nodiscard]] std::int16_t selectedCommentIndex() const { return selected; }
+
   private:
     std::vector<Sample> samples;
     std::int16_t newest = 1;
     std::int16_t sampleTick = 0;
+    std::vector<std::string> comments;
+    std::int16_t selected = noComment;
 };
 
 } // namespace tarnel

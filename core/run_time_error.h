@@ -11,6 +11,7 @@ class RunTimeError : public std::runtime_error {
   public:
     static constexpr int overflow = 6;
     static constexpr int subscriptOutOfRange = 9;
+    static constexpr int divisionByZero = 11;
     static constexpr int fileNotFound = 53;
     static constexpr int inputPastEnd = 62;
     static constexpr int pathFileAccess = 75;

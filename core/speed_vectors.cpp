@@ -6,9 +6,8 @@ namespace tarnel {
 
 namespace {
 
-/// The scale at which the triangle's lines are read, and the factor that turns them into knots.
+/// The scale at which the triangle's lines are read. Their length then times 43.24 / 3 is knots.
 constexpr double readingScale = 250;
-constexpr double knotsPerUnit = 43.24 / 3;
 
 Point plus(Point a, Point b) {
     return {a.x + b.x, a.y + b.y};
@@ -16,9 +15,8 @@ Point plus(Point a, Point b) {
 
 } // namespace
 
-SpeedVectors layOutSpeedVectors(Point airplane, double heading, std::int16_t tas,
-                                double windCourse, std::int16_t windSpeed,
-                                std::int16_t mapScaleTwips) {
+SpeedVectors layOutSpeedVectors(Point airplane, double heading, std::int16_t tas, double windCourse,
+                                std::int16_t windSpeed, std::int16_t mapScaleTwips) {
     const std::int16_t legTwips = toInt16((62500.0 / mapScaleTwips) * 3);
     const double perKnot = mapScaleTwips * (1 / (3600 / simTimeStep)) * simTimeFactor;
 
@@ -31,7 +29,7 @@ SpeedVectors layOutSpeedVectors(Point airplane, double heading, std::int16_t tas
     const Polar ground = polarOf(toInt16(airplane.x - vectors.windTip.x),
                                  toInt16(airplane.y - vectors.windTip.y), readingScale);
     vectors.groundTrack = toInt16(360 - roundToEven(ground.course));
-    vectors.groundSpeed = toInt16(ground.distance * knotsPerUnit);
+    vectors.groundSpeed = toInt16(ground.distance * 43.24 / 3);
     return vectors;
 }
 

@@ -21,7 +21,7 @@ constexpr std::int16_t on = -1;
 /// Where a station stands. Its name, frequency and enables are properties of `UserControl2`.
 struct Station {
     SplitPosition position;
-    ChartPlace place;               ///< rebuilt with each drawing of the chart
+    ChartPlace place;                 ///< rebuilt with each drawing of the chart
     std::int16_t labelOffsetX = -200; ///< twips from the station to its name label
     std::int16_t labelOffsetY = -555;
     bool buttonDown = true; ///< the station's on/off button

@@ -1,4 +1,5 @@
 #include "core/rounding.h"
+#include "core/run_time_error.h"
 #include "engine/user_control_2.h"
 
 namespace tarnel {
@@ -30,6 +31,8 @@ void UserControl2::switchAirplane() {
 }
 
 void UserControl2::showScale() {
+    if (c_MAPscale <= 0)
+        throw RunTimeError(RunTimeError::divisionByZero, "Tarnel", "Division by zero");
     view.plot.mapScaleTwips = c_MAPscale;
     picture.surface.set(picture.milesPer500Twips, view.scaleLabelMiles());
 }
@@ -65,16 +68,31 @@ void UserControl2::switchView() {
     view.centreOn(toSplit(aircraft.published()));
     showScale();
     view.placeAircraft(aircraft);
-    refresh();
     redrawChart();
+    refresh();
     redrawTrace();
 }
 
 void UserControl2::placeAircraft(ChartPoint point) {
     aircraft.place = {point, {static_cast<double>(point.x), static_cast<double>(point.y)}};
-    aircraft.placeAt(view.plot.MapToGeo(point).split);
+    aircraft.placeAt(view.plot.MapToGeo(point));
     picture.trace.clear();
+    resumeMode = ResumeMode::clear;
+    refresh();
+}
+
+void UserControl2::placeAircraft(const GeoPosition& position) {
+    aircraft.placeAt(position);
+    view.centreOn(aircraft.position);
+    view.placeAircraft(aircraft);
+    redrawChart();
     markFreshStart();
+    redrawTrace();
+    refresh();
+}
+
+void UserControl2::setWind(const Wind& next) {
+    wind = next;
     refresh();
 }
 

@@ -55,17 +55,15 @@ void UserControl2::applyChart(const ChartFile& chart) {
         applyStation(static_cast<Slot>(i), chart.stations[i]);
     if (chart.locCourse)
         c_LocCrs1 = *chart.locCourse;
-    if (chart.aircraft) {
-        aircraft.placeAt(*chart.aircraft);
-        view.centreOn(aircraft.position);
-    }
-    if (chart.heading)
-        turnAircraft(intoCircle(*chart.heading));
     if (chart.mapCenterSelect)
         c_MAPCenterSelect = *chart.mapCenterSelect;
     c_MAPscale = chart.mapScaleTwips.value_or(c_MAPscale.get());
+    if (!chart.aircraft)
+        return;
+    placeAircraft(*chart.aircraft);
+    if (chart.heading)
+        turnAircraft(intoCircle(*chart.heading));
     markFreshStart();
-    redrawTrace();
 }
 
 } // namespace tarnel

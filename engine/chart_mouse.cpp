@@ -37,7 +37,7 @@ void ChartMouse::down(ChartButton button, Point at) {
         decodeRightButton();
     if (tool == Tool::heading) {
         headingDragging = true;
-        drawHeading(at);
+        showHeadingLine(at);
     } else if (button == ChartButton::left) {
         airplaneDragging = true;
         place(at);
@@ -73,26 +73,29 @@ void ChartMouse::place(Point at) {
     sim.placeAircraft(rounded(at, sim.picture.size));
 }
 
+void ChartMouse::showHeadingLine(Point at) {
+    DrawingSurface& surface = sim.picture.surface;
+    HeadingLine& heading = sim.picture.heading;
+    surface.place(heading.line, sim.aircraft.place.wide, at);
+    surface.place(heading.name, {at.x + labelGap, at.y - 2 * labelHeight});
+    surface.place(heading.value, {at.x + labelGap, at.y - labelHeight});
+    const auto degrees = static_cast<std::int16_t>(roundToEven(sim.c_HDG));
+    surface.set(heading.value.caption, zeroPadded(degrees, 3) + "°");
+    surface.show(heading.line, true);
+    surface.show(heading.name, true);
+    surface.show(heading.value, true);
+}
+
 void ChartMouse::drawHeading(Point at) {
     const Point airplane = sim.aircraft.place.wide;
     const Polar polar = polarOf(at.x - airplane.x, airplane.y - at.y, sim.view.plot.mapScaleTwips);
     if (polar.distance == 0)
         return;
     const auto degrees = static_cast<std::int16_t>(toInt16(polar.course) % 360);
-
-    DrawingSurface& surface = sim.picture.surface;
-    HeadingLine& heading = sim.picture.heading;
-    surface.place(heading.line, airplane, at);
-    surface.place(heading.name, {at.x + labelGap, at.y - 2 * labelHeight});
-    surface.place(heading.value, {at.x + labelGap, at.y - labelHeight});
-    surface.set(heading.value.caption, zeroPadded(degrees, 3) + "°");
-    surface.show(heading.line, true);
-    surface.show(heading.name, true);
-    surface.show(heading.value, true);
-
     sim.turnAircraft(degrees);
     if (headingDrawn)
         headingDrawn(degrees);
+    showHeadingLine(at);
 }
 
 } // namespace tarnel

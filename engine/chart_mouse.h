@@ -17,8 +17,8 @@ class ChartMouse {
   public:
     explicit ChartMouse(UserControl2& simulation) : sim(simulation) {}
 
-    /// A press at a chart position in twips. The right button picks the heading tool, and puts it
-    /// away at its second press.
+    /// A press at a chart position in twips. The right button picks the heading tool until it is
+    /// released.
     void down(ChartButton button, Point at);
     void move(Point at);
     void up();
@@ -35,6 +35,7 @@ class ChartMouse {
 
     [[nodiscard]] bool allowed() const;
     void decodeRightButton();
+    void showHeadingLine(Point at);
     void drawHeading(Point at);
     void place(Point at);
 

@@ -38,6 +38,7 @@ Sample UserControl2::presentSample() const {
     sample.traceAPtas = c_APtas;
     sample.traceAPalt = c_APalt;
     sample.traceHDGbug = c_HDGbug;
+    sample.traceComment = recording.selectedCommentIndex();
     return sample;
 }
 

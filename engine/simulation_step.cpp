@@ -50,11 +50,11 @@ void UserControl2::measure() {
                       {static_cast<double>(view.plot.mapScaleTwips), c_Altitude,
                        speedVectors.groundSpeed, speedVectors.groundTrack});
     for (std::size_t i = 0; i < slotCount; ++i) {
-        slots[i].radial.publish(readings.radial[i]);
+        stationSlots[i].radial.publish(readings.radial[i]);
         if (!hasDme(i))
             continue;
-        slots[i].dme.publish(readings.dme[i]);
-        slots[i].dmeGroundSpeed.publish(readings.dmeGroundSpeed[i]);
+        stationSlots[i].dme.publish(readings.dme[i]);
+        stationSlots[i].dmeGroundSpeed.publish(readings.dmeGroundSpeed[i]);
     }
 }
 

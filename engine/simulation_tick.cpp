@@ -10,12 +10,11 @@ void UserControl2::Timer1() {
         clock.tickStopwatch();
     publishStopwatch();
 
-    if (c_TAS > 0) {
+    if (c_TAS > 0)
         clock.tickFlightTime();
-        c_ApHours2.publish(clock.flightHours);
-        c_ApMinutes2.publish(clock.flightMinutes);
-        c_ApSeconds2.publish(static_cast<std::int16_t>(clock.flightSeconds));
-    }
+    c_ApHours2.publish(clock.flightHours);
+    c_ApMinutes2.publish(clock.flightMinutes);
+    c_ApSeconds2.publish(static_cast<std::int16_t>(clock.flightSeconds));
     turnByTick();
     if (recording.tickIsSample())
         recordSample();

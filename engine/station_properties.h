@@ -8,8 +8,8 @@
 
 namespace tarnel {
 
-/// The names under which the properties of one station slot are known. Those that the slot lacks are
-/// empty.
+/// The names under which the properties of one station slot are known. Those that the slot lacks
+/// are empty.
 struct StationPropertyNames {
     const char* name;
     const char* frequency;
@@ -28,8 +28,10 @@ struct StationProperties {
                       const Property<std::int16_t>::Effect& onOff)
         : name(bag, names.name, std::move(identifier), relabel),
           frequency(bag, names.frequency, std::move(frequencyText), relabel),
-          enabled(bag, names.enabled, on, onOff), dmeEnabled(bag, names.dmeEnabled, on, onOff),
-          radial(bag, names.radial), dme(bag, names.dme),
+          enabled(bag, names.enabled, on, onOff),
+          dmeEnabled(bag, names.dmeEnabled, on, onOff),
+          radial(bag, names.radial),
+          dme(bag, names.dme),
           dmeGroundSpeed(bag, names.dmeGroundSpeed) {}
 
     Property<std::string> name;

@@ -43,8 +43,8 @@ class UserControl2 {
     void SimStep();
 
     /// The properties of a station slot.
-    [[nodiscard]] StationProperties& slot(Slot which) { return inSlot(slots, which); }
-    [[nodiscard]] const StationProperties& slot(Slot which) const { return inSlot(slots, which); }
+    [[nodiscard]] StationProperties& slot(Slot which) { return inSlot(stationSlots, which); }
+    [[nodiscard]] const StationProperties& slot(Slot which) const { return inSlot(stationSlots, which); }
 
     /// Redraws for a new scale, centre or station position.
     void MapScale();
@@ -52,10 +52,14 @@ class UserControl2 {
     /// The start of a recording: the next start of the clock discards what was recorded, and sample
     /// 1 holds the present state.
     void markFreshStart();
-    /// Moves the aircraft by hand to a chart position.
+    /// Moves the aircraft by hand to a chart position; the next start discards what was recorded.
     void placeAircraft(ChartPoint point);
-    /// Turns the aircraft by hand. Degrees, 0 up to 360.
+    /// Puts the aircraft at a position by hand; the chart is centred on it.
+    void placeAircraft(const GeoPosition& position);
+    /// Turns the aircraft by hand. Degrees, 0 to 360.
     void turnAircraft(double heading);
+    /// Sets the wind of the whole chart.
+    void setWind(const Wind& next);
 
     [[nodiscard]] RadialInputs radialInputs() const;
     [[nodiscard]] bool stopped() const { return c_TimerEN == 0; }
@@ -78,7 +82,8 @@ class UserControl2 {
     // Clocks. `c_TimerSIMrate` is the real time of one tick in milliseconds.
     Property<std::int16_t> c_TimerEN{properties, "c_TimerEN", 0, [this] { switchClock(); }};
     Property<std::int16_t> c_TimerSIMrate{properties, "c_TimerSIMrate", 333};
-    Property<std::int16_t> c_ResetTimer{properties, "c_ResetTimer", 1, [this] { resetStopwatch(); }};
+    Property<std::int16_t> c_ResetTimer{properties, "c_ResetTimer", 1,
+                                        [this] { resetStopwatch(); }};
     Property<std::int16_t> c_Timer_on_off{properties, "c_Timer_on_off"};
     Property<std::int16_t> c_ApSeconds{properties, "c_ApSeconds"};
     Property<std::int16_t> c_ApMinutes{properties, "c_ApMinutes"};
@@ -119,7 +124,8 @@ class UserControl2 {
     Property<double> c_CenterTwips{properties, "c_CenterTwips", 3405, [this] { resizeChart(); }};
     Property<std::int16_t> c_MAPCenterSelect{properties, "c_MAPCenterSelect", 1};
     Property<std::int16_t> c_NAV1NULLPositionX{properties, "c_NAV1NULLPositionX"};
-    Property<std::int16_t> c_AirplaneEN{properties, "c_AirplaneEN", 1, [this] { switchAirplane(); }};
+    Property<std::int16_t> c_AirplaneEN{properties, "c_AirplaneEN", 1,
+                                        [this] { switchAirplane(); }};
     Property<std::int16_t> c_TraceEN{properties, "c_TraceEN", 0, [this] { redrawTrace(); }};
     Property<std::int16_t> c_SpeedVectorEN{properties, "c_SpeedVectorEN", 0, [this] { refresh(); }};
     Property<std::int16_t> c_TraceBufferMax{properties, "c_TraceBufferMax", 1};
@@ -178,7 +184,7 @@ class UserControl2 {
     void applyStation(Slot which, const ChartStation& station);
 
     SimulationMessages& messages;
-    Slots slots = makeSlots();
+    Slots stationSlots = makeSlots();
     AirplaneOutline airplaneOutline;
     bool redrawOnly = false;
     enum class ResumeMode { goOn, clear } resumeMode = ResumeMode::goOn;

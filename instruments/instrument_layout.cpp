@@ -175,7 +175,7 @@ void placeFixedParts(InstrumentPicture& picture, const CardSquare& square) {
     const double lubberX = square.offset() + square.half();
     surface.place(picture.Line24, {lubberX, square.side() - square.side() * 0.86},
                   {lubberX, square.side() - square.side() * 0.71});
-    surface.place(picture.Label2_3, {size * 0.04, size * 0.02});
+    surface.place(picture.Label2_3, {size * 0.04, size * 0.1});
     surface.place(picture.Label2_4, {size / 2 + size * 0.1, size / 2 - size * 0.1});
     surface.place(picture.Text1, {size * 0.34, size * 0.34});
 }

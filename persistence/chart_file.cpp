@@ -95,8 +95,7 @@ void readIdentifier(ChartLines& lines, ChartStation& station) {
 void readStations(ChartLines& lines, ChartFile& chart) {
     for (ChartStation& station : chart.stations) {
         readIdentifier(lines, station);
-        station.frequency =
-            std::string(lines.afterTag(identifierTagLength, ChartField::frequency));
+        station.frequency = std::string(lines.afterTag(identifierTagLength, ChartField::frequency));
     }
 }
 
@@ -130,7 +129,7 @@ void readMap(ChartLines& lines, ChartFile& chart) {
     constexpr double largestScale = 0.5;
     constexpr double smallestScale = 4;
     const double centre = lines.numberIn(lines.afterTag(stateTagLength, ChartField::mapCentre),
-                                        ChartField::mapCentre);
+                                         ChartField::mapCentre);
     if (std::abs(centre) > 32767)
         lines.fail(ChartField::mapCentre);
     chart.mapCenterSelect = toInt16(centre);

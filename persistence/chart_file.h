@@ -63,10 +63,10 @@ struct ChartFile {
     std::optional<ChartProblem> problem; ///< the line that ended the reading too early
 };
 
-/// Reads the text of a plain `.map` file: one value a line, by position, lines ended by CR LF or LF,
-/// UTF-8. An empty text is an empty chart. A file that does not begin with ":v1" starts at the
-/// station states. A map scale outside 0.5 to 4 is left out. Never throws on bad content: what stood
-/// before the first wrong line is kept.
+/// Reads the text of a plain `.map` file: one value a line, by position, lines ended by CR LF or
+/// LF, UTF-8. An empty text is an empty chart. A file that does not begin with ":v1" starts at the
+/// station states. A map scale outside 0.5 to 4 is left out. Never throws on bad content: what
+/// stood before the first wrong line is kept.
 [[nodiscard]] ChartFile readChart(std::string_view text);
 
 } // namespace tarnel

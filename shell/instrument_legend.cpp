@@ -16,8 +16,9 @@ std::string receiverName(const StringTable& texts, std::int16_t receiver) {
     return std::string(texts[receiver == 1 ? Text::faceNav1 : Text::faceNav2]);
 }
 
-std::string courseText(const StringTable& texts, double degrees) {
-    return std::string(texts[Text::courseShort]) + " " + degreesText(texts, degrees);
+LegendPart coursePart(const StringTable& texts, double degrees) {
+    const std::string value = degreesText(texts, degrees);
+    return {LegendNeedle::course, std::string(texts[Text::courseShort]) + " " + value, value};
 }
 
 } // namespace
@@ -34,10 +35,10 @@ std::vector<LegendPart> instrumentLegend(const StringTable& texts,
                 {LegendNeedle::second, std::string(texts[ndb])}};
     case vor:
         return {{LegendNeedle::course, receiverName(texts, position.navSel)},
-                {LegendNeedle::course, courseText(texts, position.obs)}};
+                coursePart(texts, position.obs)};
     case hsi:
         return {{LegendNeedle::course, receiverName(texts, position.navSel)},
-                {LegendNeedle::course, courseText(texts, position.instrument.c_OBS_x)}};
+                coursePart(texts, position.instrument.c_OBS_x)};
     default:
         return {};
     }

@@ -13,6 +13,7 @@ enum class LegendNeedle { course, first, second };
 struct LegendPart {
     LegendNeedle needle;
     std::string text;
+    std::string shortText = text; ///< where there is little room
     bool operator==(const LegendPart&) const = default;
 };
 

@@ -1,0 +1,127 @@
+#include "engine/simulation_fixture.h"
+#include "support/sample_chart.h"
+
+#include <filesystem>
+#include <fstream>
+
+namespace tarnel {
+namespace {
+
+class ChartLoadingTest : public SimulationTest {
+  protected:
+    void TearDown() override { std::filesystem::remove(path); }
+
+    void load(const std::string& text) {
+        std::ofstream(path, std::ios::binary) << text;
+        sim.c_ChartFileName = path;
+        sim.c_loadChart = 2;
+        EXPECT_EQ(sim.c_loadChart, 0);
+    }
+    void loadLines(std::size_t count) { load(joinLines(sampleChartLines(), count)); }
+
+    const std::string path = testing::TempDir() + "tarnel_" +
+                             testing::UnitTest::GetInstance()->current_test_info()->name() + ".map";
+};
+
+TEST_F(ChartLoadingTest, ChartReplacesEverything) {
+    start(120, 45);
+    tick(100);
+    sim.c_TimerEN = 0;
+    sim.c_MAPnorthUP = 0;
+    load(chartWith(20, "275"));
+    EXPECT_TRUE(messages.failures.empty());
+    EXPECT_TRUE(messages.problems.empty());
+
+    EXPECT_EQ(station(Slot::vor2).name.get(), "BRK");
+    EXPECT_EQ(station(Slot::localizer).frequency.get(), "108.70");
+    EXPECT_EQ(station(Slot::vor2).enabled, off);
+    EXPECT_EQ(station(Slot::vor2).dmeEnabled, on);
+    EXPECT_EQ(inSlot(sim.picture.symbols, Slot::vor2).image, SymbolImage::dmeOnly);
+    EXPECT_EQ(inSlot(sim.picture.symbols, Slot::vor1).name.caption, "ALB\n112.30");
+    EXPECT_EQ(sim.c_LocCrs1, 83);
+    EXPECT_EQ(sim.c_MAPscale, 333);
+    EXPECT_EQ(sim.picture.milesPer500Twips, 1.5);
+    EXPECT_EQ(sim.c_MAPnorthUP, 1);
+    EXPECT_EQ(place(), (GeoPosition{48.25, 11.5}));
+    EXPECT_EQ(sim.c_HDG, 275);
+    EXPECT_EQ(sim.aircraft.trueHeading, 275);
+    EXPECT_EQ(sim.aircraft.place.point, (ChartPoint{3405, 3405}));
+    EXPECT_NEAR(station(Slot::vor1).radial, trueRadial(Slot::vor1), 0.05);
+    // East of Greenwich it is not: the sign of -0.5 degrees is lost.
+    EXPECT_EQ(toPlain(inSlot(sim.stations, Slot::ndb1).position).longitude, 0.5);
+}
+
+TEST_F(ChartLoadingTest, RecordingStartsOver) {
+    start(120);
+    tick(100);
+    sim.c_TimerEN = 0;
+    loadLines(31);
+    EXPECT_EQ(sim.c_TraceBufferMax, 1);
+    const Sample& first = sim.recording.at(1);
+    EXPECT_EQ(first.traceLat, 48.25);
+    EXPECT_EQ(first.traceLon, 11.5);
+    EXPECT_EQ(first.traceHeading, 0);
+    EXPECT_EQ(first.traceTAS, 120);
+    EXPECT_EQ(first.traceLocCourse, 83);
+    EXPECT_EQ(first.traceStations[0], (GeoPosition{48.5, 11.75}));
+    sim.c_TimerEN = 1;
+    tick(4);
+    EXPECT_EQ(sim.c_TraceBufferMax, 1);
+    EXPECT_EQ(sim.c_ApSeconds2, 1);
+}
+
+TEST_F(ChartLoadingTest, UnreadableFilesLeaveTheFlight) {
+    start(120);
+    tick(11);
+    sim.c_TimerEN = 0;
+    const GeoPosition before = place();
+    load(""); // says nothing and does nothing
+    EXPECT_TRUE(messages.problems.empty());
+    load(std::string(54, '*') + "\r\n");
+    ASSERT_EQ(messages.problems.size(), 1U);
+    EXPECT_EQ(messages.problems[0].expected, ChartField::plainText);
+    sim.c_ChartFileName = path + ".none";
+    sim.c_loadChart = 2;
+    EXPECT_EQ(sim.c_loadChart, 0);
+    EXPECT_EQ(messages.failures, std::vector<int>{53});
+    EXPECT_EQ(place(), before);
+    EXPECT_EQ(sim.c_TraceBufferMax, 4);
+    sim.c_TimerEN = 1;
+    tick(4);
+    EXPECT_EQ(sim.c_TraceBufferMax, 5);
+}
+
+TEST_F(ChartLoadingTest, TruncatedFileKeepsWhatStoodBefore) {
+    sim.c_LocCrs1 = 44;
+    for (std::size_t lines = 1; lines < 31; ++lines) {
+        loadLines(lines);
+        ASSERT_EQ(messages.problems.size(), lines);
+        EXPECT_EQ(messages.problems.back().line, static_cast<int>(lines) + 1);
+        EXPECT_EQ(sim.c_LocCrs1, 44);
+        EXPECT_EQ(place().latitude, lines >= 19 ? 48.25 : 49) << lines;
+        start(120);
+        tick(8); // it flies
+        sim.c_TimerEN = 0;
+        sim.aircraft.placeAt(GeoPosition{49, 11});
+    }
+    EXPECT_EQ(station(Slot::vor1).name.get(), "ALB");
+    EXPECT_TRUE(messages.failures.empty());
+}
+
+TEST_F(ChartLoadingTest, ScaleOutOfRangeStays) {
+    sim.c_MAPscale = 500;
+    load(chartWith(17, ":ms:,4.1"));
+    EXPECT_EQ(sim.c_MAPscale, 500);
+    EXPECT_EQ(place(), (GeoPosition{48.25, 11.5}));
+    load(chartWith(17, ":ms:,4"));
+    EXPECT_EQ(sim.c_MAPscale, 125);
+}
+
+TEST_F(ChartLoadingTest, ChartIsCentredOnTheAircraft) {
+    load(chartWith(16, ":mc:,3"));
+    EXPECT_EQ(sim.c_MAPCenterSelect, 3); // from the next change of the view on
+    EXPECT_EQ(sim.view.mapCenter, sim.aircraft.position);
+}
+
+} // namespace
+} // namespace tarnel

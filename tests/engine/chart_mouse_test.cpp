@@ -1,0 +1,124 @@
+#include "engine/simulation_fixture.h"
+
+namespace tarnel {
+namespace {
+
+class ChartMouseTest : public SimulationTest {
+  protected:
+    void click(ChartButton button, Point at) {
+        sim.mouse.down(button, at);
+        sim.mouse.up();
+    }
+};
+
+TEST_F(ChartMouseTest, PressPlacesTheAircraftAnywhere) {
+    start(120);
+    tick(20);
+    sim.c_TimerEN = 0;
+    sim.mouse.down(ChartButton::left, {3405 + 2500.4, 3405});
+    EXPECT_EQ(sim.aircraft.place.point, (ChartPoint{5905, 3405}));
+    const CourseDistance away = CourseAndDistance({49, 11}, place());
+    EXPECT_NEAR(away.distance, 10, 0.001);
+    EXPECT_NEAR(away.course, 90, 0.001);
+    EXPECT_LT(worstRadial(0), 0.3);
+
+    sim.mouse.move({3405, 3405 + 1250});
+    EXPECT_NEAR(CourseAndDistance({49, 11}, place()).distance, 5, 0.001);
+    EXPECT_NEAR(CourseAndDistance({49, 11}, place()).course, 180, 0.001);
+    const GeoPosition dropped = place();
+    sim.mouse.up();
+    sim.mouse.move({0, 0});
+    EXPECT_EQ(place(), dropped);
+
+    sim.c_TimerEN = 1; // the recording starts over
+    tick(4);
+    EXPECT_EQ(sim.c_TraceBufferMax, 1);
+}
+
+TEST_F(ChartMouseTest, FlightGoesOnFromWhereItWasPlaced) {
+    click(ChartButton::left, {1000, 1500});
+    const GeoPosition placed = place();
+    start(120, 180);
+    tick(minute);
+    EXPECT_NEAR(milesBetween(placed, place()), 2, 0.001);
+}
+
+TEST_F(ChartMouseTest, NothingHappensRunningOrWithTheHeadingUp) {
+    const auto expectNothing = [&] {
+        const GeoPosition before = place();
+        const double heading = sim.aircraft.trueHeading;
+        for (const ChartButton button :
+             {ChartButton::left, ChartButton::right, ChartButton::other}) {
+            sim.mouse.down(button, {1000, 1000});
+            sim.mouse.move({1500, 1000});
+            EXPECT_FALSE(sim.mouse.headingTool());
+            sim.mouse.up();
+        }
+        EXPECT_EQ(place(), before);
+        EXPECT_EQ(sim.aircraft.trueHeading, heading);
+        EXPECT_FALSE(sim.picture.help.visible);
+    };
+    start(120, 45);
+    expectNothing();
+    sim.c_TimerEN = 0;
+    sim.c_MAPnorthUP = 0;
+    expectNothing();
+    sim.c_MAPnorthUP = 1;
+    click(ChartButton::other, {1000, 1000});
+    EXPECT_EQ(place(), (GeoPosition{49, 11}));
+}
+
+TEST_F(ChartMouseTest, DragEndsWhenTheClockStarts) {
+    sim.mouse.down(ChartButton::left, {1000, 1000});
+    const GeoPosition placed = place();
+    sim.c_TimerEN = 1;
+    sim.mouse.move({5000, 5000});
+    sim.c_TimerEN = 0;
+    sim.mouse.move({5000, 5000});
+    EXPECT_EQ(place(), placed);
+}
+
+TEST_F(ChartMouseTest, HeadingToolDrawsWholeDegrees) {
+    struct Case {
+        Point at;
+        std::int16_t heading;
+        const char* caption;
+    };
+    constexpr Case cases[] = {{{3405, 1000}, 0, "000°"},
+                              {{5405, 3405}, 90, "090°"},
+                              {{4405, 4412}, 135, "135°"},
+                              {{3401, 2405}, 0, "000°"}, // 359.8
+                              {{1405, 3405}, 270, "270°"}};
+    std::vector<std::int16_t> drawn;
+    sim.mouse.headingDrawn = [&](std::int16_t heading) { drawn.push_back(heading); };
+    sim.mouse.down(ChartButton::right, {3405, 3405}); // on the aircraft: no direction
+    EXPECT_TRUE(sim.mouse.headingTool());
+    EXPECT_TRUE(sim.picture.help.visible);
+    EXPECT_TRUE(drawn.empty());
+    for (const Case& c : cases) {
+        sim.mouse.move(c.at);
+        EXPECT_EQ(sim.c_HDG, c.heading);
+        EXPECT_EQ(sim.aircraft.trueHeading, c.heading);
+        ASSERT_FALSE(drawn.empty());
+        EXPECT_EQ(drawn.back(), c.heading);
+        EXPECT_EQ(sim.picture.heading.value.caption, c.caption);
+        EXPECT_EQ(sim.picture.heading.line.to, c.at);
+        EXPECT_TRUE(sim.picture.heading.line.visible);
+    }
+    EXPECT_EQ(place(), (GeoPosition{49, 11}));
+    sim.mouse.up();
+    EXPECT_FALSE(sim.picture.heading.line.visible);
+    EXPECT_FALSE(sim.picture.help.visible);
+}
+
+TEST_F(ChartMouseTest, TwoRightClicksLeaveTheDefaultTool) {
+    click(ChartButton::right, {3405, 3405});
+    click(ChartButton::right, {3405, 3405});
+    EXPECT_FALSE(sim.mouse.headingTool());
+    EXPECT_FALSE(sim.picture.help.visible);
+    click(ChartButton::left, {1000, 1000});
+    EXPECT_NE(place(), (GeoPosition{49, 11}));
+}
+
+} // namespace
+} // namespace tarnel

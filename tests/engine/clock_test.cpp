@@ -1,0 +1,165 @@
+#include "engine/simulation_fixture.h"
+
+namespace tarnel {
+namespace {
+
+class ClockTest : public SimulationTest {};
+
+TEST_F(ClockTest, FlightTimeRunsOnlyInFlight) {
+    start(0);
+    sim.c_Timer_on_off = 1;
+    tick(minute + 3);
+    EXPECT_EQ(sim.c_ApMinutes, 1);
+    EXPECT_EQ(sim.c_ApSeconds, 1);
+    EXPECT_EQ(sim.c_ApMinutes2, 0);
+    sim.c_Timer_on_off = 0;
+    sim.c_TAS = 90;
+    tick(2 * minute + 5); // 120 seconds and 5/3
+    EXPECT_EQ(sim.c_ApMinutes, 1);
+    EXPECT_EQ(sim.c_ApMinutes2, 2);
+    EXPECT_EQ(sim.c_ApSeconds2, 1);
+}
+
+TEST_F(ClockTest, StopwatchResetWaitsForTheTickUnlessPaused) {
+    start(0);
+    sim.c_Timer_on_off = 1;
+    tick(30);
+    sim.c_ResetTimer = 0;
+    EXPECT_EQ(sim.c_ApSeconds, 10);
+    tick(3);
+    EXPECT_EQ(sim.c_ApSeconds, 1); // cleared, then counted on
+    EXPECT_EQ(sim.c_ResetTimer, 1);
+    sim.c_TimerEN = 0;
+    sim.c_ResetTimer = 0;
+    EXPECT_EQ(sim.c_ApSeconds, 0);
+    EXPECT_EQ(sim.c_ResetTimer, 1);
+}
+
+class RecorderTest : public SimulationTest {};
+
+TEST_F(RecorderTest, FreshStartRecordsFromSampleOne) {
+    start(120);
+    tick(11);
+    EXPECT_EQ(sim.c_TraceBufferMax, 4); // on from sample 1, at ticks 3, 7 and 11
+    sim.c_TimerEN = 0;
+    sim.c_Timer_on_off = 1;
+    sim.markFreshStart();
+    sim.c_TimerEN = 1;
+    EXPECT_EQ(sim.clock.flightSeconds, 0);
+    tick(4); // ticks 12 to 15
+    EXPECT_EQ(sim.c_TraceBufferMax, 1);
+    EXPECT_EQ(sim.recording.at(1).traceStopSeconds, 1);
+    EXPECT_EQ(sim.recording.at(2).traceTAS, 0); // what stood there is gone
+    sim.c_TimerEN = 0;
+    sim.c_TimerEN = 1; // only the first start clears
+    tick(4);
+    EXPECT_EQ(sim.c_TraceBufferMax, 2);
+}
+
+TEST_F(RecorderTest, ParkedAircraftOverwritesItsSample) {
+    start(120);
+    tick(11);
+    sim.c_TAS = 0;
+    const auto index = sim.c_TraceBufferMax.get();
+    sim.turnAircraft(77);
+    tick(8);
+    EXPECT_EQ(sim.c_TraceBufferMax, index);
+    EXPECT_EQ(sim.recording.at(index).traceHeading, 77);
+}
+
+TEST_F(RecorderTest, SampleHoldsTheWholeState) {
+    sim.wind = {222.5, 17};
+    sim.c_LocCrs1 = 83;
+    sim.c_obsI2 = 11;
+    sim.c_obsI3 = 250;
+    const std::pair<const char*, int> set[] = {{"c_inst2", 2},
+                                               {"c_inst3", 4},
+                                               {"c_Inst2NAVselect", 2},
+                                               {"c_Inst3NAVselect", 1},
+                                               {"c_NAV1freq", 2},
+                                               {"c_NAV2freq", 1},
+                                               {"c_Inst2_ADFCardselect", 2},
+                                               {"c_ADFfreq", 1},
+                                               {"c_DMEfreq", 2},
+                                               {"c_APhdg", 301},
+                                               {"c_APtas", 140},
+                                               {"c_APalt", 5500},
+                                               {"c_HDGbug", 302},
+                                               {"Turn_Rate", -1}};
+    for (const auto& [name, value] : set)
+        ASSERT_TRUE(sim.properties.find(name)->setText(std::to_string(value))) << name;
+    sim.c_Timer_on_off = 1;
+    start(140, 300);
+    tick(3);
+    const Sample& sample = sim.recording.at(sim.recording.sampleIndex());
+    EXPECT_NEAR(sample.traceHeading, 299, 0.001);
+    EXPECT_LT(milesBetween({sample.traceLat, sample.traceLon}, place()), 0.06);
+    EXPECT_EQ(sample.traceFlightSeconds, static_cast<int>(sim.clock.flightSeconds));
+    EXPECT_EQ(sample.traceTAS, 140);
+    EXPECT_EQ(sample.traceTurnRate, -1);
+    EXPECT_EQ(sample.traceStations[4], toPlain(sim.stations[4].position));
+    EXPECT_EQ(sample.traceLocCourse, 83);
+    EXPECT_EQ(sample.traceWindDirection, 222); // a tie
+    EXPECT_EQ(sample.traceWindSpeed, 17);
+    EXPECT_EQ(sample.traceObsI2, 11);
+    EXPECT_EQ(sample.traceObsI3, 250);
+    EXPECT_EQ(sample.traceInst2, 2);
+    EXPECT_EQ(sample.traceInst3, 4);
+    EXPECT_EQ(sample.traceInst2NAVselect, 2);
+    EXPECT_EQ(sample.traceInst3NAVselect, 1);
+    EXPECT_EQ(sample.traceInst2ADFCard, 2);
+    EXPECT_EQ(sample.traceInst3ADFCard, 1);
+    EXPECT_EQ(sample.traceNAV1freq, 2);
+    EXPECT_EQ(sample.traceNAV2freq, 1);
+    EXPECT_EQ(sample.traceADFfreq, 1);
+    EXPECT_EQ(sample.traceDMEfreq, 2);
+    EXPECT_EQ(sample.traceAPhdg, 301);
+    EXPECT_EQ(sample.traceAPtas, 140);
+    EXPECT_EQ(sample.traceAPalt, 5500);
+    EXPECT_EQ(sample.traceHDGbug, 302);
+}
+
+TEST_F(RecorderTest, CoursesAreRecordedTrueWithTheHeadingUp) {
+    start(120, 300);
+    sim.c_MAPnorthUP = 0;
+    sim.c_obsI2 = 100;
+    sim.c_obsI3 = -280;
+    tick(3);
+    const Sample& sample = sim.recording.at(sim.recording.sampleIndex());
+    EXPECT_EQ(sample.traceObsI2, 400); // not wrapped
+    EXPECT_EQ(sample.traceObsI3, 20);
+}
+
+TEST_F(RecorderTest, FullBufferWarnsAndStartsOver) {
+    messages.sampleIndex = [this] { return sim.recording.sampleIndex(); };
+    start(120);
+    sim.Turn_Rate = 3; // stay on the chart
+    int ticks = 0;
+    while (messages.warnings.size() < 2 && ticks < 30000) {
+        tick(1);
+        ++ticks;
+    }
+    const std::vector<std::pair<int, BufferWarning>> expected = {{5900, BufferWarning::almostFull},
+                                                                 {1, BufferWarning::full}};
+    EXPECT_EQ(messages.warnings, expected);
+    EXPECT_EQ(ticks, 3 + 4 * (5980 - 2));
+    EXPECT_EQ(sim.c_TraceBufferMax, 1);
+    EXPECT_EQ(sim.clock.flightHours + sim.clock.flightMinutes, 0);
+    EXPECT_EQ(sim.recording.at(5979).traceTAS, 120);
+}
+
+TEST_F(RecorderTest, TraceIsDrawnOnlyWhenOn) {
+    start(120, 45);
+    tick(200);
+    EXPECT_TRUE(sim.picture.trace.all().empty());
+    sim.c_TraceEN = 1;
+    tick(40);
+    EXPECT_EQ(sim.picture.trace.all().size(), 8U); // 61 samples, one in 8
+    sim.c_TraceEN = 2;
+    EXPECT_TRUE(sim.picture.trace.all().empty());
+    tick(40);
+    EXPECT_TRUE(sim.picture.trace.all().empty());
+}
+
+} // namespace
+} // namespace tarnel

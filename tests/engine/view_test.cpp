@@ -1,0 +1,140 @@
+#include "engine/simulation_fixture.h"
+
+namespace tarnel {
+namespace {
+
+class ViewTest : public SimulationTest {
+  protected:
+    void expectHeadingUp() {
+        EXPECT_EQ(sim.aircraft.place.wide, (Point{3405, 3405}));
+        EXPECT_LT(worstRadial(sim.aircraft.trueHeading), 0.4);
+        EXPECT_NEAR(station(Slot::localizer).radial, trueRadial(Slot::localizer), 0.001);
+        // The airplane points up.
+        const Line& fuselage = sim.picture.airplane.fuselage;
+        EXPECT_EQ(fuselage.from, (Point{3405, 3305}));
+        EXPECT_EQ(fuselage.to, (Point{3405, 3591}));
+    }
+};
+
+TEST_F(ViewTest, HeadingUpKeepsTheAircraftOnTheReferencePoint) {
+    start(120, 73);
+    tick(minute);
+    sim.c_TimerEN = 0;
+    sim.c_MAPnorthUP = 0;
+    expectHeadingUp();
+    sim.turnAircraft(300);
+    expectHeadingUp();
+    sim.c_MAPscale = 500;
+    sim.c_MAPCenterSelect = 3;
+    sim.MapScale();
+    expectHeadingUp();
+    sim.c_TimerEN = 1;
+    sim.Turn_Rate = 2;
+    for (int i = 0; i < minute; ++i) {
+        tick(1);
+        expectHeadingUp();
+    }
+}
+
+TEST_F(ViewTest, WindTurnsWithTheChart) {
+    sim.wind = {270, 60};
+    start(120, 90); // tail wind
+    for (const auto& [northUp, track] : {std::pair{1, 90}, {0, 360}}) {
+        ASSERT_TRUE(sim.properties.find("c_MAPnorthUP")->setText(std::to_string(northUp)));
+        tick(1);
+        EXPECT_EQ(sim.speedVectors.groundTrack, track);
+        EXPECT_EQ(sim.speedVectors.groundSpeed, 180);
+    }
+    EXPECT_NEAR(place().latitude, 49, 0.000001); // the flight itself goes on eastwards
+}
+
+TEST_F(ViewTest, BackToNorthUpRadialsAreTrueAtOnce) {
+    start(120, 73);
+    tick(minute);
+    sim.c_TimerEN = 0;
+    sim.c_MAPnorthUP = 0;
+    sim.c_MAPnorthUP = 1;
+    EXPECT_LT(worstRadial(0), 0.3);
+    EXPECT_EQ(sim.aircraft.place.point, (ChartPoint{3405, 3405}));
+    EXPECT_NEAR(sim.picture.airplane.fuselage.from.x, 3405 + 95.6, 1);
+}
+
+TEST_F(ViewTest, NorthUpAircraftMovesOverAFixedChart) {
+    start(120);
+    sim.SimStep();
+    const Point before = inSlot(sim.stations, Slot::vor1).place.wide;
+    tick(minute);
+    EXPECT_EQ(inSlot(sim.stations, Slot::vor1).place.wide, before);
+    EXPECT_NEAR(sim.aircraft.place.wide.y, 3405 - 500, 5);
+}
+
+TEST_F(ViewTest, ScaleKeepsRadialsAndCentresAsSelected) {
+    start(120, 45);
+    tick(minute);
+    sim.c_MAPCenterSelect = 4;
+    for (const std::int16_t scale : MapView::offeredScales) {
+        sim.c_MAPscale = scale;
+        EXPECT_EQ(inSlot(sim.stations, Slot::ndb1).place.point, (ChartPoint{3405, 3405})) << scale;
+        EXPECT_LT(worstRadial(0), 0.6) << scale;
+    }
+    EXPECT_EQ(sim.picture.milesPer500Twips, 0.5);
+    const GeoPosition ndb1 = toPlain(inSlot(sim.stations, Slot::ndb1).position);
+    sim.c_MAPCenterSelect = 0;
+    sim.c_MAPscale = 250;
+    EXPECT_EQ(toPlain(sim.view.mapCenter), ndb1);
+    sim.c_MAPCenterSelect = 1;
+    sim.MapScale();
+    EXPECT_EQ(sim.aircraft.place.point, (ChartPoint{3405, 3405}));
+}
+
+TEST_F(ViewTest, CentreTwipsSizeTheChartAboutTheAircraft) {
+    start(120, 45);
+    tick(minute);
+    sim.c_CenterTwips = 5000.5; // a tie
+    EXPECT_EQ(sim.picture.size, 10001);
+    EXPECT_EQ(sim.aircraft.place.point, (ChartPoint{5000, 5000}));
+    EXPECT_EQ(sim.view.mapCenter, toSplit(place()));
+    EXPECT_LT(worstRadial(0), 0.4);
+}
+
+TEST_F(ViewTest, StationPicturesFollowTheirEnables) {
+    struct Case {
+        std::int16_t enabled;
+        std::int16_t dmeEnabled;
+        SymbolImage image;
+    };
+    constexpr Case cases[] = {{on, off, SymbolImage::stationOnly},
+                              {off, on, SymbolImage::dmeOnly},
+                              {off, off, SymbolImage::none},
+                              {on, on, SymbolImage::stationAndDme}};
+    for (const Slot which : {Slot::vor1, Slot::vor2, Slot::localizer}) {
+        for (const Case& c : cases) {
+            sim.slot(which).enabled = c.enabled;
+            sim.slot(which).dmeEnabled = c.dmeEnabled;
+            EXPECT_EQ(inSlot(sim.picture.symbols, which).image, c.image);
+            if (which == Slot::localizer) {
+                EXPECT_EQ(sim.picture.localizer.centre.visible, c.enabled == on);
+                EXPECT_EQ(sim.picture.localizer.rightClosing.visible, c.enabled == on);
+                EXPECT_EQ(inSlot(sim.picture.symbols, which).name.visible, c.enabled == on);
+            }
+        }
+    }
+    sim.slot(Slot::ndb2).enabled = off;
+    EXPECT_FALSE(inSlot(sim.picture.symbols, Slot::ndb2).visible);
+    sim.slot(Slot::ndb2).enabled = on;
+    EXPECT_TRUE(inSlot(sim.picture.symbols, Slot::ndb2).visible);
+}
+
+TEST_F(ViewTest, RadialLinesGoWhenTheyAreSwitchedOff) {
+    sim.c_NAVRadI2 = 1;
+    EXPECT_TRUE(sim.picture.radialsI2.course.visible);
+    sim.c_NAVRadBorder = on;
+    EXPECT_TRUE(sim.picture.radialsI2.borderLeft.visible);
+    sim.c_NAVRadCenter = off;
+    EXPECT_FALSE(sim.picture.radialsI2.course.visible);
+    sim.c_NAVRadI2 = 0;
+    EXPECT_FALSE(sim.picture.radialsI2.borderLeft.visible);
+}
+
+} // namespace
+} // namespace tarnel

@@ -1,0 +1,189 @@
+#include "core/recording.h"
+#include "flights/plan_error.h"
+#include "flights/plan_reader.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace tarnel {
+namespace {
+
+using testing::HasSubstr;
+
+PlanError errorOf(const std::string& text) {
+    try {
+        (void)readPlan(text, "wrong.toml");
+    } catch (const PlanError& error) {
+        return error;
+    }
+    ADD_FAILURE() << "no error in\n" << text;
+    return {"", -1, ""};
+}
+
+TEST(PlanReader, TakesEveryKey) {
+    const FlightPlan plan = readPlan(R"(
+chart = "maps/alps.map"
+seconds = 600
+north_up = false
+[aircraft]
+latitude = 48
+longitude = -11.5
+heading = 360
+tas = 0
+[wind]
+direction = 240
+speed = 20
+[radios]
+nav1 = 0
+nav2 = 1
+adf = 1
+dme = 2
+[inst2]
+type = "HSI"
+nav = 2
+adf_card = 1
+obs = 90
+[inst3]
+type = "DG"
+[[event]]
+at = 600
+comment_end = true
+[[event]]
+at = 59.5
+heading = 180
+tas = 50
+obs2 = 120
+obs3 = 30
+nav1 = 2
+nav2 = 0
+adf = 0
+dme = 1
+wind = "270/15"
+comment = "Größe, #2"
+)",
+                                     "flights/plan.toml");
+    EXPECT_EQ(plan.chart, "flights/maps/alps.map");
+    EXPECT_EQ(plan.chartLine, 2);
+    EXPECT_EQ(plan.seconds, 600);
+    EXPECT_FALSE(plan.northUp);
+    EXPECT_EQ(plan.position, (GeoPosition{48, -11.5}));
+    EXPECT_EQ(plan.start.heading, 360);
+    EXPECT_EQ(plan.start.tas, 0);
+    EXPECT_EQ(plan.start.wind->direction, 240);
+    EXPECT_EQ(plan.start.wind->speed, 20);
+    EXPECT_EQ(plan.start.nav2, 1);
+    EXPECT_EQ(plan.start.dme, 2);
+    EXPECT_EQ(plan.start.obs2, 90);
+    EXPECT_EQ(plan.inst2.type, 4);
+    EXPECT_EQ(plan.inst2.receiver, 2);
+    EXPECT_EQ(plan.inst2.adfCard, 1);
+    EXPECT_EQ(plan.inst3.type, 5);
+    ASSERT_EQ(plan.events.size(), 2U); // in the order of their time
+    EXPECT_EQ(plan.events[0].at, 59.5);
+    EXPECT_EQ(plan.events[0].settings.obs3, 30);
+    EXPECT_EQ(plan.events[0].settings.wind->direction, 270);
+    EXPECT_EQ(plan.events[0].settings.wind->speed, 15);
+    EXPECT_EQ(plan.events[0].settings.comment, "Größe, #2");
+    EXPECT_TRUE(plan.events[1].settings.commentEnds);
+}
+
+TEST(PlanReader, AsksForSecondsAlone) {
+    const FlightPlan plan = readPlan("seconds = 0.5", "short.toml");
+    EXPECT_EQ(plan.seconds, 0.5);
+    EXPECT_TRUE(plan.northUp);
+    EXPECT_FALSE(plan.chart);
+    EXPECT_FALSE(plan.position);
+    EXPECT_FALSE(plan.start.heading);
+    EXPECT_FALSE(plan.inst2.type);
+}
+
+TEST(PlanReader, NamesTheLineAndWhatWasExpected) {
+    struct Case {
+        const char* text;
+        int line;
+        const char* expected;
+    };
+    constexpr Case cases[] = {
+        {"", 1, "'seconds' as well"},
+        {"seconds = 60\nseconds = 70", 2, "valid TOML"},
+        {"seconds = 60\n[wind", 2, "valid TOML"},
+        {"seconds = 24000.1", 1, "'seconds' as a number from 0 to 24000"},
+        {"seconds = nan", 1, "'seconds' as a number"},
+        {"seconds = true", 1, "'seconds' as a number"},
+        {"seconds = 9\nnorth_up = 1", 2, "'north_up' as true or false"},
+        {"seconds = 9\nchart = 5", 2, "'chart' as a path"},
+        {"seconds = 9\nspeed = 5", 2, "one of chart, seconds, north_up"},
+        {"secnds = 9\n[[event]]\nat = 5", 1, "not 'secnds'"},
+        {"seconds = 9\naircraft = 5", 2, "[aircraft]"},
+        {"seconds = 9\n[aircraft]\nlatitude = -70.5\nlongitude = 1", 3, "from -70 to 70"},
+        {"seconds = 9\n[aircraft]\nlatitude = 1\nlongitude = 181", 4, "from -180 to 180"},
+        {"seconds = 9\n[aircraft]\nlatitude = 48", 2, "'longitude' as well"},
+        {"seconds = 9\n[aircraft]\n\nheading = 361", 4, "whole number from 0 to 360"},
+        {"seconds = 9\n[aircraft]\nheading = 90.0", 3, "'heading' as a whole number"},
+        {"seconds = 9\n[aircraft]\ntas = 49", 3, "0, or 50 to 360"},
+        {"seconds = 9\n[aircraft]\ntas = 361", 3, "0, or 50 to 360"},
+        {"seconds = 9\n[aircraft]\nscale = 2", 3, "not 'scale'"},
+        {"seconds = 9\n[wind]\nspeed = 10", 2, "'direction' as well"},
+        {"seconds = 9\n[wind]\ndirection = 0\nspeed = 101", 4, "from 0 to 100"},
+        {"seconds = 9\n[radios]\nnav1 = 3", 3, "from 0 to 2"},
+        {"seconds = 9\n[radios]\nadf = 2", 3, "from 0 to 1"},
+        {"seconds = 9\n[inst2]\ntype = \"hsi\"", 3, "\"HSI\""},
+        {"seconds = 9\n[inst2]\nnav = 0", 3, "from 1 to 2"},
+        {"seconds = 9\n[inst3]\nadf_card = 3", 3, "from 1 to 2"},
+        {"seconds = 9\n[inst3]\nobs = -1", 3, "from 0 to 360"},
+        {"seconds = 9\n[event]\nat = 5", 2, "[[event]]"},
+        {"seconds = 9\nevent = [5]", 2, "[[event]]"},
+        {"seconds = 9\n[[event]]\nheading = 5", 2, "'at' as well"},
+        {"seconds = 9\n[[event]]\nat = 9.5", 3, "from 0 to 9"},
+        {"seconds = 9\n[[event]]\nat = 1\n[[event]]\nat = 2\nobs = 5", 6, "not 'obs'"},
+        {"seconds = 9\n[[event]]\nat = 1\nwind = \"270\"", 4, "such as \"270/15\""},
+        {"seconds = 9\n[[event]]\nat = 1\nwind = \"270/15kt\"", 4, "such as \"270/15\""},
+        {"seconds = 9\n[[event]]\nat = 1\nwind = \"361/15\"", 4, "0 to 360"},
+        {"seconds = 9\n[[event]]\nat = 1\nwind = \"270/101\"", 4, "0 to 100"},
+        {"seconds = 9\n[[event]]\nat = 1\ncomment = \"\"", 4, "one line of text"},
+        {"seconds = 9\n[[event]]\nat = 1\ncomment = \"two\\nlines\"", 4, "one line of text"},
+        {"seconds = 9\n[[event]]\nat = 1\ncomment = \"a\"\ncomment_end = true", 2, "either"},
+    };
+    for (const Case& c : cases) {
+        const PlanError error = errorOf(c.text);
+        EXPECT_EQ(error.line(), c.line) << c.text;
+        EXPECT_THAT(error.expected(), HasSubstr(c.expected)) << c.text;
+    }
+    EXPECT_STREQ(errorOf("seconds = 1\nchart = 5").what(),
+                 "wrong.toml:2: expected 'chart' as a path");
+}
+
+TEST(PlanReader, SaysThatAFileCannotBeRead) {
+    try {
+        (void)readPlanFile("no/such.toml");
+        ADD_FAILURE() << "read";
+    } catch (const PlanError& error) {
+        EXPECT_EQ(error.line(), 0);
+        EXPECT_THAT(error.what(), testing::StartsWith("no/such.toml: expected a plan"));
+    }
+}
+
+TEST(PlanReader, CountsCommentsAndTheirCharacters) {
+    const auto planWith = [](std::size_t comments, const std::string& text) {
+        std::string plan = "seconds = 9\n";
+        for (std::size_t i = 0; i < comments; ++i)
+            plan += "[[event]]\nat = 1\ncomment = \"" + text + "\"\n";
+        return plan;
+    };
+    EXPECT_EQ(readPlan(planWith(Recording::mostComments, "a"), "").events.size(),
+              Recording::mostComments);
+    const PlanError full = errorOf(planWith(Recording::mostComments + 1, "a"));
+    EXPECT_EQ(full.line(), 2 + 3 * 101);
+    EXPECT_THAT(full.expected(), HasSubstr("at most 101 comments"));
+
+    std::string umlauts;
+    for (std::size_t i = 0; i < plan_limits::commentLength; ++i)
+        umlauts += "ü";
+    EXPECT_EQ(readPlan(planWith(1, umlauts), "").events[0].settings.comment, umlauts);
+    EXPECT_EQ(errorOf(planWith(1, umlauts + "ü")).line(), 4);
+}
+
+} // namespace
+} // namespace tarnel

@@ -1,0 +1,241 @@
+#include "persistence/chart_file.h"
+#include "support/sample_chart.h"
+
+#include <gtest/gtest.h>
+#include <rapidcheck.h>
+#include <rapidcheck/gtest.h>
+
+#include <iterator>
+
+namespace tarnel {
+namespace {
+
+constexpr std::size_t lineCount = 31;
+
+TEST(ChartReader, ReadsAGoodFileByteForByte) {
+    const ChartFile chart = readChart(":v1id:,ALB@u\r\n:v1fr:,112.30\r\n:v2id:,BRK@r\r\n"
+                                      ":v2fr:,108.40\r\n:n1id:,CA@l\r\n:n1fr:,338\r\n"
+                                      ":n2id:,DU@d\r\n:n2fr:,369\r\n:loid:,ILS EAST\r\n"
+                                      ":lofr:,108.70\r\n:n1:,2\r\n:n2:,5\r\n:n3:,1\r\n:n4:,2\r\n"
+                                      ":n1:,4\r\n:mc:,1\r\n:ms:,1.5\r\n48.25\r\n11.5\r\n0\r\n"
+                                      "11.75\r\n48.5\r\n10.5\r\n48.125\r\n-0.5\r\n47.75\r\n"
+                                      "151.25\r\n-33.5\r\n11.6\r\n48.35\r\n83\r\n");
+    EXPECT_FALSE(chart.problem);
+
+    struct Expected {
+        const char* identifier;
+        const char* frequency;
+        int labelX;
+        int labelY;
+        StationState state; // station, DME, button
+        GeoPosition position;
+    };
+    const Expected expected[slotCount] = {
+        {"ALB", "112.30", -200, -555, {true, true, true}, {48.5, 11.75}},
+        {"BRK", "108.40", 200, -190, {false, true, false}, {48.125, 10.5}},
+        {"CA", "338", -700, -190, {true, false, true}, {47.75, -0.5}},
+        {"DU", "369", -200, 135, {true, false, false}, {-33.5, 151.25}},
+        {"ILS EAST", "108.70", -200, -555, {true, false, true}, {48.35, 11.6}},
+    };
+    for (std::size_t slot = 0; slot < slotCount; ++slot) {
+        const ChartStation& station = chart.stations[slot];
+        EXPECT_EQ(station.identifier, expected[slot].identifier);
+        EXPECT_EQ(station.frequency, expected[slot].frequency);
+        EXPECT_EQ(station.labelOffsetX, expected[slot].labelX) << slot;
+        EXPECT_EQ(station.labelOffsetY, expected[slot].labelY) << slot;
+        EXPECT_EQ(station.state, expected[slot].state) << slot;
+        EXPECT_EQ(station.position, expected[slot].position) << slot;
+    }
+    EXPECT_EQ(chart.mapCenterSelect, 1);
+    EXPECT_EQ(chart.mapScaleTwips, 333);
+    EXPECT_EQ(chart.aircraft, (GeoPosition{48.25, 11.5}));
+    EXPECT_EQ(chart.heading, 0);
+    EXPECT_EQ(chart.locCourse, 83);
+}
+
+TEST(ChartReader, LineEndsMakeNoDifference) {
+    const auto lines = sampleChartLines();
+    std::string text = joinLines(lines, lines.size(), "\n");
+    text.pop_back(); // and the last line may lack its own
+    const ChartFile chart = readChart(text);
+    EXPECT_FALSE(chart.problem);
+    EXPECT_EQ(chart.stations[0].frequency, "112.30");
+    EXPECT_EQ(chart.locCourse, 83);
+}
+
+TEST(ChartReader, KnowsEveryStateCode) {
+    constexpr StationState vorStates[] = {
+        {false, false, false}, {true, true, false},  {true, true, true},  {true, false, false},
+        {true, false, true},   {false, true, false}, {false, true, true},
+    };
+    constexpr StationState ndbStates[] = {
+        {false, false, false}, {true, false, true}, {true, false, false}};
+    for (std::size_t code = 0; code < std::size(vorStates); ++code)
+        EXPECT_EQ(readChart(chartWith(11, ":n1:," + std::to_string(code))).stations[0].state,
+                  vorStates[code])
+            << code;
+    for (std::size_t code = 0; code < std::size(ndbStates); ++code)
+        EXPECT_EQ(readChart(chartWith(13, ":n3:," + std::to_string(code))).stations[2].state,
+                  ndbStates[code])
+            << code;
+}
+
+TEST(ChartReader, TakesScalesFromHalfToFour) {
+    struct Case {
+        const char* text;
+        std::optional<std::int16_t> twips;
+    };
+    const Case cases[] = {{"0.5", std::int16_t{1000}},
+                          {"4", std::int16_t{125}},
+                          {"3", std::int16_t{167}},
+                          {".8", std::int16_t{625}},
+                          {"0.4", {}},
+                          {"4.1", {}},
+                          {"-2", {}},
+                          {"0", {}}};
+    for (const Case& c : cases) {
+        const ChartFile chart = readChart(chartWith(17, std::string(":ms:,") + c.text));
+        EXPECT_EQ(chart.mapScaleTwips, c.twips) << c.text;
+        EXPECT_FALSE(chart.problem) << c.text;
+        EXPECT_EQ(chart.locCourse, 83) << c.text;
+    }
+}
+
+TEST(ChartReader, GoesByPositionAndNotByTag) {
+    auto lines = sampleChartLines();
+    for (std::size_t i = 1; i < 16; ++i)
+        lines[i].replace(0, 3, "zzz");
+    lines.erase(lines.begin() + 16); // no scale: the next line is the latitude
+    const ChartFile chart = readChart(joinLines(lines, lines.size()));
+    EXPECT_FALSE(chart.problem);
+    EXPECT_EQ(chart.stations[4].identifier, "ILS EAST");
+    EXPECT_FALSE(chart.mapScaleTwips);
+    EXPECT_EQ(chart.aircraft, (GeoPosition{48.25, 11.5}));
+}
+
+TEST(ChartReader, StationBlockMayBeMissing) {
+    auto lines = sampleChartLines();
+    lines.erase(lines.begin(), lines.begin() + 10);
+    const ChartFile chart = readChart(joinLines(lines, lines.size()));
+    EXPECT_FALSE(chart.problem);
+    EXPECT_FALSE(chart.stations[0].identifier);
+    EXPECT_FALSE(chart.stations[4].frequency);
+    EXPECT_EQ(chart.stations[1].state, (StationState{false, true, false}));
+    EXPECT_EQ(chart.locCourse, 83);
+}
+
+TEST(ChartReader, LabelCodesThatMeanNothingStandAbove) {
+    for (const char* line : {":v2id:,BRK@x", ":v2id:,BRK@", ":v2id:,BRK"}) {
+        const ChartStation station = readChart(chartWith(3, line)).stations[1];
+        EXPECT_EQ(station.identifier, "BRK") << line;
+        EXPECT_EQ(station.labelOffsetX, -200) << line;
+        EXPECT_EQ(station.labelOffsetY, -555) << line;
+    }
+    EXPECT_EQ(readChart(chartWith(3, ":v2id:,")).stations[1].identifier, "");
+}
+
+TEST(ChartReader, EmptyFileIsAnEmptyChart) {
+    const ChartFile chart = readChart("");
+    EXPECT_FALSE(chart.problem);
+    EXPECT_FALSE(chart.aircraft);
+    EXPECT_FALSE(chart.stations[0].state);
+}
+
+TEST(ChartReader, NamesTheLineWhereAFileIsTruncated) {
+    constexpr auto id = ChartField::identifier;
+    constexpr auto freq = ChartField::frequency;
+    constexpr auto lat = ChartField::latitude;
+    constexpr auto lon = ChartField::longitude;
+    // What line 17 holds is told by its tag, so without it the latitude is missed.
+    constexpr ChartField missed[lineCount] = {
+        id,
+        freq,
+        id,
+        freq,
+        id,
+        freq,
+        id,
+        freq,
+        id,
+        freq,
+        ChartField::stationState,
+        ChartField::stationState,
+        ChartField::ndbState,
+        ChartField::ndbState,
+        ChartField::stationState,
+        ChartField::mapCentre,
+        lat,
+        lat,
+        lon,
+        ChartField::heading,
+        lon,
+        lat,
+        lon,
+        lat,
+        lon,
+        lat,
+        lon,
+        lat,
+        lon,
+        lat,
+        ChartField::localizerCourse,
+    };
+    const auto lines = sampleChartLines();
+    for (std::size_t kept = 1; kept < lineCount; ++kept) {
+        const ChartFile chart = readChart(joinLines(lines, kept));
+        const ChartProblem expected{static_cast<int>(kept) + 1, missed[kept], true};
+        EXPECT_EQ(chart.problem, expected) << kept;
+        EXPECT_EQ(chart.stations[0].identifier, "ALB");
+        EXPECT_EQ(chart.aircraft.has_value(), kept >= 19) << kept;
+        EXPECT_EQ(chart.stations[4].position.has_value(), kept >= 30) << kept;
+    }
+}
+
+TEST(ChartReader, NamesTheLineThatIsWrong) {
+    struct Case {
+        std::size_t line;
+        const char* text;
+        ChartField expected;
+    };
+    constexpr Case cases[] = {
+        {2, ":v1fr", ChartField::frequency},        {3, "", ChartField::identifier},
+        {11, ":n1:,7", ChartField::stationState},   {12, ":n2:,-1", ChartField::stationState},
+        {15, ":n1:,1.5", ChartField::stationState}, {15, ":n1:,", ChartField::stationState},
+        {13, ":n3:,3", ChartField::ndbState},       {14, "n4", ChartField::ndbState},
+        {16, ":mc:,32768", ChartField::mapCentre},  {16, ":mc:,one", ChartField::mapCentre},
+        {17, ":ms:,wide", ChartField::mapScale},    {18, "90", ChartField::latitude},
+        {18, "48,25", ChartField::latitude},        {19, "180.1", ChartField::longitude},
+        {19, "nan", ChartField::longitude},         {20, "east", ChartField::heading},
+        {20, "-361", ChartField::heading},          {21, "1e999", ChartField::longitude},
+        {22, "-89.5", ChartField::latitude},        {31, "", ChartField::localizerCourse},
+    };
+    for (const Case& c : cases) {
+        const ChartFile chart = readChart(chartWith(c.line, c.text));
+        const ChartProblem expected{static_cast<int>(c.line), c.expected, false};
+        EXPECT_EQ(chart.problem, expected) << c.line << ' ' << c.text;
+    }
+}
+
+TEST(ChartReader, EncipheredFileIsRefused) {
+    const ChartFile chart = readChart(std::string(54, '*') + "\r\nmore\r\n");
+    EXPECT_EQ(chart.problem, (ChartProblem{1, ChartField::plainText, false}));
+    EXPECT_FALSE(chart.stations[0].identifier);
+}
+
+RC_GTEST_PROP(ChartReader, ChangedBytesNeverGiveAChartThatCannotBeFlown, ()) {
+    const auto lines = sampleChartLines();
+    std::string text = joinLines(lines, lines.size());
+    const int changes = *rc::gen::inRange(1, 12);
+    for (int i = 0; i < changes; ++i)
+        text[*rc::gen::inRange<std::size_t>(0, text.size())] =
+            *rc::gen::element('\0', '\n', '\r', '@', ':', '-', '9', '.', 'e', '"', '\xff');
+    const ChartFile chart = readChart(text);
+    if (chart.aircraft)
+        RC_ASSERT(std::abs(chart.aircraft->latitude) <= 89);
+    if (chart.mapScaleTwips)
+        RC_ASSERT(*chart.mapScaleTwips >= 125 && *chart.mapScaleTwips <= 1000);
+    RC_ASSERT(chart.problem || chart.locCourse);
+}
+
+} // namespace
+} // namespace tarnel

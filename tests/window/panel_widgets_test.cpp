@@ -1,0 +1,369 @@
+#include "instruments/instrument_fixture.h"
+#include "strings/tables.h"
+#include "window/autopilot_module.h"
+#include "window/dme_module.h"
+#include "window/instrument_view.h"
+#include "window/nav_module.h"
+#include "window/picture_store.h"
+#include "window/stopwatch_module.h"
+
+#include <QImage>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QWheelEvent>
+#include <gtest/gtest.h>
+
+namespace tarnel {
+
+namespace {
+
+constexpr int oneNotch = 120;
+
+void turnWheel(QWidget& widget, QPointF at, int delta) {
+    QWheelEvent event(at, widget.mapToGlobal(at), {}, {0, delta}, Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&widget, &event);
+}
+
+void dragRight(QWidget& widget, QPoint from, int pixels, Qt::MouseButton button) {
+    QTest::mousePress(&widget, button, {}, from);
+    const QPointF to = from + QPoint(pixels, 0);
+    QMouseEvent move(QEvent::MouseMove, to, widget.mapToGlobal(to), Qt::NoButton, button, {});
+    QApplication::sendEvent(&widget, &move);
+    QTest::mouseRelease(&widget, button, {}, to.toPoint());
+}
+
+/// A view that counts its paints.
+struct CountingView : InstrumentView {
+    using InstrumentView::InstrumentView;
+    int paints = 0;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override {
+        ++paints;
+        InstrumentView::paintEvent(event);
+    }
+};
+
+/// An HSI of 257 pixels, so that 15 twips are a pixel.
+class InstrumentViewTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        hsi.c_HDGbug = 100;
+        hsi.c_MouseOBS = 250;
+        hsi.feed(294, 110, 270, 270);
+        view.resize(257, 257);
+        view.show();
+        view.activateWindow();
+        view.refresh();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&view));
+        QApplication::processEvents();
+    }
+
+    [[nodiscard]] QPoint knob(InstrumentArea area) const {
+        return InstrumentAreas::knobCentre(area, view.width()).toPoint();
+    }
+    void focusFirst() { view.setFocus(Qt::TabFocusReason); }
+
+    PanelInstrument hsi{InstrumentKind::hsi};
+    PictureStore pictures{"no such folder"};
+    CountingView view{hsi, pictures, englishTable()};
+};
+
+TEST_F(InstrumentViewTest, DragOfTheHeadingKnobTurnsTheBugByButton) {
+    const QPoint at = knob(InstrumentArea::headingBugKnob);
+    dragRight(view, at, 16, Qt::LeftButton); // 240 twips at 40 a degree
+    EXPECT_EQ(hsi.c_HDGbug, 106);
+    dragRight(view, at, -50, Qt::RightButton); // 750 twips at 250 a degree
+    EXPECT_EQ(hsi.c_HDGbug, 103);
+    EXPECT_EQ(hsi.c_HDGbugChange, 1);
+}
+
+TEST_F(InstrumentViewTest, DragMeansTheSameDegreesOnALargerView) {
+    view.resize(514, 514);
+    dragRight(view, knob(InstrumentArea::headingBugKnob), 32, Qt::LeftButton);
+    EXPECT_EQ(hsi.c_HDGbug, 106);
+}
+
+TEST_F(InstrumentViewTest, WheelOverTheObsKnobRaisesTheCourse) {
+    const QPointF at = knob(InstrumentArea::obsKnob);
+    turnWheel(view, at, oneNotch);
+    EXPECT_EQ(hsi.c_MouseOBS, 249);
+    for (int quarter = 0; quarter < 4; ++quarter)
+        turnWheel(view, at, -oneNotch / 4);
+    EXPECT_EQ(hsi.c_MouseOBS, 250);
+    turnWheel(view, at, 3 * oneNotch);
+    EXPECT_EQ(hsi.c_MouseOBS, 247);
+}
+
+TEST_F(InstrumentViewTest, KeysWalkTheKnobsAndTurnThem) {
+    focusFirst();
+    EXPECT_EQ(view.focusedArea(), InstrumentArea::obsKnob);
+    QTest::keyClick(&view, Qt::Key_Up);
+    EXPECT_EQ(hsi.c_MouseOBS, 249);
+    QTest::keyClick(&view, Qt::Key_Tab);
+    EXPECT_EQ(view.focusedArea(), InstrumentArea::headingBugKnob);
+    QTest::keyClick(&view, Qt::Key_PageDown);
+    EXPECT_EQ(hsi.c_HDGbug, 90);
+    hsi.c_HDGbug = 20;
+    QTest::keyClick(&view, Qt::Key_Space);
+    EXPECT_EQ(hsi.c_HDGbug, 90) << "space is a double click: the bug goes to the heading";
+    QTest::keyClick(&view, Qt::Key_Right);
+    EXPECT_EQ(view.focusedArea(), InstrumentArea::selector);
+    QTest::keyClick(&view, Qt::Key_Return);
+    EXPECT_EQ(hsi.c_NAVselect, 2);
+    QTest::keyClick(&view, Qt::Key_Left);
+    EXPECT_EQ(view.focusedArea(), InstrumentArea::headingBugKnob);
+}
+
+TEST_F(InstrumentViewTest, LockedKnobsTakeNothing) {
+    focusFirst();
+    hsi.c_DisableKnobs = 0;
+    view.refresh();
+    EXPECT_EQ(view.focusedArea(), InstrumentArea::none);
+    dragRight(view, knob(InstrumentArea::headingBugKnob), 40, Qt::LeftButton);
+    turnWheel(view, knob(InstrumentArea::obsKnob), oneNotch);
+    QTest::mouseClick(&view, Qt::LeftButton, {}, {240, 12});
+    QTest::keyClick(&view, Qt::Key_Up);
+    EXPECT_EQ(hsi.c_HDGbug, 100);
+    EXPECT_EQ(hsi.c_MouseOBS, 250);
+    EXPECT_EQ(hsi.c_NAVselect, 1);
+}
+
+TEST_F(InstrumentViewTest, FocusPassesOverKnobsThatTheKindLacks) {
+    hsi.Display = static_cast<std::int16_t>(InstrumentKind::dg);
+    view.refresh();
+    focusFirst();
+    EXPECT_EQ(view.focusedArea(), InstrumentArea::headingBugKnob);
+    hsi.Display = static_cast<std::int16_t>(InstrumentKind::vor);
+    view.refresh();
+    EXPECT_EQ(view.focusedArea(), InstrumentArea::obsKnob);
+    EXPECT_EQ(view.accessibleName(), "VOR indicator");
+}
+
+TEST_F(InstrumentViewTest, AllThatTheHandDoesRunsUnderTheGuard) {
+    int guarded = 0;
+    view.guard = [&guarded](const std::function<void()>& /*action*/) { ++guarded; };
+    focusFirst();
+    dragRight(view, knob(InstrumentArea::headingBugKnob), 16, Qt::LeftButton);
+    QTest::mouseDClick(&view, Qt::LeftButton, {}, knob(InstrumentArea::headingBugKnob));
+    turnWheel(view, knob(InstrumentArea::obsKnob), oneNotch);
+    QTest::keyClick(&view, Qt::Key_Up);
+    EXPECT_GE(guarded, 5);
+    EXPECT_EQ(hsi.c_HDGbug, 100);
+    EXPECT_EQ(hsi.c_MouseOBS, 250);
+}
+
+TEST_F(InstrumentViewTest, PaintsAgainOnlyWhenSomethingMoved) {
+    const auto paintsAfter = [this](const std::function<void()>& action) {
+        view.paints = 0;
+        action();
+        view.refresh();
+        QApplication::processEvents();
+        return view.paints;
+    };
+    EXPECT_EQ(paintsAfter([] {}), 0);
+    EXPECT_EQ(paintsAfter([this] { hsi.feed(294, 110, 270, 270); }), 0);
+    EXPECT_EQ(paintsAfter([this] { hsi.feed(294, 110, 260, 260); }), 1);
+    EXPECT_EQ(paintsAfter([this] { hsi.c_MouseOBS = 200; }), 1) << "its knob has turned";
+}
+
+TEST(PictureStoreTest, SaysOnceThatAPictureIsMissing) {
+    QStringList missing;
+    PictureStore pictures("no such folder");
+    pictures.onMissing = [&missing](const QString& name) { missing << name; };
+    PanelInstrument hsi(InstrumentKind::hsi);
+    InstrumentView view(hsi, pictures, englishTable());
+    view.resize(300, 300);
+    view.grab();
+    view.resize(400, 400);
+    view.grab();
+    EXPECT_EQ(missing.count("pictures/qxrhsi1.jpg"), 1);
+}
+
+TEST(PictureStoreTest, FindsNamesInAnyCaseWithEitherSlashAndKeepsThemPerSize) {
+    const QTemporaryDir folder;
+    QImage picture(8, 8, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    ASSERT_TRUE(picture.save(folder.filePath("QxrHsi1.PNG")));
+    PictureStore pictures(folder.path());
+    EXPECT_EQ(pictures.scaled("qxrhsi1.png", {20, 10}).size(), QSize(20, 10));
+    QString windowsPath = folder.path() + "/QXRHSI1.png";
+    windowsPath.replace('/', '\\');
+    EXPECT_FALSE(pictures.scaled(windowsPath, {4, 4}).isNull());
+    EXPECT_FALSE(pictures.scaled("elsewhere/qxrhsi1.png", {4, 4}).isNull());
+    EXPECT_EQ(pictures.kept(), 3U);
+    for (int round = 0; round < 4; ++round) {
+        (void)pictures.scaled("qxrhsi1.png", {20, 10});
+        pictures.sizesChanged();
+    }
+    EXPECT_EQ(pictures.kept(), 1U);
+}
+
+/// A radio that is switched on and free, with three frequencies.
+template <class Face>
+void tune(Face& face) {
+    face.c_OnOff = 1;
+    face.c_LockSettings = 1;
+    face.c_NumberOfFreqs = 3;
+    face.c_Freq1 = "113.60";
+    face.c_Freq2 = "116.25";
+    face.c_Freq3 = "109.90";
+    face.c_SetFreq = 0;
+}
+
+TEST(NavModuleTest, WheelKeysClickAndDragStepTheFrequency) {
+    NAVControlFace face;
+    tune(face);
+    PictureStore pictures("no such folder");
+    NavModule module(face, nav1Texts, pictures, englishTable());
+    module.resize(225, 104);
+    module.grab();
+    KnobWidget& knob = module.knob();
+    turnWheel(knob, knob.rect().center(), oneNotch);
+    EXPECT_EQ(face.c_SetFreq, 1);
+    EXPECT_EQ(knob.valueText(), "116.25");
+    QTest::keyClick(&knob, Qt::Key_Down);
+    EXPECT_EQ(face.c_SetFreq, 0);
+    QTest::mouseClick(&knob, Qt::LeftButton, {}, knob.rect().center());
+    EXPECT_EQ(face.c_SetFreq, 1);
+    dragRight(knob, {4, knob.height() / 2}, 50, Qt::LeftButton); // 750 twips on the outer cap
+    EXPECT_EQ(face.c_SetFreq, 2);
+    face.c_LockSettings = 0;
+    turnWheel(knob, knob.rect().center(), oneNotch);
+    EXPECT_EQ(face.c_SetFreq, 2);
+}
+
+class DmeModuleTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        tune(face);
+        module.refresh();
+        module.resize(461, 104);
+        module.grab();
+    }
+
+    DMEControlFace face;
+    PictureStore pictures{"no such folder"};
+    DmeModule module{face, pictures, englishTable()};
+};
+
+TEST_F(DmeModuleTest, ClickOnAWordSelectsTheSource) {
+    DmeSelector& selector = module.selector();
+    for (const DmeMode mode : {DmeMode::r2, DmeMode::r1, DmeMode::freq}) {
+        QTest::mouseClick(&selector, Qt::LeftButton, {}, selector.wordCentre(mode).toPoint());
+        EXPECT_EQ(face.mode(), mode);
+    }
+}
+
+TEST_F(DmeModuleTest, SwitchTurnsByClickWheelAndDrag) {
+    KnobWidget& knob = module.selector().knob();
+    QTest::mouseClick(&knob, Qt::LeftButton);
+    EXPECT_EQ(face.mode(), DmeMode::r1);
+    turnWheel(knob, knob.rect().center(), -oneNotch);
+    EXPECT_EQ(face.mode(), DmeMode::r2);
+    turnWheel(knob, knob.rect().center(), -oneNotch);
+    EXPECT_EQ(face.mode(), DmeMode::r2) << "it stops at its end";
+    dragRight(knob, knob.rect().center(), -40, Qt::LeftButton);
+    EXPECT_EQ(face.mode(), DmeMode::freq);
+}
+
+TEST_F(DmeModuleTest, FrequencyStepsOnlyWhileItIsItsOwn) {
+    SteppedDigits& digits = module.frequencyDigits();
+    turnWheel(digits, digits.rect().center(), oneNotch);
+    EXPECT_EQ(face.c_SetFreq, 1);
+    QTest::mouseClick(&digits, Qt::LeftButton);
+    EXPECT_EQ(face.c_SetFreq, 2);
+    face.selectMode(DmeMode::r1);
+    module.refresh();
+    turnWheel(digits, digits.rect().center(), oneNotch);
+    EXPECT_EQ(face.c_SetFreq, 2);
+}
+
+class AutopilotModuleTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        face.c_OnOff = 1;
+        face.c_LockSettings = 1;
+        face.c_HDG = 100;
+        face.c_ActualHDG = 42;
+        face.c_TAS = 120;
+        face.c_ALT = 4500;
+        module.resize(696, 104);
+        module.grab();
+    }
+
+    APControlFace face;
+    PictureStore pictures{"no such folder"};
+    AutopilotModule module{face, pictures, englishTable()};
+};
+
+TEST_F(AutopilotModuleTest, KnobsTurnByDragWheelAndKeys) {
+    KnobWidget& heading = module.knob(AutopilotKnob::heading);
+    dragRight(heading, heading.rect().center(), 20, Qt::LeftButton); // 300 twips at 100 a degree
+    EXPECT_EQ(face.c_HDG, 103);
+    turnWheel(heading, heading.rect().center(), -oneNotch);
+    EXPECT_EQ(face.c_HDG, 102);
+    QTest::keyClick(&module.knob(AutopilotKnob::airSpeed), Qt::Key_PageUp);
+    EXPECT_EQ(face.c_TAS, 130);
+    QTest::keyClick(&module.knob(AutopilotKnob::altitude), Qt::Key_Up);
+    EXPECT_EQ(face.c_ALT, 4600);
+    EXPECT_EQ(module.knob(AutopilotKnob::altitude).valueText(), "04600 ft");
+}
+
+TEST_F(AutopilotModuleTest, DoubleClickSyncsTheHeadingLockedOrNot) {
+    KnobWidget& heading = module.knob(AutopilotKnob::heading);
+    QTest::mouseDClick(&heading, Qt::LeftButton);
+    EXPECT_EQ(face.c_HDG, 42);
+    face.c_LockSettings = 0;
+    face.c_ActualHDG = 77;
+    turnWheel(heading, heading.rect().center(), oneNotch);
+    EXPECT_EQ(face.c_HDG, 42);
+    QTest::mouseDClick(&heading, Qt::LeftButton);
+    EXPECT_EQ(face.c_HDG, 77);
+}
+
+/// Every part of a module lies on it and over no other.
+void expectPartsApart(const QWidget& module) {
+    const auto parts = module.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    for (const QWidget* part : parts) {
+        EXPECT_TRUE(module.rect().contains(part->geometry()));
+        EXPECT_FALSE(part->geometry().isEmpty());
+        for (const QWidget* other : parts)
+            EXPECT_TRUE(part == other || !part->geometry().intersects(other->geometry()));
+    }
+}
+
+TEST(ModuleLayoutTest, PartsKeepApartAtEverySizeOfThePanel) {
+    NAVControlFace nav;
+    DMEControlFace dme;
+    APControlFace autopilot;
+    tvsmtimer stopwatch;
+    PictureStore pictures("no such folder");
+    const StringTable& texts = germanTable();
+    NavModule navModule(nav, nav1Texts, pictures, texts);
+    DmeModule dmeModule(dme, pictures, texts);
+    AutopilotModule autopilotModule(autopilot, pictures, texts);
+    StopwatchModule stopwatchModule(stopwatch, pictures, texts);
+    for (const int column : {150, 160, 199, 225, 350, 600})
+        for (const int height : {72, 90, 104, 127, 170, 400}) {
+            SCOPED_TRACE(testing::Message() << column << " x " << height);
+            const double scale = column / 225.0 * 0.9;
+            for (const auto& [module, columns] :
+                 std::initializer_list<std::pair<ModuleFrame*, int>>{{&navModule, 1},
+                                                                     {&dmeModule, 2},
+                                                                     {&autopilotModule, 3},
+                                                                     {&stopwatchModule, 1}}) {
+                if (height < 72 * scale)
+                    continue;
+                module->setScale(scale);
+                module->resize(column * columns + 8 * (columns - 1), height);
+                module->grab();
+                expectPartsApart(*module);
+            }
+        }
+}
+
+} // namespace
+
+} // namespace tarnel

@@ -1,0 +1,213 @@
+#include "strings/tables.h"
+#include "window/application.h"
+#include "window/chart_view.h"
+#include "window/instrument_view.h"
+#include "window/main_window.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QMenuBar>
+#include <QTest>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace tarnel {
+namespace {
+
+struct NotedWorld : OutsideWorld {
+    std::vector<std::string> boxes;
+    void messageBox(const std::string&, const std::string& text) override { boxes.push_back(text); }
+};
+
+/// The window as a student has it, with the time run by hand.
+class Student : public testing::Test {
+  protected:
+    void open(const StringTable& texts = englishTable(), QSize size = {1280, 800}) {
+        dressApplication(texts, QStringLiteral(TARNEL_APPLICATION_FOLDER));
+        form = std::make_unique<Form1>(texts, world, TARNEL_APPLICATION_FOLDER);
+        window = std::make_unique<MainWindow>(*form);
+        window->resize(size);
+        window->show();
+        settle();
+    }
+    void settle() {
+        form->Timer1();
+        form->Timer1();
+        window->refresh();
+        QApplication::processEvents();
+    }
+    void fly(int seconds) {
+        for (int i = 0; i < seconds * 3; ++i) {
+            form->simulationTimer();
+            form->Timer1();
+        }
+        settle();
+    }
+    template <class Widget = QAbstractButton>
+    Widget& find(const char* name) {
+        auto* found = window->findChild<Widget*>(QString::fromLatin1(name));
+        if (!found)
+            throw std::runtime_error(std::string("no widget called ") + name);
+        return *found;
+    }
+    void click(const char* name) {
+        find(name).click();
+        settle();
+    }
+    void drag(QWidget& widget, QPoint from, QPoint way) {
+        QTest::mousePress(&widget, Qt::LeftButton, {}, from);
+        QTest::mouseMove(&widget, from + way / 2);
+        QTest::mouseMove(&widget, from + way);
+        QTest::mouseRelease(&widget, Qt::LeftButton, {}, from + way);
+        settle();
+    }
+
+    NotedWorld world;
+    std::unique_ptr<Form1> form;
+    std::unique_ptr<MainWindow> window;
+};
+
+TEST_F(Student, StartsAndStopsTheFlight) {
+    open();
+    click("Command6");
+    EXPECT_EQ(find("Command6").text(), "Stop SIM");
+    EXPECT_EQ(find<QLabel>("StatusPanel8").text(), "Training [M]ode");
+    fly(30);
+    EXPECT_EQ(find<QLabel>("FlightTime").text(), "0h0min30sec");
+    click("Command6");
+    EXPECT_EQ(find("Command6").text(), "Start SIM");
+    EXPECT_TRUE(world.boxes.empty());
+}
+
+TEST_F(Student, TurnsTheHeadingKnobAndTheAircraftFollows) {
+    open();
+    auto& hsi = find<InstrumentView>("UserControl13_1");
+    const QPoint knob(static_cast<int>(hsi.width() * 0.912), static_cast<int>(hsi.height() * 0.912));
+    drag(hsi, knob, {40, 0});
+    const int bug = form->inst3.instrument.c_HDGbug;
+    EXPECT_GT(bug, 5);
+    EXPECT_EQ(form->APControlFace1.c_HDG, bug);
+    EXPECT_EQ(form->inst2.instrument.c_HDGbug, bug);
+    click("Command6");
+    fly(60);
+    EXPECT_NEAR(form->UserControl11.c_HDG, bug, 0.4);
+}
+
+TEST_F(Student, ChoosesInstrumentsAndSizes) {
+    open();
+    auto& kinds = find<QComboBox>("Combo3");
+    kinds.setCurrentIndex(2);
+    kinds.activated(2);
+    settle();
+    EXPECT_EQ(form->inst2.type, vor);
+    EXPECT_THAT(form->inst2.instrument.picture.Image1.file, testing::HasSubstr("QXRvor1"));
+
+    const int before = find<QWidget>("UserControl13_0").width();
+    click("Size_Combo3");
+    EXPECT_GT(find<QWidget>("UserControl13_0").width(), before * 1.1);
+    EXPECT_LT(find<QWidget>("UserControl13_1").width(), before);
+    click("Size_Combo3");
+    EXPECT_EQ(find<QWidget>("UserControl13_0").width(), before);
+}
+
+TEST_F(Student, PlacesTheAircraftOnlyWhilePaused) {
+    open();
+    auto* chart = window->findChild<ChartView*>();
+    ASSERT_NE(chart, nullptr);
+    const auto position = [this] { return form->UserControl11.aircraft.published(); };
+    QTest::mouseClick(chart, Qt::LeftButton, {}, {chart->width() / 4, chart->height() * 3 / 4});
+    settle();
+    const GeoPosition placed = position();
+    EXPECT_LT(placed.latitude, 48.29);
+    EXPECT_LT(placed.longitude, 11.47);
+    click("Command6");
+    QTest::mouseClick(chart, Qt::LeftButton, {}, {chart->width() / 2, chart->height() / 2});
+    settle();
+    EXPECT_EQ(position(), placed);
+}
+
+TEST_F(Student, DrawsAHeadingWithTheRightButton) {
+    open();
+    auto* chart = window->findChild<ChartView*>();
+    const QPoint middle(chart->width() / 2, chart->height() / 2);
+    QTest::mousePress(chart, Qt::RightButton, {}, middle + QPoint(60, 0));
+    QTest::mouseMove(chart, middle + QPoint(100, 0));
+    QTest::mouseRelease(chart, Qt::RightButton, {}, middle + QPoint(100, 0));
+    settle();
+    EXPECT_NEAR(form->UserControl11.c_HDG, 90, 1);
+    EXPECT_EQ(form->APControlFace1.c_HDG, form->UserControl11.c_HDG.get());
+    EXPECT_EQ(form->inst3.instrument.c_HDGbug, form->UserControl11.c_HDG.get());
+}
+
+TEST_F(Student, SwitchesTheViewAndTheScale) {
+    open();
+    click("HeadingUp");
+    EXPECT_EQ(form->UserControl11.c_MAPnorthUP, 0);
+    click("ZoomIn");
+    EXPECT_EQ(form->UserControl11.c_MAPscale, 250);
+    click("NorthUp");
+    EXPECT_EQ(form->UserControl11.c_MAPnorthUP, 1);
+    for (int i = 0; i < 8; ++i)
+        click("ZoomIn");
+    EXPECT_EQ(form->UserControl11.c_MAPscale, 1000);
+    EXPECT_FALSE(find("ZoomIn").isEnabled());
+}
+
+TEST_F(Student, OpensAndClosesTheFloatingGyro) {
+    open();
+    auto& gyro = find<QWidget>("additional_DG");
+    EXPECT_FALSE(gyro.isVisible());
+    click("FloatingGyro");
+    EXPECT_TRUE(gyro.isVisible());
+    gyro.close();
+    settle();
+    EXPECT_EQ(form->floatingGyroBox.value(), 0);
+    EXPECT_FALSE(gyro.isVisible());
+}
+
+TEST_F(Student, MissingPicturesAreToldOnceAndTheNeedlesStay) {
+    form = std::make_unique<Form1>(englishTable(), world, "/nonexistent");
+    window = std::make_unique<MainWindow>(*form);
+    window->show();
+    settle();
+    window->grab();
+    QTest::qWait(1);
+    settle();
+    EXPECT_THAT(world.boxes, testing::Contains(testing::HasSubstr("dial")));
+    const auto told = world.boxes.size();
+    find<QComboBox>("Combo3").activated(2);
+    settle();
+    window->grab();
+    QTest::qWait(1);
+    EXPECT_EQ(world.boxes.size(), told);
+}
+
+// No word is cut off, in neither language, on the smallest screen.
+TEST_F(Student, ReadsEveryButtonInFull) {
+    for (const StringTable* texts : {&germanTable(), &englishTable()}) {
+        for (const QSize size : {QSize(1024, 768), QSize(1280, 800)}) {
+            open(*texts, size);
+            for (auto* button : window->findChildren<QAbstractButton*>()) {
+                if (!button->isVisible() || button->text().isEmpty() ||
+                    button->inherits("QToolButton"))
+                    continue;
+                const int needed = QFontMetrics(button->font()).horizontalAdvance(button->text());
+                EXPECT_GE(button->width(), needed) << qPrintable(button->text());
+            }
+            for (auto* label : window->findChildren<QLabel*>())
+                if (label->isVisible()) {
+                    EXPECT_GE(label->width(), label->sizeHint().width())
+                        << qPrintable(label->text());
+                }
+        }
+    }
+}
+
+} // namespace
+} // namespace tarnel

@@ -1,0 +1,78 @@
+#include "window/window_layout.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace tarnel {
+namespace {
+
+struct Case {
+    QSize body;
+    PanelSizes sizes;
+};
+
+std::vector<Case> allCases() {
+    std::vector<Case> cases;
+    for (const QSize body : {QSize(980, 606), QSize(1024, 714), QSize(1280, 746), QSize(1366, 700),
+                             QSize(1920, 1026), QSize(2560, 1380), QSize(3840, 2100)})
+        for (const PanelSizes sizes : {PanelSizes{false, false}, PanelSizes{true, false},
+                                       PanelSizes{false, true}, PanelSizes{true, true}})
+            cases.push_back({body, sizes});
+    return cases;
+}
+
+std::string nameOf(const Case& each) {
+    return std::to_string(each.body.width()) + " x " + std::to_string(each.body.height()) +
+           (each.sizes.inst2Large ? " large 2" : "") + (each.sizes.inst3Large ? " large 3" : "");
+}
+
+std::vector<QRect> panelParts(const WindowLayout& layout) {
+    return {layout.headers[0],     layout.headers[1], layout.instruments[0],
+            layout.instruments[1], layout.nav1,       layout.nav2,
+            layout.adf,            layout.dme,        layout.stopwatch,
+            layout.autopilot};
+}
+
+TEST(WindowLayout, NothingOverlapsOrLeavesItsPlaceAtAnySize) {
+    for (const Case& each : allCases()) {
+        const WindowLayout layout = layOutWindow(each.body, each.sizes);
+        const QRect body(QPoint(), each.body);
+        EXPECT_TRUE(body.contains(layout.chart.united(layout.strip).united(layout.panel)))
+            << nameOf(each);
+        EXPECT_FALSE(layout.chart.intersects(layout.panel)) << nameOf(each);
+        EXPECT_FALSE(layout.chart.intersects(layout.strip)) << nameOf(each);
+        const std::vector<QRect> parts = panelParts(layout);
+        const QRect panel(QPoint(), layout.panel.size());
+        for (std::size_t i = 0; i < parts.size(); ++i) {
+            EXPECT_TRUE(panel.contains(parts[i])) << nameOf(each) << " part " << i;
+            for (std::size_t j = i + 1; j < parts.size(); ++j)
+                EXPECT_FALSE(parts[i].intersects(parts[j])) << nameOf(each) << ' ' << i << ' ' << j;
+        }
+    }
+}
+
+TEST(WindowLayout, PartsKeepTheSizeThatHandsAndEyesNeed) {
+    constexpr double knobShare = 0.124;
+    for (const Case& each : allCases()) {
+        const WindowLayout layout = layOutWindow(each.body, each.sizes);
+        EXPECT_EQ(layout.chart.width(), layout.chart.height()) << nameOf(each);
+        EXPECT_GE(layout.strip.height(), 150) << nameOf(each);
+        EXPECT_GE(layout.nav1.height(), 70) << nameOf(each);
+        for (const QRect& instrument : layout.instruments) {
+            EXPECT_EQ(instrument.width(), instrument.height()) << nameOf(each);
+            if (each.body.width() >= 1024) {
+                EXPECT_GE(instrument.width() * knobShare, 29.5) << nameOf(each);
+            }
+        }
+        const double ratio = static_cast<double>(layout.instruments[0].width()) /
+                             layout.instruments[1].width();
+        if (each.sizes.inst2Large && !each.sizes.inst3Large) {
+            EXPECT_GT(ratio, 1.1) << nameOf(each);
+        }
+    }
+}
+
+} // namespace
+} // namespace tarnel

@@ -1,0 +1,79 @@
+#include "flights/flight.h"
+#include "flights/flight_csv.h"
+#include "flights/flight_summary.h"
+#include "flights/plan_error.h"
+#include "flights/plan_reader.h"
+#include "shell/application_folder.h"
+#include "strings/tables.h"
+#include "tools/fly/options.h"
+#include "tools/fly/output_file.h"
+#include "tools/fly/picture_output.h"
+
+#include <iostream>
+#include <optional>
+
+namespace {
+
+using namespace tarnel;
+
+enum ExitStatus { done = 0, planIsWrong = 1, usageIsWrong = 2, outputFailed = 3 };
+
+constexpr auto usage =
+    "Usage: tarnel-fly PLAN [--csv FILE] [--picture FILE] [--until SECONDS] [--language de|en]\n"
+    "Flies a plan without showing a window.\n"
+    "\n"
+    "  --csv FILE        write a table with a line for each tick\n"
+    "  --picture FILE    write the window as it stands at the end, such as window.png\n"
+    "  --until SECONDS   end the flight there, if the plan does not end earlier\n"
+    "  --language de|en  the language of the picture; English without it\n"
+    "  --help            this text\n"
+    "\n"
+    "FILE may be - for standard output. Without an output a summary is printed.\n";
+
+void flyTo(ScriptedFlight& flight, const FlyOptions& options) {
+    std::optional<OutputFile> table;
+    if (options.csv) {
+        table.emplace(*options.csv);
+        table->write(flightCsvHeader());
+    }
+    flight.fly(options.until.value_or(flight.plan().seconds), [&] {
+        if (table)
+            table->write(flightCsvLine(presentRow(flight)));
+    });
+    if (table)
+        table->close();
+}
+
+void run(const FlyOptions& options) {
+    const StringTable& texts = options.german ? germanTable() : englishTable();
+    ScriptedFlight flight(readPlanFile(options.plan), texts, applicationFolder());
+    flyTo(flight, options);
+    if (options.picture)
+        writePicture(flight.form(), *options.picture);
+    if (options.hasOutput())
+        std::cerr << flightRemarks(flight);
+    else
+        std::cout << flightSummary(flight) << std::flush;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    try {
+        const FlyOptions options = readOptions({argv + 1, argv + argc});
+        if (options.help)
+            std::cout << usage;
+        else
+            run(options);
+        return done;
+    } catch (const UsageError& error) {
+        std::cerr << "tarnel-fly: " << error.what() << '\n' << usage;
+        return usageIsWrong;
+    } catch (const PlanError& error) {
+        std::cerr << error.what() << '\n';
+        return planIsWrong;
+    } catch (const OutputError& error) {
+        std::cerr << "tarnel-fly: " << error.what() << '\n';
+        return outputFailed;
+    }
+}

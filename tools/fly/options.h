@@ -1,0 +1,31 @@
+#pragma once
+
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace tarnel {
+
+/// A command line that can't be understood.
+class UsageError : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
+};
+
+/// What the command line asks for. An output of "-" is standard output.
+struct FlyOptions {
+    std::string plan;
+    std::optional<std::string> csv;
+    std::optional<std::string> picture;
+    std::optional<double> until; ///< seconds
+    bool german = false;
+    bool help = false;
+
+    [[nodiscard]] bool hasOutput() const { return csv || picture; }
+};
+
+/// Reads the words behind the program's name. Throws UsageError.
+[[nodiscard]] FlyOptions readOptions(const std::vector<std::string>& words);
+
+} // namespace tarnel

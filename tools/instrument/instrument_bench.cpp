@@ -1,0 +1,103 @@
+#include "tools/instrument/instrument_bench.h"
+
+#include "core/run_time_error.h"
+#include "tools/instrument/property_editor.h"
+#include "window/instrument_view.h"
+
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+namespace tarnel {
+
+namespace {
+
+constexpr int refreshMilliseconds = 40;
+constexpr double twipsPerPixel = 15;
+
+} // namespace
+
+InstrumentBench::InstrumentBench(const StringTable& texts, const std::string& folder,
+                                 InstrumentKind kind, bool large)
+    : pictures(QString::fromStdString(folder)) {
+    setWindowTitle(tr("Instrument"));
+    instrument.showMessage = [this](const std::string& text) {
+        error->setText(QString::fromStdString(text));
+    };
+    instrument.c_MainAppPath = folder;
+    instrument.c_Large = large ? 1 : 0;
+    instrument.Display = static_cast<std::int16_t>(kind);
+
+    view = new InstrumentView(instrument, pictures, texts);
+    view->guard = [this](const std::function<void()>& action) { change(action); };
+    reading = new QLabel;
+    error = new QLabel;
+    auto* shown = new QVBoxLayout;
+    shown->addWidget(view);
+    shown->addWidget(reading);
+    shown->addWidget(error);
+    shown->addStretch();
+
+    auto* inputs = new QWidget;
+    makeEditors(*inputs);
+    auto* scroller = new QScrollArea;
+    scroller->setWidget(inputs);
+    scroller->setWidgetResizable(true);
+    scroller->setMinimumWidth(inputs->sizeHint().width());
+    auto* columns = new QHBoxLayout(this);
+    columns->addLayout(shown);
+    columns->addWidget(scroller, 1);
+
+    connect(&timer, &QTimer::timeout, this, &InstrumentBench::refresh);
+    timer.start(refreshMilliseconds);
+    refresh();
+}
+
+void InstrumentBench::makeEditors(QWidget& parent) {
+    auto* form = new QFormLayout(&parent);
+    for (PropertyBase* property : instrument.properties.all()) {
+        auto* editor = new PropertyEditor(*property);
+        editor->change = [this](const std::function<void()>& action) { change(action); };
+        form->addRow(QString::fromStdString(std::string(property->name())), editor);
+        editors.push_back(editor);
+    }
+}
+
+/// The instrument redraws by itself on some inputs only; on the bench it does on each.
+void InstrumentBench::change(const std::function<void()>& action) {
+    error->clear();
+    try {
+        action();
+        instrument.UpdateInstrument();
+    } catch (const RunTimeError& failure) {
+        error->setText(QString::fromUtf8(failure.what()));
+    }
+}
+
+void InstrumentBench::fitInstrument() {
+    const int side = static_cast<int>(instrument.picture.size / twipsPerPixel);
+    if (view->width() == side && view->height() == side)
+        return;
+    view->setFixedSize(side, side);
+    pictures.sizesChanged();
+}
+
+void InstrumentBench::showReading() {
+    const InstrumentReading now = instrument.reading();
+    const std::string flag(flagText(now.flag));
+    reading->setText(tr("deviation %1, flag %2")
+                         .arg(now.deviation)
+                         .arg(flag.empty() ? tr("none") : QString::fromStdString(flag)));
+}
+
+void InstrumentBench::refresh() {
+    fitInstrument();
+    for (PropertyEditor* editor : editors)
+        editor->refresh();
+    showReading();
+    view->refresh();
+}
+
+} // namespace tarnel

@@ -1,0 +1,60 @@
+#include "flights/flight_plan.h"
+#include "shell/application_folder.h"
+#include "strings/tables.h"
+#include "tools/instrument/instrument_bench.h"
+#include "window/application.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+
+namespace {
+
+using namespace tarnel;
+
+constexpr int badUsage = 2;
+
+/// Writes the bench as it stands to a picture. The exit status.
+int writePicture(InstrumentBench& bench, const QString& file) {
+    QApplication::processEvents();
+    bench.refresh();
+    return bench.grab().save(file) ? 0 : 1;
+}
+
+int runBench(const QCommandLineParser& words, const QCommandLineOption& large,
+             const QCommandLineOption& picture) {
+    const QString word = words.positionalArguments().value(0, QStringLiteral("HSI")).toUpper();
+    const auto display = displayOf(word.toStdString());
+    if (!display || words.positionalArguments().size() > 1) {
+        qCritical("tarnel-instrument: one of ADF, RMI, VOR, HSI or DG is wanted");
+        return badUsage;
+    }
+    const std::string folder = applicationFolder();
+    dressApplication(englishTable(), QString::fromStdString(folder));
+    InstrumentBench bench(englishTable(), folder, static_cast<InstrumentKind>(*display),
+                          words.isSet(large));
+    bench.show();
+    if (words.isSet(picture))
+        return writePicture(bench, words.value(picture));
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const QApplication application(argc, argv);
+    QCommandLineParser words;
+    words.setApplicationDescription(
+        QStringLiteral("Shows one instrument alone, with its inputs as sliders and fields."));
+    words.addHelpOption();
+    words.addPositionalArgument(QStringLiteral("kind"),
+                                QStringLiteral("ADF, RMI, VOR, HSI or DG; HSI without it"),
+                                QStringLiteral("[kind]"));
+    const QCommandLineOption large(QStringLiteral("large"), QStringLiteral("The large size."));
+    const QCommandLineOption picture(QStringLiteral("picture"),
+                                     QStringLiteral("Write the window to FILE and end."),
+                                     QStringLiteral("FILE"));
+    words.addOption(large);
+    words.addOption(picture);
+    words.process(application);
+    return runBench(words, large, picture);
+}

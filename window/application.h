@@ -1,0 +1,17 @@
+#pragma once
+
+#include "strings/string_table.h"
+
+#include <QString>
+
+
+namespace tarnel {
+
+/// Gives the application its font, style and icon.
+void dressApplication(const StringTable& texts, const QString& applicationFolder);
+
+/// Runs the trainer in the language of `texts` until its window is closed. Returns the program's
+/// exit status; 0 also if it already runs and its window was brought to the front.
+int runApplication(int argc, char** argv, const StringTable& texts);
+
+} // namespace tarnel

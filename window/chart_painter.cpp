@@ -1,0 +1,260 @@
+#include "window/chart_painter.h"
+
+#include "core/number_text.h"
+#include "window/chart_airplane.h"
+#include "window/chart_lines.h"
+#include "window/look.h"
+#include "window/text_of.h"
+
+#include <QPainter>
+#include <QtMath>
+
+#include <algorithm>
+#include <cmath>
+
+namespace tarnel {
+
+namespace {
+
+/// The size that a name label is taken to have where its anchor is set, in twips.
+constexpr double nominalWidth = 560;
+constexpr double nominalHeight = 400;
+constexpr double levelTwips = 50;  ///< what stands no lower than that counts as beside or above
+constexpr double leastLean = 0.45; ///< of the longer side
+
+constexpr double labelOpacity = 0.9;
+constexpr double barWidth = 1.6;
+constexpr double leaderWidth = 1;
+constexpr double barToText = 5;
+constexpr double textToEdge = 3;
+constexpr double symbolToLabel = 3;
+constexpr double dotDiameter = 4.4;
+
+/// The side of the station where its label was put, degrees clockwise from the top. It leans off
+/// upright and level, so that the leader shows beside the ticks and lines that run there.
+double sideOf(const StationSymbol& symbol) {
+    const double dx = symbol.name.anchor.x + nominalWidth / 2 - symbol.leader.from.x;
+    const double dy = symbol.name.anchor.y + nominalHeight / 2 - symbol.leader.from.y;
+    const double across = std::max(std::abs(dx), leastLean * std::abs(dy));
+    const double along = std::max(std::abs(dy), leastLean * std::abs(dx));
+    return qRadiansToDegrees(
+        std::atan2(std::copysign(across, dx), std::copysign(along, dy > levelTwips ? -1 : 1)));
+}
+
+QString courseText(double degrees) {
+    const auto whole = static_cast<int>(std::lround(degrees)) % 360;
+    const int course = whole <= 0 ? whole + 360 : whole;
+    return QString::fromStdString(zeroPadded(course, 3));
+}
+
+bool sameCourse(const RadialLines& a, const RadialLines& b) {
+    return b.course.visible && a.course.from == b.course.from && a.course.to == b.course.to;
+}
+
+} // namespace
+
+ChartPainter::ChartPainter(const UserControl2& simulation, const StringTable& table)
+    : sim(simulation), texts(table) {}
+
+void ChartPainter::paint(QPainter& painter, double side, double devicePixelRatio) {
+    fitFrame(side, devicePixelRatio);
+    const ChartPicture& picture = sim.picture;
+    const GridPlace grid = gridPlace();
+    const ScaleBar scale(frame, grid.pixelsPerMile);
+    layOutLabels(scale);
+
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(look::paper);
+    painter.drawRoundedRect(frame.paper, look::paperRadius, look::paperRadius);
+    painter.setClipRect(frame.paper);
+    paintGrid(painter, frame, grid);
+    paintFeather(painter, frame, picture.localizer);
+    paintRadials(painter, frame, picture.radialsI2);
+    paintRadials(painter, frame, picture.radialsI3);
+    paintTrace(painter);
+    for (std::size_t slot = 0; slot < slotCount; ++slot)
+        if (isOnPaper(slot))
+            symbols.paint(painter, frame, picture.symbols[slot], slot, rotation());
+    const Areas areas = occupiedAreas(scale);
+    const std::span occupied(areas.data(), static_cast<std::size_t>(areas.size()));
+    paintRadialNames(painter, occupied);
+    paintNames(painter);
+    paintVectors(painter, occupied);
+    paintAirplane(painter, frame, picture.airplane);
+    paintOverlays(painter, scale);
+}
+
+void ChartPainter::fitFrame(double side, double devicePixelRatio) {
+    if (frame.fits(side, sim.picture.size, devicePixelRatio))
+        return;
+    frame = ChartFrame(side, sim.picture.size, devicePixelRatio);
+    nameTexts = {};
+}
+
+double ChartPainter::rotation() const {
+    return std::fmod(sim.view.rotation(sim.aircraft.trueHeading), 360);
+}
+
+/// The grid stands on the ground, so that in the heading-up view it moves below the aircraft.
+GridPlace ChartPainter::gridPlace() const {
+    MapView view = sim.view; // a copy, as placing leaves traces in the view
+    ChartPlace origin;
+    view.placeOnChart(toPlain(view.mapCenter), rotation(), origin);
+    return {frame.at(origin.wide), view.plot.mapScaleTwips * frame.pixelsPerTwip, rotation()};
+}
+
+bool ChartPainter::isOnPaper(std::size_t slot) const {
+    const StationSymbol& symbol = sim.picture.symbols[slot];
+    if (!symbol.visible || symbol.image == SymbolImage::none)
+        return false;
+    const double reach = ChartSymbols::outerRadius(frame, slot);
+    return frame.paper.adjusted(-reach, -reach, reach, reach)
+        .contains(frame.at(symbol.leader.from));
+}
+
+const ChartPainter::NameText& ChartPainter::nameText(std::size_t slot) {
+    NameText& name = nameTexts[slot];
+    const std::string& caption = sim.picture.symbols[slot].name.caption;
+    if (name.caption == caption && !name.size.isEmpty())
+        return name;
+    const QString whole = QString::fromStdString(caption);
+    name = {caption, whole.section('\n', 0, 0), whole.section('\n', 1), {}};
+    const QFontMetricsF bold(frame.nameFont);
+    const QFontMetricsF plain(frame.frequencyFont);
+    const double width =
+        std::max(bold.horizontalAdvance(name.identifier), plain.horizontalAdvance(name.frequency));
+    name.size = {std::ceil(width + (barToText + textToEdge) * frame.textScale),
+                 std::ceil(bold.height() + plain.height() + 2)};
+    return name;
+}
+
+void ChartPainter::layOutLabels(const ScaleBar& scale) {
+    for (std::size_t slot = 0; slot < slotCount; ++slot) {
+        const StationSymbol& symbol = sim.picture.symbols[slot];
+        ChartLabel& label = labels[slot];
+        if (!symbol.name.visible || !isOnPaper(slot)) {
+            label = {};
+            label.shown = false;
+            continue;
+        }
+        label.shown = true;
+        label.station = frame.at(symbol.leader.from);
+        label.symbolRadius = ChartSymbols::innerRadius(frame, slot);
+        label.clearance = ChartSymbols::outerRadius(frame, slot) + symbolToLabel;
+        label.side = sideOf(symbol);
+        label.size = nameText(slot).size;
+    }
+    const QRectF areas[] = {controlStrip(frame), scale.plate, northArrowPlate(frame),
+                            airplaneArea(frame, sim.picture.airplane)};
+    const SpeedVectorLines& vectors = sim.picture.speedVectors;
+    const QLineF lines[] = {frame.along(vectors.air), frame.along(vectors.wind),
+                            frame.along(vectors.ground)};
+    const std::size_t lineCount = vectors.ground.visible ? std::size(lines) : 0;
+    placeLabels(labels, frame.paper, {areas, {lines, lineCount}});
+}
+
+void ChartPainter::paintTrace(QPainter& painter) const {
+    const std::vector<Dot>& dots = sim.picture.trace.all();
+    if (dots.empty())
+        return;
+    const double diameter = dotDiameter * frame.symbolScale;
+    const QRectF area = frame.paper.adjusted(-diameter, -diameter, diameter, diameter);
+    QVarLengthArray<QPointF, 256> points;
+    for (const Dot& dot : dots) {
+        const QPointF at = frame.at({static_cast<double>(dot.x), static_cast<double>(dot.y)});
+        if (area.contains(at))
+            points.append(at);
+    }
+    painter.setPen(
+        QPen(look::fromSurface(dots.front().colour), diameter, Qt::SolidLine, Qt::RoundCap));
+    painter.drawPoints(points.data(), static_cast<int>(points.size()));
+}
+
+void ChartPainter::paintNames(QPainter& painter) const {
+    for (std::size_t slot = 0; slot < slotCount; ++slot) {
+        if (!labels[slot].shown)
+            continue;
+        painter.setPen(
+            QPen(look::fromSurface(sim.picture.symbols[slot].leader.colour), leaderWidth));
+        painter.drawLine(labels[slot].leader());
+    }
+    for (std::size_t slot = 0; slot < slotCount; ++slot)
+        if (labels[slot].shown)
+            paintName(painter, labels[slot], slot);
+}
+
+void ChartPainter::paintName(QPainter& painter, const ChartLabel& label, std::size_t slot) const {
+    const QColor colour = look::fromSurface(sim.picture.symbols[slot].name.colour);
+    const NameText& name = nameTexts[slot];
+    painter.fillRect(label.box, look::faded(look::paper, labelOpacity));
+    painter.setPen(QPen(colour, barWidth, Qt::SolidLine, Qt::FlatCap));
+    painter.drawLine(label.bar());
+
+    const double nearBar = barToText * frame.textScale;
+    const QRectF inner = label.leftOfStation ? label.box.adjusted(0, 1, -nearBar, -1)
+                                             : label.box.adjusted(nearBar, 1, 0, -1);
+    const Qt::Alignment towardsBar = label.leftOfStation ? Qt::AlignRight : Qt::AlignLeft;
+    painter.setFont(frame.nameFont);
+    painter.setPen(colour);
+    painter.drawText(inner, static_cast<int>(towardsBar | Qt::AlignTop), name.identifier);
+    painter.setFont(frame.frequencyFont);
+    painter.setPen(look::secondaryInk);
+    painter.drawText(inner, static_cast<int>(towardsBar | Qt::AlignBottom), name.frequency);
+}
+
+/// What lettering keeps clear of: labels, symbols, and what stands at the edges.
+ChartPainter::Areas ChartPainter::occupiedAreas(const ScaleBar& scale) const {
+    Areas areas{controlStrip(frame), scale.plate, northArrowPlate(frame)};
+    for (const ChartLabel& label : labels) {
+        if (!label.shown)
+            continue;
+        const double radius = label.symbolRadius;
+        areas.append(label.box);
+        areas.append(
+            {label.station.x() - radius, label.station.y() - radius, 2 * radius, 2 * radius});
+    }
+    return areas;
+}
+
+void ChartPainter::paintRadialNames(QPainter& painter, std::span<const QRectF> occupied) const {
+    const auto letter = [&](const RadialLines& lines) {
+        const double heading = sim.view.northUpMode ? 0 : sim.aircraft.trueHeading;
+        const bool isLocalizer = lines.course.colour == chartColour::localizer;
+        const QString course = courseText(lines.angle + heading);
+        paintRadialLettering(painter, frame, lines.course,
+                             isLocalizer ? course + textOf(texts, Text::unitDegreeSign)
+                                         : QStringLiteral("R-") + course,
+                             occupied);
+    };
+    letter(sim.picture.radialsI2);
+    if (!sameCourse(sim.picture.radialsI3, sim.picture.radialsI2))
+        letter(sim.picture.radialsI3);
+}
+
+void ChartPainter::paintVectors(QPainter& painter, std::span<const QRectF> occupied) const {
+    const SpeedVectorLines& lines = sim.picture.speedVectors;
+    if (!lines.air.visible && !lines.wind.visible && !lines.ground.visible)
+        return;
+    const auto knots = [this](Text name, int value) -> QString {
+        return textOf(texts, name) + QLatin1Char(' ') + QString::number(value);
+    };
+    paintSpeedVectors(painter, frame, lines,
+                      {knots(Text::autopilotSpeed, sim.aircraft.tasUsed),
+                       knots(Text::chartGroundSpeed, sim.speedVectors.groundSpeed)},
+                      occupied);
+}
+
+void ChartPainter::paintOverlays(QPainter& painter, const ScaleBar& scale) const {
+    paintHeadingLine(painter, frame, sim.picture.heading, textOf(texts, Text::chartHeading));
+    paintScaleBar(painter, frame, scale, textOf(texts, Text::unitNauticalMiles));
+    paintNorthArrow(painter, frame, rotation(), textOf(texts, Text::chartNorth));
+    const Label& help = sim.picture.help;
+    if (help.visible)
+        paintHelp(painter, frame,
+                  help.caption.empty() ? textOf(texts, Text::helpSelectHeading)
+                                       : QString::fromStdString(help.caption));
+    paintPaperEdge(painter, frame);
+}
+
+} // namespace tarnel

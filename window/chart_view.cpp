@@ -1,0 +1,123 @@
+#include "window/chart_view.h"
+
+#include "core/number_text.h"
+#include "core/rounding.h"
+#include "window/look.h"
+#include "window/text_of.h"
+
+#include <QAccessible>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QWheelEvent>
+
+#include <cmath>
+
+namespace tarnel {
+
+namespace {
+
+constexpr int wheelNotch = 120;
+
+ChartButton chartButton(Qt::MouseButton button) {
+    switch (button) {
+    case Qt::LeftButton:
+        return ChartButton::left;
+    case Qt::RightButton:
+        return ChartButton::right;
+    default:
+        return ChartButton::other;
+    }
+}
+
+/// Degrees and minutes with the letter of the hemisphere, to a tenth of a minute.
+QString angleText(double degrees, int digits, char positive, char negative) {
+    const auto tenths = static_cast<std::int64_t>(std::llround(std::abs(degrees) * 600));
+    return QStringLiteral("%1° %2′ %3")
+        .arg(QString::fromStdString(zeroPadded(tenths / 600, digits)),
+             QString::number(static_cast<double>(tenths % 600) / 10, 'f', 1),
+             QString(QLatin1Char(degrees < 0 ? negative : positive)));
+}
+
+} // namespace
+
+ChartView::ChartView(UserControl2& simulation, const StringTable& table, QWidget* parent)
+    : QWidget(parent), sim(simulation), texts(table), painter(simulation, table) {
+    setFocusPolicy(Qt::TabFocus);
+    setContextMenuPolicy(Qt::PreventContextMenu);
+    setAccessibleName(spokenChart());
+    showCursor();
+}
+
+void ChartView::refresh() {
+    showCursor();
+    if (paintedRevision == sim.picture.surface.revision())
+        return;
+    update();
+    if (!QAccessible::isActive())
+        return;
+    if (const QString name = spokenChart(); name != accessibleName())
+        setAccessibleName(name);
+}
+
+QString ChartView::spokenChart() const {
+    if (sim.c_AirplaneEN != 1)
+        return textOf(texts, Text::spokenChartHidden);
+    const GeoPosition at = sim.aircraft.published();
+    const QString position = angleText(at.latitude, 2, 'N', 'S') + QLatin1Char(' ') +
+                             angleText(at.longitude, 3, 'E', 'W');
+    const auto heading = static_cast<std::int64_t>(roundToEven(sim.aircraft.trueHeading)) % 360;
+    return textOf(texts, Text::spokenChart)
+        .arg(position, QString::fromStdString(zeroPadded(heading, 3)));
+}
+
+void ChartView::paintEvent(QPaintEvent* /*event*/) {
+    paintedRevision = sim.picture.surface.revision();
+    QPainter onWidget(this);
+    painter.paint(onWidget, side(), devicePixelRatioF());
+    if (!hasFocus())
+        return;
+    constexpr double ring = 2;
+    constexpr double inset = ring / 2;
+    onWidget.setPen(QPen(look::accent, ring));
+    onWidget.setBrush(Qt::NoBrush);
+    onWidget.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset),
+                             look::paperRadius, look::paperRadius);
+}
+
+void ChartView::showCursor() {
+    const bool canPlace = sim.view.northUpMode && sim.stopped();
+    const Qt::CursorShape wanted = canPlace ? Qt::CrossCursor : Qt::ArrowCursor;
+    if (cursor().shape() != wanted)
+        setCursor(wanted);
+}
+
+Point ChartView::toTwips(QPointF at) const {
+    const double twipsPerPixel = sim.picture.size / std::max(1.0, side());
+    return {at.x() * twipsPerPixel, at.y() * twipsPerPixel};
+}
+
+void ChartView::mousePressEvent(QMouseEvent* event) {
+    guard([&] { sim.mouse.down(chartButton(event->button()), toTwips(event->position())); });
+    refresh();
+}
+
+void ChartView::mouseMoveEvent(QMouseEvent* event) {
+    guard([&] { sim.mouse.move(toTwips(event->position())); });
+    refresh();
+}
+
+void ChartView::mouseReleaseEvent(QMouseEvent* /*event*/) {
+    guard([&] { sim.mouse.up(); });
+    refresh();
+}
+
+void ChartView::wheelEvent(QWheelEvent* event) {
+    wheelRest += event->angleDelta().y();
+    const int notches = wheelRest / wheelNotch;
+    wheelRest -= notches * wheelNotch;
+    if (notches != 0 && onZoom)
+        onZoom(notches);
+    event->accept();
+}
+
+} // namespace tarnel

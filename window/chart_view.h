@@ -1,0 +1,53 @@
+#pragma once
+
+#include "window/chart_painter.h"
+#include "window/model_guard.h"
+
+#include <QWidget>
+
+#include <algorithm>
+#include <cstdint>
+#include <functional>
+
+namespace tarnel {
+
+/// `ChartView`: the chart as a widget. It shows the simulation's picture on white paper and hands
+/// it the mouse.
+class ChartView : public QWidget {
+    Q_OBJECT
+
+  public:
+    ChartView(UserControl2& simulation, const StringTable& texts, QWidget* parent = nullptr);
+
+    /// Paints again if the picture has changed since it was painted; costs next to nothing if not.
+    void refresh();
+
+    /// What a screen reader says: where the aircraft is and where it heads.
+    [[nodiscard]] QString spokenChart() const;
+
+    /// Every call into the simulation goes through here, so that its owner can catch what it
+    /// throws.
+    ModelGuard guard = unguarded();
+    /// Called with the notches that the wheel was turned over the chart, forwards positive.
+    std::function<void(int)> onZoom;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+  private:
+    [[nodiscard]] Point toTwips(QPointF at) const;
+    [[nodiscard]] double side() const { return std::min(width(), height()); }
+    void showCursor();
+
+    UserControl2& sim;
+    const StringTable& texts;
+    ChartPainter painter;
+    std::uint64_t paintedRevision = 0;
+    int wheelRest = 0;
+};
+
+} // namespace tarnel

@@ -1,0 +1,51 @@
+#include "window/floating_gyro.h"
+
+#include "window/form_binding.h"
+#include "window/look.h"
+
+#include <QCloseEvent>
+#include <QPainter>
+
+namespace tarnel {
+
+namespace {
+
+constexpr int startSize = 300;
+constexpr int smallestSize = 200;
+constexpr int margin = 6;
+
+} // namespace
+
+additional_DG::additional_DG(Form1& owner, PictureStore& pictures, QWidget* parent)
+    : QWidget(parent, Qt::Tool), form(owner) {
+    setObjectName(QStringLiteral("additional_DG"));
+    setWindowTitle(textOf(form.texts, Text::floatingGyro));
+    gyro = new InstrumentView(form.UserControl_DG, pictures, form.texts, this);
+    gyro->guard = [this](const std::function<void()>& action) { form.guarded(action); };
+    resize(startSize, startSize);
+    setMinimumSize(smallestSize, smallestSize);
+}
+
+void additional_DG::refresh() {
+    const bool wanted = form.floatingGyroBox.value() == 1;
+    if (wanted != isVisible())
+        setVisible(wanted);
+    if (wanted)
+        gyro->refresh();
+}
+
+void additional_DG::closeEvent(QCloseEvent* event) {
+    form.setFloatingGyroOpen(false);
+    event->accept();
+}
+
+void additional_DG::resizeEvent(QResizeEvent*) {
+    const int side = qMin(width(), height()) - 2 * margin;
+    gyro->setGeometry((width() - side) / 2, (height() - side) / 2, side, side);
+}
+
+void additional_DG::paintEvent(QPaintEvent*) {
+    QPainter(this).fillRect(rect(), look::panelTop);
+}
+
+} // namespace tarnel

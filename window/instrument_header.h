@@ -1,0 +1,52 @@
+#pragma once
+
+#include "shell/form_1.h"
+#include "shell/instrument_legend.h"
+#include "window/form_binding.h"
+
+#include <QWidget>
+
+#include <vector>
+
+class QHBoxLayout;
+class QPainter;
+class QToolButton;
+
+namespace tarnel {
+
+/// The controls that belong to one instrument position.
+struct HeaderControls {
+    const PositionLinks& links;
+    OptionButton& smallSize;
+    OptionButton& largeSize;
+};
+
+/// `InstrumentHeader`: what stands above an instrument: its kind, what it shows on the chart, its
+/// size, and the legend of its needles.
+class InstrumentHeader : public QWidget {
+    Q_OBJECT
+
+  public:
+    InstrumentHeader(Form1& form, HeaderControls controls, FormBinding& binding,
+                     QWidget* parent = nullptr);
+
+    /// Brings the legend up to date.
+    void refresh();
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    QToolButton* addToggle(QHBoxLayout& row);
+    void followSize(QToolButton& button);
+    [[nodiscard]] int legendWidth(const QFontMetrics& metrics) const;
+    int paintPart(QPainter& painter, const LegendPart& part, bool brief, int right) const;
+
+    Form1& form;
+    HeaderControls controls;
+    std::vector<LegendPart> legend;
+    QToolButton* overlay = nullptr;
+    QToolButton* toggles = nullptr; ///< the last of them
+};
+
+} // namespace tarnel

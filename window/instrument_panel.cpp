@@ -1,0 +1,106 @@
+#include "window/instrument_panel.h"
+
+#include "window/autopilot_module.h"
+#include "window/dme_module.h"
+#include "window/instrument_header.h"
+#include "window/instrument_view.h"
+#include "window/nav_module.h"
+#include "window/panel_look.h"
+#include "window/stopwatch_module.h"
+
+#include <QPainter>
+#include <QPushButton>
+
+namespace tarnel {
+
+InstrumentPanel::InstrumentPanel(Form1& owner, FormBinding& binding, PictureStore& pictures,
+                                 const ModelGuard& guard, QWidget* parent)
+    : QWidget(parent), form(owner) {
+    setObjectName(QStringLiteral("InstrumentPanel"));
+    makeInstruments(binding, pictures, guard);
+    makeModules(binding, pictures, guard);
+}
+
+void InstrumentPanel::makeInstruments(FormBinding& binding, PictureStore& pictures,
+                                      const ModelGuard& guard) {
+    const std::array<HeaderControls, 2> controls = {
+        HeaderControls{form.links2(), form.inst2Small, form.inst2Large},
+        HeaderControls{form.links3(), form.inst3Small, form.inst3Large}};
+    for (std::size_t i = 0; i < controls.size(); ++i) {
+        headers[i] = new InstrumentHeader(form, controls[i], binding, this);
+        instruments[i] = new InstrumentView(controls[i].links.position.instrument, pictures,
+                                            form.texts, this);
+        instruments[i]->guard = guard;
+        instruments[i]->setObjectName(QStringLiteral("UserControl13_%1").arg(i));
+        channelButtons[i] = new QPushButton(this);
+        channelButtons[i]->setProperty("channel", true);
+        binding.bind(controls[i].links.channelButton, *channelButtons[i]);
+    }
+}
+
+void InstrumentPanel::makeModules(FormBinding& binding, PictureStore& pictures,
+                                  const ModelGuard& guard) {
+    nav1 = new NavModule(form.NAVControlFace1, nav1Texts, pictures, form.texts, this);
+    nav2 = new NavModule(form.NAVControlFace2, nav2Texts, pictures, form.texts, this);
+    adf = new NavModule(form.ADFControlFace1, adfTexts, pictures, form.texts, this);
+    dme = new DmeModule(form.DMEControlFace1, pictures, form.texts, this);
+    stopwatch = new StopwatchModule(form.tvsmtimer1, pictures, form.texts, this);
+    binding.bind(form.stopwatchStartButton, stopwatch->startButton());
+    binding.bind(form.stopwatchResetButton, stopwatch->resetButton());
+    autopilot = new AutopilotModule(form.APControlFace1, pictures, form.texts, this);
+    modules = {nav1, nav2, adf, dme, stopwatch, autopilot};
+    for (ModuleFrame* module : modules)
+        module->guard = guard;
+    nav1->setObjectName(QStringLiteral("NAVControlFace1"));
+    nav2->setObjectName(QStringLiteral("NAVControlFace2"));
+    adf->setObjectName(QStringLiteral("ADFControlFace1"));
+    dme->setObjectName(QStringLiteral("DMEControlFace1"));
+    stopwatch->setObjectName(QStringLiteral("tvsmtimer1"));
+    autopilot->setObjectName(QStringLiteral("APControlFace1"));
+}
+
+void InstrumentPanel::layOutChannelButton(std::size_t position, const QRect& bezel) {
+    const double side = bezel.width();
+    const double inset = look::bezel::channelButtonInset * side;
+    channelButtons[position]->setGeometry(
+        QRectF(bezel.left() + inset, bezel.top() + inset, look::bezel::channelButtonWidth * side,
+               look::bezel::channelButtonHeight * side)
+            .toRect());
+    const int letters = qRound(qMax<double>(look::bezel::smallestLettering,
+                                            look::bezel::lettering * side));
+    channelButtons[position]->setStyleSheet(QStringLiteral("font-size: %1px").arg(letters));
+    channelButtons[position]->raise();
+}
+
+void InstrumentPanel::layOut(const WindowLayout& layout) {
+    for (std::size_t i = 0; i < instruments.size(); ++i) {
+        headers[i]->setGeometry(layout.headers[i]);
+        instruments[i]->setGeometry(layout.instruments[i]);
+        layOutChannelButton(i, layout.instruments[i]);
+    }
+    const std::array<QRect, 6> places = {layout.nav1, layout.nav2,      layout.adf,
+                                         layout.dme,  layout.stopwatch, layout.autopilot};
+    for (std::size_t i = 0; i < modules.size(); ++i) {
+        modules[i]->setScale(layout.panelScale);
+        modules[i]->setGeometry(places[i]);
+    }
+}
+
+void InstrumentPanel::refresh() {
+    for (InstrumentHeader* header : headers)
+        header->refresh();
+    for (InstrumentView* instrument : instruments)
+        instrument->refresh();
+    for (ModuleFrame* module : modules)
+        module->refresh();
+}
+
+void InstrumentPanel::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(look::downward(0, height(), look::panelTop, look::panelBottom));
+    painter.drawRoundedRect(rect(), look::panelRadius, look::panelRadius);
+}
+
+} // namespace tarnel

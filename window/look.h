@@ -1,0 +1,168 @@
+#pragma once
+
+#include "core/drawing_surface.h"
+
+#include <QColor>
+#include <QFont>
+#include <QLinearGradient>
+
+#include <algorithm>
+#include <cmath>
+
+/// The palette and the metrics of the whole window. Lengths are logical pixels unless they are
+/// called a share.
+namespace tarnel::look {
+
+/// A colour from 0xRRGGBB.
+constexpr QColor rgb(unsigned hex) {
+    return {static_cast<int>(hex >> 16 & 0xFF), static_cast<int>(hex >> 8 & 0xFF),
+            static_cast<int>(hex & 0xFF)};
+}
+
+/// A colour of a drawing surface, 0xBBGGRR.
+constexpr QColor fromSurface(Colour colour) {
+    return {static_cast<int>(colour & 0xFF), static_cast<int>(colour >> 8 & 0xFF),
+            static_cast<int>(colour >> 16 & 0xFF)};
+}
+
+inline QColor faded(QColor colour, double opacity) {
+    colour.setAlphaF(static_cast<float>(opacity));
+    return colour;
+}
+
+/// What a colour of `opacity` looks like on white paper, itself opaque: much cheaper to paint.
+inline QColor onPaper(QColor colour, double opacity) {
+    const auto mixed = [opacity](int channel) {
+        return static_cast<int>(std::lround(255 - (255 - channel) * opacity));
+    };
+    return {mixed(colour.red()), mixed(colour.green()), mixed(colour.blue())};
+}
+
+/// A gradient from top to bottom: there is one light, and it stands above.
+inline QLinearGradient downward(double top, double bottom, QColor upper, QColor lower) {
+    QLinearGradient gradient(0, top, 0, bottom);
+    gradient.setColorAt(0, upper);
+    gradient.setColorAt(1, lower);
+    return gradient;
+}
+
+// Desktop. The accent means "act" and nothing else.
+inline constexpr QColor desktop = rgb(0xE8EBEE);
+inline constexpr QColor bars = rgb(0xF7F8F9);
+inline constexpr QColor card = rgb(0xFBFCFD);
+inline constexpr QColor line = rgb(0xC6CCD3);
+inline constexpr QColor hairline = rgb(0xDDE1E6);
+inline constexpr QColor ink = rgb(0x1B2128);
+inline constexpr QColor secondaryInk = rgb(0x55606B);
+inline constexpr QColor accent = rgb(0x1B5FAA);
+inline constexpr QColor right = rgb(0x1A7440);
+
+// Dark panel: gradients from top to bottom.
+inline constexpr QColor panelTop = rgb(0x24292E);
+inline constexpr QColor panelBottom = rgb(0x1A1E22);
+inline constexpr QColor moduleTop = rgb(0x33393F);
+inline constexpr QColor moduleBottom = rgb(0x292E33);
+inline constexpr QColor bezelTop = rgb(0x41474E);
+inline constexpr QColor bezelBottom = rgb(0x24282D);
+inline constexpr QColor dialTop = rgb(0x1A1C1E);
+inline constexpr QColor dialBottom = rgb(0x131516);
+inline constexpr QColor digitWell = rgb(0x0A0D0D);
+inline constexpr QColor caption = rgb(0xE6EAEE);
+inline constexpr QColor unit = rgb(0xA9B3BD);
+
+// Digits.
+inline constexpr QColor setByYou = rgb(0xFFC14D);
+inline constexpr QColor measured = rgb(0x5FE08E);
+
+// Instruments.
+inline constexpr QColor ticks = rgb(0xF3F4F2);
+inline constexpr QColor course = rgb(0xFFDF00);
+inline constexpr QColor headingBug = rgb(0xFF8000);
+inline constexpr QColor needleOne = rgb(0xFFC81E);
+inline constexpr QColor needleTwo = rgb(0x35D27B);
+
+// Chart.
+inline constexpr QColor paper = rgb(0xFFFFFF);
+inline constexpr QColor stationRed = rgb(0xC4262E);
+inline constexpr QColor stationBlue = rgb(0x1F56B8);
+inline constexpr QColor localizer = rgb(0x3D7A5C);
+inline constexpr QColor track = rgb(0x00A3C4);
+inline constexpr QColor groundSpeed = rgb(0x00809C);
+inline constexpr QColor wind = rgb(0xB05A00);
+inline constexpr QColor gridMile = rgb(0xF4F6F9);
+inline constexpr QColor gridFiveMiles = rgb(0xE7ECF1);
+inline constexpr QColor gridTenMiles = rgb(0xDCE3EA);
+
+// Type, heights in pixels.
+inline constexpr int bodyType = 13;
+inline constexpr int titleType = 15;   ///< bold
+inline constexpr int denseType = 12;   ///< dense controls and the status bar
+inline constexpr int captionType = 12; ///< bold
+inline constexpr int unitType = 11;    ///< units and what is secondary
+inline constexpr int scaleType = 10;
+
+inline QFont font(double pixels, QFont::Weight weight = QFont::Normal) {
+    QFont result(QStringLiteral("Liberation Sans"));
+    result.setPixelSize(std::max(1, static_cast<int>(std::lround(pixels))));
+    result.setWeight(weight);
+    return result;
+}
+
+// Spacing.
+inline constexpr int gap = 8; ///< outer margin, gutters, inset of the panel
+inline constexpr int cardInset = 10;
+inline constexpr int moduleInset = 12;
+inline constexpr int overlayInset = 10; ///< from the edge of the paper
+inline constexpr int menuHeight = 28;
+inline constexpr int statusHeight = 26;
+inline constexpr int controlHeight = 26;
+inline constexpr int quizControlHeight = 28;
+inline constexpr int chartSwitchHeight = 24;
+inline constexpr double paperRadius = 3;
+inline constexpr double controlRadius = 5;
+inline constexpr double moduleRadius = 6;
+inline constexpr double panelRadius = 8;
+inline constexpr double bezelRadiusShare = 0.045; ///< of the bezel
+
+/// The part of the status bar that each of its panels takes.
+inline constexpr double statusShares[] = {.185, .135, .135, .09, .105, .165, .185};
+
+/// Shares of the bezel's side.
+namespace bezel {
+inline constexpr double recessRadius = 0.470;
+inline constexpr double glassRadius = 0.448;
+inline constexpr double knobRadius = 0.062;
+inline constexpr double knobInset = 0.088; ///< its centre from both edges
+inline constexpr double channelButtonWidth = 0.205;
+inline constexpr double channelButtonHeight = 0.064;
+inline constexpr double channelButtonInset = 0.028;
+inline constexpr double lettering = 0.029; ///< but never below `smallestLettering`
+inline constexpr int smallestLettering = 9;
+} // namespace bezel
+
+/// Shares of the card's radius, which is a share of the glass.
+namespace card_share {
+inline constexpr double ofGlass = 0.915;
+inline constexpr double tenDegreeTick = 0.10;
+inline constexpr double fiveDegreeTick = 0.055;
+inline constexpr double numeralRadius = 0.785;
+inline constexpr double numeralHeight = 0.132;
+inline constexpr double cardinalHeight = 0.155;
+inline constexpr double arrowInner = 0.39;
+inline constexpr double arrowOuter = 0.70;
+inline constexpr double barHalfLength = 0.365;
+inline constexpr double dotSpacing = 0.078; ///< two degrees
+inline constexpr double bugInner = 0.945;
+inline constexpr double bugOuter = 1.045;
+} // namespace card_share
+
+/// Vector digits, seven segments.
+namespace digits {
+inline constexpr double height = 28;
+inline constexpr double narrowHeight = 24;
+inline constexpr double smallHeight = 22; ///< DME on narrow panels
+inline constexpr double strokeShare = 0.13;
+inline constexpr double slantDegrees = 5;
+} // namespace digits
+
+} // namespace tarnel::look

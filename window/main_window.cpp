@@ -1,0 +1,152 @@
+#include "window/main_window.h"
+
+#include "window/chart_controls.h"
+#include "window/chart_view.h"
+#include "window/control_strip.h"
+#include "window/floating_gyro.h"
+#include "window/instrument_panel.h"
+#include "window/look.h"
+#include "window/menu_tree.h"
+#include "window/status_panels.h"
+#include "window/style_sheet.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QMenuBar>
+#include <QMessageBox>
+
+namespace tarnel {
+
+namespace {
+
+constexpr int couplingMilliseconds = 1;
+constexpr int autopilotMilliseconds = 200;
+constexpr QSize smallestWindow{980, 660};
+constexpr QSize usualWindow{1280, 800};
+
+} // namespace
+
+MainWindow::MainWindow(Form1& owner)
+    : form(owner),
+      binding(owner),
+      pictures(QString::fromStdString(owner.UserControl11.c_MainAppPath.get())) {
+    setObjectName(QStringLiteral("Form1"));
+    setWindowTitle(textOf(form.texts, Text::windowTitle));
+    setContextMenuPolicy(Qt::NoContextMenu);
+    setMinimumSize(smallestWindow);
+    pictures.onMissing = [this](const QString& name) {
+        QTimer::singleShot(0, this, [this, name] { form.pictureMissing(name.toStdString()); });
+    };
+    setStyleSheet(sheetFor(1));
+    makeMenus();
+    makeDesk();
+    resize(usualWindow);
+
+    couplingTimer.setTimerType(Qt::PreciseTimer);
+    couplingTimer.setInterval(couplingMilliseconds);
+    connect(&couplingTimer, &QTimer::timeout, this, &MainWindow::couplingTick);
+    simulationTimer.setTimerType(Qt::PreciseTimer);
+    connect(&simulationTimer, &QTimer::timeout, this, [this] { form.simulationTimer(); });
+    autopilotTimer.setInterval(autopilotMilliseconds);
+    connect(&autopilotTimer, &QTimer::timeout, this, [this] { form.autopilotTimer(); });
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::makeMenus() {
+    MenuActions actions;
+    actions.exit = [this] { close(); };
+    actions.about = [this] { showAbout(); };
+    buildMenus(*menuBar(), form, binding, actions);
+}
+
+void MainWindow::makeDesk() {
+    const ModelGuard guard = [this](const std::function<void()>& action) { form.guarded(action); };
+    desk = new QWidget(this);
+    desk->setObjectName(QStringLiteral("Desk"));
+    setCentralWidget(desk);
+    chart = new ChartView(form.UserControl11, form.texts, desk);
+    chart->guard = guard;
+    chart->onZoom = [this](int steps) { form.guarded([&] { form.stepScale(steps); }); };
+    chartControls = new ChartControls(form, chart);
+    strip = new ControlStrip(form, binding, desk);
+    panel = new InstrumentPanel(form, binding, pictures, guard, desk);
+    status = new StatusPanels(form, binding, desk);
+    gyro = new additional_DG(form, pictures, this);
+}
+
+void MainWindow::startTimers() {
+    couplingTimer.start();
+    if (form.APControlFace1.c_startTimer == 1)
+        autopilotTimer.start();
+}
+
+PanelSizes MainWindow::panelSizes() const {
+    return {form.inst2.instrument.c_Large == 1, form.inst3.instrument.c_Large == 1};
+}
+
+void MainWindow::layOut() {
+    const int barHeight = static_cast<int>(look::statusHeight * (shownScale > 0 ? shownScale : 1));
+    const QSize body(desk->width(), desk->height() - barHeight);
+    const WindowLayout layout = layOutWindow(body, panelSizes());
+    if (layout.uiScale != shownScale) {
+        shownScale = layout.uiScale;
+        setStyleSheet(sheetFor(shownScale));
+        QTimer::singleShot(0, this, &MainWindow::layOut);
+    }
+    shownSizes = panelSizes();
+    chart->setGeometry(layout.chart);
+    const int inset = look::overlayInset;
+    chartControls->setGeometry(inset, inset, layout.chart.width() - 2 * inset,
+                               chartControls->sizeHint().height());
+    strip->setGeometry(layout.strip);
+    panel->setGeometry(layout.panel);
+    panel->layOut(layout);
+    status->setGeometry(0, body.height(), desk->width(), barHeight);
+    pictures.sizesChanged();
+}
+
+void MainWindow::resizeEvent(QResizeEvent* event) {
+    QMainWindow::resizeEvent(event);
+    layOut();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    event->accept();
+    QCoreApplication::quit();
+}
+
+/// The interval follows the rate that was chosen, and the timer runs while the flight does.
+void MainWindow::followSimulationClock() {
+    const bool runs = form.UserControl11.c_TimerEN == 1;
+    const int interval = form.UserControl11.c_TimerSIMrate;
+    if (simulationTimer.interval() != interval)
+        simulationTimer.setInterval(interval);
+    if (runs != simulationTimer.isActive())
+        runs ? simulationTimer.start() : simulationTimer.stop();
+}
+
+void MainWindow::couplingTick() {
+    form.Timer1();
+    followSimulationClock();
+    refresh();
+}
+
+void MainWindow::refresh() {
+    binding.refresh();
+    const PanelSizes sizes = panelSizes();
+    if (sizes.inst2Large != shownSizes.inst2Large || sizes.inst3Large != shownSizes.inst3Large)
+        layOut();
+    chart->refresh();
+    chartControls->refresh();
+    strip->refresh();
+    panel->refresh();
+    gyro->refresh();
+}
+
+void MainWindow::showAbout() {
+    QMessageBox::about(this, textOf(form.texts, Text::aboutTitle),
+                       textOf(form.texts, Text::aboutText));
+}
+
+} // namespace tarnel

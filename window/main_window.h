@@ -1,0 +1,64 @@
+#pragma once
+
+#include "shell/form_1.h"
+#include "window/form_binding.h"
+#include "window/picture_store.h"
+#include "window/window_layout.h"
+
+#include <QMainWindow>
+#include <QTimer>
+
+namespace tarnel {
+
+class ChartControls;
+class ChartView;
+class ControlStrip;
+class InstrumentPanel;
+class StatusPanels;
+class additional_DG;
+
+/// `MainWindow`: shows the trainer and hands it the mouse, the keys and the time.
+class MainWindow : public QMainWindow {
+    Q_OBJECT
+
+  public:
+    explicit MainWindow(Form1& form);
+    ~MainWindow() override;
+
+    /// Lets time run: the coupling as fast as it can, the simulation at its rate.
+    void startTimers();
+
+    /// Brings everything that is shown up to date with the form.
+    void refresh();
+
+  protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+  private:
+    void makeMenus();
+    void makeDesk();
+    void layOut();
+    void couplingTick();
+    void followSimulationClock();
+    void showAbout();
+    [[nodiscard]] PanelSizes panelSizes() const;
+
+    Form1& form;
+    FormBinding binding;
+    PictureStore pictures;
+    QWidget* desk = nullptr;
+    ChartView* chart = nullptr;
+    ChartControls* chartControls = nullptr;
+    ControlStrip* strip = nullptr;
+    InstrumentPanel* panel = nullptr;
+    StatusPanels* status = nullptr;
+    additional_DG* gyro = nullptr;
+    QTimer couplingTimer;
+    QTimer simulationTimer;
+    QTimer autopilotTimer;
+    PanelSizes shownSizes;
+    double shownScale = 0;
+};
+
+} // namespace tarnel

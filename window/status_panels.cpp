@@ -1,0 +1,58 @@
+#include "window/status_panels.h"
+
+#include "window/look.h"
+
+#include <QLabel>
+#include <QPainter>
+#include <QStyle>
+#include <QStyleOption>
+
+#include <array>
+#include <cmath>
+
+namespace tarnel {
+
+namespace {
+
+/// The share of the width that each panel takes.
+constexpr std::array<double, 7> shares = {.185, .135, .135, .135, .15, .145, .115};
+
+} // namespace
+
+StatusPanels::StatusPanels(Form1& form, FormBinding& binding, QWidget* parent) : QWidget(parent) {
+    setObjectName(QStringLiteral("StatusPanels"));
+    const std::array<TextPanel*, 7> order = {
+        &form.sessionPanel, &form.windPanel, &form.hidePanel,      &form.tracePanel,
+        &form.vectorsPanel, &form.modePanel, &form.flightTimePanel};
+    for (TextPanel* panel : order) {
+        auto* label = new QLabel(this);
+        binding.bind(*panel, *label);
+        panels.push_back(label);
+    }
+    panels.back()->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    panels.back()->setContentsMargins(0, 0, 10, 0);
+}
+
+void StatusPanels::resizeEvent(QResizeEvent*) {
+    double left = 0;
+    for (std::size_t i = 0; i < panels.size(); ++i) {
+        const double panelWidth = shares[i] * width();
+        panels[i]->setGeometry(static_cast<int>(std::lround(left)), 0,
+                               static_cast<int>(std::lround(panelWidth)), height());
+        left += panelWidth;
+    }
+}
+
+void StatusPanels::paintEvent(QPaintEvent*) {
+    QStyleOption option;
+    option.initFrom(this);
+    QPainter painter(this);
+    style()->drawPrimitive(QStyle::PE_Widget, &option, &painter, this);
+    painter.setPen(look::line);
+    for (std::size_t i = 1; i < panels.size(); ++i) {
+        const int x = panels[i]->x();
+        painter.drawLine(x, height() / 5, x, height() - height() / 5);
+    }
+}
+
+} // namespace tarnel

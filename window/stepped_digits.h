@@ -1,0 +1,37 @@
+#pragma once
+
+#include "window/digit_display.h"
+#include "window/panel_input.h"
+
+#include <functional>
+
+namespace tarnel {
+
+/// `SteppedDigits`: digits that a click, the wheel and the keys step, as long as they are offered.
+class SteppedDigits : public DigitDisplay {
+    Q_OBJECT
+
+  public:
+    using DigitDisplay::DigitDisplay;
+
+    /// Whether the digits take the hand at present.
+    void setOffered(bool offered);
+
+    std::function<void(int)> step;
+
+  protected:
+    void paintOver(QPainter& painter) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void enterEvent(QEnterEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+
+  private:
+    void stepBy(int steps);
+
+    WheelNotches notches;
+    bool offered = false;
+};
+
+} // namespace tarnel

@@ -1,0 +1,140 @@
+#include "window/style_sheet.h"
+
+#include "window/panel_look.h"
+
+#include <QHash>
+#include <QRegularExpression>
+
+#include <cmath>
+
+namespace tarnel {
+
+namespace {
+
+/// Colours stand as $names, lengths in pixels at scale 1 as {n}.
+constexpr const char* sheet = R"(
+* { font-family: "Liberation Sans", "Arial", sans-serif; font-size: {13}px; }
+QMainWindow, QWidget#Desk { background: $desktop; }
+QMenuBar { background: $bar; color: $ink; padding: {2}px {8}px; border-bottom: 1px solid $line; }
+QMenuBar::item { padding: {4}px {10}px; border-radius: {4}px; background: transparent; }
+QMenuBar::item:selected { background: $hairline; }
+QMenu { background: $card; color: $ink; border: 1px solid $line; padding: {4}px; }
+QMenu::item { padding: {4}px {26}px {4}px {22}px; border-radius: {3}px; }
+QMenu::item:selected:enabled { background: $accent; color: white; }
+QMenu::item:disabled { color: $unit; }
+QMenu::separator { height: 1px; background: $hairline; margin: {4}px {6}px; }
+QToolTip { background: $card; color: $ink; border: 1px solid $line; padding: {3}px; }
+
+QLabel { color: $ink; background: transparent; }
+QLabel[secondary="true"] { color: $secondaryInk; font-size: {12}px; }
+QLabel[readout="true"] { font-size: {13}px; font-weight: bold; }
+
+QPushButton { background: $paper; color: $ink; border: 1px solid $line; border-radius: {5}px;
+  padding: 0 {10}px; min-height: {24}px; max-height: {24}px; font-size: {12}px; }
+QPushButton:hover { border-color: $accent; }
+QPushButton:pressed { background: $hairline; }
+QPushButton:focus { border: 2px solid $accent; padding: 0 {9}px; }
+QPushButton:disabled { color: $unit; }
+QPushButton[primary="true"] { background: $accent; color: white; border: 1px solid $accentDeep;
+  font-weight: bold; font-size: {13}px; min-width: {96}px; min-height: {26}px; max-height: {26}px; }
+QPushButton[primary="true"]:hover { background: $accentLight; }
+QPushButton[primary="true"]:pressed { background: $accentDeep; }
+QPushButton[primary="true"]:focus { border: 2px solid $ink; }
+QPushButton[segment] { background: $desktop; border-radius: 0; border-left-width: 0;
+  padding: 0 {4}px; min-width: {30}px; }
+QPushButton[segment]:hover { background: $paper; }
+QPushButton[segment="first"] { border-left-width: 1px; border-top-left-radius: {5}px;
+  border-bottom-left-radius: {5}px; }
+QPushButton[segment="last"] { border-top-right-radius: {5}px; border-bottom-right-radius: {5}px; }
+QPushButton[segment]:checked { background: $paper; color: $accent; font-weight: bold;
+  border: {2}px solid $accent; border-radius: {5}px; padding: 0 {3}px; }
+QPushButton[segment]:focus:!checked { border: 1px solid $accent; color: $accent; }
+
+QToolButton { background: $paper; border: 1px solid $line; border-radius: {5}px;
+  min-width: {26}px; min-height: {22}px; max-height: {22}px; }
+QToolButton:hover:enabled { border-color: $accent; }
+QToolButton:pressed { background: $hairline; }
+QToolButton:focus { border: 2px solid $accent; }
+QToolButton:disabled { background: $card; border-color: $hairline; }
+
+QSlider { min-height: {18}px; max-height: {18}px; background: transparent; }
+QSlider::groove:horizontal { height: {4}px; border-radius: {2}px; background: $line; }
+QSlider::sub-page:horizontal { background: $accent; border-radius: {2}px; }
+QSlider::handle:horizontal { width: {13}px; height: {13}px; margin: -{5}px 0;
+  border-radius: {7}px; background: $paper; border: 1px solid $unit; }
+QSlider::add-page:horizontal { background: transparent; }
+QSlider::sub-page:horizontal:disabled { background: transparent; }
+QSlider::handle:horizontal:disabled { background: $card; border-color: $line; }
+
+QComboBox[dark="true"] QAbstractItemView { background: $moduleBottom; color: $caption;
+  border: 1px solid $bezelTop; selection-background-color: $accent; outline: none; }
+
+QToolButton[dark="true"] { background: $moduleTop; border: 1px solid $bezelTop;
+  min-width: {22}px; max-width: {22}px; min-height: {22}px; max-height: {22}px; }
+QToolButton[dark="true"]:hover { border-color: $unit; }
+QToolButton[dark="true"]:pressed { background: $panelBottom; }
+QToolButton[dark="true"]:checked { background: $accent; border-color: $panelFocus; }
+QToolButton[dark="true"]:focus { border: 2px solid $panelFocus; }
+
+QPushButton[dark="true"] { background: $moduleTop; color: $caption; border: 1px solid $bezelTop;
+  border-radius: {4}px; padding: 0 {6}px; min-height: {20}px; max-height: {26}px;
+  font-size: {11}px; font-weight: bold; }
+QPushButton[dark="true"]:hover { border-color: $unit; }
+QPushButton[dark="true"]:pressed { background: $panelBottom; }
+QPushButton[dark="true"]:focus { border: 2px solid $panelFocus; padding: 0 {5}px; }
+
+QPushButton[channel="true"] { background: $moduleTop; color: $measured;
+  border: 1px solid $panelBottom; border-top-color: $bezelTop; border-radius: {4}px; padding: 0;
+  min-height: 0; max-height: 999px; font-weight: bold; }
+QPushButton[channel="true"]:hover { border-color: $unit; }
+QPushButton[channel="true"]:pressed { background: $panelBottom; }
+QPushButton[channel="true"]:focus { border: 2px solid $panelFocus; padding: 0; }
+
+QWidget#StatusPanels { background: $bar; border-top: 1px solid $line; }
+QWidget#StatusPanels QLabel { font-size: {12}px; padding-left: {10}px; }
+)";
+
+const QHash<QString, QColor>& colours() {
+    static const QHash<QString, QColor> byName = {
+        {QStringLiteral("desktop"), look::desktop},
+        {QStringLiteral("bar"), look::bars},
+        {QStringLiteral("card"), look::card},
+        {QStringLiteral("paper"), look::paper},
+        {QStringLiteral("line"), look::line},
+        {QStringLiteral("hairline"), look::hairline},
+        {QStringLiteral("ink"), look::ink},
+        {QStringLiteral("secondaryInk"), look::secondaryInk},
+        {QStringLiteral("accent"), look::accent},
+        {QStringLiteral("accentDeep"), look::accent.darker(130)},
+        {QStringLiteral("accentLight"), look::accent.lighter(115)},
+        {QStringLiteral("unit"), look::unit},
+        {QStringLiteral("moduleTop"), look::moduleTop},
+        {QStringLiteral("moduleBottom"), look::moduleBottom},
+        {QStringLiteral("bezelTop"), look::bezelTop.lighter(125)},
+        {QStringLiteral("panelBottom"), look::panelBottom},
+        {QStringLiteral("caption"), look::caption},
+        {QStringLiteral("measured"), look::measured},
+        {QStringLiteral("panelFocus"), look::panelAccent},
+    };
+    return byName;
+}
+
+} // namespace
+
+QString sheetFor(double scale) {
+    static const QRegularExpression token(QStringLiteral(R"(\$(\w+)|\{(\d+)\})"));
+    const QString source = QString::fromLatin1(sheet);
+    QString result;
+    qsizetype last = 0;
+    for (const auto& match : token.globalMatch(source)) {
+        result += source.mid(last, match.capturedStart() - last);
+        last = match.capturedEnd();
+        if (match.hasCaptured(1))
+            result += colours().value(match.captured(1)).name();
+        else
+            result += QString::number(std::lround(match.captured(2).toDouble() * scale));
+    }
+    return result + source.mid(last);
+}
+
+} // namespace tarnel

@@ -1,0 +1,135 @@
+#include "window/window_layout.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace tarnel {
+
+namespace {
+
+constexpr double gap = 8;
+constexpr double stripHeight = 178;
+constexpr double headerHeight = 32;
+constexpr double panelReferenceWidth = 712;
+constexpr double largeToSmall = 1.35;
+constexpr double largeChartShare = 0.82;
+constexpr double chartWidthShare = 0.477;
+/// A row of modules: the lowest at text scale 1, the highest at panel scale 1.
+constexpr double lowestRow = 74;
+constexpr double highestRow = 200;
+constexpr int moduleRows = 3;
+
+double uiScaleOf(QSize body) {
+    return std::clamp(std::min(body.width() / 1920.0, body.height() / 1000.0), 1.0, 2.0);
+}
+
+int whole(double value) {
+    return static_cast<int>(std::lround(value));
+}
+
+/// Splits `width` into `shares.size()` columns with a gutter between them.
+template <std::size_t count>
+std::array<QRect, count> columns(double left, double top, double width, double height,
+                                 const std::array<double, count>& shares, double gutter) {
+    double total = 0;
+    for (const double share : shares)
+        total += share;
+    const double free = width - gutter * (count - 1);
+    std::array<QRect, count> result;
+    double x = left;
+    for (std::size_t i = 0; i < count; ++i) {
+        const double columnWidth = free * shares[i] / total;
+        result[i] = QRect(QPoint(whole(x), whole(top)),
+                          QPoint(whole(x + columnWidth) - 1, whole(top + height) - 1));
+        x += columnWidth + gutter;
+    }
+    return result;
+}
+
+/// The panel: headers and instruments on top, the modules below.
+class PanelLayout {
+  public:
+    PanelLayout(WindowLayout& target, PanelSizes wanted) : layout(target), sizes(wanted) {}
+
+    void layOut() {
+        const QSize panel = layout.panel.size();
+        layout.panelScale = std::clamp(
+            std::min(panel.width() / panelReferenceWidth, panel.height() / 640.0), 0.7, 3.0);
+        margin = gap * layout.uiScale;
+        inner = panel.width() - 2 * margin;
+        const double head = headerHeight * layout.uiScale;
+        const double forBezels = inner - margin;
+        const double modulesTop = margin + head + margin;
+        const double lowestModules =
+            moduleRows * lowestRow * layout.uiScale + (moduleRows - 1) * margin;
+        const double tallest = panel.height() - modulesTop - margin - lowestModules;
+        const auto [width2, width3] = bezelWidths(forBezels, tallest);
+        const double slack = forBezels - width2 - width3;
+        const double left2 = margin + slack / 3;
+        const double left3 = left2 + width2 + margin + slack / 3;
+        const double bottom = margin + head + std::max(width2, width3);
+        placeInstrument(0, left2, width2, head, bottom);
+        placeInstrument(1, left3, width3, head, bottom);
+        placeModules(bottom + margin, panel.height() - margin - (bottom + margin));
+    }
+
+  private:
+    [[nodiscard]] std::pair<double, double> bezelWidths(double width, double tallest) const {
+        double first = width / 2;
+        double second = width / 2;
+        if (sizes.inst2Large != sizes.inst3Large) {
+            const double small = width / (1 + largeToSmall);
+            first = sizes.inst2Large ? width - small : small;
+            second = width - first;
+        }
+        return {std::floor(std::min(first, tallest)), std::floor(std::min(second, tallest))};
+    }
+
+    /// The instruments stand on one line at their lower edges.
+    void placeInstrument(std::size_t index, double left, double side, double head, double bottom) {
+        const double instrumentTop = bottom - side;
+        layout.instruments[index] = {whole(left), whole(instrumentTop), whole(side), whole(side)};
+        layout.headers[index] = {whole(left), whole(instrumentTop - head), whole(side),
+                                 whole(head - margin / 2)};
+    }
+
+    void placeModules(double top, double height) {
+        const double row = std::min((height - (moduleRows - 1) * margin) / moduleRows,
+                                    highestRow * layout.panelScale);
+        const auto upper = columns<3>(margin, top, inner, row, {1, 1, 1}, margin);
+        layout.nav1 = upper[0];
+        layout.nav2 = upper[1];
+        layout.adf = upper[2];
+        layout.dme = upper[0].united(upper[1]).translated(0, whole(row + margin));
+        layout.stopwatch = upper[2].translated(0, whole(row + margin));
+        layout.autopilot = upper[0].united(upper[2]).translated(0, whole(2 * (row + margin)));
+    }
+
+    WindowLayout& layout;
+    PanelSizes sizes;
+    double margin = gap;
+    double inner = 0;
+};
+
+} // namespace
+
+WindowLayout layOutWindow(QSize body, PanelSizes sizes) {
+    WindowLayout layout;
+    layout.uiScale = uiScaleOf(body);
+    const int margin = whole(gap * layout.uiScale);
+    const int height = body.height() - 2 * margin;
+    const double widest = std::floor(chartWidthShare * body.width() / gap) * gap;
+    double side = std::min(height - margin - stripHeight * layout.uiScale, widest);
+    if (sizes.inst2Large || sizes.inst3Large)
+        side *= largeChartShare;
+    const int chartSide = std::max(whole(side), 200);
+    layout.chart = {margin, margin, chartSide, chartSide};
+    const int stripTop = margin + chartSide + margin;
+    layout.strip = {margin, stripTop, chartSide, body.height() - margin - stripTop};
+    const int panelLeft = margin + chartSide + margin;
+    layout.panel = {panelLeft, margin, body.width() - margin - panelLeft, height};
+    PanelLayout(layout, sizes).layOut();
+    return layout;
+}
+
+} // namespace tarnel

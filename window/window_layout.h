@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QRect>
+#include <QSize>
+
+#include <array>
+
+namespace tarnel {
+
+/// What the panel has to show.
+struct PanelSizes {
+    bool inst2Large = false;
+    bool inst3Large = false;
+};
+
+/// Where everything stands in the window, in pixels. Panel places are relative to the panel.
+struct WindowLayout {
+    double uiScale = 1;    ///< of texts and controls: 1 up to full HD, 2 on a 4K screen at 100 %
+    double panelScale = 1; ///< of what stands on the panel: 1 at 712 px width
+    QRect chart;
+    QRect strip;
+    QRect panel;
+    std::array<QRect, 2> headers;     ///< above the instruments
+    std::array<QRect, 2> instruments; ///< square
+    QRect nav1;
+    QRect nav2;
+    QRect adf;
+    QRect dme;
+    QRect stopwatch;
+    QRect autopilot;
+};
+
+/// Lays out the space between menu bar and status bar. A large instrument takes its room from the
+/// chart. Meant for 1000 x 640 and more; nothing overlaps below that, but it gets cramped.
+[[nodiscard]] WindowLayout layOutWindow(QSize body, PanelSizes sizes);
+
+} // namespace tarnel
