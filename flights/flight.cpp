@@ -4,6 +4,8 @@
 #include "flights/plan_error.h"
 
 #include <algorithm>
+#include <string_view>
+#include <utility>
 
 namespace tarnel {
 
@@ -12,9 +14,18 @@ namespace {
 constexpr std::int16_t loadNamedChart = 2;
 constexpr int couplingsPerTick = 3;
 
-std::string onOneLine(std::string text) {
-    std::replace(text.begin(), text.end(), '\n', ' ');
-    return text;
+/// What a box about a chart says on its lines but the first, which names the procedure, and the
+/// last if it is `hint`. All on one line.
+std::string detailsOf(std::string text, std::string_view hint) {
+    text.erase(0, text.find('\n') + 1);
+    if (text.ends_with(hint))
+        text.erase(text.size() - hint.size());
+    while (text.ends_with('\n'))
+        text.pop_back();
+    std::string details;
+    for (const char c : text)
+        details += c == '\n' ? std::string(", ") : std::string(1, c);
+    return details;
 }
 
 /// Sets the course of an instrument as its knob does: both outputs, counted the other way round.
@@ -43,7 +54,8 @@ void ScriptedFlight::checkChart() const {
     if (world.boxes.empty())
         return;
     throw PlanError(flightPlan.file, flightPlan.chartLine,
-                    "a chart that can be read: " + onOneLine(world.boxes.front().text));
+                    "a chart that can be read: " +
+                        detailsOf(world.boxes.front().text, trainer.texts[Text::builtInChart]));
 }
 
 void ScriptedFlight::prepare() {

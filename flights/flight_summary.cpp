@@ -1,10 +1,12 @@
 #include "flights/flight_summary.h"
 
+#include "core/number_text.h"
 #include "core/rounding.h"
 #include "flights/flight.h"
 #include "flights/flight_csv.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace tarnel {
 
@@ -39,7 +41,7 @@ std::string flightRemarks(const ScriptedFlight& flight) {
 std::string flightSummary(ScriptedFlight& flight) {
     const FlightRow end = presentRow(flight);
     return flight.plan().file + ": " + number(end.seconds, timeDigits) + " s flown in " +
-           number(end.tick) + " ticks, " + number(end.sample) + " samples recorded\n" +
+           number(end.tick) + " ticks, recorded up to sample " + number(end.sample) + "\n" +
            "End: " + side(end.latitude, " N", " S") + " " + side(end.longitude, " E", " W") +
            ", heading " + number(end.heading) + ", " + number(end.tas) + " kt, track " +
            number(end.track) + ", " + number(end.groundSpeed) + " kt over the ground\n" +

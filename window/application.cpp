@@ -4,6 +4,7 @@
 #include "window/form_binding.h"
 #include "window/look.h"
 #include "window/main_window.h"
+#include "window/panel_accessibility.h"
 #include "window/qt_outside_world.h"
 #include "window/single_instance.h"
 
@@ -61,6 +62,7 @@ int runApplication(int argc, char** argv, const StringTable& texts) {
     }
     const std::string folder = applicationFolder();
     dressApplication(texts, QString::fromStdString(folder));
+    installPanelAccessibility();
     QtOutsideWorld outside;
     Form1 form(texts, outside, folder);
     MainWindow window(form);

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 
 namespace tarnel {
 
@@ -19,7 +20,8 @@ constexpr double middleDegrees = 90; ///< where R1 stands, beside the knob
 constexpr double positionDegrees = 38;
 constexpr double twipsPerPosition = 300; ///< of a drag on the knob
 constexpr double wordGap = 4;
-constexpr double biggestRow = 19;
+constexpr double row = 19;
+constexpr double rowShare = 0.28; ///< of the knob's side, where that is more
 constexpr double type = 12;
 
 int positionOf(DmeMode mode) {
@@ -95,7 +97,7 @@ void DmeSelector::setScale(double moduleScale) {
 }
 
 double DmeSelector::rowHeight() const {
-    const double roomy = std::max(biggestRow * scale, knobSide() * 0.28);
+    const double roomy = std::max(row * scale, knobSide() * rowShare);
     return std::min(height() / 3.0, roomy);
 }
 
@@ -113,9 +115,9 @@ double DmeSelector::widthFor(double height) const {
 
 QRectF DmeSelector::wordArea(DmeMode mode) const {
     const double left = knobSide();
-    const double row = rowHeight();
-    const double top = height() / 2.0 + (positionOf(mode) - 1.5) * row;
-    return {left, top, width() - left, row};
+    const double high = rowHeight();
+    const double top = height() / 2.0 + (positionOf(mode) - 1.5) * high;
+    return {left, top, width() - left, high};
 }
 
 QPointF DmeSelector::wordCentre(DmeMode mode) const {
@@ -137,14 +139,16 @@ void DmeSelector::paintEvent(QPaintEvent* /*event*/) {
     painter.setRenderHint(QPainter::Antialiasing);
     const QPointF centre = switchKnob.geometry().toRectF().center();
     const double rim = knobSide() / 2;
+    constexpr double markFrom = 0.9;
+    constexpr double markStrength = 0.6;
     for (const DmeMode mode : modes) {
         const bool chosen = mode == face.mode();
         const QRectF area = wordArea(mode);
-        painter.setPen(QPen(chosen ? look::measured : look::faded(look::unit, 0.6),
+        painter.setPen(QPen(chosen ? look::measured : look::faded(look::unit, markStrength),
                             chosen ? 2 * scale : scale));
-        const double turn = degreesOf(mode) * M_PI / 180;
+        const double turn = degreesOf(mode) * std::numbers::pi / 180;
         const QPointF out(std::sin(turn), -std::cos(turn));
-        painter.drawLine(centre + out * (rim * 0.9), centre + out * rim);
+        painter.drawLine(centre + out * (rim * markFrom), centre + out * rim);
         painter.setFont(look::font(type * scale, chosen ? QFont::Bold : QFont::Normal));
         painter.setPen(chosen ? look::measured : look::unit);
         painter.drawText(area.adjusted(wordGap * scale, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter,

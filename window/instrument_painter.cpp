@@ -21,9 +21,10 @@ struct Scene {
     NeedleShapes shapes;
 };
 
-constexpr double longTickWeight = 1.6;
-constexpr double shortTickWeight = 1.15;
+constexpr double longTickWeight = 1.45;
+constexpr double shortTickWeight = 1.1;
 constexpr std::size_t longTicks = 36;
+constexpr double needleWeight = 1.25;
 constexpr double arrowWeight = 1.4;
 constexpr double barWeight = 1.5;
 constexpr double hubRadius = 0.03; ///< of the side
@@ -173,7 +174,7 @@ void paintFirstNeedle(const Scene& scene) {
     if (!shaft.visible)
         return;
     const bool arrow = hasCourseArrow(scene.picture);
-    drawRaised(scene, scene.shapes.firstNeedle(arrow ? arrowWeight : 1),
+    drawRaised(scene, scene.shapes.firstNeedle(arrow ? arrowWeight : needleWeight),
                arrow ? look::course : look::needleOne);
     if (arrow)
         drawRaised(scene, {{scene.shapes.bar(scene.picture.Line14, arrowWeight)}, {}},
@@ -192,19 +193,23 @@ void paintDeviation(const Scene& scene) {
 }
 
 void paintHub(const Scene& scene) {
+    constexpr double capShare = 0.88;
+    constexpr double shadowShare = 1.08;
+    constexpr double shadowDrop = 0.15;
     if (!scene.picture.Line3to6.front().visible || hasCourseArrow(scene.picture))
         return;
     const QPointF centre(scene.side / 2, scene.side / 2);
     const double radius = scene.side * hubRadius;
+    const double top = centre.y() - radius;
+    const double bottom = centre.y() + radius;
     QPainter& painter = scene.painter;
     painter.setBrush(look::faded(Qt::black, 0.4));
-    painter.drawEllipse(centre + QPointF(0, radius * 0.15), radius * 1.08, radius * 1.08);
-    painter.setBrush(look::downward(centre.y() - radius, centre.y() + radius, look::rgb(0x6A737C),
-                                    look::bezelBottom));
+    painter.drawEllipse(centre + QPointF(0, radius * shadowDrop), radius * shadowShare,
+                        radius * shadowShare);
+    painter.setBrush(look::downward(top, bottom, look::hubRim, look::bezelBottom));
     painter.drawEllipse(centre, radius, radius);
-    painter.setBrush(look::downward(centre.y() - radius, centre.y() + radius, look::bezelTop,
-                                    look::rgb(0x30353A)));
-    painter.drawEllipse(centre, radius * 0.88, radius * 0.88);
+    painter.setBrush(look::downward(top, bottom, look::bezelTop, look::keyBottom));
+    painter.drawEllipse(centre, radius * capShare, radius * capShare);
 }
 
 void paintAircraft(const Scene& scene) {

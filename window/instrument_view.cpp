@@ -114,7 +114,7 @@ void InstrumentView::paintKnobs(QPainter& painter) {
                                : static_cast<double>(instrument.c_HDGbug);
         knobLook.hovered = hovered == knob || pressed == knob;
         knobLook.pressed = pressed == knob;
-        knobLook.focused = focusedArea() == knob;
+        knobLook.focused = ringedArea() == knob;
         knobLook.dimmed = !areas.usable(knob);
         paintKnob(painter, pictures, InstrumentAreas::knobCentre(knob, side()), radius, knobLook);
     }
@@ -122,6 +122,8 @@ void InstrumentView::paintKnobs(QPainter& painter) {
 
 void InstrumentView::paintSelector(QPainter& painter) {
     constexpr double roundingShare = 0.012;
+    constexpr double focusShare = 0.006;
+    constexpr double hoverShare = 0.004;
     constexpr double light = 0.10;
     constexpr double shade = 0.25;
     constexpr double dim = 0.45;
@@ -140,15 +142,16 @@ void InstrumentView::paintSelector(QPainter& painter) {
         painter.setBrush(look::faded(Qt::white, hovered == area ? light : 0));
     painter.drawRoundedRect(keys, rounding, rounding);
     painter.setBrush(Qt::NoBrush);
-    if (focusedArea() == area)
-        painter.setPen(QPen(look::panelFocus, std::max(2.0, side() * 0.006)));
+    if (ringedArea() == area)
+        painter.setPen(QPen(look::panelFocus, std::max(2.0, side() * focusShare)));
     else if (hovered == area)
-        painter.setPen(QPen(look::panelAccent, std::max(1.0, side() * 0.004)));
+        painter.setPen(QPen(look::panelAccent, std::max(1.0, side() * hoverShare)));
     painter.drawRoundedRect(keys, rounding, rounding);
 }
 
 void InstrumentView::mousePressEvent(QMouseEvent* event) {
     change([this, event] { pressed = instrument.mouse.down(twipsAt(event->position())); });
+    showRing(false);
     if (areas.usable(pressed))
         focusArea(pressed);
     setCursor(cursorOver(pressed, true));
@@ -219,6 +222,17 @@ void InstrumentView::focusArea(InstrumentArea area) {
     update();
 }
 
+InstrumentArea InstrumentView::ringedArea() const {
+    return ringShown ? focusedArea() : InstrumentArea::none;
+}
+
+void InstrumentView::showRing(bool show) {
+    if (ringShown == show)
+        return;
+    ringShown = show;
+    update();
+}
+
 void InstrumentView::keepFocusUsable() {
     if (!areas.usable(focused))
         focused = areas.next(InstrumentArea::none, true);
@@ -229,6 +243,7 @@ void InstrumentView::focusInEvent(QFocusEvent* event) {
         focused = areas.next(InstrumentArea::none, true);
     else if (event->reason() == Qt::BacktabFocusReason)
         focused = areas.next(InstrumentArea::none, false);
+    ringShown = cameByKeyboard(*event);
     keepFocusUsable();
     speak();
     update();
@@ -248,6 +263,7 @@ bool InstrumentView::focusNextPrevChild(bool next) {
 }
 
 void InstrumentView::keyPressEvent(QKeyEvent* event) {
+    showRing(true);
     const bool sideways = event->key() == Qt::Key_Left || event->key() == Qt::Key_Right;
     if (const auto steps = stepsOfKey(*event)) {
         change([this, steps] { instrument.mouse.stepKnob(focused, *steps); });

@@ -63,6 +63,8 @@ class InstrumentView : public QWidget {
     void setHovered(InstrumentArea area);
     void focusArea(InstrumentArea area);
     void keepFocusUsable();
+    void showRing(bool shown);
+    [[nodiscard]] InstrumentArea ringedArea() const;
     void clickFocused();
     void paintKnobs(QPainter& painter);
     void paintSelector(QPainter& painter);
@@ -80,6 +82,7 @@ class InstrumentView : public QWidget {
     InstrumentArea hovered = InstrumentArea::none;
     InstrumentArea pressed = InstrumentArea::none;
     InstrumentArea focused = InstrumentArea::none;
+    bool ringShown = false; ///< the keyboard is in use
 };
 
 } // namespace tarnel

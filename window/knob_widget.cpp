@@ -59,7 +59,7 @@ void KnobWidget::paintEvent(QPaintEvent* /*event*/) {
     if (scaleShown)
         paintScale(painter);
     KnobLook shown = knob;
-    shown.focused = hasFocus();
+    shown.focused = hasFocus() && knob.focused;
     paintKnob(painter, pictures, rect().toRectF().center(), rim(), shown);
 }
 
@@ -85,6 +85,7 @@ void KnobWidget::paintScale(QPainter& painter) const {
 
 void KnobWidget::mousePressEvent(QMouseEvent* event) {
     show(&KnobLook::pressed, true);
+    show(&KnobLook::focused, false);
     if (press)
         press(twipsAt(event->position()));
 }
@@ -119,6 +120,7 @@ void KnobWidget::wheelEvent(QWheelEvent* event) {
 
 void KnobWidget::keyPressEvent(QKeyEvent* event) {
     const auto upright = stepsOfKey(*event);
+    show(&KnobLook::focused, true);
     if (upright && step)
         step(*upright);
     else if (isClickKey(*event) && doubleClick)
@@ -137,7 +139,8 @@ void KnobWidget::leaveEvent(QEvent* /*event*/) {
     show(&KnobLook::hovered, knob.pressed);
 }
 
-void KnobWidget::focusInEvent(QFocusEvent* /*event*/) {
+void KnobWidget::focusInEvent(QFocusEvent* event) {
+    knob.focused = cameByKeyboard(*event);
     update();
 }
 

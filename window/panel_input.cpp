@@ -1,5 +1,6 @@
 #include "window/panel_input.h"
 
+#include <QFocusEvent>
 #include <QKeyEvent>
 #include <QWheelEvent>
 
@@ -35,6 +36,11 @@ std::optional<int> stepsOfKey(const QKeyEvent& event) {
 bool isClickKey(const QKeyEvent& event) {
     return event.key() == Qt::Key_Space || event.key() == Qt::Key_Return ||
            event.key() == Qt::Key_Enter;
+}
+
+bool cameByKeyboard(const QFocusEvent& event) {
+    return event.reason() == Qt::TabFocusReason || event.reason() == Qt::BacktabFocusReason ||
+           event.reason() == Qt::ShortcutFocusReason;
 }
 
 MouseButton turningButton(Qt::MouseButtons held) {

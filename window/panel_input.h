@@ -6,6 +6,7 @@
 
 #include <optional>
 
+class QFocusEvent;
 class QKeyEvent;
 class QWheelEvent;
 
@@ -26,6 +27,9 @@ class WheelNotches {
 
 /// Whether a key acts like a click.
 [[nodiscard]] bool isClickKey(const QKeyEvent& event);
+
+/// Whether the focus came by the keyboard, so that it has to be seen.
+[[nodiscard]] bool cameByKeyboard(const QFocusEvent& event);
 
 /// The button that turns a knob.
 [[nodiscard]] MouseButton turningButton(Qt::MouseButtons held);

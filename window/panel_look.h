@@ -11,6 +11,7 @@ inline constexpr QColor panelRing = rgb(0x0E1113);   ///< the dark gap under a f
 inline constexpr QColor overlayNeedle = rgb(0xA9C4FF);
 inline constexpr QColor flagRed = rgb(0xD8322A);
 inline constexpr QColor shapeEdge = rgb(0x0B0C0D); ///< around needles, bug and aircraft
+inline constexpr QColor hubRim = rgb(0x6A737C);
 inline constexpr QColor keyTop = rgb(0x474D55);
 inline constexpr QColor keyBottom = rgb(0x2D3238);
 inline constexpr QColor dimCaption = rgb(0x8B949D);

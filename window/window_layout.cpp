@@ -17,7 +17,8 @@ constexpr double chartWidthShare = 0.477;
 /// A row of modules: the lowest at text scale 1, the highest at panel scale 1.
 constexpr double lowestRow = 74;
 constexpr double highestRow = 200;
-constexpr int moduleRows = 3;
+/// Two rows of modules in place of three need a panel this wide, at text scale 1.
+constexpr double twoRowWidth = 840;
 
 double uiScaleOf(QSize body) {
     return std::clamp(std::min(body.width() / 1920.0, body.height() / 1000.0), 1.0, 2.0);
@@ -57,24 +58,35 @@ class PanelLayout {
             std::min(panel.width() / panelReferenceWidth, panel.height() / 640.0), 0.7, 3.0);
         margin = gap * layout.uiScale;
         inner = panel.width() - 2 * margin;
-        const double head = headerHeight * layout.uiScale;
-        const double forBezels = inner - margin;
-        const double modulesTop = margin + head + margin;
-        const double lowestModules =
-            moduleRows * lowestRow * layout.uiScale + (moduleRows - 1) * margin;
-        const double tallest = panel.height() - modulesTop - margin - lowestModules;
-        const auto [width2, width3] = bezelWidths(forBezels, tallest);
-        const double slack = forBezels - width2 - width3;
+        head = headerHeight * layout.uiScale;
+        chooseRows(panel);
+        const auto [width2, width3] = bezelWidths(tallestBezel(panel));
+        const double slack = inner - margin - width2 - width3;
         const double left2 = margin + slack / 3;
         const double left3 = left2 + width2 + margin + slack / 3;
         const double bottom = margin + head + std::max(width2, width3);
-        placeInstrument(0, left2, width2, head, bottom);
-        placeInstrument(1, left3, width3, head, bottom);
+        placeInstrument(0, left2, width2, bottom);
+        placeInstrument(1, left3, width3, bottom);
         placeModules(bottom + margin, panel.height() - margin - (bottom + margin));
     }
 
   private:
-    [[nodiscard]] std::pair<double, double> bezelWidths(double width, double tallest) const {
+    /// A low, wide panel gives its height to a large instrument: the modules then stand in two rows.
+    void chooseRows(QSize panel) {
+        const auto [first, second] = bezelWidths(panel.height());
+        const bool large = sizes.inst2Large || sizes.inst3Large;
+        const bool tooTall = std::max(first, second) > tallestBezel(panel) * 1.05;
+        rows = large && tooTall && panel.width() >= twoRowWidth * layout.uiScale ? 2 : 3;
+    }
+
+    [[nodiscard]] double tallestBezel(QSize panel) const {
+        const double lowestModules = rows * lowestRow * layout.uiScale + (rows - 1) * margin;
+        return panel.height() - 3 * margin - head - lowestModules;
+    }
+
+    /// The sides of the two bezels, none more than `tallest`.
+    [[nodiscard]] std::pair<double, double> bezelWidths(double tallest) const {
+        const double width = inner - margin;
         double first = width / 2;
         double second = width / 2;
         if (sizes.inst2Large != sizes.inst3Large) {
@@ -86,7 +98,7 @@ class PanelLayout {
     }
 
     /// The instruments stand on one line at their lower edges.
-    void placeInstrument(std::size_t index, double left, double side, double head, double bottom) {
+    void placeInstrument(std::size_t index, double left, double side, double bottom) {
         const double instrumentTop = bottom - side;
         layout.instruments[index] = {whole(left), whole(instrumentTop), whole(side), whole(side)};
         layout.headers[index] = {whole(left), whole(instrumentTop - head), whole(side),
@@ -94,21 +106,35 @@ class PanelLayout {
     }
 
     void placeModules(double top, double height) {
-        const double row = std::min((height - (moduleRows - 1) * margin) / moduleRows,
-                                    highestRow * layout.panelScale);
+        const double row =
+            std::min((height - (rows - 1) * margin) / rows, highestRow * layout.panelScale);
+        const double next = row + margin;
+        if (rows == 2) {
+            const auto upper = columns<4>(margin, top, inner, row, {1, 1, 1, 1}, margin);
+            const auto lower = columns<2>(margin, top + next, inner, row, {1, 1.35}, margin);
+            layout.nav1 = upper[0];
+            layout.nav2 = upper[1];
+            layout.adf = upper[2];
+            layout.stopwatch = upper[3];
+            layout.dme = lower[0];
+            layout.autopilot = lower[1];
+            return;
+        }
         const auto upper = columns<3>(margin, top, inner, row, {1, 1, 1}, margin);
         layout.nav1 = upper[0];
         layout.nav2 = upper[1];
         layout.adf = upper[2];
-        layout.dme = upper[0].united(upper[1]).translated(0, whole(row + margin));
-        layout.stopwatch = upper[2].translated(0, whole(row + margin));
-        layout.autopilot = upper[0].united(upper[2]).translated(0, whole(2 * (row + margin)));
+        layout.dme = upper[0].united(upper[1]).translated(0, whole(next));
+        layout.stopwatch = upper[2].translated(0, whole(next));
+        layout.autopilot = upper[0].united(upper[2]).translated(0, whole(2 * next));
     }
 
     WindowLayout& layout;
     PanelSizes sizes;
+    int rows = 3;
     double margin = gap;
     double inner = 0;
+    double head = 0;
 };
 
 } // namespace

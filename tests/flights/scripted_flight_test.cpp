@@ -209,7 +209,7 @@ TEST_F(PlanWithChart, FindsTheChartBesideThePlan) {
 TEST_F(PlanWithChart, RefusesAChartThatCannotBeRead) {
     writeChart(":v1id:,ABC@r\n");
     for (const auto& [chart, expected] :
-         {std::pair("own.map", "own.map"), std::pair("none.map", "File not found")}) {
+         {std::pair("own.map", "own.map"), std::pair("none.map", "none.map, File not found")}) {
         try {
             (void)flightOf(plan(chart));
             ADD_FAILURE() << chart << " was taken";

@@ -29,7 +29,7 @@ TEST(StartUp, RestsPausedOnTheDefaultChart) {
         (std::vector{form.windPanel.text(), form.hidePanel.text(), form.tracePanel.text(),
                      form.vectorsPanel.text(), form.modePanel.text()}),
         ElementsAre("[W]ind OFF", "[H]ide OFF", "[T]race ON", "[V]-Vectors OFF", "Pause [M]ode"));
-    EXPECT_DOUBLE_EQ(form.UserControl11.recording.at(1).traceLat, 48.17);
+    EXPECT_DOUBLE_EQ(form.UserControl11.recording.at(1).traceLat, 48.29);
     EXPECT_EQ(form.UserControl11.recording.at(1).traceAPtas, 120);
 }
 

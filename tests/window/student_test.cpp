@@ -78,7 +78,7 @@ TEST_F(Student, StartsAndStopsTheFlight) {
     click("Command6");
     EXPECT_EQ(find("Command6").text(), "Stop SIM");
     EXPECT_EQ(find<QLabel>("StatusPanel8").text(), "Training [M]ode");
-    fly(30);
+    fly(31);
     EXPECT_EQ(find<QLabel>("FlightTime").text(), "0h0min30sec");
     click("Command6");
     EXPECT_EQ(find("Command6").text(), "Start SIM");

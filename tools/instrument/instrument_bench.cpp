@@ -1,6 +1,7 @@
 #include "tools/instrument/instrument_bench.h"
 
 #include "core/run_time_error.h"
+#include "tools/instrument/input_range.h"
 #include "tools/instrument/property_editor.h"
 #include "window/instrument_view.h"
 
@@ -8,6 +9,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 namespace tarnel {
@@ -16,6 +18,19 @@ namespace {
 
 constexpr int refreshMilliseconds = 40;
 constexpr double twipsPerPixel = 15;
+constexpr QSize firstSize{900, 700};
+
+/// A column that scrolls up and down only.
+QScrollArea* scrolled(QWidget* column) {
+    auto* scroller = new QScrollArea;
+    scroller->setWidget(column);
+    scroller->setWidgetResizable(true);
+    scroller->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroller->setMinimumWidth(column->minimumSizeHint().width() +
+                              scroller->verticalScrollBar()->sizeHint().width() +
+                              2 * scroller->frameWidth());
+    return scroller;
+}
 
 } // namespace
 
@@ -34,33 +49,31 @@ InstrumentBench::InstrumentBench(const StringTable& texts, const std::string& fo
     view->guard = [this](const std::function<void()>& action) { change(action); };
     reading = new QLabel;
     error = new QLabel;
-    auto* shown = new QVBoxLayout;
-    shown->addWidget(view);
-    shown->addWidget(reading);
-    shown->addWidget(error);
-    shown->addStretch();
-
+    auto* outputs = new QFormLayout;
     auto* inputs = new QWidget;
-    makeEditors(*inputs);
-    auto* scroller = new QScrollArea;
-    scroller->setWidget(inputs);
-    scroller->setWidgetResizable(true);
-    scroller->setMinimumWidth(inputs->sizeHint().width());
+    makeEditors(*outputs, *new QFormLayout(inputs));
+    auto* left = new QVBoxLayout;
+    left->addWidget(view);
+    left->addWidget(reading);
+    left->addLayout(outputs);
+    left->addWidget(error);
+    left->addStretch();
     auto* columns = new QHBoxLayout(this);
-    columns->addLayout(shown);
-    columns->addWidget(scroller, 1);
+    columns->addLayout(left);
+    columns->addWidget(scrolled(inputs), 1);
+    resize(sizeHint().expandedTo(firstSize));
 
     connect(&timer, &QTimer::timeout, this, &InstrumentBench::refresh);
     timer.start(refreshMilliseconds);
     refresh();
 }
 
-void InstrumentBench::makeEditors(QWidget& parent) {
-    auto* form = new QFormLayout(&parent);
+void InstrumentBench::makeEditors(QFormLayout& outputs, QFormLayout& inputs) {
     for (PropertyBase* property : instrument.properties.all()) {
         auto* editor = new PropertyEditor(*property);
         editor->change = [this](const std::function<void()>& action) { change(action); };
-        form->addRow(QString::fromStdString(std::string(property->name())), editor);
+        QFormLayout& form = isKnobFlag(property->name()) ? outputs : inputs;
+        form.addRow(QString::fromStdString(std::string(property->name())), editor);
         editors.push_back(editor);
     }
 }

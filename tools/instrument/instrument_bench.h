@@ -9,6 +9,7 @@
 
 #include <vector>
 
+class QFormLayout;
 class QLabel;
 
 namespace tarnel {
@@ -29,7 +30,8 @@ class InstrumentBench : public QWidget {
     void refresh();
 
   private:
-    void makeEditors(QWidget& parent);
+    /// An editor for each property: knob flags go to `outputs`, the others to `inputs`.
+    void makeEditors(QFormLayout& outputs, QFormLayout& inputs);
     void change(const std::function<void()>& action);
     void fitInstrument();
     void showReading();

@@ -51,14 +51,16 @@ void PropertyEditor::set(const QString& text) {
 }
 
 void PropertyEditor::makeNumber() {
-    constexpr int widestSlider = 240;
+    constexpr int sliderWidth = 240;
+    constexpr int fieldWidth = 84;
     const Range<double> range = inputRange(property.name());
     auto* slider = new QSlider(Qt::Horizontal, this);
     auto* field = new QDoubleSpinBox(this);
     slider->setRange(static_cast<int>(range.lowest), static_cast<int>(range.highest));
-    slider->setFixedWidth(widestSlider);
+    slider->setFixedWidth(sliderWidth);
     field->setRange(range.lowest, range.highest);
     field->setDecimals(hasDecimals(property) ? 1 : 0);
+    field->setFixedWidth(fieldWidth);
     field->setLocale(QLocale::c());
     for (QWidget* widget : {static_cast<QWidget*>(slider), static_cast<QWidget*>(field)}) {
         widget->setAccessibleName(QString::fromStdString(std::string(property.name())));
