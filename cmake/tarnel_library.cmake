@@ -4,7 +4,9 @@
 add_library(tarnel_options INTERFACE)
 target_compile_options(tarnel_options INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion -Wnon-virtual-dtor
-  -Woverloaded-virtual)
+  -Woverloaded-virtual
+  # No code looks at errno after a mathematical function.
+  -fno-math-errno)
 if(TARNEL_WERROR)
   target_compile_options(tarnel_options INTERFACE -Werror)
 endif()

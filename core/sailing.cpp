@@ -19,20 +19,34 @@ constexpr double meanCurvature = 3438.153719;
 constexpr double curvatureVariation = 17.29100354;
 constexpr double curvatureThirdOrder = 11.52733569;
 
+
 double radians(double degrees) {
-    return degrees * pi / 180;
+    constexpr double perDegree = pi / 180;
+    return degrees * perDegree;
 }
 
-double meridionalParts(double latitude) {
-    const double eSin = eccentricity * std::sin(radians(latitude));
+/// `sine` is that of the latitude, which is in degrees.
+double meridionalParts(double latitude, double sine) {
+    const double eSin = eccentricity * sine;
     return (10800 / pi) * (std::log(std::tan((45 + latitude / 2) * pi / 180)) +
                            (eccentricity / 2) * std::log((1 - eSin) / (1 + eSin)));
 }
 
-double meridianArc(double latitude) {
+double meridionalParts(double latitude) {
+    return meridionalParts(latitude, std::sin(radians(latitude)));
+}
+
+/// How far a latitude is from the equator on the Mercator chart and on the earth.
+struct FromEquator {
+    double meridionalParts;
+    double meridianArc; ///< NM
+};
+
+FromEquator fromEquator(double latitude) {
     const double phi = radians(latitude);
     const double sine = std::sin(phi);
-    return arcA * latitude - arcB * std::sin(2 * phi) - arcC * std::cos(phi) * sine * sine * sine;
+    return {meridionalParts(latitude, sine), arcA * latitude - arcB * std::sin(2 * phi) -
+                                                 arcC * std::cos(phi) * sine * sine * sine};
 }
 
 /// Brings a course into the range that `DeadReckon` can use, see there.
@@ -52,12 +66,14 @@ CourseDistance CourseAndDistance(const GeoPosition& from, const GeoPosition& to)
     const double lat2 = to.latitude;
     if (std::abs(lat2 - lat1) < 0.000001)
         lat1 += 0.0000001;
-    const double dMP = meridionalParts(lat2) - meridionalParts(lat1);
+    const FromEquator start = fromEquator(lat1);
+    const FromEquator end = fromEquator(lat2);
+    const double dMP = end.meridionalParts - start.meridionalParts;
     const double dLo = 60 * (to.longitude - from.longitude);
     double course = dMP == 0 ? 90 : std::atan(dLo / dMP) * 180 / pi;
     if (lat1 > lat2)
         course += 180;
-    return {course, (meridianArc(lat2) - meridianArc(lat1)) / std::cos(radians(course))};
+    return {course, (end.meridianArc - start.meridianArc) / std::cos(radians(course))};
 }
 
 DeadReckoned DeadReckon(const SplitPosition& from, double distance, double& course) {

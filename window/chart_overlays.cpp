@@ -141,9 +141,11 @@ void paintGrid(QPainter& painter, const ChartFrame& frame, const GridPlace& grid
                                                       {Thickness::fiveMiles, look::gridFiveMiles},
                                                       {Thickness::tenMiles, look::gridTenMiles}};
     for (const auto& [thickness, colour] : kinds) {
+        // Slanting lines cost too much to paint the faintest of them at each tick.
+        if (grid.rotation != 0 && thickness == Thickness::mile)
+            continue;
         const GridLines lines = builder.lines(thickness);
-        const bool hairline = grid.rotation != 0 && thickness == Thickness::mile;
-        painter.setPen(QPen(colour, hairline ? 0 : 1)); // thin ones are cheap on dense screens
+        painter.setPen(QPen(colour, 1));
         painter.drawLines(lines.data(), static_cast<int>(lines.size()));
     }
     painter.setRenderHint(QPainter::Antialiasing, smooth);

@@ -86,7 +86,7 @@ PanelSizes MainWindow::panelSizes() const {
 }
 
 void MainWindow::layOut() {
-    const int barHeight = static_cast<int>(look::statusHeight * (shownScale > 0 ? shownScale : 1));
+    const int barHeight = static_cast<int>(look::statusHeight * shownScale);
     const QSize body(desk->width(), desk->height() - barHeight);
     const WindowLayout layout = layOutWindow(body, panelSizes());
     if (layout.uiScale != shownScale) {

@@ -58,7 +58,7 @@ class MainWindow : public QMainWindow {
     QTimer simulationTimer;
     QTimer autopilotTimer;
     PanelSizes shownSizes;
-    double shownScale = 0;
+    double shownScale = 1;
 };
 
 } // namespace tarnel

@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QImage>
+#include <QImageReader>
 #include <QPainter>
 
 #include <cmath>
@@ -52,12 +53,23 @@ void PictureStore::sizesChanged() {
 }
 
 QPixmap PictureStore::load(const QString& name, QSize devicePixels) {
-    const QString file = fileOf(name);
-    const QImage image = file.isEmpty() ? QImage() : QImage(file);
+    const QImage image = source(name, devicePixels);
     if (image.isNull())
         return {};
     return QPixmap::fromImage(
         image.scaled(devicePixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+}
+
+QImage PictureStore::source(const QString& name, QSize devicePixels) {
+    const QString file = fileOf(name);
+    if (file.isEmpty())
+        return {};
+    const QFileInfo info(file);
+    QImageReader small(info.dir().filePath("small/" + info.fileName()));
+    const QSize size = small.size();
+    if (size.width() >= devicePixels.width() && size.height() >= devicePixels.height())
+        return small.read();
+    return QImage(file);
 }
 
 QString PictureStore::fileOf(const QString& name) {

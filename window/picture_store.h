@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QHash>
+#include <QImage>
 #include <QPixmap>
 #include <QRectF>
 #include <QSize>
@@ -41,6 +42,8 @@ class PictureStore {
     };
 
     [[nodiscard]] QPixmap load(const QString& name, QSize devicePixels);
+    /// The picture's file, or its copy in the folder "small" if that is large enough.
+    [[nodiscard]] QImage source(const QString& name, QSize devicePixels);
     [[nodiscard]] QString fileOf(const QString& name);
     [[nodiscard]] QString fileIn(const QString& path, const QString& lowerName);
 

@@ -41,7 +41,7 @@ QPushButton[primary="true"]:hover { background: $accentLight; }
 QPushButton[primary="true"]:pressed { background: $accentDeep; }
 QPushButton[primary="true"]:focus { border: 2px solid $ink; }
 QPushButton[segment] { background: $desktop; border-radius: 0; border-left-width: 0;
-  padding: 0 {4}px; min-width: {30}px; }
+  padding: 0 {4}px; }
 QPushButton[segment]:hover { background: $paper; }
 QPushButton[segment="first"] { border-left-width: 1px; border-top-left-radius: {5}px;
   border-bottom-left-radius: {5}px; }

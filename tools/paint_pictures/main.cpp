@@ -17,6 +17,10 @@ namespace tarnel {
 
 namespace {
 
+// How much smaller the small copies are.
+constexpr int faceDivisor = 2;
+constexpr int partDivisor = 4;
+
 // A folder that pictures are written to; what cannot be written is thrown as a std::runtime_error.
 class PictureFolder {
   public:
@@ -34,6 +38,16 @@ class PictureFolder {
             fail(writer.fileName(), writer.errorString());
     }
 
+    // The picture, and a copy of `divisor` times less each way in the folder "small": it is what an
+    // ordinary screen needs, and is loaded in a fraction of the time.
+    void writeBoth(const QString& name, const QImage& picture, int divisor) const {
+        write(name, picture);
+        if (!folder.mkpath("small"))
+            fail(folder.filePath("small"), QStringLiteral("the folder cannot be made"));
+        write("small/" + name, picture.scaled(picture.size() / divisor, Qt::IgnoreAspectRatio,
+                                              Qt::SmoothTransformation));
+    }
+
   private:
     [[noreturn]] static void fail(const QString& name, const QString& reason) {
         throw std::runtime_error((name + ": " + reason).toStdString());
@@ -45,22 +59,24 @@ class PictureFolder {
 void writeFaces(const PictureFolder& folder) {
     for (const FaceParts& parts : instrumentFaces())
         for (const FaceForm& form : faceForms())
-            folder.write(parts.fileStem + form.suffix + ".jpg", paintFace(parts, form.side));
+            folder.writeBoth(parts.fileStem + form.suffix + ".jpg", paintFace(parts, form.side),
+                             faceDivisor);
 }
 
 void writeKnobs(const PictureFolder& folder) {
     constexpr int side = 512;
-    folder.write("knob.png", paintKnob(side, KnobLook::Resting));
-    folder.write("knob_hover.png", paintKnob(side, KnobLook::Hovered));
-    folder.write("knob_concentric.png", paintDoubleKnob(side, KnobLook::Resting));
-    folder.write("knob_concentric_hover.png", paintDoubleKnob(side, KnobLook::Hovered));
-    folder.write("knob_pointer.png", paintPointer(side));
+    folder.writeBoth("knob.png", paintKnob(side, KnobLook::Resting), partDivisor);
+    folder.writeBoth("knob_hover.png", paintKnob(side, KnobLook::Hovered), partDivisor);
+    folder.writeBoth("knob_concentric.png", paintDoubleKnob(side, KnobLook::Resting), partDivisor);
+    folder.writeBoth("knob_concentric_hover.png", paintDoubleKnob(side, KnobLook::Hovered), partDivisor);
+    folder.writeBoth("knob_pointer.png", paintPointer(side), partDivisor);
 }
 
 void writeDigits(const PictureFolder& folder, const QString& colourWord, QRgb colour) {
     for (int sign = 0; sign < segmentSigns; ++sign) {
         const QString number = QString::number(sign + 1).rightJustified(2, '0');
-        folder.write("digit_" + colourWord + "_" + number + ".png", paintDigit(sign, colour));
+        folder.writeBoth("digit_" + colourWord + "_" + number + ".png", paintDigit(sign, colour),
+                         partDivisor);
     }
 }
 
