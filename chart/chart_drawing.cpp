@@ -132,9 +132,7 @@ void showLocalizer(ChartPicture& picture, bool visible) {
 
 void MinatureAirplane(ChartPicture& picture, Point place, const AirplaneOutline& outline,
                       bool visible) {
-    const auto at = [&](Point offset) -> Point {
-        return {place.x + offset.x, place.y + offset.y};
-    };
+    const auto at = [&](Point offset) -> Point { return {place.x + offset.x, place.y + offset.y}; };
     AirplaneLines& lines = picture.airplane;
     picture.surface.place(lines.fuselage, at(outline.nose), at(outline.tail));
     picture.surface.place(lines.wing, at(outline.leftWing), at(outline.rightWing));

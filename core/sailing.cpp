@@ -19,7 +19,6 @@ constexpr double meanCurvature = 3438.153719;
 constexpr double curvatureVariation = 17.29100354;
 constexpr double curvatureThirdOrder = 11.52733569;
 
-
 double radians(double degrees) {
     constexpr double perDegree = pi / 180;
     return degrees * perDegree;
@@ -45,8 +44,8 @@ struct FromEquator {
 FromEquator fromEquator(double latitude) {
     const double phi = radians(latitude);
     const double sine = std::sin(phi);
-    return {meridionalParts(latitude, sine), arcA * latitude - arcB * std::sin(2 * phi) -
-                                                 arcC * std::cos(phi) * sine * sine * sine};
+    return {meridionalParts(latitude, sine),
+            arcA * latitude - arcB * std::sin(2 * phi) - arcC * std::cos(phi) * sine * sine * sine};
 }
 
 /// Brings a course into the range that `DeadReckon` can use, see there.

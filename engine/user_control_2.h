@@ -44,7 +44,9 @@ class UserControl2 {
 
     /// The properties of a station slot.
     [[nodiscard]] StationProperties& slot(Slot which) { return inSlot(stationSlots, which); }
-    [[nodiscard]] const StationProperties& slot(Slot which) const { return inSlot(stationSlots, which); }
+    [[nodiscard]] const StationProperties& slot(Slot which) const {
+        return inSlot(stationSlots, which);
+    }
 
     /// Redraws for a new scale, centre or station position.
     void MapScale();

@@ -4,7 +4,6 @@
 
 #include <QString>
 
-
 namespace tarnel {
 
 /// Gives the application its font, style and icon.

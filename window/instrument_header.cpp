@@ -128,7 +128,8 @@ void InstrumentHeader::paintEvent(QPaintEvent*) {
     bold.setBold(true);
     bold.setPixelSize(qMax(10, bold.pixelSize() * look::unitType / look::bodyType));
     painter.setFont(bold);
-    const bool brief = legendWidth(painter.fontMetrics()) > width() - toggles->geometry().right() - partGap;
+    const bool brief =
+        legendWidth(painter.fontMetrics()) > width() - toggles->geometry().right() - partGap;
     int rightEdge = width() - 2;
     for (auto part = legend.rbegin(); part != legend.rend(); ++part)
         rightEdge = paintPart(painter, *part, brief, rightEdge) - (brief ? partGap / 2 : partGap);

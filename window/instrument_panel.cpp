@@ -28,8 +28,8 @@ void InstrumentPanel::makeInstruments(FormBinding& binding, PictureStore& pictur
         HeaderControls{form.links3(), form.inst3Small, form.inst3Large}};
     for (std::size_t i = 0; i < controls.size(); ++i) {
         headers[i] = new InstrumentHeader(form, controls[i], binding, this);
-        instruments[i] = new InstrumentView(controls[i].links.position.instrument, pictures,
-                                            form.texts, this);
+        instruments[i] =
+            new InstrumentView(controls[i].links.position.instrument, pictures, form.texts, this);
         instruments[i]->guard = guard;
         instruments[i]->setObjectName(QStringLiteral("UserControl13_%1").arg(i));
         channelButtons[i] = new QPushButton(this);
@@ -62,12 +62,12 @@ void InstrumentPanel::makeModules(FormBinding& binding, PictureStore& pictures,
 void InstrumentPanel::layOutChannelButton(std::size_t position, const QRect& bezel) {
     const double side = bezel.width();
     const double inset = look::bezel::channelButtonInset * side;
-    channelButtons[position]->setGeometry(
-        QRectF(bezel.left() + inset, bezel.top() + inset, look::bezel::channelButtonWidth * side,
-               look::bezel::channelButtonHeight * side)
-            .toRect());
-    const int letters = qRound(qMax<double>(look::bezel::smallestLettering,
-                                            look::bezel::lettering * side));
+    channelButtons[position]->setGeometry(QRectF(bezel.left() + inset, bezel.top() + inset,
+                                                 look::bezel::channelButtonWidth * side,
+                                                 look::bezel::channelButtonHeight * side)
+                                              .toRect());
+    const int letters =
+        qRound(qMax<double>(look::bezel::smallestLettering, look::bezel::lettering * side));
     channelButtons[position]->setStyleSheet(QStringLiteral("font-size: %1px").arg(letters));
     channelButtons[position]->raise();
 }

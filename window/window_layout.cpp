@@ -71,7 +71,8 @@ class PanelLayout {
     }
 
   private:
-    /// A low, wide panel gives its height to a large instrument: the modules then stand in two rows.
+    /// A low, wide panel gives its height to a large instrument: the modules then stand in two
+    /// rows.
     void chooseRows(QSize panel) {
         const auto [first, second] = bezelWidths(panel.height());
         const bool large = sizes.inst2Large || sizes.inst3Large;

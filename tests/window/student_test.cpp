@@ -88,7 +88,8 @@ TEST_F(Student, StartsAndStopsTheFlight) {
 TEST_F(Student, TurnsTheHeadingKnobAndTheAircraftFollows) {
     open();
     auto& hsi = find<InstrumentView>("UserControl13_1");
-    const QPoint knob(static_cast<int>(hsi.width() * 0.912), static_cast<int>(hsi.height() * 0.912));
+    const QPoint knob(static_cast<int>(hsi.width() * 0.912),
+                      static_cast<int>(hsi.height() * 0.912));
     drag(hsi, knob, {40, 0});
     const int bug = form->inst3.instrument.c_HDGbug;
     EXPECT_GT(bug, 5);

@@ -29,9 +29,15 @@ std::string nameOf(const Case& each) {
 }
 
 std::vector<QRect> panelParts(const WindowLayout& layout) {
-    return {layout.headers[0],     layout.headers[1], layout.instruments[0],
-            layout.instruments[1], layout.nav1,       layout.nav2,
-            layout.adf,            layout.dme,        layout.stopwatch,
+    return {layout.headers[0],
+            layout.headers[1],
+            layout.instruments[0],
+            layout.instruments[1],
+            layout.nav1,
+            layout.nav2,
+            layout.adf,
+            layout.dme,
+            layout.stopwatch,
             layout.autopilot};
 }
 
@@ -66,8 +72,8 @@ TEST(WindowLayout, PartsKeepTheSizeThatHandsAndEyesNeed) {
                 EXPECT_GE(instrument.width() * knobShare, 29.5) << nameOf(each);
             }
         }
-        const double ratio = static_cast<double>(layout.instruments[0].width()) /
-                             layout.instruments[1].width();
+        const double ratio =
+            static_cast<double>(layout.instruments[0].width()) / layout.instruments[1].width();
         if (each.sizes.inst2Large && !each.sizes.inst3Large && each.body.height() >= 700) {
             EXPECT_GT(ratio, 1.1) << nameOf(each);
         }

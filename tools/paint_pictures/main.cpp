@@ -20,6 +20,7 @@ namespace {
 // How much smaller the small copies are.
 constexpr int faceDivisor = 2;
 constexpr int partDivisor = 4;
+constexpr int pointerDivisor = 2; // it is turned at twice its size
 
 // A folder that pictures are written to; what cannot be written is thrown as a std::runtime_error.
 class PictureFolder {
@@ -68,8 +69,9 @@ void writeKnobs(const PictureFolder& folder) {
     folder.writeBoth("knob.png", paintKnob(side, KnobLook::Resting), partDivisor);
     folder.writeBoth("knob_hover.png", paintKnob(side, KnobLook::Hovered), partDivisor);
     folder.writeBoth("knob_concentric.png", paintDoubleKnob(side, KnobLook::Resting), partDivisor);
-    folder.writeBoth("knob_concentric_hover.png", paintDoubleKnob(side, KnobLook::Hovered), partDivisor);
-    folder.writeBoth("knob_pointer.png", paintPointer(side), partDivisor);
+    folder.writeBoth("knob_concentric_hover.png", paintDoubleKnob(side, KnobLook::Hovered),
+                     partDivisor);
+    folder.writeBoth("knob_pointer.png", paintPointer(side), pointerDivisor);
 }
 
 void writeDigits(const PictureFolder& folder, const QString& colourWord, QRgb colour) {
