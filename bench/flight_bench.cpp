@@ -18,7 +18,7 @@ constexpr int runs = 7;
 constexpr double leastTimesRealTime = 10000;
 
 struct SilentWorld : OutsideWorld {
-    void messageBox(const std::string&, const std::string& text) override {
+    void messageBox(BoxKind, const std::string&, const std::string& text) override {
         std::fprintf(stderr, "%s\n", text.c_str());
     }
 };

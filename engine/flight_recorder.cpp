@@ -75,7 +75,7 @@ void UserControl2::freshRecording() {
 
 void UserControl2::redrawTrace() {
     picture.trace.clear();
-    if (traceShown())
+    if (traceShown() && resumeMode != ResumeMode::clear)
         DrawReplayTrace(picture, view, recording, aircraft.trueHeading);
 }
 

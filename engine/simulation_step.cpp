@@ -7,10 +7,11 @@ namespace tarnel {
 void UserControl2::SimStep() {
     aircraft.tasUsed = c_TAS;
     aircraft.turnRateUsed = Turn_Rate;
-    if (!redrawOnly && c_TimerEN == 1)
+    const bool moves = !redrawOnly && c_TimerEN == 1;
+    if (moves)
         moveAircraft();
     redrawOnly = false;
-    followHeadingUp();
+    followHeadingUp(moves);
 
     const double heading = view.northUpMode ? aircraft.trueHeading : 0;
     const double windCourse = wind.direction - 180 - (view.northUpMode ? 0 : aircraft.trueHeading);
@@ -29,12 +30,12 @@ void UserControl2::moveAircraft() {
 }
 
 /// In the heading-up view the chart turns and slides under the aircraft, running or paused.
-void UserControl2::followHeadingUp() {
+void UserControl2::followHeadingUp(bool moved) {
     if (view.northUpMode)
         return;
     view.placeAircraft(aircraft);
     redrawChart();
-    if (c_TimerEN == 1 && traceShown()) {
+    if (moved && traceShown()) {
         DeleteTrace(picture);
         DrawTrace2(picture, view, recording, aircraft.trueHeading);
     }

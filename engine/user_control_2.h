@@ -179,7 +179,7 @@ class UserControl2 {
 
     void moveAircraft();
     void measure();
-    void followHeadingUp();
+    void followHeadingUp(bool moved);
 
     void loadChart();
     void applyChart(const ChartFile& chart);

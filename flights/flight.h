@@ -22,7 +22,7 @@ struct WrittenBox {
 /// `RecordingWorld`: an outside world that writes boxes down and closes them at once.
 class RecordingWorld : public OutsideWorld {
   public:
-    void messageBox(const std::string& title, const std::string& text) override {
+    void messageBox(BoxKind, const std::string& title, const std::string& text) override {
         boxes.push_back({tick, title, text});
     }
 

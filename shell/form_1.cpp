@@ -71,6 +71,11 @@ void Form1::connectControls() {
     inst2Large.onClick = [this] { PositionInst2(true); };
     inst3Small.onClick = [this] { SwitchInst3(false); };
     inst3Large.onClick = [this] { SwitchInst3(true); };
+    for (UserControl_1* instrument :
+         {&inst1.instrument, &inst2.instrument, &inst3.instrument, &UserControl_DG})
+        instrument->showMessage = [this](const std::string&) {
+            showBox(text(Text::windowTitle), text(Text::unsupportedDisplay));
+        };
     UserControl11.mouse.headingDrawn = [this](std::int16_t heading) { setHeadingBug(heading); };
 }
 

@@ -56,6 +56,8 @@ class Form1 : private SimulationMessages {
     void stepScale(int steps);
     void setNorthUp(bool northUp);
     void setFloatingGyroOpen(bool open);
+    /// Tells in a box what the program is.
+    void showAbout();
     /// Says once that pictures can't be loaded.
     void pictureMissing(const std::string& file);
 
@@ -169,7 +171,6 @@ class Form1 : private SimulationMessages {
     void showReadouts();
 
     void writeHeadingBug(std::int16_t heading);
-    void rewriteFrequency(Slot slot, std::size_t listIndex);
 
     // The instrument panel.
     void selectInstrument(const PositionLinks& links, std::int16_t type);
@@ -193,7 +194,8 @@ class Form1 : private SimulationMessages {
     void resetStopwatch();
 
     // Boxes.
-    void showBox(const std::string& title, const std::string& message);
+    void showBox(const std::string& title, const std::string& message,
+                 BoxKind kind = BoxKind::warning);
     void reportRunTimeError(const RunTimeError& error);
     void bufferWarning(BufferWarning warning) override;
     void chartFailed(const std::string& path, const RunTimeError& error) override;
@@ -208,6 +210,7 @@ class Form1 : private SimulationMessages {
     std::int16_t locCourse = 0;
     std::int16_t radialCycle = 0;
     bool boxUp = false;
+    std::string errorTold; ///< the run-time error that was last told and still lasts
     bool pictureMissingSaid = false;
     std::array<std::int16_t, 3> flightTimeShown{-1, -1, -1};
     std::array<std::int16_t, 2> stopwatchShown{-1, -1};

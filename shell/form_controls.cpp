@@ -52,6 +52,12 @@ SelectionList::SelectionList(FormState& owner, std::string_view name, std::vecto
                              std::optional<Text> tip)
     : FormControl(owner, name, {}, tip), texts(std::move(entries)) {}
 
+void SelectionList::pick(int index) {
+    change(selected, index);
+    if (onClick)
+        onClick();
+}
+
 void SelectionList::select(int index) {
     if (change(selected, index) && onClick)
         onClick();

@@ -127,6 +127,8 @@ class SelectionList : public FormControl {
     /// -1 before the first selection.
     [[nodiscard]] int index() const { return selected; }
     void select(int index);
+    /// The user's choice: it runs the handler even if the entry was selected already.
+    void pick(int index);
 
   private:
     std::vector<Text> texts;

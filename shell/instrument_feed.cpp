@@ -30,6 +30,10 @@ class Feed {
     [[nodiscard]] Slot tunedNdb() const;
     [[nodiscard]] bool stationOn(Slot slot) const { return sim.slot(slot).enabled != off; }
     [[nodiscard]] double inboundCourse() const;
+    [[nodiscard]] double fromTopOfChart(double course) const {
+        return northUp() ? course : course - sim.c_HDG;
+    }
+    void keepCourse(Slot tuned, double selectedCourse);
     void setAngle(double degrees);
     void setSlavedCard();
     void setReceiver(Slot tuned, double selectedCourse, bool stationIsOn);
@@ -95,7 +99,7 @@ void Feed::setSlavedCard() {
 }
 
 void Feed::writeCourseOnChart(double selectedCourse) {
-    links.courseOnChart.setIfChanged(northUp() ? selectedCourse : selectedCourse - sim.c_HDG);
+    links.courseOnChart.setIfChanged(fromTopOfChart(selectedCourse));
 }
 
 void Feed::setSecondPointerName(Text name) {
@@ -148,10 +152,14 @@ void Feed::feedVor() {
     if (received)
         instrument.c_OBS_x = selected;
     setAngle(360 - position.obs);
-    if (received && tuned == Slot::vor1)
-        sim.c_OBS1 = northUp() ? position.obs : position.obs - sim.c_HDG;
-    else if (received && tuned == Slot::vor2)
-        sim.c_OBS2 = northUp() ? position.obs : position.obs - sim.c_HDG;
+    keepCourse(tuned, position.obs);
+}
+
+/// Keeps the course of a received VOR for the chart.
+void Feed::keepCourse(Slot tuned, double selectedCourse) {
+    if (!stationOn(tuned) || tuned == Slot::localizer)
+        return;
+    (tuned == Slot::vor1 ? sim.c_OBS1 : sim.c_OBS2) = fromTopOfChart(selectedCourse);
 }
 
 /// The overlay needle has nothing to point at on a localizer: its box goes grey there.
@@ -172,12 +180,13 @@ void Feed::feedHsi() {
     const double offCourse = localizer ? static_cast<double>(sources.locCourse) : position.obsHsi;
     const double selected = localizer && received ? inboundCourse() : offCourse;
     setReceiver(tuned, selected, received);
-    if (instrument.c_RMIoverlayEN == 1)
+    if (received && instrument.c_RMIoverlayEN == 1)
         setSecondPointerName(signalName(tuned));
     else
         clearSecondPointerName();
     setSlavedCard();
     instrument.c_OBS_x = received ? selected : position.obsHsi;
+    keepCourse(tuned, position.obsHsi);
 }
 
 void Feed::feedDg() {

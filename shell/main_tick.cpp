@@ -2,6 +2,7 @@
 #include "core/rounding.h"
 #include "shell/form_1.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace tarnel {
@@ -47,6 +48,7 @@ void Form1::tick() {
     showStopwatch();
     showFlightTime();
     showReadouts();
+    errorTold.clear();
 }
 
 void Form1::guardPractiseArea() {
@@ -106,8 +108,8 @@ void Form1::echoSelectors() {
 }
 
 void Form1::copyReceiverSelections() {
-    DMEControlFace1.c_NAV1f.setIfChanged(toInt16(NAVControlFace1.c_SetFreq.get()));
-    DMEControlFace1.c_NAV2f.setIfChanged(toInt16(NAVControlFace2.c_SetFreq.get()));
+    DMEControlFace1.c_NAV1f = toInt16(NAVControlFace1.c_SetFreq.get());
+    DMEControlFace1.c_NAV2f = toInt16(NAVControlFace2.c_SetFreq.get());
 }
 
 void Form1::followInstrumentSelectors() {
@@ -196,7 +198,8 @@ void Form1::pullPanelState() {
     sim.c_DMEfreq.setIfChanged(toInt16(DMEControlFace1.c_SetFreq.get()));
     sim.c_APhdg.setIfChanged(toInt16(APControlFace1.c_HDG));
     sim.c_APtas.setIfChanged(toInt16(APControlFace1.c_TAS));
-    sim.c_APalt.setIfChanged(toInt16(APControlFace1.c_ALT));
+    constexpr double highestRecorded = 32767;
+    sim.c_APalt.setIfChanged(toInt16(std::min(APControlFace1.c_ALT.get(), highestRecorded)));
     for (const PositionLinks* links : {&inst2Links, &inst3Links}) {
         links->cardSelect.setIfChanged(links->position.instrument.c_ADFCardselect);
         links->navSelect.setIfChanged(links->position.navSel);

@@ -12,6 +12,7 @@ void Form1::startOrStop() {
 void Form1::startFlight() {
     simStopped = 0;
     lockBox.set(0);
+    lockBox.setEnabled(false);
     startButton.setCaption(Text::stopSim);
     startButton.setTip(Text::stopSimTip);
     UserControl11.c_TimerEN = 1;
@@ -20,6 +21,7 @@ void Form1::startFlight() {
 
 void Form1::stopFlight() {
     simStopped = 1;
+    lockBox.setEnabled(true);
     startButton.setCaption(Text::startSim);
     startButton.setTip(Text::startSimTip);
     UserControl11.c_TimerEN = 0;

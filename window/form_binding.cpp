@@ -90,7 +90,7 @@ void FormBinding::bind(SelectionList& control, QComboBox& list) {
     for (const Text entry : control.entries())
         list.addItem(textOf(form.texts, entry));
     connect(&list, &QComboBox::activated, this,
-            [this, &control](int index) { form.guarded([&] { control.select(index); }); });
+            [this, &control](int index) { form.guarded([&] { control.pick(index); }); });
     follow([this, &control, &list] {
         showCommon(control, list);
         if (control.tip())
@@ -103,6 +103,8 @@ void FormBinding::bind(TextPanel& control, QLabel& label) {
     follow([this, &control, &label] {
         showCommon(control, label);
         label.setText(QString::fromStdString(control.text()));
+        if (!control.tip())
+            label.setToolTip(label.text());
     });
 }
 

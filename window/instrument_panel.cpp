@@ -10,6 +10,7 @@
 
 #include <QPainter>
 #include <QPushButton>
+#include <QStyle>
 
 namespace tarnel {
 
@@ -86,7 +87,21 @@ void InstrumentPanel::layOut(const WindowLayout& layout) {
     }
 }
 
+/// A button that says OBS is lit.
+void InstrumentPanel::colourChannelButtons() {
+    const std::array<const PositionLinks*, 2> links = {&form.links2(), &form.links3()};
+    for (std::size_t i = 0; i < links.size(); ++i) {
+        const bool holds = links[i]->channelButton.caption() == Text::channelObs;
+        if (holds == holdsObs[i])
+            continue;
+        holdsObs[i] = holds;
+        channelButtons[i]->setProperty("holds", holds);
+        channelButtons[i]->style()->polish(channelButtons[i]);
+    }
+}
+
 void InstrumentPanel::refresh() {
+    colourChannelButtons();
     for (InstrumentHeader* header : headers)
         header->refresh();
     for (InstrumentView* instrument : instruments)

@@ -40,12 +40,14 @@ class InstrumentPanel : public QWidget {
   private:
     void makeInstruments(FormBinding& binding, PictureStore& pictures, const ModelGuard& guard);
     void makeModules(FormBinding& binding, PictureStore& pictures, const ModelGuard& guard);
+    void colourChannelButtons();
     void layOutChannelButton(std::size_t position, const QRect& bezel);
 
     Form1& form;
     std::array<InstrumentHeader*, 2> headers{};
     std::array<InstrumentView*, 2> instruments{};
     std::array<QPushButton*, 2> channelButtons{};
+    std::array<bool, 2> holdsObs{};
     NavModule* nav1 = nullptr;
     NavModule* nav2 = nullptr;
     NavModule* adf = nullptr;

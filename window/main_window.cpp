@@ -13,7 +13,6 @@
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QMenuBar>
-#include <QMessageBox>
 
 namespace tarnel {
 
@@ -56,7 +55,7 @@ MainWindow::~MainWindow() = default;
 void MainWindow::makeMenus() {
     MenuActions actions;
     actions.exit = [this] { close(); };
-    actions.about = [this] { showAbout(); };
+    actions.about = [this] { form.showAbout(); };
     buildMenus(*menuBar(), form, binding, actions);
 }
 
@@ -142,11 +141,6 @@ void MainWindow::refresh() {
     strip->refresh();
     panel->refresh();
     gyro->refresh();
-}
-
-void MainWindow::showAbout() {
-    QMessageBox::about(this, textOf(form.texts, Text::aboutTitle),
-                       textOf(form.texts, Text::aboutText));
 }
 
 } // namespace tarnel

@@ -41,7 +41,6 @@ class MainWindow : public QMainWindow {
     void layOut();
     void couplingTick();
     void followSimulationClock();
-    void showAbout();
     [[nodiscard]] PanelSizes panelSizes() const;
 
     Form1& form;

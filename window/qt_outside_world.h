@@ -10,7 +10,7 @@ namespace tarnel {
 /// `QtOutsideWorld`: message boxes over the main window.
 class QtOutsideWorld : public OutsideWorld {
   public:
-    void messageBox(const std::string& title, const std::string& text) override;
+    void messageBox(BoxKind kind, const std::string& title, const std::string& text) override;
     /// The window that boxes belong to; without one they stand alone.
     void setParent(QWidget* window) { parent = window; }
 

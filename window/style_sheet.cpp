@@ -83,7 +83,8 @@ QPushButton[dark="true"]:hover { border-color: $unit; }
 QPushButton[dark="true"]:pressed { background: $panelBottom; }
 QPushButton[dark="true"]:focus { border: 2px solid $panelFocus; padding: 0 {5}px; }
 
-QPushButton[channel="true"] { background: $moduleTop; color: $measured;
+QPushButton[channel="true"][holds="true"] { color: $measured; }
+QPushButton[channel="true"] { background: $moduleTop; color: $unit;
   border: 1px solid $panelBottom; border-top-color: $bezelTop; border-radius: {4}px; padding: 0;
   min-height: 0; max-height: 999px; font-weight: bold; }
 QPushButton[channel="true"]:hover { border-color: $unit; }

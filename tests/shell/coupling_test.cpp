@@ -68,6 +68,21 @@ TEST(Dme, ShowsTheSelectedSourceAndZeroWhenSwitchedOff) {
     EXPECT_EQ(form.DMEControlFace1.c_DMEkt, 0);
 }
 
+TEST(Dme, FollowsAReceiverAsSoonAsItsSwitchIsTurned) {
+    Trainer trainer;
+    trainer.form.DMEControlFace1.selectMode(DmeMode::r2);
+    trainer.couple(1);
+    EXPECT_EQ(trainer.form.DMEControlFace1.c_SetFreq, 1);
+}
+
+TEST(Autopilot, TakesItsHighestAltitudeWithoutAnError) {
+    Trainer trainer;
+    trainer.form.APControlFace1.stepALT(400);
+    trainer.couple();
+    EXPECT_EQ(trainer.form.APControlFace1.c_ALT, 42000);
+    EXPECT_TRUE(trainer.world.boxes.empty());
+}
+
 TEST(PractiseArea, StopsTheFlightOnceWithItsMessage) {
     Trainer trainer;
     trainer.placeAt(48.17, 13.2, 90);
@@ -84,7 +99,7 @@ TEST(RunTimeErrors, PauseTheFlightAndAreToldOnce) {
     Trainer trainer;
     trainer.start();
     trainer.sim().c_LocCrs1 = 1e9;
-    trainer.couple(1);
+    trainer.couple(5);
     ASSERT_EQ(trainer.world.boxes.size(), 1);
     EXPECT_THAT(trainer.world.boxes[0], HasSubstr("6"));
     EXPECT_FALSE(trainer.form.simulationRuns());
@@ -109,6 +124,17 @@ TEST(Stopwatch, RunsStopsAndResetsAtOnceWhenPaused) {
     trainer.couple(1);
     EXPECT_EQ(trainer.form.tvsmtimer1.minsec.get(), "00.00");
     EXPECT_EQ(trainer.form.flightTimePanel.text(), "0h1min15sec");
+}
+
+TEST(Strip, AnAbandonedTrackStaysAway) {
+    Trainer trainer;
+    trainer.start();
+    trainer.fly(120);
+    trainer.form.startButton.click();
+    EXPECT_FALSE(trainer.sim().picture.trace.all().empty());
+    trainer.sim().placeAircraft(ChartPoint{1000, 1000});
+    trainer.form.stepScale(1);
+    EXPECT_TRUE(trainer.sim().picture.trace.all().empty());
 }
 
 TEST(Strip, HideAndTraceKeepEachOther) {

@@ -15,7 +15,7 @@ namespace tarnel {
 /// An outside world that writes its boxes down.
 struct NotedWorld : OutsideWorld {
     std::vector<std::string> boxes;
-    void messageBox(const std::string& title, const std::string& text) override {
+    void messageBox(BoxKind, const std::string& title, const std::string& text) override {
         boxes.push_back(title + ": " + text);
     }
 };

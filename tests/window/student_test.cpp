@@ -22,7 +22,9 @@ namespace {
 
 struct NotedWorld : OutsideWorld {
     std::vector<std::string> boxes;
-    void messageBox(const std::string&, const std::string& text) override { boxes.push_back(text); }
+    void messageBox(BoxKind, const std::string&, const std::string& text) override {
+        boxes.push_back(text);
+    }
 };
 
 /// The window as a student has it, with the time run by hand.

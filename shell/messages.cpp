@@ -3,6 +3,8 @@
 #include "shell/form_1.h"
 #include "shell/text_format.h"
 
+#include <utility>
+
 namespace tarnel {
 
 namespace {
@@ -45,17 +47,24 @@ std::string fileError(const StringTable& texts, int number, const std::string& s
 
 } // namespace
 
-void Form1::showBox(const std::string& title, const std::string& message) {
-    boxUp = true;
-    outside.messageBox(title, message);
-    boxUp = false;
+void Form1::showBox(const std::string& title, const std::string& message, BoxKind kind) {
+    const bool wasUp = std::exchange(boxUp, true);
+    outside.messageBox(kind, title, message);
+    boxUp = wasUp;
 }
 
+/// An error that comes again at every tick is told once; the next clean tick forgets it.
 void Form1::reportRunTimeError(const RunTimeError& error) {
-    StopFly();
-    showBox(text(Text::errorTitle),
-            filledIn(texts[Text::flightPaused],
-                     {numberText(std::int64_t{error.number()}), error.source(), error.what()}));
+    const std::string told =
+        filledIn(texts[Text::flightPaused],
+                 {numberText(std::int64_t{error.number()}), error.source(), error.what()});
+    try {
+        StopFly();
+    } catch (const RunTimeError&) {
+        // What hinders the flight hinders its picture too; it has been told, or is told below.
+    }
+    if (std::exchange(errorTold, told) != told)
+        showBox(text(Text::errorTitle), told);
 }
 
 void Form1::bufferWarning(BufferWarning warning) {
@@ -80,6 +89,10 @@ void Form1::chartWrong(const std::string& path, const ChartProblem& problem) {
     description += filledIn(texts[Text::lineExpected], {line, expected});
     showBox(text(Text::errorTitle),
             fileError(texts, badContent, text(Text::windowTitle), description));
+}
+
+void Form1::showAbout() {
+    showBox(text(Text::aboutTitle), text(Text::aboutText), BoxKind::notice);
 }
 
 void Form1::pictureMissing(const std::string& file) {
