@@ -43,31 +43,6 @@ struct InstrumentPicture {
     Label Label2_3;                 ///< what the second needle points to
     Label Label2_4;                 ///< flag of the VOR indicator
     Label Text1;                    ///< "OFF" flag of the HSI
-
-    /// Hands every primitive to `paint`, the lowest first. `paint` takes a `Picture`, a `Line`, a
-    /// `Round` or a `Label`, visible or not.
-    template <class Paint>
-    void paintInOrder(Paint&& paint) const {
-        const auto paintAll = [&paint](const auto& primitives) {
-            for (const auto& primitive : primitives)
-                paint(primitive);
-        };
-        paint(Image1);
-        paintAll(Line1);
-        paintAll(Label1);
-        paintAll(Line17to23);
-        paintAll(Shape2);
-        paintAll(Line7to12);
-        paintAll(Line3to6);
-        paint(Line14);
-        paintAll(Line15);
-        paint(Line13);
-        paint(Line24);
-        paintAll(Line16);
-        paint(Label2_3);
-        paint(Label2_4);
-        paint(Text1);
-    }
 };
 
 } // namespace tarnel

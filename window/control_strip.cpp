@@ -20,7 +20,6 @@ namespace tarnel {
 
 namespace {
 
-constexpr int cardInset = 10;
 constexpr int rowGap = 6;
 
 /// Narrower strips do without the word before the speeds.
@@ -31,7 +30,8 @@ constexpr int roomForSpeedCaption = 420;
 ControlStrip::ControlStrip(Form1& owner, FormBinding& links, QWidget* parent)
     : QWidget(parent), form(owner), binding(links) {
     auto* rows = new QVBoxLayout(this);
-    rows->setContentsMargins(cardInset, cardInset - 2, cardInset, cardInset - 2);
+    rows->setContentsMargins(look::cardInset, look::cardInset - 2, look::cardInset,
+                             look::cardInset - 2);
     rows->setSpacing(rowGap);
     rows->addLayout(makeFlightRow());
     rows->addLayout(makeReplayRow());

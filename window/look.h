@@ -83,10 +83,7 @@ inline constexpr QColor needleTwo = rgb(0x35D27B);
 
 // Chart.
 inline constexpr QColor paper = rgb(0xFFFFFF);
-inline constexpr QColor stationRed = rgb(0xC4262E);
-inline constexpr QColor stationBlue = rgb(0x1F56B8);
 inline constexpr QColor localizer = rgb(0x3D7A5C);
-inline constexpr QColor track = rgb(0x00A3C4);
 inline constexpr QColor groundSpeed = rgb(0x00809C);
 inline constexpr QColor wind = rgb(0xB05A00);
 inline constexpr QColor gridMile = rgb(0xF4F6F9);
@@ -95,7 +92,6 @@ inline constexpr QColor gridTenMiles = rgb(0xDCE3EA);
 
 // Type, heights in pixels.
 inline constexpr int bodyType = 13;
-inline constexpr int titleType = 15;   ///< bold
 inline constexpr int denseType = 12;   ///< dense controls and the status bar
 inline constexpr int captionType = 12; ///< bold
 inline constexpr int unitType = 11;    ///< units and what is secondary
@@ -113,23 +109,15 @@ inline constexpr int gap = 8; ///< outer margin, gutters, inset of the panel
 inline constexpr int cardInset = 10;
 inline constexpr int moduleInset = 12;
 inline constexpr int overlayInset = 10; ///< from the edge of the paper
-inline constexpr int menuHeight = 28;
 inline constexpr int statusHeight = 26;
-inline constexpr int controlHeight = 26;
-inline constexpr int quizControlHeight = 28;
-inline constexpr int chartSwitchHeight = 24;
 inline constexpr double paperRadius = 3;
 inline constexpr double controlRadius = 5;
 inline constexpr double moduleRadius = 6;
 inline constexpr double panelRadius = 8;
 inline constexpr double bezelRadiusShare = 0.045; ///< of the bezel
 
-/// The part of the status bar that each of its panels takes.
-inline constexpr double statusShares[] = {.185, .135, .135, .09, .105, .165, .185};
-
 /// Shares of the bezel's side.
 namespace bezel {
-inline constexpr double recessRadius = 0.470;
 inline constexpr double glassRadius = 0.448;
 inline constexpr double knobRadius = 0.062;
 inline constexpr double knobInset = 0.088; ///< its centre from both edges
@@ -142,27 +130,13 @@ inline constexpr int smallestLettering = 9;
 
 /// Shares of the card's radius, which is a share of the glass.
 namespace card_share {
-inline constexpr double ofGlass = 0.915;
-inline constexpr double tenDegreeTick = 0.10;
-inline constexpr double fiveDegreeTick = 0.055;
-inline constexpr double numeralRadius = 0.785;
 inline constexpr double numeralHeight = 0.132;
 inline constexpr double cardinalHeight = 0.155;
-inline constexpr double arrowInner = 0.39;
-inline constexpr double arrowOuter = 0.70;
-inline constexpr double barHalfLength = 0.365;
-inline constexpr double dotSpacing = 0.078; ///< two degrees
-inline constexpr double bugInner = 0.945;
-inline constexpr double bugOuter = 1.045;
 } // namespace card_share
 
 /// Vector digits, seven segments.
 namespace digits {
-inline constexpr double height = 28;
-inline constexpr double narrowHeight = 24;
-inline constexpr double smallHeight = 22; ///< DME on narrow panels
 inline constexpr double strokeShare = 0.13;
-inline constexpr double slantDegrees = 5;
 } // namespace digits
 
 } // namespace tarnel::look

@@ -1,5 +1,7 @@
 #include "window/window_layout.h"
 
+#include "window/look.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -7,7 +9,6 @@ namespace tarnel {
 
 namespace {
 
-constexpr double gap = 8;
 constexpr double stripHeight = 178;
 constexpr double headerHeight = 32;
 constexpr double panelReferenceWidth = 712;
@@ -56,7 +57,7 @@ class PanelLayout {
         const QSize panel = layout.panel.size();
         layout.panelScale = std::clamp(
             std::min(panel.width() / panelReferenceWidth, panel.height() / 640.0), 0.7, 3.0);
-        margin = gap * layout.uiScale;
+        margin = look::gap * layout.uiScale;
         inner = panel.width() - 2 * margin;
         head = headerHeight * layout.uiScale;
         chooseRows(panel);
@@ -133,7 +134,7 @@ class PanelLayout {
     WindowLayout& layout;
     PanelSizes sizes;
     int rows = 3;
-    double margin = gap;
+    double margin = look::gap;
     double inner = 0;
     double head = 0;
 };
@@ -143,9 +144,9 @@ class PanelLayout {
 WindowLayout layOutWindow(QSize body, PanelSizes sizes) {
     WindowLayout layout;
     layout.uiScale = uiScaleOf(body);
-    const int margin = whole(gap * layout.uiScale);
+    const int margin = whole(look::gap * layout.uiScale);
     const int height = body.height() - 2 * margin;
-    const double widest = std::floor(chartWidthShare * body.width() / gap) * gap;
+    const double widest = std::floor(chartWidthShare * body.width() / look::gap) * look::gap;
     double side = std::min(height - margin - stripHeight * layout.uiScale, widest);
     if (sizes.inst2Large || sizes.inst3Large)
         side *= largeChartShare;
