@@ -2,18 +2,9 @@
 
 namespace tarnel {
 
-FormControl* FormState::find(std::string_view name) const {
-    for (FormControl* control : all)
-        if (control->name() == name)
-            return control;
-    return nullptr;
-}
-
 FormControl::FormControl(FormState& owner, std::string_view name, std::optional<Text> caption,
                          std::optional<Text> tip)
-    : form(owner), controlName(name), captionText(caption), tipText(tip) {
-    form.all.push_back(this);
-}
+    : form(owner), controlName(name), captionText(caption), tipText(tip) {}
 
 void CommandButton::click() {
     if (enabled() && visible() && onClick)
@@ -38,7 +29,7 @@ void OptionButton::choose() {
     if (chosen())
         return;
     group.chosen = this;
-    change(turns, static_cast<std::uint8_t>(turns + 1));
+    touch();
     if (onClick)
         onClick();
 }

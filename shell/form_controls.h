@@ -11,21 +11,14 @@
 
 namespace tarnel {
 
-class FormControl;
-
-/// Counts the changes of a form's controls, so that a window knows when to look at them again, and
-/// lists them by name.
+/// Counts the changes of a form's controls, so that a window knows when to look at them again.
 class FormState {
   public:
     [[nodiscard]] std::uint64_t revision() const { return changes; }
-    [[nodiscard]] const std::vector<FormControl*>& controls() const { return all; }
-    /// The control called `name`, or null.
-    [[nodiscard]] FormControl* find(std::string_view name) const;
+    void touch() { ++changes; }
 
   private:
-    friend class FormControl;
     std::uint64_t changes = 0;
-    std::vector<FormControl*> all;
 };
 
 /// A control of the form without its looks. `name` is the widget's name, by which tests and scripts
@@ -56,9 +49,12 @@ class FormControl {
         if (field == value)
             return false;
         field = value;
-        ++form.changes;
+        form.touch();
         return true;
     }
+
+    /// Counts a change that was made past `change`.
+    void touch() { form.touch(); }
 
   private:
     FormState& form;
@@ -114,7 +110,6 @@ class OptionButton : public FormControl {
 
   private:
     OptionGroup& group;
-    std::uint8_t turns = 0;
 };
 
 /// A list of which one entry is selected. Selecting another runs the handler at once.

@@ -1,6 +1,7 @@
 #include "shell/instrument_feed.h"
 
 #include "core/rounding.h"
+#include "shell/signal_name.h"
 
 namespace tarnel {
 
@@ -27,7 +28,6 @@ class Feed {
     [[nodiscard]] bool northUp() const { return sim.c_MAPnorthUP == 1; }
     [[nodiscard]] double bearing(Slot slot) const;
     [[nodiscard]] double course(Slot slot) const;
-    [[nodiscard]] Slot tunedNdb() const;
     [[nodiscard]] bool stationOn(Slot slot) const { return sim.slot(slot).enabled != off; }
     [[nodiscard]] double inboundCourse() const;
     [[nodiscard]] double fromTopOfChart(double course) const {
@@ -48,22 +48,6 @@ class Feed {
     UserControl_1& instrument;
 };
 
-Text signalName(Slot slot) {
-    switch (slot) {
-    case Slot::vor1:
-        return Text::signalVor1;
-    case Slot::vor2:
-        return Text::signalVor2;
-    case Slot::ndb1:
-        return Text::signalNdb1;
-    case Slot::ndb2:
-        return Text::signalNdb2;
-    case Slot::localizer:
-        break;
-    }
-    return Text::signalLoc1;
-}
-
 /// The bearing to a station as an angle from the top of the instrument. On a chart with the heading
 /// up the radial is already relative to the heading; the localizer's never is.
 double Feed::bearing(Slot slot) const {
@@ -78,10 +62,6 @@ double Feed::course(Slot slot) const {
         return radial;
     const double sum = sim.c_HDG + radial;
     return sum > 360 ? sum - 360 : sum;
-}
-
-Slot Feed::tunedNdb() const {
-    return sources.adfReceiver.c_SetFreq == 0 ? Slot::ndb1 : Slot::ndb2;
 }
 
 /// The localizer's approach course, brought into 0 to 360.
@@ -115,7 +95,7 @@ void Feed::clearSecondPointerName() {
 
 void Feed::feedAdf() {
     constexpr std::int16_t slavedCard = 2;
-    const Slot ndb = tunedNdb();
+    const Slot ndb = tunedNdb(sources);
     if (!stationOn(ndb))
         return;
     instrument.adfradial = bearing(ndb);
@@ -127,7 +107,7 @@ void Feed::feedRmi() {
     const Slot tuned = tunedStation(sources, position.navSel);
     const bool vorReceived = tuned != Slot::localizer && stationOn(tuned);
     instrument.adfradial = vorReceived ? bearing(tuned) : parked;
-    const Slot ndb = tunedNdb();
+    const Slot ndb = tunedNdb(sources);
     instrument.adf2radial = stationOn(ndb) ? bearing(ndb) : 0;
     setSecondPointerName(signalName(ndb));
     setSlavedCard();
@@ -200,6 +180,10 @@ Slot tunedStation(const FeedSources& sources, std::int16_t receiver) {
     const auto& face = receiver == 1 ? sources.nav1 : sources.nav2;
     const auto selected = face.c_SetFreq.get();
     return selected >= 0 && selected <= 2 ? slots[selected] : Slot::localizer;
+}
+
+Slot tunedNdb(const FeedSources& sources) {
+    return sources.adfReceiver.c_SetFreq == 0 ? Slot::ndb1 : Slot::ndb2;
 }
 
 void feedInstrument(const PositionLinks& links, const FeedSources& sources) {

@@ -1,6 +1,7 @@
 #include "core/number_text.h"
 #include "core/rounding.h"
 #include "shell/form_1.h"
+#include "shell/signal_name.h"
 
 namespace tarnel {
 
@@ -15,12 +16,6 @@ std::int16_t nextOf(std::int16_t value, std::int16_t last) {
 
 std::int16_t& vorChannelOf(InstrumentPosition& position) {
     return position.type == hsi ? position.channels.hsi : position.channels.vor;
-}
-
-Text signalOf(Slot slot) {
-    static constexpr Text names[] = {Text::signalVor1, Text::signalVor2, Text::signalNdb1,
-                                     Text::signalNdb2, Text::signalLoc1};
-    return names[static_cast<std::size_t>(slot)];
 }
 
 struct PointerPair {
@@ -66,7 +61,7 @@ void Form1::takeVor(InstrumentPosition& position, std::int16_t channel) {
 }
 
 std::string Form1::dmeText(Slot slot) const {
-    if (slot == Slot::ndb1 || slot == Slot::ndb2)
+    if (!hasDme(slot))
         return text(Text::signalNone);
     return numberText(UserControl11.slot(slot).dme.get());
 }
@@ -82,8 +77,8 @@ void Form1::labelInstrument(InstrumentPosition& position) {
         break;
     case rmi: {
         const PointerPair& pair = rmiPairs[channels.rmi - 1];
-        labels = {text(signalOf(pair.first)),  dmeText(pair.first),  none,
-                  text(signalOf(pair.second)), dmeText(pair.second), none};
+        labels = {text(signalName(pair.first)),  dmeText(pair.first),  none,
+                  text(signalName(pair.second)), dmeText(pair.second), none};
         break;
     }
     case vor:
@@ -109,7 +104,7 @@ void Form1::labelInstrument(InstrumentPosition& position) {
 /// First needle values of an ADF; the next tick keeps them.
 void Form1::seedAdf(UserControl_1& instrument) {
     const double heading = UserControl11.c_HDG;
-    const Slot ndb = ADFControlFace1.c_SetFreq == 0 ? Slot::ndb1 : Slot::ndb2;
+    const Slot ndb = tunedNdb(feedSources());
     instrument.adfradial = UserControl11.slot(ndb).radial - 180 - heading;
     instrument.adf2radial = UserControl11.slot(Slot::vor2).radial - 180 - heading;
     instrument.c_HDG = toInt16(360 - heading);

@@ -76,12 +76,6 @@ QToolButton[dark="true"]:pressed { background: $panelBottom; }
 QToolButton[dark="true"]:checked { background: $accent; border-color: $panelFocus; }
 QToolButton[dark="true"]:focus { border: 2px solid $panelFocus; }
 
-QPushButton[dark="true"] { background: $moduleTop; color: $caption; border: 1px solid $bezelTop;
-  border-radius: {4}px; padding: 0 {6}px; min-height: {20}px; max-height: {26}px;
-  font-size: {11}px; font-weight: bold; }
-QPushButton[dark="true"]:hover { border-color: $unit; }
-QPushButton[dark="true"]:pressed { background: $panelBottom; }
-QPushButton[dark="true"]:focus { border: 2px solid $panelFocus; padding: 0 {5}px; }
 
 QPushButton[channel="true"][holds="true"] { color: $measured; }
 QPushButton[channel="true"] { background: $moduleTop; color: $unit;
