@@ -1,5 +1,6 @@
 #pragma once
 
+#include "controls/form_controls.h"
 #include "core/run_time_error.h"
 #include "engine/user_control_2.h"
 #include "instruments/ap_control_face.h"
@@ -7,7 +8,6 @@
 #include "instruments/radio_face.h"
 #include "instruments/stopwatch_face.h"
 #include "instruments/user_control_1.h"
-#include "shell/form_controls.h"
 #include "shell/instrument_feed.h"
 #include "shell/instrument_position.h"
 #include "shell/outside_world.h"

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "controls/form_controls.h"
 #include "core/property.h"
 #include "instruments/user_control_1.h"
-#include "shell/form_controls.h"
 
 #include <cstdint>
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "controls/form_controls.h"
 #include "shell/form_1.h"
-#include "shell/form_controls.h"
 #include "window/text_of.h"
 
 #include <QObject>

@@ -1,4 +1,4 @@
-#include "shell/form_controls.h"
+#include "controls/form_controls.h"
 
 namespace tarnel {
 
