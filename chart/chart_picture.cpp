@@ -35,6 +35,10 @@ ChartPicture::ChartPicture() {
     for (Line* line : {&airplane.fuselage, &airplane.wing, &airplane.tailplane, &heading.line})
         line->colour = chartColour::ink;
     heading.name.colour = heading.value.colour = help.colour = chartColour::ink;
+    for (Line* line : {&windLine.line, &windLine.headLeft, &windLine.headRight})
+        line->colour = chartColour::windVector;
+    for (Label* label : {&windLine.name, &windLine.direction, &windLine.speed, &windLabel})
+        label->colour = chartColour::windVector;
     speedVectors.air.colour = chartColour::airVector;
     speedVectors.wind.colour = chartColour::windVector;
     speedVectors.ground.colour = chartColour::groundVector;

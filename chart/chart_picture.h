@@ -57,6 +57,16 @@ struct HeadingLine {
     Label value;
 };
 
+/// The line along which the wind blows while it is drawn, its arrow head, and three labels.
+struct WindLine {
+    Line line;
+    Line headLeft;
+    Line headRight;
+    Label name;
+    Label direction;
+    Label speed;
+};
+
 /// `Picture1`: everything that stands on the chart, in twips.
 struct ChartPicture {
     ChartPicture();
@@ -70,9 +80,12 @@ struct ChartPicture {
     AirplaneLines airplane;
     SpeedVectorLines speedVectors;
     HeadingLine heading;
+    WindLine windLine;
+    Label windLabel; ///< the wind beside the airplane
     Label help;
     double milesPer500Twips = 2; ///< the scale label
     DotLayer trace{surface};
+    DotLayer ahead{surface}; ///< where turns to either side would lead
 };
 
 /// The colours of what stands on the chart, 0xBBGGRR.
@@ -85,6 +98,7 @@ constexpr Colour airVector = 0x4A3F36;
 constexpr Colour groundVector = 0x9C8000;
 constexpr Colour windVector = 0x005AB0;
 constexpr Colour track = 0xC3A300; ///< cyan, darkened to stand on white
+constexpr Colour ahead = 0x1E5A96; ///< brown
 } // namespace chartColour
 
 /// The colour of a station slot.

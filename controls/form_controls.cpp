@@ -26,12 +26,18 @@ OptionButton::OptionButton(FormState& owner, OptionGroup& options, std::string_v
     : FormControl(owner, name, caption, tip), group(options) {}
 
 void OptionButton::choose() {
+    if (chosen() && !repeats)
+        return;
+    show();
+    if (onClick)
+        onClick();
+}
+
+void OptionButton::show() {
     if (chosen())
         return;
     group.chosen = this;
     touch();
-    if (onClick)
-        onClick();
 }
 
 void OptionButton::click() {

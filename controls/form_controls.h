@@ -81,6 +81,8 @@ class CheckBox : public FormControl {
     std::function<void()> onClick;
     [[nodiscard]] int value() const { return state; }
     void set(int value);
+    /// Shows a value that came about elsewhere, without the handler.
+    void show(int value) { change(state, value); }
     /// The user's click: a ticked box becomes clear, any other ticked.
     void click();
 
@@ -97,7 +99,8 @@ class OptionGroup {
     OptionButton* chosen = nullptr;
 };
 
-/// An option button. Choosing it runs its handler at once unless it was chosen already.
+/// An option button. Choosing it runs its handler at once; unless it `repeats`, choosing it again
+/// does nothing.
 class OptionButton : public FormControl {
   public:
     OptionButton(FormState& form, OptionGroup& group, std::string_view name,
@@ -105,8 +108,12 @@ class OptionButton : public FormControl {
     std::function<void()> onClick;
     [[nodiscard]] bool chosen() const { return group.chosen == this; }
     void choose();
+    /// Shows a choice that came about elsewhere, without the handler.
+    void show();
     /// The user's click.
     void click();
+
+    bool repeats = false; ///< a click on the chosen button runs the handler again
 
   private:
     OptionGroup& group;

@@ -49,11 +49,29 @@ void Recording::clear() {
     newest = 0;
 }
 
-void Recording::beginComment(std::string text) {
-    if (comments.size() == mostComments)
-        throw outOfRange();
-    comments.push_back(std::move(text));
-    selected = static_cast<std::int16_t>(comments.size() - 1);
+void Recording::write(const Sample& sample, std::int16_t comment) {
+    Sample& target = at(newest);
+    const std::int16_t kept = target.traceComment;
+    target = sample;
+    target.traceComment = comment == noComment ? kept : comment;
+}
+
+void Recording::cutAfter(std::int16_t index) {
+    setNewest(index);
+    for (int i = index + 1; i <= lastSample; ++i) {
+        Sample& sample = at(i);
+        sample.traceLat = 45;
+        sample.traceLon = 11;
+        sample.traceHeading = 0;
+        sample.traceStopMinutes = sample.traceStopSeconds = 0;
+        sample.traceFlightMinutes = sample.traceFlightSeconds = sample.traceFlightHours = 0;
+        sample.traceComment = noComment;
+    }
+}
+
+void Recording::markComment(int first, int last, std::int16_t comment) {
+    for (int i = first; i <= last; ++i)
+        at(i).traceComment = comment;
 }
 
 } // namespace tarnel

@@ -1,18 +1,15 @@
 #pragma once
 
+#include "core/comments.h"
 #include "core/geo_position.h"
 #include "core/stations.h"
 
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <string>
 #include <vector>
 
 namespace tarnel {
-
-/// The comment index of a sample without a comment.
-constexpr std::int16_t noComment = -1;
 
 /// The whole state of a flight at one moment.
 struct Sample {
@@ -52,13 +49,12 @@ struct Sample {
 /// What the user has to be told when the buffer runs out.
 enum class BufferWarning { none, almostFull, full };
 
-/// The flight recorder: at most 6,000 samples, numbered from 1, and the comments on them.
+/// The flight recorder: at most 6,000 samples, numbered from 1.
 class Recording {
   public:
     static constexpr std::int16_t lastSample = 6000;
     static constexpr std::int16_t almostFullAt = 5900;
     static constexpr std::int16_t fullAt = 5980;
-    static constexpr std::size_t mostComments = 101;
 
     Recording();
 
@@ -76,28 +72,26 @@ class Recording {
     /// overwritten.
     BufferWarning advance();
 
-    /// Forgets all samples, but no comment text: the next sample is number 1.
+    /// Writes the newest sample; its comment is kept unless `comment` is one.
+    void write(const Sample& sample, std::int16_t comment);
+
+    /// Forgets all samples: the next one is number 1.
     void clear();
 
-    /// Makes sample 1 the newest.
-    void startAtFirst() { newest = 1; }
+    /// Makes sample `index` the newest and marks those behind it as empty: 45 degrees north, 11
+    /// east, without heading, times and comment.
+    void cutAfter(std::int16_t index);
 
-    /// Adds a comment, which the samples to come carry. Throws the subscript error when there are
-    /// `mostComments` already.
-    void beginComment(std::string text);
-    /// The samples to come carry no comment.
-    void endComment() { selected = noComment; }
+    /// Makes sample `index` the newest.
+    void setNewest(std::int16_t index) { newest = index; }
 
-    [[nodiscard]] const std::vector<std::string>& commentTexts() const { return comments; }
-    /// The comment that samples take now, or `noComment`.
-    [[nodiscard]] std::int16_t selectedCommentIndex() const { return selected; }
+    /// Takes the comment from samples `first` to `last`, or gives them one.
+    void markComment(int first, int last, std::int16_t comment);
 
   private:
     std::vector<Sample> samples;
     std::int16_t newest = 1;
     std::int16_t sampleTick = 0;
-    std::vector<std::string> comments;
-    std::int16_t selected = noComment;
 };
 
 } // namespace tarnel

@@ -15,8 +15,8 @@ RadialInputs UserControl2::radialInputs() const {
     return inputs;
 }
 
-void UserControl2::redrawChart() {
-    DrawNAVSymbols(picture, view, stations, rotation(), radialInputs());
+void UserControl2::redrawChart(const RadialInputs& inputs) {
+    DrawNAVSymbols(picture, view, stations, rotation(), inputs);
 }
 
 void UserControl2::switchRadials() {
@@ -62,6 +62,32 @@ void UserControl2::resizeChart() {
     refresh();
 }
 
+void UserControl2::centreOnAircraft() {
+    centreOn(toSplit(aircraft.published()));
+}
+
+void UserControl2::centreOn(const SplitPosition& centre) {
+    view.centreOn(centre);
+    view.placeAircraft(aircraft);
+    redrawChart();
+    redrawTrace();
+    refresh();
+}
+
+void UserControl2::resetView() {
+    c_MAPnorthUP = 1;
+    c_MAPscale = home.scale;
+    centreOn(home.centre);
+}
+
+void UserControl2::switchStation(Slot which, bool stationOn, bool dmeOn) {
+    StationProperties& station = slot(which);
+    station.dmeEnabled = dmeOn ? on : off;
+    station.enabled = stationOn ? on : off;
+    if (!stationOn && !dmeOn)
+        inSlot(stations, which).buttonDown = false;
+}
+
 void UserControl2::switchView() {
     view.northUpMode = c_MAPnorthUP == 1;
     airplaneOutline = RotateAirplaneSymbol(view.northUpMode ? aircraft.trueHeading : 0);
@@ -88,11 +114,6 @@ void UserControl2::placeAircraft(const GeoPosition& position) {
     redrawChart();
     markFreshStart();
     redrawTrace();
-    refresh();
-}
-
-void UserControl2::setWind(const Wind& next) {
-    wind = next;
     refresh();
 }
 

@@ -58,9 +58,11 @@ void UserControl2::applyChart(const ChartFile& chart) {
     if (chart.mapCenterSelect)
         c_MAPCenterSelect = *chart.mapCenterSelect;
     c_MAPscale = chart.mapScaleTwips.value_or(c_MAPscale.get());
+    home.scale = c_MAPscale;
     if (!chart.aircraft)
         return;
     placeAircraft(*chart.aircraft);
+    home.centre = view.mapCenter;
     if (chart.heading)
         turnAircraft(intoCircle(*chart.heading));
     markFreshStart();

@@ -11,9 +11,12 @@ namespace tarnel {
 
 namespace {
 
-/// Where the labels of the heading line stand beside the pointer, in twips.
+/// Where the labels of a drawn line stand beside the pointer, in twips.
 constexpr double labelGap = 150;
 constexpr double labelHeight = 250;
+/// The arrow head of the wind line, twips and degrees.
+constexpr double barbLength = 180;
+constexpr double barbAngle = 25;
 
 ChartPoint rounded(Point at, double size) {
     return {toInt16(std::clamp(at.x, 0.0, size)), toInt16(std::clamp(at.y, 0.0, size))};
@@ -22,7 +25,7 @@ ChartPoint rounded(Point at, double size) {
 } // namespace
 
 bool ChartMouse::allowed() const {
-    return sim.view.northUpMode && sim.stopped();
+    return sim.view.northUpMode && (sim.stopped() || tool == Tool::wind);
 }
 
 void ChartMouse::decodeRightButton() {
@@ -33,9 +36,12 @@ void ChartMouse::decodeRightButton() {
 void ChartMouse::down(ChartButton button, Point at) {
     if (!allowed())
         return;
-    if (button == ChartButton::right)
+    if (button == ChartButton::right && sim.stopped())
         decodeRightButton();
-    if (tool == Tool::heading) {
+    if (tool == Tool::wind) {
+        windDragging = true;
+        windStart = at;
+    } else if (tool == Tool::heading) {
         headingDragging = true;
         showHeadingLine(at);
     } else if (button == ChartButton::left) {
@@ -47,29 +53,52 @@ void ChartMouse::down(ChartButton button, Point at) {
 void ChartMouse::move(Point at) {
     if (!allowed())
         return;
-    if (headingDragging)
+    if (windDragging)
+        drawWind(at);
+    else if (headingDragging)
         drawHeading(at);
     else if (airplaneDragging)
         place(at);
 }
 
 void ChartMouse::up() {
-    if (headingDragging)
+    if (headingDragging || windDragging)
         cancel();
     airplaneDragging = false;
+    sim.windLabelOn = true;
+}
+
+void ChartMouse::pickWindTool() {
+    cancel();
+    tool = Tool::wind;
+    sim.picture.surface.show(sim.picture.help, true);
 }
 
 void ChartMouse::cancel() {
     tool = Tool::standard;
-    airplaneDragging = headingDragging = false;
-    HeadingLine& heading = sim.picture.heading;
+    airplaneDragging = headingDragging = windDragging = false;
     sim.picture.surface.show(sim.picture.help, false);
+    hideHeadingLine();
+    hideWindLine();
+}
+
+void ChartMouse::hideHeadingLine() {
+    HeadingLine& heading = sim.picture.heading;
     sim.picture.surface.show(heading.line, false);
     sim.picture.surface.show(heading.name, false);
     sim.picture.surface.show(heading.value, false);
 }
 
+void ChartMouse::hideWindLine() {
+    WindLine& wind = sim.picture.windLine;
+    for (Line* line : {&wind.line, &wind.headLeft, &wind.headRight})
+        sim.picture.surface.show(*line, false);
+    for (Label* label : {&wind.name, &wind.direction, &wind.speed})
+        sim.picture.surface.show(*label, false);
+}
+
 void ChartMouse::place(Point at) {
+    sim.windLabelOn = false;
     sim.placeAircraft(rounded(at, sim.picture.size));
 }
 
@@ -96,6 +125,35 @@ void ChartMouse::drawHeading(Point at) {
     if (headingDrawn)
         headingDrawn(degrees);
     showHeadingLine(at);
+}
+
+void ChartMouse::drawWind(Point at) {
+    constexpr double twipsPerStep = 100;
+    constexpr int knotsPerStep = 2;
+    const Polar from = polarOf(windStart.x - at.x, at.y - windStart.y, twipsPerStep);
+    sim.drawWind({std::floor(from.course), toInt16(knotsPerStep * std::floor(from.distance))});
+    showWindLine(at);
+}
+
+void ChartMouse::showWindLine(Point at) {
+    DrawingSurface& surface = sim.picture.surface;
+    WindLine& wind = sim.picture.windLine;
+    const double down = polarOf(windStart.x - at.x, at.y - windStart.y, 1).course;
+    const auto barb = [&](double angle) {
+        return RotatePoint(angle, at, {at.x, at.y - barbLength});
+    };
+    surface.place(wind.line, windStart, at);
+    surface.place(wind.headLeft, at, barb(down - barbAngle));
+    surface.place(wind.headRight, at, barb(down + barbAngle));
+    surface.place(wind.name, {at.x + labelGap, at.y - 3 * labelHeight});
+    surface.place(wind.direction, {at.x + labelGap, at.y - 2 * labelHeight});
+    surface.place(wind.speed, {at.x + labelGap, at.y - labelHeight});
+    surface.set(wind.direction.caption, numberText(sim.wind.direction) + "°");
+    surface.set(wind.speed.caption, numberText(std::int64_t{sim.wind.speed}));
+    for (Line* line : {&wind.line, &wind.headLeft, &wind.headRight})
+        surface.show(*line, true);
+    for (Label* label : {&wind.name, &wind.direction, &wind.speed})
+        surface.show(*label, true);
 }
 
 } // namespace tarnel

@@ -11,8 +11,9 @@ class UserControl2;
 
 enum class ChartButton { left, right, other };
 
-/// The mouse on the chart: it places the aircraft, or turns it with the heading tool. It acts only
-/// in the north-up view and only while the simulation stands still.
+/// The mouse on the chart: it places the aircraft, turns it with the heading tool, or draws the
+/// wind. It acts only in the north-up view; all but the wind only while the simulation stands
+/// still.
 class ChartMouse {
   public:
     explicit ChartMouse(UserControl2& simulation) : sim(simulation) {}
@@ -25,24 +26,35 @@ class ChartMouse {
     /// Puts every tool away and hides what they show.
     void cancel();
 
+    /// The next press begins the wind line: from where it starts the wind comes, 100 twips are 2
+    /// kt.
+    void pickWindTool();
+
     [[nodiscard]] bool headingTool() const { return tool == Tool::heading; }
+    [[nodiscard]] bool windTool() const { return tool == Tool::wind; }
 
     /// Called with the heading that was just drawn, whole degrees 0 to 359.
     std::function<void(std::int16_t)> headingDrawn;
 
   private:
-    enum class Tool { standard, heading };
+    enum class Tool { standard, heading, wind };
 
     [[nodiscard]] bool allowed() const;
     void decodeRightButton();
     void showHeadingLine(Point at);
     void drawHeading(Point at);
     void place(Point at);
+    void showWindLine(Point at);
+    void drawWind(Point at);
+    void hideHeadingLine();
+    void hideWindLine();
 
     UserControl2& sim;
     Tool tool = Tool::standard;
     bool airplaneDragging = false;
     bool headingDragging = false;
+    bool windDragging = false;
+    Point windStart;
 };
 
 } // namespace tarnel

@@ -4,6 +4,13 @@
 
 namespace tarnel {
 
+namespace {
+
+/// `c_TraceEN`: wipes the trace with the next sample.
+constexpr std::int16_t wipeTrace = 2;
+
+} // namespace
+
 Sample UserControl2::presentSample() const {
     Sample sample;
     sample.traceLat = aircraft.aircraftLat;
@@ -21,6 +28,17 @@ Sample UserControl2::presentSample() const {
     sample.traceLocCourse = toInt16(c_LocCrs1);
     sample.traceWindDirection = toInt16(wind.direction);
     sample.traceWindSpeed = wind.speed;
+    copySettings(sample);
+    sample.traceAPhdg = c_APhdg;
+    sample.traceAPtas = c_APtas;
+    sample.traceAPalt = c_APalt;
+    sample.traceHDGbug = c_HDGbug;
+    return sample;
+}
+
+/// The settings of the instruments and receivers. Courses are kept from north, and may then lie
+/// above 360 degrees.
+void UserControl2::copySettings(Sample& sample) const {
     const double turned = c_MAPnorthUP == 1 ? 0 : c_HDG.get();
     sample.traceObsI2 = turned + c_obsI2;
     sample.traceObsI3 = turned + c_obsI3;
@@ -34,12 +52,6 @@ Sample UserControl2::presentSample() const {
     sample.traceNAV2freq = c_NAV2freq;
     sample.traceADFfreq = c_ADFfreq;
     sample.traceDMEfreq = c_DMEfreq;
-    sample.traceAPhdg = c_APhdg;
-    sample.traceAPtas = c_APtas;
-    sample.traceAPalt = c_APalt;
-    sample.traceHDGbug = c_HDGbug;
-    sample.traceComment = recording.selectedCommentIndex();
-    return sample;
 }
 
 void UserControl2::recordSample() {
@@ -51,18 +63,37 @@ void UserControl2::recordSample() {
             clock.resetFlightTime();
     }
     if (recording.sampleIndex() == 0)
-        recording.startAtFirst();
-    recording.at(recording.sampleIndex()) = presentSample();
-    c_TraceBufferMax.publish(recording.sampleIndex());
+        recording.setNewest(1);
+    const std::int16_t index = recording.sampleIndex();
+    recording.write(presentSample(), comments.selectedCommentIndex);
+    compareWithReference(index);
+    showComment(index);
+    c_TraceBufferMax.publish(index);
+    if (c_TraceEN == wipeTrace)
+        DeleteTrace(picture);
     if (!traceShown())
         return;
     DeleteTrace(picture);
     DrawTrace2(picture, view, recording, aircraft.trueHeading);
 }
 
+/// Compares the aircraft's place with that of the reference at the same sample.
+void UserControl2::compareWithReference(std::int16_t index) {
+    const GeoPosition target = reference.at(index);
+    referenceReading = {};
+    if (target.latitude == 0) {
+        c_PractiseStopFly.publish(1);
+        return;
+    }
+    const double distance = CourseAndDistance(aircraft.published(), target).distance;
+    referenceReading = {true, distance, toInt16(distance), referenceLamps(distance)};
+    if (distance > referenceLimit)
+        c_PractiseStopFly.publish(1);
+}
+
 void UserControl2::markFreshStart() {
     resumeMode = ResumeMode::clear;
-    recording.startAtFirst();
+    recording.setNewest(1);
     recording.at(1) = presentSample();
     c_TraceBufferMax.publish(1);
 }
@@ -70,6 +101,8 @@ void UserControl2::markFreshStart() {
 void UserControl2::freshRecording() {
     recording.clear();
     clock = FlightClock{};
+    referenceReading = {};
+    c_PractiseStopFly.publish(0);
     resumeMode = ResumeMode::goOn;
 }
 

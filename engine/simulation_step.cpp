@@ -1,4 +1,6 @@
+#include "chart/trace_ahead.h"
 #include "chart/trace_dots.h"
+#include "core/number_text.h"
 #include "core/radios.h"
 #include "engine/user_control_2.h"
 
@@ -18,8 +20,10 @@ void UserControl2::SimStep() {
     speedVectors = layOutSpeedVectors(aircraft.place.wide, heading, aircraft.tasUsed, windCourse,
                                       wind.speed, view.plot.mapScaleTwips);
     drawSpeedVectors(picture, speedVectors, c_SpeedVectorEN == 1);
+    showWindLabel();
     showAirplane();
     measure();
+    showTurnsAhead();
 }
 
 void UserControl2::moveAircraft() {
@@ -39,6 +43,32 @@ void UserControl2::followHeadingUp(bool moved) {
         DeleteTrace(picture);
         DrawTrace2(picture, view, recording, aircraft.trueHeading);
     }
+}
+
+/// The wind stands beside the airplane with the vectors or the turns ahead.
+void UserControl2::showWindLabel() {
+    constexpr double gap = 300;
+    const bool visible = (c_SpeedVectorEN == 1 && windLabelOn) || c_TraceAheadEN == 1;
+    picture.surface.show(picture.windLabel, visible);
+    if (!visible)
+        return;
+    const Point airplane = aircraft.place.wide;
+    picture.surface.place(picture.windLabel, {airplane.x + gap, airplane.y - gap});
+    picture.surface.set(picture.windLabel.caption, numberText(wind.direction) + "°" +
+                                                       numberText(std::int64_t{wind.speed}) + "kt");
+}
+
+void UserControl2::showTurnsAhead() {
+    if (c_TraceAheadEN != 1) {
+        picture.ahead.clear();
+        return;
+    }
+    const double turned = view.northUpMode ? 0 : aircraft.trueHeading;
+    drawTurnsAhead(picture, {aircraft.place.wide,
+                             aircraft.trueHeading - turned,
+                             aircraft.tasUsed,
+                             {wind.direction - turned, wind.speed},
+                             view.plot.mapScaleTwips});
 }
 
 void UserControl2::showAirplane() {

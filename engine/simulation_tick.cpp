@@ -12,9 +12,7 @@ void UserControl2::Timer1() {
 
     if (c_TAS > 0)
         clock.tickFlightTime();
-    c_ApHours2.publish(clock.flightHours);
-    c_ApMinutes2.publish(clock.flightMinutes);
-    c_ApSeconds2.publish(static_cast<std::int16_t>(clock.flightSeconds));
+    publishFlightTime();
     turnByTick();
     if (recording.tickIsSample())
         recordSample();
@@ -24,6 +22,12 @@ void UserControl2::Timer1() {
 void UserControl2::publishStopwatch() {
     c_ApMinutes.publish(clock.stopwatchMinutes);
     c_ApSeconds.publish(static_cast<std::int16_t>(clock.stopwatchSeconds));
+}
+
+void UserControl2::publishFlightTime() {
+    c_ApHours2.publish(clock.flightHours);
+    c_ApMinutes2.publish(clock.flightMinutes);
+    c_ApSeconds2.publish(static_cast<std::int16_t>(clock.flightSeconds));
 }
 
 void UserControl2::turnByTick() {

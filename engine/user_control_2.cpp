@@ -64,6 +64,8 @@ void UserControl2::switchClock() {
     picture.trace.clear();
     if (c_TimerEN == 1 && resumeMode == ResumeMode::clear)
         freshRecording();
+    else if (c_TimerEN == 1 && resumeMode == ResumeMode::cut)
+        resumeFromReplay();
     redrawTrace();
 }
 

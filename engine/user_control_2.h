@@ -4,9 +4,12 @@
 #include "chart/chart_picture.h"
 #include "chart/map_view.h"
 #include "core/aircraft.h"
+#include "core/comments.h"
 #include "core/flight_clock.h"
 #include "core/property.h"
 #include "core/recording.h"
+#include "core/reference_track.h"
+#include "core/runtime_random.h"
 #include "core/speed_vectors.h"
 #include "core/stations.h"
 #include "engine/chart_mouse.h"
@@ -15,6 +18,7 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <string>
 
 namespace tarnel {
@@ -60,8 +64,34 @@ class UserControl2 {
     void placeAircraft(const GeoPosition& position);
     /// Turns the aircraft by hand. Degrees, 0 to 360.
     void turnAircraft(double heading);
-    /// Sets the wind of the whole chart.
+    /// Centres the chart on the aircraft.
+    void centreOnAircraft();
+    /// Shows the chart as it was loaded: its centre and scale, north at the top.
+    void resetView();
+    /// Switches a station and its DME; with both off its button comes up.
+    void switchStation(Slot which, bool stationOn, bool dmeOn);
+    /// Sets the wind of the whole chart by hand; a switched-on wind is this one from now on.
     void setWind(const Wind& next);
+    /// The wind as the mouse draws it: as `setWind`, while the drawing goes on.
+    void drawWind(const Wind& next);
+
+    /// The sample that the user looks at: the one gone to in a replay, else the newest.
+    [[nodiscard]] std::int16_t presentSampleIndex() const;
+    /// True while the flight rests on a sample that was gone to.
+    [[nodiscard]] bool inReplay() const { return stopped() && resumeMode == ResumeMode::cut; }
+
+    // The author's comments. Samples carry an entry of the comment table.
+    /// Writes `text` into the entry being written and marks from the present sample on. Throws the
+    /// subscript error behind entry 100.
+    void startComment(const std::string& text);
+    /// Ends the mark. At rest it is laid on the samples from where it began to the present one.
+    void stopComment();
+    /// Takes the present sample's comment off all samples that touch it and carry it too.
+    void deleteComment();
+    void deleteAllComments();
+    /// Moves the entry being written by `step`, never below 0. Throws the subscript error, and
+    /// stays, beyond entry 100.
+    void stepComment(int step);
 
     [[nodiscard]] RadialInputs radialInputs() const;
     [[nodiscard]] bool stopped() const { return c_TimerEN == 0; }
@@ -130,10 +160,31 @@ class UserControl2 {
                                         [this] { switchAirplane(); }};
     Property<std::int16_t> c_TraceEN{properties, "c_TraceEN", 0, [this] { redrawTrace(); }};
     Property<std::int16_t> c_SpeedVectorEN{properties, "c_SpeedVectorEN", 0, [this] { refresh(); }};
+    Property<std::int16_t> c_TraceAheadEN{properties, "c_TraceAheadEN", 0, [this] { refresh(); }};
     Property<std::int16_t> c_TraceBufferMax{properties, "c_TraceBufferMax", 1};
 
-    // Replay: 1 restores the instruments' settings from the recording.
+    // Wind. `c_WindSetEN`: 0 none, 1 draws one with the mouse, 2 by chance, 3 the last one again;
+    // 4 and 5 tell that a replay has brought one, or one with a part that is zero.
+    Property<std::string> c_wind{properties, "c_wind", "0/0"};
+    Property<std::int16_t> c_WindSetEN{properties, "c_WindSetEN", 0, [this] { switchWind(); }};
+
+    // Replay. `c_RepeatValue` goes to a sample of a resting flight: below 1 it does nothing, above
+    // 6000 it throws the subscript error. `c_ReplayInterpolation`: 0 shows the sample, 1 flies one
+    // tick on from it, 2 and 3 one tick on from where the aircraft is. `c_replayInstLock`: 1
+    // restores the instruments' settings and sets `c_replayActive`; else the present settings are
+    // written over the sample's.
+    Property<std::int16_t> c_RepeatValue{properties, "c_RepeatValue", 0, [this] { goToSample(); }};
+    Property<std::int16_t> c_HscrollRepeatValue{properties, "c_HscrollRepeatValue"};
+    Property<std::int16_t> c_ReplayInterpolation{properties, "c_ReplayInterpolation"};
+    Property<std::int16_t> c_replayActive{properties, "c_replayActive"};
     Property<std::int16_t> c_replayInstLock{properties, "c_replayInstLock"};
+    Property<std::string> c_CurrentComment{properties, "c_CurrentComment"};
+    /// Any set starts an empty session: the aircraft in the lower middle of the chart, without
+    /// wind, comments and reference. The stations stay.
+    Property<std::int16_t> c_NewSession{properties, "c_NewSession", 0, [this] { startSession(); }};
+    /// Shows the practice panel in one of its states, 0 to 3, and goes back to 0.
+    Property<std::int16_t> c_TrackDelta{properties, "c_TrackDelta", 0,
+                                        [this] { showPracticePanel(); }};
 
     // Files. `c_loadChart` 2 loads the chart at `c_ChartFileName` and goes back to 0.
     Property<std::string> c_MainAppPath{properties, "c_MainAppPath"};
@@ -143,13 +194,23 @@ class UserControl2 {
 
     Aircraft aircraft;
     Wind wind;
+    bool windLabelOn = true; ///< false while the aircraft is placed with the mouse
+    RuntimeRandom random;
     FlightClock clock;
     Stations stations = defaultStations();
     Recording recording;
+    Comments comments;
+    ReferenceTrack reference;
+    ReferenceReading referenceReading;
     MapView view;
     ChartPicture picture;
     SpeedVectors speedVectors;
     ChartMouse mouse{*this};
+
+    /// Where a draw by chance starts from. Without it, from where the last one ended.
+    std::function<std::uint32_t()> clockSeed;
+    /// Called with the state that the practice panel takes.
+    std::function<void(std::int16_t)> practicePanelSet;
 
   private:
     using Slots = std::array<StationProperties, slotCount>;
@@ -158,15 +219,18 @@ class UserControl2 {
     void relabel(Slot which);
     void stationOnOff(Slot which);
     void refresh();
-    void redrawChart();
+    void redrawChart() { redrawChart(radialInputs()); }
+    void redrawChart(const RadialInputs& inputs);
     void redrawTrace();
     void switchRadials();
     void switchAirplane();
     void switchClock();
     void switchView();
     void resizeChart();
+    void centreOn(const SplitPosition& centre);
     void resetStopwatch();
     void publishStopwatch();
+    void publishFlightTime();
     void showScale();
     void showAirplane();
     [[nodiscard]] bool traceShown() const { return c_TraceEN == 1 && c_AirplaneEN == 1; }
@@ -175,7 +239,27 @@ class UserControl2 {
     void turnByTick();
     void recordSample();
     [[nodiscard]] Sample presentSample() const;
+    void copySettings(Sample& sample) const;
     void freshRecording();
+    void compareWithReference(std::int16_t index);
+    void showComment(std::int16_t index);
+
+    void goToSample();
+    void restoreMotion(const Sample& sample);
+    void restoreSettings(const Sample& sample);
+    void restorePlace(const Sample& sample);
+    void flyBetweenSamples();
+    void restoreWind();
+    void redrawReplay();
+    void resumeFromReplay();
+    void startSession();
+    void showPracticePanel();
+
+    void switchWind();
+    void drawWindByChance();
+    void publishWind();
+    void showWindLabel();
+    void showTurnsAhead();
 
     void moveAircraft();
     void measure();
@@ -189,7 +273,15 @@ class UserControl2 {
     Slots stationSlots = makeSlots();
     AirplaneOutline airplaneOutline;
     bool redrawOnly = false;
-    enum class ResumeMode { goOn, clear } resumeMode = ResumeMode::goOn;
+    /// What `resetView` goes back to.
+    struct {
+        SplitPosition centre{{49, 0}, {11, 0}};
+        std::int16_t scale = 250;
+    } home;
+    Wind lastWind;
+    std::int16_t replaySample = 1; ///< the last sample gone to
+    /// What the next start does with the recording: nothing, clear it, or cut it at `replaySample`.
+    enum class ResumeMode { goOn, clear, cut } resumeMode = ResumeMode::goOn;
 };
 
 } // namespace tarnel

@@ -103,9 +103,19 @@ void ScriptedFlight::apply(const FlightSettings& settings) {
     if (settings.wind)
         trainer.UserControl11.setWind(*settings.wind);
     if (settings.comment)
-        trainer.UserControl11.recording.beginComment(*settings.comment);
+        writeComment(*settings.comment);
     if (settings.commentEnds)
-        trainer.UserControl11.recording.endComment();
+        endComment();
+}
+
+void ScriptedFlight::writeComment(const std::string& text) {
+    endComment();
+    trainer.UserControl11.startComment(text);
+}
+
+void ScriptedFlight::endComment() {
+    if (trainer.UserControl11.comments.selectedCommentIndex != noComment)
+        trainer.UserControl11.stopComment();
 }
 
 void ScriptedFlight::takeEvents() {

@@ -56,6 +56,8 @@ class ScriptedFlight {
     void prepare();
     void prepareInstrument(const InstrumentPlan& instrument, UserControl_1& control);
     void apply(const FlightSettings& settings);
+    void writeComment(const std::string& text);
+    void endComment();
     void takeEvents();
     void couple();
 

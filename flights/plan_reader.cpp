@@ -129,9 +129,8 @@ void readEvents(PlanTable& root, const Range<double>& flight, FlightPlan& plan) 
     std::size_t comments = 0;
     for (const PlanTable& table : root.parts("event")) {
         plan.events.push_back(readEvent(table, flight));
-        if (plan.events.back().settings.comment && ++comments > Recording::mostComments)
-            table.refuse("at most " +
-                         numberText(static_cast<std::int64_t>(Recording::mostComments)) +
+        if (plan.events.back().settings.comment && ++comments > Comments::count)
+            table.refuse("at most " + numberText(static_cast<std::int64_t>(Comments::count)) +
                          " comments in a plan");
     }
     std::stable_sort(plan.events.begin(), plan.events.end(),

@@ -1,8 +1,5 @@
 #include "shell/form_1.h"
 
-#include <algorithm>
-#include <iterator>
-
 namespace tarnel {
 
 Form1::Form1(const StringTable& table, OutsideWorld& world, std::string applicationPath)
@@ -50,16 +47,22 @@ void Form1::connectPosition(const PositionLinks& links) {
     };
 }
 
-void Form1::connectControls() {
+void Form1::connectStrip() {
     startButton.onClick = [this] { startOrStop(); };
     rateReal.onClick = [this] { setRate(333); };
     rateHalf.onClick = [this] { setRate(666); };
     rateDouble.onClick = [this] { setRate(166); };
     rateQuadruple.onClick = [this] { setRate(83); };
-    traceBox.onClick = [this] { applyTrace(); };
-    hideBox.onClick = [this] { setHidden(hideBox.value() == 1); };
-    lockBox.onClick = [this] { setLocked(lockBox.value() == 1); };
     radialCycleButton.onClick = [this] { cycleRadialLines(); };
+    fileMenu.newSession.onClick = [this] { newSession(); };
+    connectChartPage();
+    connectReplay();
+    connectWind();
+    connectComments();
+}
+
+void Form1::connectControls() {
+    connectStrip();
     stopwatchStartButton.onClick = [this] { toggleStopwatch(); };
     stopwatchResetButton.onClick = [this] { resetStopwatch(); };
     floatingGyroBox.onClick = [this] { setFloatingGyroOpen(floatingGyroBox.value() == 1); };
@@ -89,6 +92,11 @@ void Form1::simulationTimer() {
         guarded([this] { UserControl11.Timer1(); });
 }
 
+void Form1::Timer2() {
+    if (!boxUp && replayOn != 0)
+        guarded([this] { pumpReplay(); });
+}
+
 void Form1::autopilotTimer() {
     if (!boxUp)
         guarded([this] { APControlFace1.Timer1(); });
@@ -96,19 +104,6 @@ void Form1::autopilotTimer() {
 
 FeedSources Form1::feedSources() {
     return {UserControl11, NAVControlFace1, NAVControlFace2, ADFControlFace1, texts, locCourse};
-}
-
-void Form1::stepScale(int steps) {
-    constexpr int scales = static_cast<int>(std::size(MapView::offeredScales));
-    int index = 0;
-    while (index + 1 < scales && MapView::offeredScales[index] < UserControl11.c_MAPscale)
-        ++index;
-    const int wanted = std::clamp(index + steps, 0, scales - 1);
-    UserControl11.c_MAPscale.setIfChanged(MapView::offeredScales[wanted]);
-}
-
-void Form1::setNorthUp(bool northUp) {
-    UserControl11.c_MAPnorthUP.setIfChanged(northUp ? 1 : 0);
 }
 
 } // namespace tarnel

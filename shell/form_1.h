@@ -11,6 +11,7 @@
 #include "shell/instrument_feed.h"
 #include "shell/instrument_position.h"
 #include "shell/outside_world.h"
+#include "shell/strip_controls.h"
 #include "strings/string_table.h"
 
 #include <array>
@@ -33,6 +34,7 @@ class Form1 : private SimulationMessages {
     void
     simulationTimer(); ///< 1/3 simulated second, every `c_TimerSIMrate` ms while `c_TimerEN` is 1
     void autopilotTimer(); ///< the rate drive of the autopilot's knobs, a few times a second
+    void Timer2();         ///< the replay, every `c_TimerSIMrate` ms while `replayRuns()`
 
     /// Runs what the user's hand started, with the same catch as the timer procedures.
     template <class Action>
@@ -49,12 +51,19 @@ class Form1 : private SimulationMessages {
     void PositionInst2(bool large) { resizeInstrument(inst2, large); }
     void SwitchInst3(bool large) { resizeInstrument(inst3, large); }
     void StopFly();
+    void StopReplay();
+    /// Does what a letter on the status panels stands for: M, P, H, T, V, W or R. False for others.
+    bool pressKey(char letter);
 
     /// The next of the radial-line displays: the centre radial, the lines beside it, none.
     void cycleRadialLines();
     /// Moves the chart's scale by `steps` of those offered; positive shows less chart, larger.
     void stepScale(int steps);
+    /// Twips per NM.
+    void setScale(std::int16_t twipsPerMile);
     void setNorthUp(bool northUp);
+    /// Degrees that the wind comes from, and knots.
+    void setManualWind(double direction, std::int16_t speed);
     void setFloatingGyroOpen(bool open);
     /// Tells in a box what the program is.
     void showAbout();
@@ -66,6 +75,7 @@ class Form1 : private SimulationMessages {
 
     [[nodiscard]] FeedSources feedSources();
     [[nodiscard]] bool simulationRuns() const { return simStopped == 0; }
+    [[nodiscard]] bool replayRuns() const { return replayOn != 0; }
     [[nodiscard]] const PositionLinks& links2() const { return inst2Links; }
     [[nodiscard]] const PositionLinks& links3() const { return inst3Links; }
     [[nodiscard]] bool anyInstrumentLarge() const;
@@ -95,9 +105,13 @@ class Form1 : private SimulationMessages {
     OptionButton rateDouble{state, rateGroup, "Option7", Text::rateDouble, Text::rateDoubleTip};
     OptionButton rateQuadruple{state, rateGroup, "Option8", Text::rateQuadruple,
                                Text::rateQuadrupleTip};
-    CheckBox traceBox{state, "Check4", Text::showTrack, Text::showTrackTip};
-    CheckBox hideBox{state, "Check7", Text::hideAircraft, Text::hideAircraftTip};
-    CheckBox lockBox{state, "Check6", Text::lockInstruments, Text::lockInstrumentsTip};
+    StripPages pages{state};
+    ChartPage chartPage{state};
+    ReplayPage replayPage{state};
+    WindPage windPage{state};
+    StationPage stationPage{state};
+    CommentPanel commentPanel{state};
+    PracticePanel practicePanel{state};
     CommandButton radialCycleButton{state, "Command8", Text::cycleRadialLines,
                                     Text::cycleRadialLinesTip};
     CommandButton stopwatchStartButton{state, "StopwatchStart", Text::stopwatchStart,
@@ -105,6 +119,8 @@ class Form1 : private SimulationMessages {
     CommandButton stopwatchResetButton{state, "StopwatchReset", Text::stopwatchReset,
                                        Text::stopwatchResetTip};
     CheckBox floatingGyroBox{state, "FloatingGyro", Text::floatingGyro, Text::floatingGyroTip};
+
+    FileMenu fileMenu{state};
 
     // The instrument panel.
     SelectionList inst3TypeList{state, "Combo2", instrumentKinds(), Text::instrument2Selection};
@@ -145,6 +161,11 @@ class Form1 : private SimulationMessages {
     // Start-up.
     void connectControls();
     void connectPosition(const PositionLinks& links);
+    void connectStrip();
+    void connectChartPage();
+    void connectReplay();
+    void connectWind();
+    void connectComments();
     void startUp(const std::string& applicationPath);
     void setApplicationPath(const std::string& path);
     void setReceiverDefaults();
@@ -162,13 +183,21 @@ class Form1 : private SimulationMessages {
     void coupleHeadingBug();
     void showDme();
     void pinAltitude();
+    void showWind();
+    void blinkCommentMark();
+    void followReplayBar();
     void echoChannelButtons();
+    void showComment();
     void takeMouseObs(InstrumentPosition& position);
+    void pushPanelState();
+    void pushPosition(const PositionLinks& links);
     void pullPanelState();
     void turnFloatingGyro();
     void showStopwatch();
     void showFlightTime();
     void showReadouts();
+    void showReplayClock();
+    void followStations();
 
     void writeHeadingBug(std::int16_t heading);
 
@@ -189,6 +218,22 @@ class Form1 : private SimulationMessages {
     void setRate(std::int16_t milliseconds);
     void setHidden(bool hidden);
     void applyTrace();
+    void setVectorMode(int mode);
+    void applyVectors();
+    void switchStation(std::size_t index);
+    void cycleWind();
+    void startReplay();
+    void stopReplay();
+    void scrollReplay();
+    void pumpReplay();
+    void stepReplay();
+    void startOrStopComment();
+    void stepComment(int step);
+    void showCommentNumber();
+    void showPracticePanel(std::int16_t panel);
+    void newSession();
+    void enableResting(bool resting);
+    void enableFileMenus(bool enabled);
     void setLocked(bool locked);
     void toggleStopwatch();
     void resetStopwatch();
@@ -207,6 +252,11 @@ class Form1 : private SimulationMessages {
     std::int16_t simStopped = 1;
     std::int16_t hideOn = 0;
     std::int16_t traceOn = 0;
+    std::int16_t vectorMode = 0;    ///< 0 off, 1 the wind triangle, 2 the turns ahead
+    std::int16_t replayOn = 0;      ///< -1 while the replay runs
+    std::int16_t replayIndex = 1;   ///< the sample shown
+    std::int16_t replaySubStep = 0; ///< the quarter of the way to the next one
+    std::int16_t blinkCounter = 0;
     std::int16_t locCourse = 0;
     std::int16_t radialCycle = 0;
     bool boxUp = false;
@@ -215,6 +265,7 @@ class Form1 : private SimulationMessages {
     std::array<std::int16_t, 3> flightTimeShown{-1, -1, -1};
     std::array<std::int16_t, 2> stopwatchShown{-1, -1};
     std::array<std::int16_t, 2> readoutsShown{-1, -1};
+    std::array<std::int16_t, 2> replayClockShown{-1, -1};
 };
 
 } // namespace tarnel

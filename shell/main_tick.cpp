@@ -31,6 +31,7 @@ void Form1::tick() {
     UserControl11.c_HDGchanged.setIfChanged(0);
     echoSelectors();
     copyReceiverSelections();
+    showWind();
     followInstrumentSelectors();
     coupleAutopilot();
     coupleHeadingBug();
@@ -38,9 +39,15 @@ void Form1::tick() {
     locCourse = toInt16(UserControl11.c_LocCrs1);
     pinAltitude();
     sessionPanel.setText(UserControl11.c_SessionFileName);
+    blinkCommentMark();
+    followReplayBar();
     echoChannelButtons();
     takeMouseObs(inst1);
-    pullPanelState();
+    showComment();
+    if (UserControl11.c_replayActive == 1)
+        pushPanelState();
+    else
+        pullPanelState();
     turnFloatingGyro();
     const FeedSources sources = feedSources();
     feedInstrument(inst2Links, sources);
@@ -48,6 +55,8 @@ void Form1::tick() {
     showStopwatch();
     showFlightTime();
     showReadouts();
+    showReplayClock();
+    followStations();
     errorTold.clear();
 }
 
@@ -64,7 +73,7 @@ void Form1::guardPractiseArea() {
 }
 
 void Form1::echoReplayLock() {
-    lockBox.set(UserControl11.c_replayInstLock);
+    replayPage.lock.set(UserControl11.c_replayInstLock);
 }
 
 /// Gives a frequency of the chart to every face that lists it; each face then latches its selection
@@ -117,10 +126,14 @@ void Form1::followInstrumentSelectors() {
     inst2.navSel = inst2.instrument.c_NAVselect;
 }
 
+/// While a replay rests on a sample, speed and turn are the sample's.
 void Form1::coupleAutopilot() {
-    UserControl11.Turn_Rate.setIfChanged(APControlFace1.c_APTurnrate);
+    const bool live = !UserControl11.inReplay();
+    if (live)
+        UserControl11.Turn_Rate.setIfChanged(APControlFace1.c_APTurnrate);
     APControlFace1.c_ActualHDG = UserControl11.c_HDG.get();
-    UserControl11.c_TAS.setIfChanged(toInt16(APControlFace1.c_TAS));
+    if (live)
+        UserControl11.c_TAS.setIfChanged(toInt16(APControlFace1.c_TAS));
     UserControl11.c_Altitude.setIfChanged(APControlFace1.c_ALT);
 }
 
@@ -136,6 +149,8 @@ void Form1::coupleHeadingBug() {
         setHeadingBug(source->c_HDGbug);
         source->c_HDGbugChange = 0;
     }
+    if (UserControl11.c_replayActive != 1)
+        UserControl11.c_HDGbug.setIfChanged(inst2.instrument.c_HDGbug);
     UserControl_DG.c_HDGbug.setIfChanged(UserControl11.c_HDGbug);
 }
 

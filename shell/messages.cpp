@@ -59,6 +59,7 @@ void Form1::reportRunTimeError(const RunTimeError& error) {
         filledIn(texts[Text::flightPaused],
                  {numberText(std::int64_t{error.number()}), error.source(), error.what()});
     try {
+        StopReplay();
         StopFly();
     } catch (const RunTimeError&) {
         // What hinders the flight hinders its picture too; it has been told, or is told below.

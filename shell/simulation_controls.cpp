@@ -1,5 +1,7 @@
 #include "shell/form_1.h"
 
+#include <initializer_list>
+
 namespace tarnel {
 
 void Form1::startOrStop() {
@@ -10,22 +12,46 @@ void Form1::startOrStop() {
 }
 
 void Form1::startFlight() {
+    StopReplay();
     simStopped = 0;
-    lockBox.set(0);
-    lockBox.setEnabled(false);
+    replayPage.lock.set(0);
     startButton.setCaption(Text::stopSim);
     startButton.setTip(Text::stopSimTip);
+    enableResting(false);
     UserControl11.c_TimerEN = 1;
     modePanel.setText(text(Text::panelTraining));
 }
 
+/// A pause keeps the flight: the bar shows the newest sample, and the next start goes on from where
+/// the aircraft is.
 void Form1::stopFlight() {
     simStopped = 1;
-    lockBox.setEnabled(true);
     startButton.setCaption(Text::startSim);
     startButton.setTip(Text::startSimTip);
+    enableResting(true);
     UserControl11.c_TimerEN = 0;
+    followReplayBar();
+    replayPage.bar.setValue(UserControl11.c_TraceBufferMax);
+    replayIndex = static_cast<std::int16_t>(replayPage.bar.value());
     modePanel.setText(text(Text::panelPause));
+}
+
+/// What acts only on a flight at rest.
+void Form1::enableResting(bool resting) {
+    for (FormControl* control :
+         std::initializer_list<FormControl*>{&replayPage.play, &replayPage.stop, &replayPage.loop,
+                                             &replayPage.lock, &replayPage.bar})
+        control->setEnabled(resting);
+    replayPage.bar.setVisible(resting);
+    if (!resting)
+        commentPanel.mark.setVisible(false);
+    pages.replay.choose();
+    enableFileMenus(resting);
+}
+
+void Form1::enableFileMenus(bool enabled) {
+    for (CommandButton* item : fileMenu.items())
+        item->setEnabled(enabled && item->onClick);
 }
 
 void Form1::StopFly() {
@@ -33,22 +59,56 @@ void Form1::StopFly() {
         stopFlight();
 }
 
+/// An empty session at rest, with everything shown as the strip says.
+void Form1::newSession() {
+    StopReplay();
+    UserControl11.c_TrackDelta = 0;
+    replayPage.lock.set(0);
+    replayPage.hide.set(0);
+    setHeadingBug(0);
+    UserControl11.c_NewSession = 1;
+    UserControl11.c_SessionFileName = text(Text::newSessionFile);
+    commentPanel.startStop.setCaption(Text::commentStart);
+    commentPanel.text.setText({});
+    showCommentNumber();
+    replayIndex = 1;
+    replayPage.bar.setValue(1);
+}
+
 void Form1::setRate(std::int16_t milliseconds) {
     UserControl11.c_TimerSIMrate = milliseconds;
 }
 
+/// Both boxes that hide the aircraft show the same.
 void Form1::setHidden(bool hidden) {
     hideOn = hidden ? 1 : 0;
+    replayPage.hide.show(hideOn);
+    chartPage.hide.show(hideOn);
     hidePanel.setText(text(hidden ? Text::panelHideOn : Text::panelHideOff));
     UserControl11.c_AirplaneEN = hidden ? 0 : 1;
     UserControl11.c_TraceEN = hidden ? std::int16_t{0} : traceOn;
+    applyVectors();
 }
 
 void Form1::applyTrace() {
-    traceOn = traceBox.value() == 1 ? 1 : 0;
+    traceOn = chartPage.trace.value() == 1 ? 1 : 0;
     tracePanel.setText(text(traceOn ? Text::panelTraceOn : Text::panelTraceOff));
     if (hideOn == 0)
         UserControl11.c_TraceEN = traceOn;
+}
+
+void Form1::setVectorMode(int mode) {
+    vectorMode = static_cast<std::int16_t>(mode);
+    applyVectors();
+}
+
+void Form1::applyVectors() {
+    static constexpr Text captions[] = {Text::panelVectorsOff, Text::panelVectorsType1,
+                                        Text::panelVectorsType2};
+    const std::int16_t shown = hideOn == 0 ? vectorMode : std::int16_t{0};
+    UserControl11.c_SpeedVectorEN = shown == 1 ? 1 : 0;
+    UserControl11.c_TraceAheadEN = shown == 2 ? 1 : 0;
+    vectorsPanel.setText(text(captions[shown]));
 }
 
 /// Locked knobs and dials do nothing. The flags read the other way round: 1 lets the user act. The

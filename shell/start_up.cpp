@@ -59,7 +59,14 @@ void Form1::setPanelDefaults() {
     hidePanel.setText(text(Text::panelHideOff));
     vectorsPanel.setText(text(Text::panelVectorsOff));
     modePanel.setText(text(Text::panelPause));
-    traceBox.set(1);
+    chartPage.trace.set(1);
+    pages.replay.choose();
+    replayPage.stop.show();
+    windPage.none.show();
+    practicePanel.frame.setVisible(false);
+    commentPanel.comment.setVisible(false);
+    showCommentNumber();
+    enableFileMenus(true);
 }
 
 void Form1::startUp(const std::string& applicationPath) {

@@ -605,6 +605,23 @@ constexpr StringEntry entries[] = {
     // Read-outs and dialogs of the flight.
     {727, "Turn"},
     {728, "°/s"},
+    // Wind, comments and reference.
+    {801, "Draw"},
+    {802, "All 101 comments are taken. Delete one, or step back and write one anew."},
+    {803, "Write comments"},
+    {804, "Shows the strip on which an author writes comments"},
+    {805, "Wind direction"},
+    {806, "Wind speed"},
+    {807, "Off track"},
+    {808, "Distance from the track of the loaded session: green below 1 NM, orange below 2 NM, red "
+          "beyond"},
+    {809, "Start / Stop"},
+    {810, "Replay"},
+    {811, "Hide aircraft"},
+    {812, "Trace"},
+    {813, "Vectors: off, type 1, type 2"},
+    {814, "Wind: off, manual, random"},
+    {815, "Radial lines: centre, border, none"},
 };
 
 } // namespace

@@ -609,6 +609,24 @@ constexpr StringEntry entries[] = {
     // Read-outs and dialogs of the flight.
     {727, "Drehrate"},
     {728, "°/s"},
+    // Wind, comments and reference.
+    {801, "Zeichnen"},
+    {802, "Alle 101 Kommentare sind belegt. Löschen Sie einen, oder blättern Sie zurück und "
+          "schreiben Sie einen neu."},
+    {803, "Kommentare schreiben"},
+    {804, "Zeigt die Leiste, auf der ein Autor Kommentare schreibt"},
+    {805, "Windrichtung"},
+    {806, "Windstärke"},
+    {807, "Abweichung"},
+    {808,
+     "Abstand vom Flugweg der geladenen Sitzung: grün unter 1 NM, orange unter 2 NM, rot darüber"},
+    {809, "Start / Stop"},
+    {810, "Replay"},
+    {811, "Flugzeug verstecken"},
+    {812, "Flugweg"},
+    {813, "Windeinfluss: aus, Typ 1, Typ 2"},
+    {814, "Wind: aus, manuell, Zufall"},
+    {815, "Radiale: Mitte, Rand, keine"},
 };
 
 } // namespace

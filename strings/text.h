@@ -560,6 +560,23 @@ enum class Text : int {
     // Read-outs and dialogs of the flight.
     turnRate = 727,
     unitDegreesPerSecond = 728,
+
+    // Wind, comments and reference.
+    windDraw = 801,
+    commentTableFull = 802,
+    writeComments = 803,
+    writeCommentsTip = 804,
+    windDirectionEntry = 805,
+    windSpeedEntry = 806,
+    referenceTrack = 807,
+    referenceTrackTip = 808,
+    keyStart = 809,
+    keyReplay = 810,
+    keyHide = 811,
+    keyTrace = 812,
+    keyVectors = 813,
+    keyWind = 814,
+    keyRadials = 815,
 };
 
 } // namespace tarnel

@@ -251,9 +251,9 @@ void ChartPainter::paintOverlays(QPainter& painter, const ScaleBar& scale) const
     paintNorthArrow(painter, frame, rotation(), textOf(texts, Text::chartNorth));
     const Label& help = sim.picture.help;
     if (help.visible)
-        paintHelp(painter, frame,
-                  help.caption.empty() ? textOf(texts, Text::helpSelectHeading)
-                                       : QString::fromStdString(help.caption));
+        paintHelp(
+            painter, frame,
+            textOf(texts, sim.mouse.windTool() ? Text::helpDrawWind : Text::helpSelectHeading));
     paintPaperEdge(painter, frame);
 }
 

@@ -103,7 +103,7 @@ QLayout* ControlStrip::makeBoxes() {
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(12);
     grid->setVerticalSpacing(2);
-    const std::array<CheckBox*, 4> boxes = {&form.traceBox, &form.hideBox, &form.lockBox,
+    const std::array<CheckBox*, 4> boxes = {&form.chartPage.trace, &form.replayPage.hide, &form.replayPage.lock,
                                             &form.floatingGyroBox};
     for (std::size_t i = 0; i < boxes.size(); ++i) {
         auto* box = new TickBox(this);

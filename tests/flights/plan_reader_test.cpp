@@ -172,9 +172,8 @@ TEST(PlanReader, CountsCommentsAndTheirCharacters) {
             plan += "[[event]]\nat = 1\ncomment = \"" + text + "\"\n";
         return plan;
     };
-    EXPECT_EQ(readPlan(planWith(Recording::mostComments, "a"), "").events.size(),
-              Recording::mostComments);
-    const PlanError full = errorOf(planWith(Recording::mostComments + 1, "a"));
+    EXPECT_EQ(readPlan(planWith(Comments::count, "a"), "").events.size(), Comments::count);
+    const PlanError full = errorOf(planWith(Comments::count + 1, "a"));
     EXPECT_EQ(full.line(), 2 + 3 * 101);
     EXPECT_THAT(full.expected(), HasSubstr("at most 101 comments"));
 

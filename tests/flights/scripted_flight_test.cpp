@@ -161,7 +161,9 @@ comment = "first"
                                               "plan.toml"));
     flight.fly(20, [] {});
     const Recording& recording = flight.form().UserControl11.recording;
-    EXPECT_THAT(recording.commentTexts(), testing::ElementsAre("first", "second"));
+    const Comments& comments = flight.form().UserControl11.comments;
+    EXPECT_EQ(comments.text(0), "first");
+    EXPECT_EQ(comments.text(1), "second");
     std::vector<int> marks;
     for (int i = 1; i <= recording.sampleIndex(); ++i)
         marks.push_back(recording.at(i).traceComment);

@@ -140,21 +140,21 @@ TEST(Strip, AnAbandonedTrackStaysAway) {
 TEST(Strip, HideAndTraceKeepEachOther) {
     Trainer trainer;
     Form1& form = trainer.form;
-    form.hideBox.click();
+    form.replayPage.hide.click();
     EXPECT_EQ(trainer.sim().c_AirplaneEN, 0);
     EXPECT_EQ(trainer.sim().c_TraceEN, 0);
     EXPECT_EQ(form.hidePanel.text(), "[H]ide ON");
-    form.traceBox.click();
-    form.hideBox.click();
+    form.chartPage.trace.click();
+    form.replayPage.hide.click();
     EXPECT_EQ(trainer.sim().c_TraceEN, 0) << "the trace was switched off meanwhile";
-    form.traceBox.click();
+    form.chartPage.trace.click();
     EXPECT_EQ(trainer.sim().c_TraceEN, 1);
 }
 
 TEST(Strip, LockTakesTheKnobsAndDialsButNotTheAutopilot) {
     Trainer trainer;
     Form1& form = trainer.form;
-    form.lockBox.click();
+    form.replayPage.lock.click();
     form.NAVControlFace1.stepUp();
     form.inst3.instrument.mouse.stepKnob(InstrumentArea::obsKnob, 5);
     form.APControlFace1.stepHeading(5);
@@ -162,7 +162,7 @@ TEST(Strip, LockTakesTheKnobsAndDialsButNotTheAutopilot) {
     EXPECT_EQ(form.NAVControlFace1.c_SetFreq, 0);
     EXPECT_EQ(form.inst3.obsHsi, 0);
     EXPECT_EQ(form.APControlFace1.c_HDG, 5);
-    form.lockBox.click();
+    form.replayPage.lock.click();
     form.NAVControlFace1.stepUp();
     EXPECT_EQ(form.NAVControlFace1.c_SetFreq, 1);
 }

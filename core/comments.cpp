@@ -1,0 +1,23 @@
+#include "core/comments.h"
+
+#include "core/run_time_error.h"
+
+#include <utility>
+
+namespace tarnel {
+
+const std::string& Comments::text(int index) const {
+    if (index < 0 || index >= count)
+        throw RunTimeError(RunTimeError::subscriptOutOfRange, "Comments", "Subscript out of range");
+    return texts[static_cast<std::size_t>(index)];
+}
+
+void Comments::setText(int index, std::string text_) {
+    const_cast<std::string&>(text(index)) = std::move(text_);
+}
+
+std::string Comments::shownText(std::int16_t index) const {
+    return index >= 0 && index < count ? text(index) : std::string();
+}
+
+} // namespace tarnel

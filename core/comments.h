@@ -1,0 +1,36 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+namespace tarnel {
+
+/// The comment index of a sample without a comment.
+constexpr std::int16_t noComment = -1;
+
+/// The comment texts of a session and where their author stands.
+class Comments {
+  public:
+    static constexpr std::int16_t count = 101;
+
+    /// The text of entry `index`, 0 to 100. Throws the subscript error outside.
+    [[nodiscard]] const std::string& text(int index) const;
+    void setText(int index, std::string text);
+    /// The text that a sample with comment `index` shows: none for `noComment` and for an index
+    /// beyond the table.
+    [[nodiscard]] std::string shownText(std::int16_t index) const;
+
+    /// Forgets texts and marks.
+    void clear() { *this = Comments{}; }
+
+    std::int16_t commentCount = 0;                 ///< the entry being written: the next free one
+    std::int16_t currentCommentIndex = noComment;  ///< the comment of the present sample
+    std::int16_t selectedCommentIndex = noComment; ///< the comment that is being marked
+    std::int16_t commentStartSample = 0;           ///< where its marking began
+
+  private:
+    std::array<std::string, count> texts;
+};
+
+} // namespace tarnel

@@ -1,0 +1,58 @@
+#include "engine/user_control_2.h"
+
+#include <algorithm>
+
+namespace tarnel {
+
+void UserControl2::showComment(std::int16_t index) {
+    comments.currentCommentIndex = recording.at(index).traceComment;
+    c_CurrentComment.setIfChanged(comments.shownText(comments.currentCommentIndex));
+}
+
+void UserControl2::startComment(const std::string& text) {
+    comments.setText(comments.commentCount, text);
+    comments.commentStartSample = presentSampleIndex();
+    comments.currentCommentIndex = comments.selectedCommentIndex = comments.commentCount;
+}
+
+void UserControl2::stopComment() {
+    ++comments.commentCount;
+    if (!stopped()) {
+        comments.currentCommentIndex = comments.selectedCommentIndex = noComment;
+        return;
+    }
+    const std::int16_t present = presentSampleIndex();
+    if (comments.commentStartSample < present)
+        recording.markComment(comments.commentStartSample, present, comments.selectedCommentIndex);
+    comments.selectedCommentIndex = noComment;
+    showComment(present);
+}
+
+void UserControl2::deleteComment() {
+    const std::int16_t present = presentSampleIndex();
+    const std::int16_t comment = recording.at(present).traceComment;
+    const auto carriesIt = [&](int i) { return recording.at(i).traceComment == comment; };
+    int first = present;
+    while (first > 1 && carriesIt(first - 1))
+        --first;
+    for (int i = first; i <= Recording::lastSample && carriesIt(i); ++i)
+        recording.at(i).traceComment = noComment;
+    showComment(present);
+}
+
+void UserControl2::deleteAllComments() {
+    recording.markComment(1, c_TraceBufferMax, noComment);
+    comments.commentCount = 0;
+    comments.selectedCommentIndex = noComment;
+    showComment(presentSampleIndex());
+    comments.currentCommentIndex = 0;
+}
+
+void UserControl2::stepComment(int step) {
+    const int next = std::max(0, comments.commentCount + step);
+    if (step > 0)
+        static_cast<void>(comments.text(next));
+    comments.commentCount = static_cast<std::int16_t>(next);
+}
+
+} // namespace tarnel

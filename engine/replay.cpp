@@ -1,0 +1,171 @@
+#include "chart/trace_dots.h"
+#include "core/number_text.h"
+#include "core/rounding.h"
+#include "core/run_time_error.h"
+#include "engine/user_control_2.h"
+
+#include <algorithm>
+
+namespace tarnel {
+
+namespace {
+
+/// `c_ReplayInterpolation`.
+constexpr std::int16_t showSample = 0;
+constexpr std::int16_t flyFromSample = 1;
+
+/// `c_WindSetEN`, as a replay tells of its wind.
+constexpr std::int16_t recordedWind = 4;
+constexpr std::int16_t windWithZero = 5;
+
+GeoPosition placeOf(const Sample& sample) {
+    return {sample.traceLat, sample.traceLon};
+}
+
+} // namespace
+
+std::int16_t UserControl2::presentSampleIndex() const {
+    return inReplay() ? replaySample : std::max<std::int16_t>(1, recording.sampleIndex());
+}
+
+void UserControl2::goToSample() {
+    const std::int16_t index = c_RepeatValue;
+    if (index < 1 || index > Recording::lastSample || !stopped())
+        c_RepeatValue.publish(replaySample);
+    if (index < 1 || !stopped())
+        return;
+    Sample& sample = recording.at(index);
+    resumeMode = ResumeMode::cut;
+    replaySample = index;
+    if (c_replayInstLock == 1)
+        restoreSettings(sample);
+    else
+        copySettings(sample);
+    restoreMotion(sample);
+    if (c_ReplayInterpolation == showSample)
+        restorePlace(sample);
+    else
+        flyBetweenSamples();
+    showComment(index);
+    compareWithReference(index);
+    restoreWind();
+    redrawReplay();
+}
+
+/// Clocks, speed, turn and wind; the heading too unless the aircraft flies on between samples.
+void UserControl2::restoreMotion(const Sample& sample) {
+    if (c_ReplayInterpolation == showSample) {
+        aircraft.trueHeading = sample.traceHeading;
+        c_HDG.publish(sample.traceHeading);
+    }
+    c_ApMinutes.publish(sample.traceStopMinutes);
+    c_ApSeconds.publish(sample.traceStopSeconds);
+    c_ApHours2.publish(sample.traceFlightHours);
+    c_ApMinutes2.publish(sample.traceFlightMinutes);
+    c_ApSeconds2.publish(sample.traceFlightSeconds);
+    c_TAS.publish(sample.traceTAS);
+    Turn_Rate.publish(sample.traceTurnRate);
+    wind = {static_cast<double>(sample.traceWindDirection), sample.traceWindSpeed};
+    c_HDGbug.publish(sample.traceHDGbug);
+    c_APhdg.publish(sample.traceAPhdg);
+    c_APtas.publish(sample.traceAPtas);
+    c_APalt.publish(sample.traceAPalt);
+}
+
+void UserControl2::restoreSettings(const Sample& sample) {
+    c_obsI2.publish(sample.traceObsI2);
+    c_obsI3.publish(sample.traceObsI3);
+    c_inst2.publish(sample.traceInst2);
+    c_inst3.publish(sample.traceInst3);
+    c_Inst2NAVselect.publish(sample.traceInst2NAVselect);
+    c_Inst3NAVselect.publish(sample.traceInst3NAVselect);
+    c_Inst2_ADFCardselect.publish(sample.traceInst2ADFCard);
+    c_Inst3_ADFCardselect.publish(sample.traceInst3ADFCard);
+    c_NAV1freq.publish(sample.traceNAV1freq);
+    c_NAV2freq.publish(sample.traceNAV2freq);
+    c_ADFfreq.publish(sample.traceADFfreq);
+    c_DMEfreq.publish(sample.traceDMEfreq);
+    c_replayActive.publish(1);
+}
+
+void UserControl2::restorePlace(const Sample& sample) {
+    aircraft.placeAt(placeOf(sample));
+    airplaneOutline = RotateAirplaneSymbol(view.northUpMode ? aircraft.trueHeading : 0);
+    for (std::size_t i = 0; i < slotCount; ++i)
+        stations[i].position = toSplit(sample.traceStations[i]);
+    c_LocCrs1.publish(sample.traceLocCourse);
+}
+
+/// One tick of flight, as in `Timer1`, from the sample or from where the aircraft is.
+void UserControl2::flyBetweenSamples() {
+    if (c_ReplayInterpolation == flyFromSample)
+        aircraft.placeAt(placeOf(recording.at(replaySample)));
+    aircraft.tasUsed = c_TAS;
+    aircraft.turnRateUsed = Turn_Rate;
+    aircraft.fly(wind);
+    turnByTick();
+}
+
+void UserControl2::restoreWind() {
+    const bool blows = wind.direction > 0 && wind.speed > 0;
+    c_WindSetEN.publish(blows ? recordedWind : windWithZero);
+    c_wind.publish(numberText(wind.direction) + "/" + numberText(std::int64_t{wind.speed}));
+}
+
+/// The recorded courses count from north: a turned chart takes the heading off them.
+void UserControl2::redrawReplay() {
+    view.placeAircraft(aircraft);
+    refresh();
+    RadialInputs inputs = radialInputs();
+    if (!view.northUpMode && c_replayInstLock == 1) {
+        inputs.inst2.obs -= c_HDG;
+        inputs.inst3.obs -= c_HDG;
+    }
+    redrawChart(inputs);
+    redrawTrace();
+}
+
+void UserControl2::resumeFromReplay() {
+    recording.cutAfter(replaySample);
+    const Sample& sample = recording.at(replaySample);
+    aircraft.placeAt(placeOf(sample));
+    view.placeAircraft(aircraft);
+    turnAircraft(sample.traceHeading);
+    clock.stopwatchMinutes = c_ApMinutes;
+    clock.stopwatchSeconds = c_ApSeconds;
+    clock.flightHours = c_ApHours2;
+    clock.flightMinutes = c_ApMinutes2;
+    clock.flightSeconds = c_ApSeconds2;
+    c_TraceBufferMax.publish(replaySample);
+    resumeMode = ResumeMode::goOn;
+}
+
+void UserControl2::startSession() {
+    constexpr ChartPoint start{3500, 7500};
+    if (!stopped())
+        return;
+    mouse.cancel();
+    comments.clear();
+    c_CurrentComment.setIfChanged({});
+    reference.clear();
+    referenceReading = {};
+    recording.clear();
+    clock = FlightClock{};
+    publishStopwatch();
+    publishFlightTime();
+    wind = {};
+    c_WindSetEN.publish(0);
+    publishWind();
+    turnAircraft(0);
+    placeAircraft(toPlain(view.plot.MapToGeo(start).split));
+    replaySample = 1;
+    c_RepeatValue.publish(1);
+}
+
+void UserControl2::showPracticePanel() {
+    if (practicePanelSet && c_TrackDelta >= 0 && c_TrackDelta <= 3)
+        practicePanelSet(c_TrackDelta);
+    c_TrackDelta.publish(0);
+}
+
+} // namespace tarnel

@@ -1,0 +1,56 @@
+#include "shell/form_1.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace tarnel {
+
+void Form1::connectChartPage() {
+    chartPage.centre.onClick = [this] { UserControl11.centreOnAircraft(); };
+    chartPage.reset.onClick = [this] { UserControl11.resetView(); };
+    chartPage.trace.onClick = [this] { applyTrace(); };
+    chartPage.vectors.onClick = [this] { setVectorMode(chartPage.vectors.value()); };
+    chartPage.hide.onClick = [this] { setHidden(chartPage.hide.value() == 1); };
+    for (std::size_t i = 0; i < slotCount; ++i) {
+        const StationPage::Switches switches = stationPage.switches()[i];
+        for (CheckBox* box : {switches.station, switches.dme})
+            if (box)
+                box->onClick = [this, i] { switchStation(i); };
+    }
+}
+
+void Form1::stepScale(int steps) {
+    constexpr int scales = static_cast<int>(std::size(MapView::offeredScales));
+    int index = 0;
+    while (index + 1 < scales && MapView::offeredScales[index] < UserControl11.c_MAPscale)
+        ++index;
+    const int wanted = std::clamp(index + steps, 0, scales - 1);
+    setScale(MapView::offeredScales[wanted]);
+}
+
+void Form1::setScale(std::int16_t twipsPerMile) {
+    UserControl11.c_MAPscale.setIfChanged(twipsPerMile);
+}
+
+void Form1::setNorthUp(bool northUp) {
+    UserControl11.c_MAPnorthUP.setIfChanged(northUp ? 1 : 0);
+}
+
+void Form1::switchStation(std::size_t index) {
+    const StationPage::Switches switches = stationPage.switches()[index];
+    UserControl11.switchStation(static_cast<Slot>(index), switches.station->value() == 1,
+                                switches.dme && switches.dme->value() == 1);
+}
+
+/// Brings the switches to what a chart or a session has set.
+void Form1::followStations() {
+    for (std::size_t i = 0; i < slotCount; ++i) {
+        const StationPage::Switches switches = stationPage.switches()[i];
+        const StationProperties& station = UserControl11.slot(static_cast<Slot>(i));
+        switches.station->show(station.enabled != off ? 1 : 0);
+        if (switches.dme)
+            switches.dme->show(station.dmeEnabled != off ? 1 : 0);
+    }
+}
+
+} // namespace tarnel
