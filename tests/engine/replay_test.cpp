@@ -1,0 +1,387 @@
+#include "core/rounding.h"
+#include "engine/simulation_fixture.h"
+
+#include <gmock/gmock.h>
+
+namespace tarnel {
+namespace {
+
+/// What a student could read off at one moment.
+struct Moment {
+    GeoPosition position;
+    double heading = 0;
+    std::int16_t tas = 0;
+    std::int16_t flightSeconds = 0;
+    std::int16_t stopwatchSeconds = 0;
+    double bearing = 0;
+    std::string wind;
+};
+
+class ReplayTest : public SimulationTest {
+  protected:
+    /// A flight of turns and speeds; `flown` keeps the moment of each sample, `steps` the place
+    /// after each tick.
+    void fly(int samples) {
+        sim.c_Timer_on_off = 1;
+        sim.setWind({270, 20});
+        start(120, 10);
+        flown.assign(1, Moment{});
+        while (sim.recording.sampleIndex() < samples) {
+            const GeoPosition before = place();
+            const std::int16_t index = sim.recording.sampleIndex();
+            tick(1);
+            steps.push_back(place());
+            if (sim.recording.sampleIndex() == index)
+                continue;
+            flown.resize(static_cast<std::size_t>(sim.recording.sampleIndex()) + 1);
+            flown.back() = moment();
+            flown.back().position = before; // a sample is taken before its tick flies on
+            if (steady)
+                continue;
+            sim.Turn_Rate = toInt16(3 - index % 7);
+            sim.c_TAS = toInt16(100 + index);
+        }
+        sim.c_TimerEN = 0;
+    }
+    [[nodiscard]] Moment moment() const {
+        return {place(),          sim.c_HDG,       sim.c_TAS,
+                sim.c_ApSeconds2, sim.c_ApSeconds, station(Slot::vor1).radial,
+                sim.c_wind};
+    }
+
+    bool steady = false; ///< speed and turn stay as they are
+    std::vector<Moment> flown;
+    std::vector<GeoPosition> steps; ///< by tick, from 0
+};
+
+TEST_F(ReplayTest, ShowsEachSampleAsItWasFlown) {
+    fly(60);
+    for (const int i : {2, 3, 17, 59, 60, 31}) {
+        sim.c_RepeatValue = toInt16(i);
+        const Moment shown = moment();
+        const Moment& then = flown[static_cast<std::size_t>(i)];
+        EXPECT_NEAR(shown.position.latitude, then.position.latitude, 1e-9) << i;
+        EXPECT_NEAR(shown.position.longitude, then.position.longitude, 1e-9) << i;
+        EXPECT_EQ(shown.heading, then.heading) << i;
+        EXPECT_EQ(shown.tas, then.tas) << i;
+        EXPECT_EQ(shown.flightSeconds, then.flightSeconds) << i;
+        EXPECT_EQ(shown.stopwatchSeconds, then.stopwatchSeconds) << i;
+        EXPECT_EQ(shown.wind, "270/20");
+        EXPECT_NEAR(shown.bearing, then.bearing, 1) << i; // that of one tick later
+        EXPECT_EQ(sim.presentSampleIndex(), i);
+    }
+    EXPECT_EQ(sim.c_TraceBufferMax, 60); // nothing is lost by looking
+}
+
+TEST_F(ReplayTest, ResumesAtAnySampleAndKeepsWhatWasBefore) {
+    fly(50);
+    const Sample kept = sim.recording.at(20);
+    sim.recording.at(40).traceComment = 3;
+    sim.c_RepeatValue = 20;
+    sim.c_TimerEN = 1;
+    EXPECT_EQ(sim.c_TraceBufferMax, 20);
+    EXPECT_EQ(sim.recording.at(21).traceLat, 45);
+    EXPECT_EQ(sim.recording.at(21).traceLon, 11);
+    EXPECT_EQ(sim.recording.at(6000).traceFlightMinutes, 0);
+    EXPECT_EQ(sim.recording.at(40).traceComment, noComment);
+    EXPECT_EQ(sim.recording.at(20).traceLat, kept.traceLat);
+    EXPECT_EQ(sim.clock.flightSeconds, kept.traceFlightSeconds);
+    EXPECT_FALSE(sim.inReplay());
+    const GeoPosition resumed = place();
+    tick(4);
+    EXPECT_EQ(sim.c_TraceBufferMax, 21);
+    EXPECT_LT(milesBetween(resumed, place()), 0.3);
+    sim.c_TimerEN = 0;
+    sim.c_TimerEN = 1; // only once
+    tick(4);
+    EXPECT_EQ(sim.c_TraceBufferMax, 22);
+}
+
+TEST_F(ReplayTest, APauseGoesOnWhereItWas) {
+    fly(10);
+    const GeoPosition before = place();
+    const double seconds = sim.clock.flightSeconds;
+    sim.c_TimerEN = 1;
+    EXPECT_EQ(place(), before);
+    EXPECT_EQ(sim.clock.flightSeconds, seconds);
+    tick(4);
+    EXPECT_EQ(sim.c_TraceBufferMax, 11);
+}
+
+TEST_F(ReplayTest, PlacingTheAircraftClearsMarksAndSamples) {
+    fly(10);
+    sim.recording.at(4).traceComment = 1;
+    sim.c_RepeatValue = 5;
+    sim.mouse.down(ChartButton::left, {3000, 3000});
+    sim.mouse.up();
+    sim.c_TimerEN = 1;
+    EXPECT_EQ(sim.recording.at(4).traceComment, noComment);
+    EXPECT_EQ(sim.clock.flightSeconds, 0);
+    tick(4);
+    EXPECT_EQ(sim.c_TraceBufferMax, 1);
+}
+
+TEST_F(ReplayTest, RefusesSamplesThatCanNotBe) {
+    fly(10);
+    sim.c_RepeatValue = 4;
+    const GeoPosition there = place();
+    sim.c_RepeatValue = 0;
+    sim.c_RepeatValue = -7;
+    EXPECT_EQ(sim.c_RepeatValue, 4);
+    try {
+        sim.c_RepeatValue = 6001;
+        ADD_FAILURE() << "6001 was taken";
+    } catch (const RunTimeError& error) {
+        EXPECT_EQ(error.number(), RunTimeError::subscriptOutOfRange);
+    }
+    EXPECT_EQ(sim.c_RepeatValue, 4);
+    EXPECT_EQ(place(), there);
+    sim.c_TimerEN = 1;
+    tick(2);
+    const GeoPosition flying = place();
+    sim.c_RepeatValue = 2; // not while it flies
+    EXPECT_EQ(place(), flying);
+}
+
+TEST_F(ReplayTest, ALockRestoresSettingsAndWithoutItTheyAreWrittenOver) {
+    sim.c_NAV1freq = 2;
+    sim.c_obsI2 = 77;
+    sim.c_inst3 = 3;
+    fly(10);
+    sim.c_NAV1freq = 1;
+    sim.c_obsI2 = 300;
+    sim.c_inst3 = 4;
+    sim.c_replayInstLock = 1;
+    sim.c_RepeatValue = 5;
+    EXPECT_EQ(sim.c_NAV1freq, 2);
+    EXPECT_EQ(sim.c_obsI2, 77);
+    EXPECT_EQ(sim.c_inst3, 3);
+    EXPECT_EQ(sim.c_replayActive, 1);
+
+    sim.c_replayInstLock = 0;
+    sim.c_NAV1freq = 1;
+    sim.c_obsI2 = 300;
+    sim.c_RepeatValue = 6;
+    EXPECT_EQ(sim.recording.at(6).traceNAV1freq, 1);
+    EXPECT_EQ(sim.recording.at(6).traceObsI2, 300);
+    EXPECT_EQ(sim.recording.at(5).traceNAV1freq, 2);
+}
+
+/// A full step and the three quarters behind it fly the four ticks of the flight again.
+TEST_F(ReplayTest, InterpolationFliesOnWithoutAJumpInBothViews) {
+    steady = true;
+    sim.Turn_Rate = 2;
+    fly(40);
+    for (const int northUp : {1, 0}) {
+        sim.c_MAPnorthUP = toInt16(northUp);
+        std::size_t step = 2; // sample 2 is taken in the third tick, before it flies on
+        for (std::int16_t i = 2; i <= 40; ++i) {
+            for (const int quarter : {0, 2, 3, 3}) {
+                sim.c_ReplayInterpolation = toInt16(quarter);
+                sim.c_RepeatValue = i;
+                if (step <= steps.size()) {
+                    const GeoPosition& then = steps[step++ - 1];
+                    EXPECT_NEAR(place().latitude, then.latitude, 1e-6) << i << " " << quarter;
+                    EXPECT_NEAR(place().longitude, then.longitude, 1e-6) << i << " " << quarter;
+                }
+                if (northUp == 0) {
+                    EXPECT_EQ(sim.aircraft.place.point, (ChartPoint{3405, 3405}));
+                }
+            }
+        }
+    }
+}
+
+TEST_F(ReplayTest, TheFirstInterpolationStartsFromTheSample) {
+    fly(10);
+    sim.c_RepeatValue = 5;
+    const GeoPosition sample = place();
+    sim.c_ReplayInterpolation = 2;
+    sim.c_RepeatValue = 5;
+    sim.c_RepeatValue = 5;
+    EXPECT_GT(milesBetween(sample, place()), 0.015);
+    sim.c_ReplayInterpolation = 1;
+    sim.c_RepeatValue = 5;
+    EXPECT_LT(milesBetween(sample, place()), 0.015);
+}
+
+TEST_F(ReplayTest, StationsAndLocalizerStandAsTheyDid) {
+    sim.c_LocCrs1 = 83;
+    fly(5);
+    const GeoPosition then = toPlain(sim.stations[0].position);
+    sim.stations[0].position = toSplit({50, 12});
+    sim.c_LocCrs1 = 10;
+    sim.c_RepeatValue = 3;
+    EXPECT_NEAR(toPlain(sim.stations[0].position).latitude, then.latitude, 1e-9);
+    EXPECT_EQ(sim.c_LocCrs1, 83);
+}
+
+TEST_F(ReplayTest, ATurnedChartKeepsItsRadialOnTheStation) {
+    sim.c_obsI2 = 90;
+    sim.c_NAVRadI2 = 1;
+    fly(20);
+    sim.c_MAPnorthUP = 0;
+    sim.c_replayInstLock = 1;
+    sim.c_RepeatValue = 10;
+    const double heading = sim.c_HDG;
+    ASSERT_GT(heading, 1);
+    EXPECT_EQ(sim.c_obsI2, 90); // from north, until the panel follows
+    EXPECT_NEAR(std::remainder(sim.picture.radialsI2.angle - (90 - heading), 180), 0, 0.01);
+}
+
+TEST_F(ReplayTest, TheTraceIsThatOfTheWholeFlightAndHidesWithTheAircraft) {
+    sim.c_TraceEN = 1;
+    fly(40);
+    sim.c_RepeatValue = 8;
+    EXPECT_EQ(sim.picture.trace.all().size(), 5U); // one in eight
+    sim.c_AirplaneEN = 0;
+    for (const auto& redraw : std::initializer_list<std::function<void()>>{
+             [this] { sim.c_RepeatValue = 9; }, [this] { sim.c_MAPscale = 500; },
+             [this] { sim.c_MAPnorthUP = 0; }, [this] { sim.c_CenterTwips = 3000; }}) {
+        redraw();
+        EXPECT_TRUE(sim.picture.trace.all().empty());
+    }
+    sim.c_AirplaneEN = 1;
+    EXPECT_EQ(sim.picture.trace.all().size(), 10U);
+}
+
+TEST_F(ReplayTest, ANewSessionIsEmptyAndInSight) {
+    fly(30);
+    sim.startComment("text");
+    sim.reference.append({49, 11});
+    const GeoPosition station1 = toPlain(sim.stations[0].position);
+    sim.c_RepeatValue = 9;
+    sim.c_NewSession = 1;
+    EXPECT_EQ(sim.c_TraceBufferMax, 1);
+    EXPECT_EQ(sim.c_RepeatValue, 1);
+    EXPECT_EQ(sim.c_HDG, 0);
+    EXPECT_EQ(sim.c_wind.get(), "0/0");
+    EXPECT_EQ(sim.c_ApSeconds2, 0);
+    EXPECT_TRUE(sim.reference.empty());
+    EXPECT_EQ(sim.comments.text(0), "");
+    EXPECT_EQ(toPlain(sim.stations[0].position), station1);
+    EXPECT_EQ(sim.aircraft.place.point, (ChartPoint{3405, 3405}));
+    EXPECT_EQ(sim.recording.at(1).traceLat, place().latitude);
+    sim.c_TimerEN = 1;
+    tick(8);
+    EXPECT_EQ(sim.c_TraceBufferMax, 2);
+}
+
+class ReferenceTest : public SimulationTest {};
+
+TEST_F(ReferenceTest, LampsFollowTheDistance) {
+    const auto lit = [](double miles) {
+        std::string text;
+        for (const Lamp lamp : referenceLamps(miles))
+            text += ".gor"[static_cast<std::size_t>(lamp)];
+        return text;
+    };
+    EXPECT_EQ(lit(0), "g........");
+    EXPECT_EQ(lit(0.329), "g........");
+    EXPECT_EQ(lit(0.33), ".g.......");
+    EXPECT_EQ(lit(0.66), "..g......");
+    EXPECT_EQ(lit(1), "...o.....");
+    EXPECT_EQ(lit(1.65), "....o....");
+    EXPECT_EQ(lit(1.99), ".....o...");
+    EXPECT_EQ(lit(2), "......r..");
+    EXPECT_EQ(lit(2.5), "......rr.");
+    EXPECT_EQ(lit(2.66), "......rrr");
+    EXPECT_EQ(lit(99), "......rrr");
+}
+
+TEST_F(ReferenceTest, IsComparedAtTheSameSampleAndNeverOverwritten) {
+    start(120, 0);
+    tick(4);
+    EXPECT_FALSE(sim.referenceReading.known);
+    EXPECT_EQ(sim.c_PractiseStopFly, 1); // there is nothing to follow
+    sim.c_TimerEN = 0;
+    sim.markFreshStart();
+    for (int i = 0; i < 3; ++i)
+        sim.reference.append({place().latitude, 11 + 1.5 / 60 / std::cos(0.855)});
+    sim.c_TimerEN = 1;
+    EXPECT_EQ(sim.c_PractiseStopFly, 0);
+    tick(8);
+    EXPECT_TRUE(sim.referenceReading.known);
+    EXPECT_NEAR(sim.referenceReading.distance, 1.5, 0.1);
+    EXPECT_EQ(sim.referenceReading.lamps[4], Lamp::orange);
+    EXPECT_EQ(sim.c_PractiseStopFly, 0);
+    tick(8); // beyond the reference
+    EXPECT_FALSE(sim.referenceReading.known);
+    EXPECT_EQ(sim.c_PractiseStopFly, 1);
+    EXPECT_EQ(sim.reference.at(3).longitude, 11 + 1.5 / 60 / std::cos(0.855));
+}
+
+class CommentTest : public SimulationTest {
+  protected:
+    [[nodiscard]] std::vector<int> marks() const {
+        std::vector<int> all;
+        for (int i = 1; i <= sim.c_TraceBufferMax; ++i)
+            all.push_back(sim.recording.at(i).traceComment);
+        return all;
+    }
+    void goTo(int sample) { sim.c_RepeatValue = toInt16(sample); }
+};
+
+TEST_F(CommentTest, AreMarkedWhileFlyingAndShownInReplay) {
+    start(120);
+    tick(8);
+    sim.startComment("descend");
+    tick(8);
+    EXPECT_EQ(sim.c_CurrentComment.get(), "descend");
+    sim.stopComment();
+    tick(4);
+    EXPECT_EQ(sim.c_CurrentComment.get(), "");
+    sim.c_TimerEN = 0;
+    EXPECT_THAT(marks(), testing::ElementsAre(-1, -1, -1, 0, 0, -1));
+    goTo(4);
+    EXPECT_EQ(sim.c_CurrentComment.get(), "descend");
+    goTo(6);
+    EXPECT_EQ(sim.c_CurrentComment.get(), "");
+}
+
+TEST_F(CommentTest, AreLaidOnAStoredFlightAndTakenOff) {
+    start(120);
+    tick(4 * 9);
+    sim.c_TimerEN = 0;
+    goTo(2);
+    sim.startComment("one");
+    goTo(4);
+    sim.stopComment();
+    EXPECT_EQ(sim.c_CurrentComment.get(), "one");
+    goTo(5);
+    sim.startComment("two");
+    goTo(7);
+    sim.stopComment();
+    goTo(9);
+    sim.startComment("nothing");
+    sim.stopComment(); // on the sample where it began
+    EXPECT_THAT(marks(), testing::ElementsAre(-1, 0, 0, 0, 1, 1, 1, -1, -1, -1));
+    goTo(6);
+    sim.deleteComment();
+    EXPECT_THAT(marks(), testing::ElementsAre(-1, 0, 0, 0, -1, -1, -1, -1, -1, -1));
+    EXPECT_EQ(sim.comments.text(1), "two"); // the text stays
+    goTo(8);
+    sim.deleteComment();
+    EXPECT_THAT(marks(), testing::ElementsAre(-1, 0, 0, 0, -1, -1, -1, -1, -1, -1));
+    sim.deleteAllComments();
+    EXPECT_THAT(marks(), testing::Each(-1));
+    EXPECT_EQ(sim.comments.commentCount, 0);
+}
+
+TEST_F(CommentTest, TheTableHoldsAHundredAndOne) {
+    for (int i = 0; i < Comments::count; ++i) {
+        sim.startComment(std::to_string(i));
+        sim.stopComment();
+    }
+    EXPECT_EQ(sim.comments.text(100), "100");
+    EXPECT_THROW(sim.startComment("101"), RunTimeError);
+    sim.stepComment(-1);
+    EXPECT_EQ(sim.comments.commentCount, 100);
+    EXPECT_THROW(sim.stepComment(1), RunTimeError);
+    EXPECT_EQ(sim.comments.commentCount, 100);
+    sim.stepComment(-200);
+    EXPECT_EQ(sim.comments.commentCount, 0);
+}
+
+} // namespace
+} // namespace tarnel

@@ -1,0 +1,146 @@
+#include "engine/simulation_fixture.h"
+
+#include <set>
+
+namespace tarnel {
+namespace {
+
+class WindTest : public SimulationTest {
+  protected:
+    void draw(Point from, Point to) {
+        sim.c_WindSetEN = 1;
+        sim.mouse.down(ChartButton::left, from);
+        sim.mouse.move(to);
+    }
+};
+
+TEST_F(WindTest, DriftsAFlightNorthToTheEast) {
+    sim.setWind({270, 20});
+    start(120, 0);
+    tick(hour);
+    const CourseDistance made = CourseAndDistance({49, 11}, place());
+    EXPECT_NEAR(made.course, std::atan2(20, 120) * 180 / M_PI, 0.1);
+    EXPECT_NEAR(made.distance, std::hypot(120, 20), 0.3);
+    EXPECT_EQ(sim.speedVectors.groundTrack, 9);
+    EXPECT_NEAR(sim.speedVectors.groundSpeed, 122, 1);
+}
+
+TEST_F(WindTest, ModesHideDrawAndRecall) {
+    sim.c_WindSetEN = 3;
+    EXPECT_EQ(sim.c_wind.get(), "0/0"); // none was ever set
+    sim.setWind({200, 30});
+    sim.c_WindSetEN = 0;
+    EXPECT_EQ(sim.c_wind.get(), "0/0");
+    sim.c_WindSetEN = 3;
+    EXPECT_EQ(sim.c_wind.get(), "200/30");
+    sim.c_WindSetEN = 7;
+    EXPECT_EQ(sim.c_wind.get(), "200/30");
+    EXPECT_EQ(sim.c_WindSetEN, 7);
+}
+
+TEST_F(WindTest, ByChanceStaysInItsRangeAndFollowsTheSeed) {
+    std::set<double> directions;
+    std::set<int> speeds;
+    std::uint32_t seed = 0;
+    sim.clockSeed = [&] { return seed += 977; };
+    for (int i = 0; i < 4000; ++i) {
+        sim.c_WindSetEN = 2;
+        directions.insert(sim.wind.direction);
+        speeds.insert(sim.wind.speed);
+    }
+    EXPECT_EQ(*directions.begin(), 0);
+    EXPECT_EQ(*directions.rbegin(), 350);
+    EXPECT_EQ(directions.size(), 71U);
+    EXPECT_EQ(speeds, (std::set<int>{5, 10, 15, 20, 25, 30, 35, 40, 45}));
+    seed = 0;
+    sim.c_WindSetEN = 2;
+    const std::string first = sim.c_wind;
+    seed = 0;
+    sim.c_WindSetEN = 2;
+    EXPECT_EQ(sim.c_wind.get(), first);
+    sim.c_WindSetEN = 0;
+    sim.c_WindSetEN = 3;
+    EXPECT_EQ(sim.c_wind.get(), first);
+}
+
+TEST_F(WindTest, IsDrawnTheWayItBlows) {
+    draw({3000, 3000}, {4000, 3000}); // to the right: from the west
+    EXPECT_EQ(sim.c_wind.get(), "270/20");
+    EXPECT_TRUE(sim.picture.windLine.line.visible);
+    EXPECT_EQ(sim.picture.windLine.direction.caption, "270°");
+    sim.mouse.move({3000, 3099});
+    EXPECT_EQ(sim.c_wind.get(), "0/0"); // 99 twips are less than a step
+    sim.mouse.move({3000, 4250});
+    EXPECT_EQ(sim.c_wind.get(), "0/24");
+    const GeoPosition before = place();
+    sim.mouse.up();
+    EXPECT_EQ(place(), before);
+    EXPECT_FALSE(sim.mouse.windTool());
+    EXPECT_FALSE(sim.picture.windLine.line.visible);
+    EXPECT_FALSE(sim.picture.help.visible);
+    sim.c_WindSetEN = 0;
+    sim.c_WindSetEN = 3;
+    EXPECT_EQ(sim.c_wind.get(), "0/24");
+}
+
+TEST_F(WindTest, CanBeDrawnInFlightButAStartPutsTheToolAway) {
+    sim.c_WindSetEN = 1;
+    start(120);
+    EXPECT_FALSE(sim.mouse.windTool());
+    draw({1000, 1000}, {1000, 3000});
+    EXPECT_EQ(sim.c_wind.get(), "0/40");
+    sim.mouse.up();
+    sim.c_MAPnorthUP = 0;
+    draw({1000, 1000}, {2000, 1000});
+    EXPECT_EQ(sim.c_wind.get(), "0/40"); // not on a turned chart
+}
+
+TEST_F(WindTest, LabelShowsWithTheVectorsOrTheTurnsAhead) {
+    sim.setWind({225, 15});
+    EXPECT_FALSE(sim.picture.windLabel.visible);
+    sim.c_SpeedVectorEN = 1;
+    EXPECT_TRUE(sim.picture.windLabel.visible);
+    EXPECT_EQ(sim.picture.windLabel.caption, "225°15kt");
+    sim.mouse.down(ChartButton::left, {3000, 3000});
+    EXPECT_FALSE(sim.picture.windLabel.visible); // while the aircraft is placed
+    sim.c_TraceAheadEN = 1;
+    EXPECT_TRUE(sim.picture.windLabel.visible);
+    sim.mouse.up();
+    sim.c_TraceAheadEN = sim.c_SpeedVectorEN = 0;
+    EXPECT_FALSE(sim.picture.windLabel.visible);
+}
+
+TEST_F(WindTest, TurnsAheadAreMirrorImagesWithoutWind) {
+    sim.c_TAS = 180;
+    sim.c_TraceAheadEN = 1;
+    const std::vector<Dot> dots = sim.picture.ahead.all();
+    ASSERT_EQ(dots.size(), 60U);
+    for (std::size_t i = 0; i < 30; ++i) {
+        EXPECT_NEAR(dots[i].x - 3405, 3405 - dots[i + 30].x, 3) << i;
+        EXPECT_NEAR(dots[i].y, dots[i + 30].y, 3) << i;
+    }
+    // Half a circle at 180 kt and 3 degrees a second: 1.91 NM from side to side.
+    EXPECT_NEAR((dots[29].x - 3405) / 250.0, 1.91, 0.1);
+    // A wind from the west carries both sides to the east, half a mile in a minute.
+    sim.setWind({270, 30});
+    EXPECT_NEAR((sim.picture.ahead.all()[29].x - dots[29].x) / 250.0, 0.5, 0.08);
+    sim.c_TraceAheadEN = 0;
+    EXPECT_TRUE(sim.picture.ahead.all().empty());
+}
+
+TEST_F(WindTest, TurnsAheadTurnWithTheChart) {
+    sim.c_TAS = 180;
+    sim.setWind({90, 20});
+    sim.c_TraceAheadEN = 1;
+    const auto first = sim.picture.ahead.all()[10];
+    sim.c_MAPnorthUP = 0;
+    sim.turnAircraft(0);
+    EXPECT_EQ(sim.picture.ahead.all()[10].x, first.x);
+    sim.setWind({150, 20});
+    sim.turnAircraft(60); // the same picture, seen from the aircraft
+    EXPECT_NEAR(sim.picture.ahead.all()[10].x, first.x, 2);
+    EXPECT_NEAR(sim.picture.ahead.all()[10].y, first.y, 2);
+}
+
+} // namespace
+} // namespace tarnel
