@@ -1,0 +1,45 @@
+#pragma once
+
+#include "core/runtime_random.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <span>
+
+namespace tarnel {
+
+/// The keys that an enciphered file may name.
+constexpr int lowestKey = 1;
+constexpr int highestKey = 99;
+
+/// A key drawn by chance.
+[[nodiscard]] int drawKey(RuntimeRandom& random);
+
+using KeyTable = std::array<std::uint8_t, 16>;
+
+/// The order of 0 to 15 that belongs to `key`. It is drawn from the generator restarted with
+/// key × -0.1, so enciphered files of earlier installations can be read.
+[[nodiscard]] KeyTable Shuffle2(int key);
+
+/// Combines the characters of lines with the sixteen small numbers of a key. Only the low four bits
+/// of a byte change, so bytes from 32 on never become a line end. The place in the key runs on from
+/// line to line; line ends (LF, CR LF) stay as they are and don't count.
+class Cipher {
+  public:
+    explicit Cipher(int key);
+
+    /// Enciphers `lines` in place, which continue those given before.
+    void Encrypt(std::span<char> lines) { combine(lines); }
+    /// The reverse, which is the same.
+    void Decrypt(std::span<char> lines) { combine(lines); }
+
+  private:
+    void combine(std::span<char> lines);
+    void combineLine(char* line, std::size_t length);
+
+    std::array<char, 32> keyTable{}; ///< twice over, so that a run may start at any place
+    std::size_t keyPosition = 0;
+};
+
+} // namespace tarnel
