@@ -560,6 +560,15 @@ enum class Text : int {
     // Read-outs and dialogs of the flight.
     turnRate = 727,
     unitDegreesPerSecond = 728,
+
+    // What a line of a chart or session file has to hold, besides 682 to 691.
+    expectedKey = 729,
+    expectedWholeNumber = 730,
+    expectedDegrees = 731,
+    expectedCommentIndex = 732,
+    expectedSampleEnd = 733,
+    expectedNoFurtherComment = 734,
+    expectedNoFurtherSample = 735,
 };
 
 } // namespace tarnel
