@@ -1,12 +1,21 @@
 #include "persistence/cipher.h"
 
-#include <cstring>
-
 namespace tarnel {
 
 namespace {
 
 constexpr std::size_t tableSize = std::tuple_size_v<KeyTable>;
+
+/// From one place in the key to the next: the sixteenth comes back to 0 in eight bits.
+constexpr std::uint8_t placeStep = 16;
+
+/// By byte: all bits if it takes part, none if it ends a line.
+constexpr std::array<std::uint8_t, 256> countingBits = [] {
+    std::array<std::uint8_t, 256> bits{};
+    bits.fill(0xFF);
+    bits['\r'] = bits['\n'] = 0;
+    return bits;
+}();
 
 } // namespace
 
@@ -35,31 +44,20 @@ KeyTable Shuffle2(int key) {
 
 Cipher::Cipher(int key) {
     const KeyTable table = Shuffle2(key);
-    for (std::size_t i = 0; i < keyTable.size(); ++i)
-        keyTable[i] = static_cast<char>(table[i % tableSize]);
+    for (std::size_t i = 0; i < tableSize; ++i)
+        keyTable[i * placeStep] = table[i];
 }
 
+// Lines are short: a branch at the end of each would cost more than all the rest.
 void Cipher::combine(std::span<char> lines) {
-    while (!lines.empty()) {
-        const void* end = std::memchr(lines.data(), '\n', lines.size());
-        const auto length =
-            end ? static_cast<std::size_t>(static_cast<const char*>(end) - lines.data())
-                : lines.size();
-        const bool endsInReturn = length > 0 && lines[length - 1] == '\r';
-        combineLine(lines.data(), endsInReturn ? length - 1 : length);
-        lines = lines.subspan(end ? length + 1 : length);
+    const auto keys = keyTable;
+    std::uint8_t position = keyPosition;
+    for (char& c : lines) {
+        const std::uint8_t counts = countingBits[static_cast<unsigned char>(c)];
+        c = static_cast<char>(c ^ (keys[position] & counts));
+        position = static_cast<std::uint8_t>(position + (counts & placeStep));
     }
-}
-
-void Cipher::combineLine(char* line, std::size_t length) {
-    const char* keys = keyTable.data() + keyPosition;
-    // A run of sixteen ends at the place in the key where it began.
-    for (; length >= tableSize; line += tableSize, length -= tableSize)
-        for (std::size_t i = 0; i < tableSize; ++i)
-            line[i] = static_cast<char>(line[i] ^ keys[i]);
-    for (std::size_t i = 0; i < length; ++i)
-        line[i] = static_cast<char>(line[i] ^ keys[i]);
-    keyPosition = (keyPosition + length) % tableSize;
+    keyPosition = position;
 }
 
 } // namespace tarnel

@@ -24,7 +24,7 @@ using KeyTable = std::array<std::uint8_t, 16>;
 
 /// Combines the characters of lines with the sixteen small numbers of a key. Only the low four bits
 /// of a byte change, so bytes from 32 on never become a line end. The place in the key runs on from
-/// line to line; line ends (LF, CR LF) stay as they are and don't count.
+/// line to line; line ends (CR and LF) stay as they are and don't count.
 class Cipher {
   public:
     explicit Cipher(int key);
@@ -36,10 +36,9 @@ class Cipher {
 
   private:
     void combine(std::span<char> lines);
-    void combineLine(char* line, std::size_t length);
 
-    std::array<char, 32> keyTable{}; ///< twice over, so that a run may start at any place
-    std::size_t keyPosition = 0;
+    std::array<std::uint8_t, 256> keyTable{}; ///< those of `Shuffle2`, sixteen elements apart
+    std::uint8_t keyPosition = 0;             ///< the element to use next
 };
 
 } // namespace tarnel

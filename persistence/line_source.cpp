@@ -23,26 +23,30 @@ bool readPlainNumber(std::string_view text, Number& value) {
 } // namespace
 
 void LineSource::openPlain() {
-    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-    if (std::string_view(bytes).starts_with(byteOrderMark))
-        at = byteOrderMark.size();
+    skipByteOrderMark();
     findEncoding();
 }
 
 void LineSource::openEitherForm() {
-    openPlain();
-    if (!peek().starts_with("*****"))
-        return;
+    skipByteOrderMark();
+    if (peek().starts_with("*****"))
+        decipher();
+    findEncoding();
+}
+
+void LineSource::skipByteOrderMark() {
+    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+    if (std::string_view(bytes).starts_with(byteOrderMark))
+        at = byteOrderMark.size();
+}
+
+void LineSource::decipher() {
     for (int headerLine = 0; headerLine < 3; ++headerLine)
         next(FileField::key);
-    const std::int16_t key = [this] {
-        const double value = number(next(FileField::key), FileField::key);
-        if (!(value >= lowestKey && value <= highestKey) || value != std::floor(value))
-            fail(FileField::key);
-        return toInt16(value);
-    }();
-    Cipher(key).Decrypt(std::span(bytes).subspan(at));
-    findEncoding();
+    const double key = number(next(FileField::key), FileField::key);
+    if (key < lowestKey || key > highestKey || key != std::floor(key))
+        fail(FileField::key);
+    Cipher(static_cast<int>(key)).Decrypt(std::span(bytes).subspan(at));
 }
 
 void LineSource::findEncoding() {

@@ -69,6 +69,8 @@ class LineSource {
     [[noreturn]] void failBeyond(FileField expected) const;
 
   private:
+    void skipByteOrderMark();
+    void decipher();
     void findEncoding();
 
     std::string bytes;

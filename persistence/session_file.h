@@ -18,7 +18,7 @@ struct SessionFile : StationBlock {
 };
 
 /// More than any session of 6,000 samples and 101 comments needs, in bytes.
-constexpr std::size_t largestSession = std::size_t{16} << 20;
+constexpr std::size_t largestSession = std::size_t{8} << 20;
 
 /// Reads the bytes of a `.ts` file, plain or enciphered: comments, stations and map, then 40 lines
 /// and one line of separation for each sample, ended by CR LF or LF. An empty file is an empty
