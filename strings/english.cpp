@@ -605,6 +605,13 @@ constexpr StringEntry entries[] = {
     // Read-outs and dialogs of the flight.
     {727, "Turn"},
     {728, "°/s"},
+    {729, "a key from 1 to 99"},
+    {730, "a whole number from -32768 to 32767"},
+    {731, "an angle in degrees"},
+    {732, "a comment's number from -1 to 100"},
+    {733, "the line behind a sample"},
+    {734, "no more than 101 comments"},
+    {735, "no more than 6000 samples"},
     // Wind, comments and reference.
     {801, "Draw"},
     {802, "All 101 comments are taken. Delete one, or step back and write one anew."},

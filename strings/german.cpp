@@ -609,6 +609,13 @@ constexpr StringEntry entries[] = {
     // Read-outs and dialogs of the flight.
     {727, "Drehrate"},
     {728, "°/s"},
+    {729, "ein Schlüssel von 1 bis 99"},
+    {730, "eine ganze Zahl von -32768 bis 32767"},
+    {731, "ein Winkel in Grad"},
+    {732, "die Nummer eines Kommentars von -1 bis 100"},
+    {733, "die Zeile hinter einem Messpunkt"},
+    {734, "höchstens 101 Kommentare"},
+    {735, "höchstens 6000 Messpunkte"},
     // Wind, comments and reference.
     {801, "Zeichnen"},
     {802, "Alle 101 Kommentare sind belegt. Löschen Sie einen, oder blättern Sie zurück und "

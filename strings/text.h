@@ -561,6 +561,15 @@ enum class Text : int {
     turnRate = 727,
     unitDegreesPerSecond = 728,
 
+    // What a line of a chart or session file has to hold, besides 682 to 691.
+    expectedKey = 729,
+    expectedWholeNumber = 730,
+    expectedDegrees = 731,
+    expectedCommentIndex = 732,
+    expectedSampleEnd = 733,
+    expectedNoFurtherComment = 734,
+    expectedNoFurtherSample = 735,
+
     // Wind, comments and reference.
     windDraw = 801,
     commentTableFull = 802,

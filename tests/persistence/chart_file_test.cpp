@@ -1,4 +1,5 @@
 #include "persistence/chart_file.h"
+#include "support/enciphered.h"
 #include "support/sample_chart.h"
 
 #include <gtest/gtest.h>
@@ -11,6 +12,12 @@ namespace tarnel {
 namespace {
 
 constexpr std::size_t lineCount = 31;
+
+std::string encipheredChart(const std::string& plain) {
+    const std::string stars(54, '*');
+    return stars + "\r\n***** !DO NOT EDIT! *** Tarnel - .map file         ***\r\n" + stars +
+           "\r\n7\r\n" + encipheredWithKey7(plain);
+}
 
 TEST(ChartReader, ReadsAGoodFileByteForByte) {
     const ChartFile chart = readChart(":v1id:,ALB@u\r\n:v1fr:,112.30\r\n:v2id:,BRK@r\r\n"
@@ -204,7 +211,7 @@ TEST(ChartReader, NamesTheLineThatIsWrong) {
         {13, ":n3:,3", ChartField::ndbState},       {14, "n4", ChartField::ndbState},
         {16, ":mc:,32768", ChartField::mapCentre},  {16, ":mc:,one", ChartField::mapCentre},
         {17, ":ms:,wide", ChartField::mapScale},    {18, "90", ChartField::latitude},
-        {18, "48,25", ChartField::latitude},        {19, "180.1", ChartField::longitude},
+        {18, "48,25", ChartField::latitude},        {19, "360.1", ChartField::longitude},
         {19, "nan", ChartField::longitude},         {20, "east", ChartField::heading},
         {20, "-361", ChartField::heading},          {21, "1e999", ChartField::longitude},
         {22, "-89.5", ChartField::latitude},        {31, "", ChartField::localizerCourse},
@@ -216,10 +223,87 @@ TEST(ChartReader, NamesTheLineThatIsWrong) {
     }
 }
 
-TEST(ChartReader, EncipheredFileIsRefused) {
-    const ChartFile chart = readChart(std::string(54, '*') + "\r\nmore\r\n");
-    EXPECT_EQ(chart.problem, (ChartProblem{1, ChartField::plainText, false}));
-    EXPECT_FALSE(chart.stations[0].identifier);
+TEST(ChartReader, EncipheredFileReadsAsThePlainOne) {
+    const auto lines = sampleChartLines();
+    const std::string plain = joinLines(lines, lines.size());
+    const ChartFile chart = readChart(encipheredChart(plain));
+    EXPECT_FALSE(chart.problem);
+    EXPECT_EQ(writeChart(chart, {}), writeChart(readChart(plain), {}));
+    EXPECT_EQ(chart.stations[4].identifier, "ILS EAST");
+    EXPECT_EQ(readChart(std::string(54, '*') + "\r\n\r\n\r\n100\r\n").problem,
+              (ChartProblem{4, ChartField::key, false}));
+    EXPECT_EQ(readChart(encipheredChart(chartWith(19, "east"))).problem,
+              (ChartProblem{23, ChartField::longitude, false}));
+}
+
+TEST(ChartReader, TextsAreReadInEitherEncoding) {
+    for (const char* line : {":n1id:,K\xD6LN@r", ":n1id:,KÖLN@r"})
+        EXPECT_EQ(readChart(chartWith(5, line)).stations[2].identifier, "KÖLN");
+}
+
+TEST(ChartWriter, WritesEveryLineByteForByte) {
+    ChartFile chart = readChart(joinLines(sampleChartLines(), lineCount));
+    chart.mapCenterSelect = 3; // always 1 in the file
+    chart.heading = 271;       // always 0
+    chart.mapScaleTwips = 250;
+    chart.aircraft = GeoPosition{48.29, -11.5};
+    auto expected = sampleChartLines();
+    expected[8] = ":loid:,ILS EAST@u";
+    expected[16] = ":ms:,2";
+    expected[17] = "48.29";
+    expected[18] = "-11.29"; // with the minutes of the latitude
+    const std::string plain = joinLines(expected, lineCount);
+    EXPECT_EQ(writeChart(chart, {}), plain);
+    EXPECT_EQ(writeChart(chart, 7), encipheredChart(plain));
+}
+
+TEST(ChartWriter, EveryStateAndLabelHasALine) {
+    ChartFile chart;
+    const auto lineOf = [&chart](std::size_t number) {
+        const std::string text = writeChart(chart, {});
+        std::size_t start = 0;
+        for (std::size_t line = 1; line < number; ++line)
+            start = text.find('\n', start) + 1;
+        return text.substr(start, text.find('\r', start) - start);
+    };
+    for (const bool station : {false, true})
+        for (const bool dme : {false, true})
+            for (const bool button : {false, true}) {
+                chart.stations[4].state = chart.stations[3].state =
+                    StationState{station, dme, button};
+                const ChartFile read = readChart(writeChart(chart, {}));
+                const bool noCode = !station && !dme;
+                EXPECT_EQ(read.stations[4].state, (StationState{station, dme, button && !noCode}));
+                EXPECT_EQ(lineOf(14), station != button ? ":n4:,2" : station ? ":n4:,1" : ":n4:,0");
+            }
+    chart.stations[1].identifier = "A@B";
+    chart.stations[1].labelOffsetX = 200;
+    EXPECT_EQ(lineOf(3), ":v2id:,AB"); // 200, -555 is none of the four
+    chart.stations[1].labelOffsetY = -190;
+    EXPECT_EQ(lineOf(3), ":v2id:,AB@r");
+    EXPECT_EQ(lineOf(17), "0"); // no scale, so the latitude
+}
+
+RC_GTEST_PROP(ChartWriter, SavedLoadedAndSavedAgainTheBytesAreTheSame, ()) {
+    ChartFile chart = readChart(joinLines(sampleChartLines(), lineCount));
+    const auto anyPlace = [] {
+        const auto part = [] { return *rc::gen::arbitrary<std::uint32_t>() / 4294967296.0; };
+        const double span = *rc::gen::element(0.01, 1.0, 178.0);
+        return GeoPosition{(part() - 0.5) * span, (part() - 0.5) * 2 * span};
+    };
+    for (ChartStation& station : chart.stations)
+        station.position = anyPlace();
+    chart.aircraft = anyPlace();
+    const auto throughDegreesAndMinutes = [](ChartFile read) {
+        for (ChartStation& station : read.stations)
+            station.position = toPlain(toSplit(*station.position));
+        read.aircraft = toPlain(toSplit(*read.aircraft));
+        return read;
+    };
+    const std::string once = writeChart(throughDegreesAndMinutes(chart), {});
+    const std::string twice = writeChart(throughDegreesAndMinutes(readChart(once)), {});
+    RC_ASSERT(twice == once);
+    RC_ASSERT(writeChart(readChart(writeChart(readChart(once), 42)), {}) == once);
 }
 
 RC_GTEST_PROP(ChartReader, ChangedBytesNeverGiveAChartThatCannotBeFlown, ()) {

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "core/run_time_error.h"
+
+namespace tarnel {
+
+/// What a line of a chart or session file has to hold.
+enum class FileField {
+    key, ///< of an enciphered file, a whole number from 1 to 99
+    identifier,
+    frequency,
+    stationState,
+    ndbState,
+    mapCentre,
+    mapScale,
+    latitude,
+    longitude,
+    heading,
+    localizerCourse,
+    wholeNumber,      ///< of 16 bits
+    degrees,          ///< an angle that may go round several times
+    commentIndex,     ///< -1 to 100
+    sampleEnd,        ///< the line behind the fields of a sample
+    noFurtherComment, ///< there are 101 already
+    noFurtherSample,  ///< there are 6,000 already
+};
+
+/// Where a file is wrong.
+struct FileProblem {
+    int line = 0; ///< from 1
+    FileField expected = FileField::identifier;
+    bool endOfFile = false; ///< the file ends before that line
+    bool operator==(const FileProblem&) const = default;
+};
+
+/// `problem` as the run-time error it raises: 9 for a comment or sample too many, 62 at the end of
+/// the file, 13 for a line that holds something else.
+[[nodiscard]] RunTimeError toRunTimeError(const FileProblem& problem);
+
+} // namespace tarnel

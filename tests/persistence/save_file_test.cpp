@@ -1,0 +1,190 @@
+#include "core/run_time_error.h"
+#include "persistence/file_bytes.h"
+#include "persistence/save_file.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <csignal>
+#include <filesystem>
+#include <functional>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace tarnel {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::size_t most = 1 << 20;
+
+/// A disk that does something at the n-th call, and writes no more than 1000 bytes at a time.
+class TroubledDisk : public DiskCalls {
+  public:
+    TroubledDisk(int callNumber, std::function<int()> whatHappens)
+        : troubleAt(callNumber), trouble(std::move(whatHappens)) {}
+
+    int create(const char* path) override { return meets() ? -1 : DiskCalls::create(path); }
+    ssize_t write(int file, const char* bytes, std::size_t count) override {
+        constexpr std::size_t part = 1000;
+        return meets() ? -1 : DiskCalls::write(file, bytes, std::min(count, part));
+    }
+    int fsync(int file) override { return meets() ? -1 : DiskCalls::fsync(file); }
+    int close(int file) override {
+        const int closed = DiskCalls::close(file);
+        return meets() ? -1 : closed;
+    }
+    int rename(const char* from, const char* to) override {
+        return meets() ? -1 : DiskCalls::rename(from, to);
+    }
+
+    int calls = 0;
+
+  private:
+    bool meets() {
+        if (++calls != troubleAt)
+            return false;
+        errno = trouble();
+        return true;
+    }
+
+    int troubleAt;
+    std::function<int()> trouble;
+};
+
+class SaveFileTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        fs::remove_all(folder);
+        fs::create_directories(folder);
+    }
+    void TearDown() override { fs::remove_all(folder); }
+
+    std::string content() const { return readFileBytes(path, most); }
+    std::size_t filesInFolder() const {
+        return static_cast<std::size_t>(std::distance(fs::directory_iterator(folder), {}));
+    }
+    int errorOf(const std::function<void()>& save) const {
+        try {
+            save();
+        } catch (const RunTimeError& error) {
+            return error.number();
+        }
+        return 0;
+    }
+
+    /// Saves in a process of its own that first calls `prepare`. Returns how it ended.
+    int saveInChild(DiskCalls& disk, const std::function<void()>& prepare) const {
+        const pid_t child = fork();
+        if (child == 0) {
+            prepare();
+            _exit(errorOf([&] { saveFileBytes(path, after, disk); }));
+        }
+        int status = 0;
+        waitpid(child, &status, 0);
+        return status;
+    }
+
+    const std::string folder = testing::TempDir() + "tarnel_save_" +
+                               testing::UnitTest::GetInstance()->current_test_info()->name();
+    const std::string path = folder + "/Flug über Köln.ts";
+    const std::string before = "what was there\r\n";
+    const std::string after = std::string(3500, 'x') + "\r\n"; // four writes
+    static constexpr int callsOfASave = 8;
+};
+
+TEST_F(SaveFileTest, MakesAndReplacesFiles) {
+    saveFileBytes(folder + "\\Flug über Köln.ts", before);
+    EXPECT_EQ(content(), before);
+    fs::permissions(path, fs::perms(0640));
+    TroubledDisk disk(0, [] { return 0; });
+    saveFileBytes(path, after, disk);
+    EXPECT_EQ(disk.calls, callsOfASave);
+    EXPECT_EQ(content(), after);
+    EXPECT_EQ(fs::status(path).permissions(), fs::perms(0640));
+    saveFileBytes(path, "");
+    EXPECT_EQ(content(), "");
+    EXPECT_EQ(filesInFolder(), 1U);
+}
+
+TEST_F(SaveFileTest, ALinkStaysAndItsTargetChanges) {
+    fs::create_directory(folder + "/real");
+    const std::string real = folder + "/real/flight.ts";
+    saveFileBytes(real, before);
+    fs::create_symlink(real, path);
+    saveFileBytes(path, after);
+    EXPECT_TRUE(fs::is_symlink(path));
+    EXPECT_EQ(readFileBytes(real, most), after);
+}
+
+TEST_F(SaveFileTest, AFailureAtAnyCallLeavesTheFileAsItWas) {
+    struct Case {
+        int error;
+        int number;
+    };
+    constexpr Case cases[] = {{ENOSPC, 61}, {EDQUOT, 61}, {EIO, 57}, {EROFS, 75}};
+    saveFileBytes(path, before);
+    for (const Case& c : cases)
+        for (int call = 1; call <= callsOfASave; ++call) {
+            TroubledDisk disk(call, [&c] { return c.error; });
+            EXPECT_EQ(errorOf([&] { saveFileBytes(path, after, disk); }), c.number) << call;
+            EXPECT_EQ(content(), before) << call;
+            EXPECT_EQ(filesInFolder(), 1U) << call;
+        }
+    TroubledDisk interrupted(3, [] { return EINTR; });
+    saveFileBytes(path, after, interrupted);
+    EXPECT_EQ(content(), after);
+}
+
+TEST_F(SaveFileTest, KilledAtAnyCallTheFileIsWhole) {
+    saveFileBytes(path, before);
+    for (int call = 1; call <= callsOfASave; ++call) {
+        TroubledDisk disk(call, [] { return kill(getpid(), SIGKILL); });
+        const int status = saveInChild(disk, [] {});
+        ASSERT_TRUE(WIFSIGNALED(status)) << call;
+        EXPECT_EQ(content(), before) << call;
+    }
+    saveFileBytes(path, after); // what was left behind is not in the way
+    EXPECT_EQ(content(), after);
+}
+
+TEST_F(SaveFileTest, AFullDiskIsToldAndLeavesTheFile) {
+    saveFileBytes(path, before);
+    DiskCalls disk;
+    const int status = saveInChild(disk, [] {
+        const rlimit smallFiles{2000, 2000};
+        setrlimit(RLIMIT_FSIZE, &smallFiles);
+        std::signal(SIGXFSZ, SIG_IGN);
+    });
+    ASSERT_TRUE(WIFEXITED(status));
+    EXPECT_EQ(WEXITSTATUS(status), 61);
+    EXPECT_EQ(content(), before);
+    EXPECT_EQ(filesInFolder(), 1U);
+}
+
+TEST_F(SaveFileTest, RefusesWhatIsNoFileToWrite) {
+    EXPECT_EQ(errorOf([&] { saveFileBytes(folder, after); }), 75);
+    EXPECT_EQ(errorOf([&] { saveFileBytes("/dev/full", after); }), 75);
+    EXPECT_EQ(errorOf([&] { saveFileBytes(folder + "/none/flight.ts", after); }), 76);
+    EXPECT_EQ(errorOf([&] { saveFileBytes("", after); }), 76);
+}
+
+TEST_F(SaveFileTest, RefusesAFileThatMayNotBeWritten) {
+    saveFileBytes(path, before);
+    fs::permissions(path, fs::perms(0444));
+    fs::permissions(folder, fs::perms(0777)); // its folder would let it be replaced
+    DiskCalls disk;
+    const int status = saveInChild(disk, [] {
+        constexpr uid_t nobody = 65534; // root may write everything
+        if (geteuid() == 0 && setuid(nobody) != 0)
+            _exit(1);
+    });
+    EXPECT_EQ(WEXITSTATUS(status), 75);
+    EXPECT_EQ(content(), before);
+}
+
+} // namespace
+} // namespace tarnel
