@@ -9,6 +9,12 @@ void UserControl2::showComment(std::int16_t index) {
     c_CurrentComment.setIfChanged(comments.shownText(comments.currentCommentIndex));
 }
 
+void UserControl2::forgetComments() {
+    comments.clear();
+    recording.markComment(1, Recording::lastSample, noComment);
+    c_CurrentComment.setIfChanged({});
+}
+
 void UserControl2::startComment(const std::string& text) {
     comments.setText(comments.commentCount, text);
     comments.commentStartSample = presentSampleIndex();

@@ -28,6 +28,13 @@ std::int16_t UserControl2::presentSampleIndex() const {
     return inReplay() ? replaySample : std::max<std::int16_t>(1, recording.sampleIndex());
 }
 
+/// Goes to a sample of what was loaded, with all the settings it has.
+void UserControl2::restoreAll(std::int16_t index) {
+    c_replayInstLock = 1;
+    c_ReplayInterpolation = showSample;
+    c_RepeatValue = index;
+}
+
 void UserControl2::goToSample() {
     const std::int16_t index = c_RepeatValue;
     if (index < 1 || index > Recording::lastSample || !stopped())
@@ -145,8 +152,7 @@ void UserControl2::startSession() {
     if (!stopped())
         return;
     mouse.cancel();
-    comments.clear();
-    c_CurrentComment.setIfChanged({});
+    forgetComments();
     reference.clear();
     referenceReading = {};
     recording.clear();
@@ -160,6 +166,7 @@ void UserControl2::startSession() {
     placeAircraft(toPlain(view.plot.MapToGeo(start).split));
     replaySample = 1;
     c_RepeatValue.publish(1);
+    sessionNamedByUser.clear();
 }
 
 void UserControl2::showPracticePanel() {

@@ -13,26 +13,19 @@
 #include "core/speed_vectors.h"
 #include "core/stations.h"
 #include "engine/chart_mouse.h"
+#include "engine/simulation_messages.h"
 #include "engine/station_properties.h"
 #include "persistence/chart_file.h"
 
 #include <array>
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 
 namespace tarnel {
 
-class RunTimeError;
-
-/// What the simulation has to tell the user; the shell shows it in a box.
-class SimulationMessages {
-  public:
-    virtual ~SimulationMessages() = default;
-    virtual void bufferWarning(BufferWarning warning) = 0;
-    virtual void chartFailed(const std::string& path, const RunTimeError& error) = 0;
-    virtual void chartWrong(const std::string& path, const ChartProblem& problem) = 0;
-};
+struct SessionFile;
 
 /// `UserControl2`: the simulation engine: aircraft, chart, radios and recording behind one set of
 /// properties. It knows neither window nor clock: whoever owns it calls `Timer1` three times per
@@ -68,6 +61,10 @@ class UserControl2 {
     void centreOnAircraft();
     /// Shows the chart as it was loaded: its centre and scale, north at the top.
     void resetView();
+    /// Loads a session that the user picked elsewhere, as his pick in the dialog does.
+    void openSession(const std::string& path);
+    /// Saves the flight as it was recorded. Throws what `saveFileBytes` throws.
+    void saveSessionTo(const std::string& path);
     /// Switches a station and its DME; with both off its button comes up.
     void switchStation(Slot which, bool stationOn, bool dmeOn);
     /// Sets the wind of the whole chart by hand; a switched-on wind is this one from now on.
@@ -186,7 +183,16 @@ class UserControl2 {
     Property<std::int16_t> c_TrackDelta{properties, "c_TrackDelta", 0,
                                         [this] { showPracticePanel(); }};
 
-    // Files. `c_loadChart` 2 loads the chart at `c_ChartFileName` and goes back to 0.
+    // Files. 1 asks the user for a name, 2 takes the present one, 3 is the temporary session in
+    // `c_ScratchPath`; each goes back to 0. A save by the present name asks too unless the user
+    // picked it. `c_doEncrypt` other than 0 writes enciphered files.
+    Property<std::string> c_ScratchPath{properties, "c_ScratchPath"};
+    Property<std::int16_t> c_saveChart{properties, "c_saveChart", 0, [this] { saveChart(); }};
+    Property<std::int16_t> c_loadSession{properties, "c_loadSession", 0, [this] { loadSession(); }};
+    Property<std::int16_t> c_saveSession{properties, "c_saveSession", 0, [this] { saveSession(); }};
+    Property<std::int16_t> c_LoadOLDSession{properties, "c_LoadOLDSession", 0,
+                                            [this] { loadOldSession(); }};
+    Property<std::int16_t> c_doEncrypt{properties, "c_doEncrypt", off};
     Property<std::string> c_MainAppPath{properties, "c_MainAppPath"};
     Property<std::string> c_ChartFileName{properties, "c_ChartFileName"};
     Property<std::string> c_SessionFileName{properties, "c_SessionFileName"};
@@ -208,7 +214,7 @@ class UserControl2 {
     ChartMouse mouse{*this};
 
     /// Where a draw by chance starts from. Without it, from where the last one ended.
-    std::function<std::uint32_t()> clockSeed;
+    std::function<std::optional<std::uint32_t>()> clockSeed;
     /// Called with the state that the practice panel takes.
     std::function<void(std::int16_t)> practicePanelSet;
 
@@ -265,14 +271,32 @@ class UserControl2 {
     void measure();
     void followHeadingUp(bool moved);
 
+    std::optional<std::string> nameFor(FileRequest request, std::int16_t how,
+                                       const std::string& present);
+    std::optional<int> drawKey();
+    void randomize();
+    void comeToRest();
     void loadChart();
+    void saveChart();
     void applyChart(const ChartFile& chart);
+    void applyStations(const StationBlock& block);
     void applyStation(Slot which, const ChartStation& station);
+    void describeStations(StationBlock& block) const;
+    void loadSession();
+    void loadOldSession();
+    void saveSession();
+    void loadSessionFrom(FileRequest request, const std::string& path, std::int16_t how);
+    void takeReference(const SessionFile& session);
+    void applySession(const SessionFile& session);
+    void restoreAll(std::int16_t index);
+    void forgetComments();
 
     SimulationMessages& messages;
     Slots stationSlots = makeSlots();
     AirplaneOutline airplaneOutline;
     bool redrawOnly = false;
+    std::string chartNamedByUser; ///< the path that a save may overwrite unasked
+    std::string sessionNamedByUser;
     /// What `resetView` goes back to.
     struct {
         SplitPosition centre{{49, 0}, {11, 0}};

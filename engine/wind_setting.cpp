@@ -27,10 +27,14 @@ void UserControl2::switchWind() {
     publishWind();
 }
 
+void UserControl2::randomize() {
+    if (const auto seed = clockSeed ? clockSeed() : std::nullopt)
+        random.seed(*seed);
+}
+
 /// From 0 to 350 degrees and 5 to 45 kt, in steps of 5.
 void UserControl2::drawWindByChance() {
-    if (clockSeed)
-        random.seed(clockSeed());
+    randomize();
     wind.direction = random.below(71) * step;
     wind.speed = static_cast<std::int16_t>((random.below(9) + 1) * step);
     lastWind = wind;

@@ -20,6 +20,7 @@ void Form1::connectComments() {
     };
     commentPanel.previous.onClick = [this] { stepComment(-1); };
     commentPanel.next.onClick = [this] { stepComment(1); };
+    UserControl11.clockSeed = [this] { return outside.clockSeed(); };
     UserControl11.practicePanelSet = [this](std::int16_t panel) { showPracticePanel(panel); };
 }
 

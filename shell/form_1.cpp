@@ -54,7 +54,7 @@ void Form1::connectStrip() {
     rateDouble.onClick = [this] { setRate(166); };
     rateQuadruple.onClick = [this] { setRate(83); };
     radialCycleButton.onClick = [this] { cycleRadialLines(); };
-    fileMenu.newSession.onClick = [this] { newSession(); };
+    connectFiles();
     connectChartPage();
     connectReplay();
     connectWind();

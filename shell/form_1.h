@@ -52,6 +52,8 @@ class Form1 : private SimulationMessages {
     void SwitchInst3(bool large) { resizeInstrument(inst3, large); }
     void StopFly();
     void StopReplay();
+    /// Opens a session that the user picked outside the menus, as the menu does.
+    void openSession(const std::string& path);
     /// Does what a letter on the status panels stands for: M, P, H, T, V, W or R. False for others.
     bool pressKey(char letter);
 
@@ -166,6 +168,7 @@ class Form1 : private SimulationMessages {
     void connectReplay();
     void connectWind();
     void connectComments();
+    void connectFiles();
     void startUp(const std::string& applicationPath);
     void setApplicationPath(const std::string& path);
     void setReceiverDefaults();
@@ -232,6 +235,9 @@ class Form1 : private SimulationMessages {
     void showCommentNumber();
     void showPracticePanel(std::int16_t panel);
     void newSession();
+    void askForSession(Property<std::int16_t>& request);
+    void keepPracticeFlight();
+    void recallPracticeFlight();
     void enableResting(bool resting);
     void enableFileMenus(bool enabled);
     void setLocked(bool locked);
@@ -243,8 +249,13 @@ class Form1 : private SimulationMessages {
                  BoxKind kind = BoxKind::warning);
     void reportRunTimeError(const RunTimeError& error);
     void bufferWarning(BufferWarning warning) override;
-    void chartFailed(const std::string& path, const RunTimeError& error) override;
-    void chartWrong(const std::string& path, const ChartProblem& problem) override;
+    std::optional<std::string> chooseFile(FileRequest request, const std::string& present) override;
+    [[nodiscard]] bool isShipped(const std::string& path) const override;
+    void stopForLoading() override;
+    void fileFailed(FileRequest request, const std::string& path,
+                    const RunTimeError& error) override;
+    void fileWrong(FileRequest request, const std::string& path,
+                   const FileProblem& problem) override;
 
     OutsideWorld& outside;
     PositionLinks inst2Links;

@@ -9,40 +9,68 @@ namespace tarnel {
 
 namespace {
 
-constexpr int badContent = 13;
-
-Text expectedName(ChartField field) {
+Text expectedName(FileField field) {
     switch (field) {
-    case ChartField::plainText:
-    case ChartField::identifier:
+    case FileField::key:
+        return Text::expectedKey;
+    case FileField::identifier:
         return Text::expectedIdentifier;
-    case ChartField::frequency:
+    case FileField::frequency:
         return Text::expectedFrequency;
-    case ChartField::stationState:
+    case FileField::stationState:
         return Text::expectedStationState;
-    case ChartField::ndbState:
+    case FileField::ndbState:
         return Text::expectedNdbState;
-    case ChartField::mapCentre:
+    case FileField::mapCentre:
         return Text::expectedNumber;
-    case ChartField::mapScale:
+    case FileField::mapScale:
         return Text::expectedMapScale;
-    case ChartField::latitude:
+    case FileField::latitude:
         return Text::expectedLatitude;
-    case ChartField::longitude:
+    case FileField::longitude:
         return Text::expectedLongitude;
-    case ChartField::heading:
+    case FileField::heading:
         return Text::expectedHeading;
-    case ChartField::localizerCourse:
+    case FileField::localizerCourse:
+        return Text::expectedLocalizerCourse;
+    case FileField::wholeNumber:
+        return Text::expectedWholeNumber;
+    case FileField::degrees:
+        return Text::expectedDegrees;
+    case FileField::commentIndex:
+        return Text::expectedCommentIndex;
+    case FileField::sampleEnd:
+        return Text::expectedSampleEnd;
+    case FileField::noFurtherComment:
+        return Text::expectedNoFurtherComment;
+    case FileField::noFurtherSample:
         break;
     }
-    return Text::expectedLocalizerCourse;
+    return Text::expectedNoFurtherSample;
 }
 
-std::string fileError(const StringTable& texts, int number, const std::string& source,
-                      const std::string& description) {
-    return "c_loadChart" + std::string(texts[Text::errorNumber]) +
-           numberText(std::int64_t{number}) + std::string(texts[Text::errorGenerated]) + source +
-           "\n" + description;
+/// How a box names the procedure that failed.
+const char* procedureOf(FileRequest request) {
+    switch (request) {
+    case FileRequest::loadChart:
+        return "c_loadChart";
+    case FileRequest::saveChart:
+        return "c_saveChart";
+    case FileRequest::loadSession:
+        return "LoadSession";
+    case FileRequest::saveSession:
+        return "SaveSession";
+    case FileRequest::loadOldSession:
+        break;
+    }
+    return "c_LoadOldSession";
+}
+
+std::string fileError(const StringTable& texts, FileRequest request, const RunTimeError& error,
+                      const std::string& source, const std::string& description) {
+    return procedureOf(request) + std::string(texts[Text::errorNumber]) +
+           numberText(std::int64_t{error.number()}) + std::string(texts[Text::errorGenerated]) +
+           source + "\n" + description;
 }
 
 } // namespace
@@ -76,20 +104,23 @@ void Form1::bufferWarning(BufferWarning warning) {
     showBox(text(Text::replayBufferTitle), message);
 }
 
-void Form1::chartFailed(const std::string& path, const RunTimeError& error) {
-    const std::string description = path + "\n" + error.what() + "\n" + text(Text::builtInChart);
-    showBox(text(Text::errorTitle), fileError(texts, error.number(), error.source(), description));
+void Form1::fileFailed(FileRequest request, const std::string& path, const RunTimeError& error) {
+    std::string description = path + "\n" + error.what();
+    const bool startsUp = UserControl11.c_SessionFileName.get().empty();
+    if (request == FileRequest::loadChart && startsUp)
+        description += "\n" + text(Text::builtInChart);
+    showBox(text(Text::errorTitle), fileError(texts, request, error, error.source(), description));
 }
 
-void Form1::chartWrong(const std::string& path, const ChartProblem& problem) {
+void Form1::fileWrong(FileRequest request, const std::string& path, const FileProblem& problem) {
     const std::string line = numberText(std::int64_t{problem.line});
     const std::string expected(texts[expectedName(problem.expected)]);
     std::string description = path + "\n";
     if (problem.endOfFile)
         description += filledIn(texts[Text::fileEndsBefore], {line}) + "\n";
     description += filledIn(texts[Text::lineExpected], {line, expected});
-    showBox(text(Text::errorTitle),
-            fileError(texts, badContent, text(Text::windowTitle), description));
+    showBox(text(Text::errorTitle), fileError(texts, request, toRunTimeError(problem),
+                                              text(Text::windowTitle), description));
 }
 
 void Form1::showAbout() {

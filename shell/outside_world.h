@@ -1,10 +1,22 @@
 #pragma once
 
+#include <cstdint>
+#include <optional>
 #include <string>
 
 namespace tarnel {
 
 enum class BoxKind { notice, warning };
+
+/// A file that the user is asked for.
+struct FileQuestion {
+    bool saves = false;
+    std::string title;
+    std::string present;   ///< the path now, or a bare name
+    std::string folder;    ///< where to look if `present` is in no folder
+    std::string filter;    ///< "name|pattern"
+    std::string extension; ///< without a dot
+};
 
 /// What the trainer needs of the world around it: a window shows boxes, a test writes them down.
 class OutsideWorld {
@@ -12,6 +24,10 @@ class OutsideWorld {
     virtual ~OutsideWorld() = default;
     /// Shows a box and comes back when the user has closed it.
     virtual void messageBox(BoxKind kind, const std::string& title, const std::string& text) = 0;
+    /// The path that the user picks; nothing if he changes his mind, or where nobody is to ask.
+    virtual std::optional<std::string> chooseFile(const FileQuestion&) { return {}; }
+    /// Where draws by chance start from; a world without a clock lets them go on.
+    virtual std::optional<std::uint32_t> clockSeed() { return {}; }
 };
 
 } // namespace tarnel

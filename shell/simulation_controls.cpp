@@ -59,22 +59,6 @@ void Form1::StopFly() {
         stopFlight();
 }
 
-/// An empty session at rest, with everything shown as the strip says.
-void Form1::newSession() {
-    StopReplay();
-    UserControl11.c_TrackDelta = 0;
-    replayPage.lock.set(0);
-    replayPage.hide.set(0);
-    setHeadingBug(0);
-    UserControl11.c_NewSession = 1;
-    UserControl11.c_SessionFileName = text(Text::newSessionFile);
-    commentPanel.startStop.setCaption(Text::commentStart);
-    commentPanel.text.setText({});
-    showCommentNumber();
-    replayIndex = 1;
-    replayPage.bar.setValue(1);
-}
-
 void Form1::setRate(std::int16_t milliseconds) {
     UserControl11.c_TimerSIMrate = milliseconds;
 }

@@ -37,6 +37,7 @@ void tuneNdb(ADFControlFace& face, std::int16_t picture, std::int16_t slot) {
 
 void Form1::setApplicationPath(const std::string& path) {
     UserControl11.c_MainAppPath = path;
+    UserControl11.c_ScratchPath = path;
     for (UserControl_1* instrument :
          {&inst2.instrument, &inst3.instrument, &inst1.instrument, &UserControl_DG})
         instrument->c_MainAppPath = path;

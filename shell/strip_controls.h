@@ -124,6 +124,7 @@ struct FileMenu {
     CommandButton loadChart{state, "mnuloadchart", Text::loadChart};
     CommandButton saveChart{state, "mnuSaveChart", Text::saveChart};
     CommandButton saveChartAs{state, "mnuSaveChartAs", Text::saveChartAs};
+    CheckBox encipher{state, "fencrypt", Text::encipherFiles};
 
     [[nodiscard]] std::array<CommandButton*, 8> items() {
         return {&newSession,    &loadSession, &loadOldSession, &saveSession,

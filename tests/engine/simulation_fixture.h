@@ -18,17 +18,28 @@ struct RecordedMessages : SimulationMessages {
     void bufferWarning(BufferWarning warning) override {
         warnings.emplace_back(sampleIndex ? sampleIndex() : 0, warning);
     }
-    void chartFailed(const std::string&, const RunTimeError& error) override {
+    std::optional<std::string> chooseFile(FileRequest request, const std::string&) override {
+        asked.push_back(request);
+        return chosen;
+    }
+    bool isShipped(const std::string& path) const override {
+        return path.find("/default/") != std::string::npos;
+    }
+    void stopForLoading() override { ++stops; }
+    void fileFailed(FileRequest, const std::string&, const RunTimeError& error) override {
         failures.push_back(error.number());
     }
-    void chartWrong(const std::string&, const ChartProblem& problem) override {
+    void fileWrong(FileRequest, const std::string&, const FileProblem& problem) override {
         problems.push_back(problem);
     }
 
     std::function<int()> sampleIndex;
     std::vector<std::pair<int, BufferWarning>> warnings;
     std::vector<int> failures;
-    std::vector<ChartProblem> problems;
+    std::vector<FileProblem> problems;
+    std::vector<FileRequest> asked;
+    std::optional<std::string> chosen; ///< what the next dialogs give
+    int stops = 0;
 };
 
 /// A simulation on the default chart, aircraft at 49 north, 11 east.

@@ -1,0 +1,152 @@
+#include "engine/file_requests.h"
+#include "engine/user_control_2.h"
+#include "persistence/file_bytes.h"
+#include "persistence/older_session_file.h"
+#include "persistence/save_file.h"
+#include "persistence/session_file.h"
+
+#include <algorithm>
+
+namespace tarnel {
+
+namespace {
+
+constexpr const char* temporaryName = "temp.ts";
+
+std::string inFolder(const std::string& folder, const std::string& name) {
+    const bool ended = folder.empty() || folder.back() == '/' || folder.back() == '\\';
+    return folder + (ended ? "" : "/") + name;
+}
+
+} // namespace
+
+/// The path that a request means: asked for, the temporary one, or `present`. A save asks too if
+/// the user never named `present` himself.
+std::optional<std::string> UserControl2::nameFor(FileRequest request, std::int16_t how,
+                                                 const std::string& present) {
+    const bool saves = request == FileRequest::saveChart || request == FileRequest::saveSession;
+    std::string& named = request == FileRequest::loadChart || request == FileRequest::saveChart
+                             ? chartNamedByUser
+                             : sessionNamedByUser;
+    if (how == fileRequest::temporary)
+        return inFolder(c_ScratchPath, temporaryName);
+    if (how == fileRequest::byName && (!saves || present == named))
+        return present;
+    if (how != fileRequest::ask && how != fileRequest::byName)
+        return {};
+    auto chosen = messages.chooseFile(request, present);
+    if (chosen)
+        named = messages.isShipped(*chosen) ? std::string() : *chosen;
+    return chosen;
+}
+
+/// Whoever owns the strip brings it to rest; without one the clock alone stops.
+void UserControl2::comeToRest() {
+    messages.stopForLoading();
+    if (!stopped())
+        c_TimerEN = 0;
+}
+
+void UserControl2::openSession(const std::string& path) {
+    sessionNamedByUser = messages.isShipped(path) ? std::string() : path;
+    loadSessionFrom(FileRequest::loadSession, path, fileRequest::ask);
+}
+
+/// A key from 1 to 99 if files are to be enciphered.
+std::optional<int> UserControl2::drawKey() {
+    if (c_doEncrypt == off)
+        return {};
+    randomize();
+    return random.below(99) + 1;
+}
+
+void UserControl2::loadSession() {
+    const std::int16_t how = c_loadSession;
+    const auto path = nameFor(FileRequest::loadSession, how, c_SessionFileName);
+    c_loadSession.publish(0);
+    if (path)
+        loadSessionFrom(FileRequest::loadSession, *path, how);
+}
+
+void UserControl2::loadOldSession() {
+    const std::int16_t how = c_LoadOLDSession;
+    const auto path = nameFor(FileRequest::loadOldSession, how, c_SessionFileName);
+    c_LoadOLDSession.publish(0);
+    if (path)
+        loadSessionFrom(FileRequest::loadOldSession, *path, how);
+}
+
+/// A session that the user opened rests on its last sample; one loaded by name on its first.
+void UserControl2::loadSessionFrom(FileRequest request, const std::string& path, std::int16_t how) {
+    try {
+        std::string bytes = readFileBytes(path, largestSession);
+        const SessionFile session = request == FileRequest::loadOldSession
+                                        ? readOlderSession(std::move(bytes))
+                                        : readSession(std::move(bytes));
+        comeToRest();
+        if (how != fileRequest::temporary) {
+            c_SessionFileName.setIfChanged(path);
+            takeReference(session);
+        }
+        applySession(session);
+        if (!session.samples.empty())
+            c_HscrollRepeatValue = how == fileRequest::byName ? std::int16_t{1} : c_TraceBufferMax;
+        if (session.problem)
+            messages.fileWrong(request, path, *session.problem);
+    } catch (const RunTimeError& error) {
+        messages.fileFailed(request, path, error);
+    }
+}
+
+void UserControl2::takeReference(const SessionFile& session) {
+    reference.clear();
+    for (const Sample& sample : session.samples)
+        reference.append({sample.traceLat, sample.traceLon});
+}
+
+void UserControl2::applySession(const SessionFile& session) {
+    forgetComments();
+    for (std::size_t i = 0; i < session.comments.size(); ++i)
+        comments.setText(static_cast<int>(i), session.comments[i]);
+    comments.commentCount = static_cast<std::int16_t>(session.comments.size());
+    applyStations(session);
+    recording.clear();
+    const auto count = static_cast<std::int16_t>(session.samples.size());
+    for (std::int16_t i = 1; i <= count; ++i)
+        recording.at(i) = session.samples[static_cast<std::size_t>(i) - 1];
+    recording.setNewest(count);
+    c_TraceBufferMax.publish(count);
+    if (count > 0)
+        restoreAll(count);
+    else
+        resumeMode = ResumeMode::clear;
+    c_MAPscale = session.mapScaleTwips.value_or(c_MAPscale.get());
+    home = {view.mapCenter, c_MAPscale};
+}
+
+void UserControl2::saveSession() {
+    const std::int16_t how = c_saveSession;
+    const auto path = nameFor(FileRequest::saveSession, how, c_SessionFileName);
+    c_saveSession.publish(0);
+    if (!path)
+        return;
+    try {
+        saveSessionTo(*path);
+        if (how != fileRequest::temporary)
+            c_SessionFileName.setIfChanged(*path);
+    } catch (const RunTimeError& error) {
+        messages.fileFailed(FileRequest::saveSession, *path, error);
+    }
+}
+
+void UserControl2::saveSessionTo(const std::string& path) {
+    SessionFile session;
+    describeStations(session);
+    for (int i = 0; i < Comments::count; ++i)
+        session.comments.push_back(comments.text(i));
+    for (int i = 1; i <= c_TraceBufferMax; ++i)
+        session.samples.push_back(recording.at(i));
+    saveFileBytes(path, writeSession(session, drawKey()));
+}
+
+} // namespace tarnel

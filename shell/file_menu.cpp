@@ -1,0 +1,72 @@
+#include "engine/file_requests.h"
+#include "shell/form_1.h"
+
+#include <utility>
+
+namespace tarnel {
+
+void Form1::connectFiles() {
+    UserControl2& sim = UserControl11;
+    const auto ask = [](Property<std::int16_t>& request, std::int16_t how) {
+        return [&request, how] { request = how; };
+    };
+    fileMenu.newSession.onClick = [this] { newSession(); };
+    fileMenu.loadSession.onClick = [this] { askForSession(UserControl11.c_loadSession); };
+    fileMenu.loadOldSession.onClick = [this] { askForSession(UserControl11.c_LoadOLDSession); };
+    fileMenu.saveSession.onClick = ask(sim.c_saveSession, fileRequest::byName);
+    fileMenu.saveSessionAs.onClick = ask(sim.c_saveSession, fileRequest::ask);
+    fileMenu.loadChart.onClick = ask(sim.c_loadChart, fileRequest::ask);
+    fileMenu.saveChart.onClick = ask(sim.c_saveChart, fileRequest::byName);
+    fileMenu.saveChartAs.onClick = ask(sim.c_saveChart, fileRequest::ask);
+    fileMenu.encipher.onClick = [this] {
+        UserControl11.c_doEncrypt = fileMenu.encipher.value() == 1 ? on : off;
+    };
+    practicePanel.keep.onClick = [this] { keepPracticeFlight(); };
+    practicePanel.recall.onClick = [this] { recallPracticeFlight(); };
+}
+
+/// An empty session at rest, with everything shown as the strip says.
+void Form1::newSession() {
+    StopReplay();
+    UserControl11.c_TrackDelta = 0;
+    replayPage.lock.set(0);
+    replayPage.hide.set(0);
+    setHeadingBug(0);
+    UserControl11.c_NewSession = 1;
+    UserControl11.c_SessionFileName = text(Text::newSessionFile);
+    commentPanel.startStop.setCaption(Text::commentStart);
+    commentPanel.text.setText({});
+    showCommentNumber();
+    replayIndex = 1;
+    replayPage.bar.setValue(1);
+}
+
+/// A session that the user opens shows its trace.
+void Form1::askForSession(Property<std::int16_t>& request) {
+    replayPage.lock.set(0);
+    chartPage.trace.set(1);
+    request = fileRequest::ask;
+}
+
+void Form1::openSession(const std::string& path) {
+    if (!fileMenu.loadSession.enabled())
+        return;
+    replayPage.lock.set(0);
+    chartPage.trace.set(1);
+    UserControl11.openSession(path);
+}
+
+/// Keeps the flight aside and shows the session that it practises.
+void Form1::keepPracticeFlight() {
+    if (!UserControl11.stopped() || UserControl11.c_TrackDelta != 0)
+        return;
+    UserControl11.c_saveSession = fileRequest::temporary;
+    UserControl11.c_loadSession = fileRequest::byName;
+}
+
+void Form1::recallPracticeFlight() {
+    if (UserControl11.stopped() && UserControl11.c_TrackDelta == 0)
+        UserControl11.c_loadSession = fileRequest::temporary;
+}
+
+} // namespace tarnel
