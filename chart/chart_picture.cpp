@@ -35,6 +35,7 @@ ChartPicture::ChartPicture() {
     for (Line* line : {&airplane.fuselage, &airplane.wing, &airplane.tailplane, &heading.line})
         line->colour = chartColour::ink;
     heading.name.colour = heading.value.colour = help.colour = chartColour::ink;
+    stationReadout.colour = chartColour::ink;
     for (Line* line : {&windLine.line, &windLine.headLeft, &windLine.headRight})
         line->colour = chartColour::windVector;
     for (Label* label : {&windLine.name, &windLine.direction, &windLine.speed, &windLabel})

@@ -81,7 +81,8 @@ struct ChartPicture {
     SpeedVectorLines speedVectors;
     HeadingLine heading;
     WindLine windLine;
-    Label windLabel; ///< the wind beside the airplane
+    Label windLabel;      ///< the wind beside the airplane
+    Label stationReadout; ///< distances and bearings of a station that is dragged, one a line
     Label help;
     double milesPer500Twips = 2; ///< the scale label
     DotLayer trace{surface};

@@ -80,12 +80,31 @@ void UserControl2::resetView() {
     centreOn(home.centre);
 }
 
+void UserControl2::switchEditing() {
+    c_EditChart = c_mapedit;
+    mouse.cancel();
+    if (c_mapedit != 1)
+        return;
+    recording.markComment(0, Recording::lastSample, noComment);
+    comments.commentCount = 0;
+    comments.currentCommentIndex = comments.selectedCommentIndex = noComment;
+    c_CurrentComment.setIfChanged({});
+}
+
+void UserControl2::placeStation(Slot which, ChartPoint point) {
+    inSlot(stations, which).position = view.plot.MapToGeo(point).split;
+    redrawChart();
+    refresh();
+    renewFirstSample();
+}
+
 void UserControl2::switchStation(Slot which, bool stationOn, bool dmeOn) {
     StationProperties& station = slot(which);
     station.dmeEnabled = dmeOn ? on : off;
     station.enabled = stationOn ? on : off;
     if (!stationOn && !dmeOn)
         inSlot(stations, which).buttonDown = false;
+    refresh();
 }
 
 void UserControl2::switchView() {

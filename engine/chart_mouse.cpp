@@ -44,6 +44,9 @@ void ChartMouse::down(ChartButton button, Point at) {
     } else if (tool == Tool::heading) {
         headingDragging = true;
         showHeadingLine(at);
+    } else if (button == ChartButton::left && stationAt(at)) {
+        draggedStation = stationAt(at);
+        dragStation(at);
     } else if (button == ChartButton::left) {
         airplaneDragging = true;
         place(at);
@@ -57,12 +60,14 @@ void ChartMouse::move(Point at) {
         drawWind(at);
     else if (headingDragging)
         drawHeading(at);
+    else if (draggedStation)
+        dragStation(at);
     else if (airplaneDragging)
         place(at);
 }
 
 void ChartMouse::up() {
-    if (headingDragging || windDragging)
+    if (headingDragging || windDragging || draggedStation)
         cancel();
     airplaneDragging = false;
     sim.windLabelOn = true;
@@ -77,6 +82,8 @@ void ChartMouse::pickWindTool() {
 void ChartMouse::cancel() {
     tool = Tool::standard;
     airplaneDragging = headingDragging = windDragging = false;
+    draggedStation.reset();
+    sim.picture.surface.show(sim.picture.stationReadout, false);
     sim.picture.surface.show(sim.picture.help, false);
     hideHeadingLine();
     hideWindLine();
@@ -95,6 +102,38 @@ void ChartMouse::hideWindLine() {
         sim.picture.surface.show(*line, false);
     for (Label* label : {&wind.name, &wind.direction, &wind.speed})
         sim.picture.surface.show(*label, false);
+}
+
+std::optional<Slot> ChartMouse::stationAt(Point at) const {
+    if (sim.c_mapedit != 1)
+        return {};
+    for (std::size_t i = 0; i < slotCount; ++i)
+        if (sim.picture.symbols[i].visible && sim.picture.symbols[i].area.contains(at))
+            return static_cast<Slot>(i);
+    return {};
+}
+
+/// The symbol's centre follows the pointer. The bearings are those of the dragged station from each
+/// other one.
+void ChartMouse::dragStation(Point at) {
+    static constexpr const char* tags[] = {"(VOR1)", "(VOR2)", " (NDB1)", " (NDB2)", " (LOC1)"};
+    const auto dragged = static_cast<std::size_t>(*draggedStation);
+    sim.placeStation(*draggedStation, rounded(at, sim.picture.size));
+    const Point from = sim.stations[dragged].place.wide;
+    std::string text;
+    for (std::size_t i = 0; i < slotCount; ++i) {
+        if (i == dragged)
+            continue;
+        const Point to = sim.stations[i].place.wide;
+        const Polar polar = polarOf(to.x - from.x, from.y - to.y, sim.view.plot.mapScaleTwips);
+        const double bearing = polar.course < 180 ? polar.course + 180 : polar.course - 180;
+        text += (text.empty() ? "" : "\n") + numberText(roundTo(polar.distance, 1)) + "NM " +
+                numberText(std::floor(bearing)) + "°" + tags[i];
+    }
+    DrawingSurface& surface = sim.picture.surface;
+    surface.set(sim.picture.stationReadout.caption, text);
+    surface.place(sim.picture.stationReadout, {at.x + labelGap, at.y + labelGap});
+    surface.show(sim.picture.stationReadout, true);
 }
 
 void ChartMouse::place(Point at) {

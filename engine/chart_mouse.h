@@ -1,9 +1,11 @@
 #pragma once
 
 #include "core/drawing_surface.h"
+#include "core/stations.h"
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 
 namespace tarnel {
 
@@ -12,8 +14,8 @@ class UserControl2;
 enum class ChartButton { left, right, other };
 
 /// The mouse on the chart: it places the aircraft, turns it with the heading tool, or draws the
-/// wind. It acts only in the north-up view; all but the wind only while the simulation stands
-/// still.
+/// wind; while charts are edited it drags the stations. It acts only in the north-up view; all but
+/// the wind only while the simulation stands still.
 class ChartMouse {
   public:
     explicit ChartMouse(UserControl2& simulation) : sim(simulation) {}
@@ -25,6 +27,9 @@ class ChartMouse {
     void up();
     /// Puts every tool away and hides what they show.
     void cancel();
+
+    /// The station whose symbol lies at a chart position, while charts are edited.
+    [[nodiscard]] std::optional<Slot> stationAt(Point at) const;
 
     /// The next press begins the wind line: from where it starts the wind comes, 100 twips are 2
     /// kt.
@@ -46,6 +51,7 @@ class ChartMouse {
     void place(Point at);
     void showWindLine(Point at);
     void drawWind(Point at);
+    void dragStation(Point at);
     void hideHeadingLine();
     void hideWindLine();
 
@@ -55,6 +61,7 @@ class ChartMouse {
     bool headingDragging = false;
     bool windDragging = false;
     Point windStart;
+    std::optional<Slot> draggedStation;
 };
 
 } // namespace tarnel

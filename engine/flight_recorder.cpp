@@ -98,6 +98,12 @@ void UserControl2::markFreshStart() {
     c_TraceBufferMax.publish(1);
 }
 
+/// A recording that has not begun shows the chart as it stands now.
+void UserControl2::renewFirstSample() {
+    if (resumeMode == ResumeMode::clear)
+        markFreshStart();
+}
+
 void UserControl2::freshRecording() {
     recording.clear();
     clock = FlightClock{};

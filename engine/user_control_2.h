@@ -65,6 +65,8 @@ class UserControl2 {
     void openSession(const std::string& path);
     /// Saves the flight as it was recorded. Throws what `saveFileBytes` throws.
     void saveSessionTo(const std::string& path);
+    /// Moves a station to a chart position; its label and radials follow.
+    void placeStation(Slot which, ChartPoint point);
     /// Switches a station and its DME; with both off its button comes up.
     void switchStation(Slot which, bool stationOn, bool dmeOn);
     /// Sets the wind of the whole chart by hand; a switched-on wind is this one from now on.
@@ -183,6 +185,10 @@ class UserControl2 {
     Property<std::int16_t> c_TrackDelta{properties, "c_TrackDelta", 0,
                                         [this] { showPracticePanel(); }};
 
+    // Chart editing: 1 lets the mouse drag stations; comments lose their marks.
+    Property<std::int16_t> c_mapedit{properties, "c_mapedit", 0, [this] { switchEditing(); }};
+    Property<std::int16_t> c_EditChart{properties, "c_EditChart"};
+
     // Files. 1 asks the user for a name, 2 takes the present one, 3 is the temporary session in
     // `c_ScratchPath`; each goes back to 0. A save by the present name asks too unless the user
     // picked it. `c_doEncrypt` other than 0 writes enciphered files.
@@ -233,6 +239,7 @@ class UserControl2 {
     void switchClock();
     void switchView();
     void resizeChart();
+    void switchEditing();
     void centreOn(const SplitPosition& centre);
     void resetStopwatch();
     void publishStopwatch();
@@ -247,6 +254,7 @@ class UserControl2 {
     [[nodiscard]] Sample presentSample() const;
     void copySettings(Sample& sample) const;
     void freshRecording();
+    void renewFirstSample();
     void compareWithReference(std::int16_t index);
     void showComment(std::int16_t index);
 

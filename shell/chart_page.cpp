@@ -11,6 +11,7 @@ void Form1::connectChartPage() {
     chartPage.trace.onClick = [this] { applyTrace(); };
     chartPage.vectors.onClick = [this] { setVectorMode(chartPage.vectors.value()); };
     chartPage.hide.onClick = [this] { setHidden(chartPage.hide.value() == 1); };
+    stationPage.edit.onClick = [this] { setEditing(stationPage.edit.value() == 1); };
     for (std::size_t i = 0; i < slotCount; ++i) {
         const StationPage::Switches switches = stationPage.switches()[i];
         for (CheckBox* box : {switches.station, switches.dme})
@@ -34,6 +35,17 @@ void Form1::setScale(std::int16_t twipsPerMile) {
 
 void Form1::setNorthUp(bool northUp) {
     UserControl11.c_MAPnorthUP.setIfChanged(northUp ? 1 : 0);
+}
+
+/// Editing happens at rest, with north at the top.
+void Form1::setEditing(bool editing) {
+    if (editing) {
+        StopReplay();
+        setNorthUp(true);
+        commentPanel.startStop.setCaption(Text::commentStart);
+    }
+    UserControl11.c_mapedit = editing ? 1 : 0;
+    showCommentNumber();
 }
 
 void Form1::switchStation(std::size_t index) {

@@ -11,6 +11,7 @@
 #include "shell/instrument_feed.h"
 #include "shell/instrument_position.h"
 #include "shell/outside_world.h"
+#include "shell/station_editor.h"
 #include "shell/strip_controls.h"
 #include "strings/string_table.h"
 
@@ -52,6 +53,10 @@ class Form1 : private SimulationMessages {
     void SwitchInst3(bool large) { resizeInstrument(inst3, large); }
     void StopFly();
     void StopReplay();
+    /// What the station editor starts with.
+    [[nodiscard]] StationEdit stationToEdit(Slot slot) const;
+    /// Takes the editor's values. False, with a box, if the frequency is wrong.
+    bool applyStationEdit(const StationEdit& edit);
     /// Opens a session that the user picked outside the menus, as the menu does.
     void openSession(const std::string& path);
     /// Does what a letter on the status panels stands for: M, P, H, T, V, W or R. False for others.
@@ -223,6 +228,7 @@ class Form1 : private SimulationMessages {
     void applyTrace();
     void setVectorMode(int mode);
     void applyVectors();
+    void setEditing(bool editing);
     void switchStation(std::size_t index);
     void cycleWind();
     void startReplay();

@@ -15,6 +15,7 @@ void Form1::startFlight() {
     StopReplay();
     simStopped = 0;
     replayPage.lock.set(0);
+    stationPage.edit.set(0);
     startButton.setCaption(Text::stopSim);
     startButton.setTip(Text::stopSimTip);
     enableResting(false);
@@ -40,7 +41,7 @@ void Form1::stopFlight() {
 void Form1::enableResting(bool resting) {
     for (FormControl* control :
          std::initializer_list<FormControl*>{&replayPage.play, &replayPage.stop, &replayPage.loop,
-                                             &replayPage.lock, &replayPage.bar})
+                                             &replayPage.lock, &replayPage.bar, &stationPage.edit})
         control->setEnabled(resting);
     replayPage.bar.setVisible(resting);
     if (!resting)
