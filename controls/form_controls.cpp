@@ -34,6 +34,13 @@ void OptionButton::choose() {
         onClick();
 }
 
+void OptionButton::clear() {
+    if (!chosen())
+        return;
+    group.chosen = nullptr;
+    touch();
+}
+
 void OptionButton::click() {
     if (enabled() && visible())
         choose();

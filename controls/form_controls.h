@@ -105,6 +105,8 @@ class OptionButton : public FormControl {
     std::function<void()> onClick;
     [[nodiscard]] bool chosen() const { return group.chosen == this; }
     void choose();
+    /// Takes the choice back; no handler runs.
+    void clear();
     /// The user's click.
     void click();
 
