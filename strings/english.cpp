@@ -605,6 +605,15 @@ constexpr StringEntry entries[] = {
     // Read-outs and dialogs of the flight.
     {727, "Turn"},
     {728, "°/s"},
+
+    // Study files.
+    {761, "min.sec"},
+    {762, "The study file can't be read: "},
+    {763, "There are no questions in the study file: "},
+    {764, "The study file ends within a question, which is left out: "},
+    {765, "The study file has more than 301 questions; the others are left out: "},
+    {766, "question"},
+    {767, "line"},
 };
 
 } // namespace

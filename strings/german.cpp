@@ -609,6 +609,15 @@ constexpr StringEntry entries[] = {
     // Read-outs and dialogs of the flight.
     {727, "Drehrate"},
     {728, "°/s"},
+
+    // Study files.
+    {761, "min.sec"},
+    {762, "Die Übungsdatei kann nicht gelesen werden: "},
+    {763, "In der Übungsdatei stehen keine Fragen: "},
+    {764, "Die Übungsdatei endet mitten in einer Frage, die daher fehlt: "},
+    {765, "Die Übungsdatei hat mehr als 301 Fragen; die weiteren fehlen: "},
+    {766, "Frage"},
+    {767, "Zeile"},
 };
 
 } // namespace

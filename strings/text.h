@@ -560,6 +560,15 @@ enum class Text : int {
     // Read-outs and dialogs of the flight.
     turnRate = 727,
     unitDegreesPerSecond = 728,
+
+    // Study files.
+    unitMinutesSeconds = 761,
+    studyUnreadable = 762,
+    studyWithoutQuestions = 763,
+    studyEndsInQuestion = 764,
+    studyTooLong = 765,
+    studyQuestion = 766,
+    studyLine = 767,
 };
 
 } // namespace tarnel
