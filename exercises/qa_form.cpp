@@ -21,9 +21,9 @@ void unfold(ExercisePanel& panel) {
 } // namespace
 
 QAform::QAform(FormState& form, ExerciseSurroundings surroundings)
-    : texts(surroundings.texts),
+    : statistics(surroundings.settings),
+      texts(surroundings.texts),
       readFile(std::move(surroundings.readFile)),
-      statistics(surroundings.settings),
       draw(std::move(surroundings.seed)) {
     for (std::size_t i = 0; i < panelCount; ++i) {
         panels[i] = std::make_unique<ExercisePanel>(form, panelWidgets()[i]);
