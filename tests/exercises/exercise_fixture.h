@@ -5,8 +5,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <initializer_list>
 #include <map>
+#include <optional>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -41,7 +44,7 @@ class ExerciseTest : public ::testing::Test {
         std::string bytes;
         for (const StudyRecord& record : records)
             bytes += writeStudyRecord(record, type);
-        files[studyPath(studyFileNames(*exerciseOf(type), table->isGerman()).front())] = bytes;
+        files[studyPath(studyFileNames(*exerciseOf(type), true).front())] = bytes;
         set(type);
     }
     void start(int type, Columns columns) { start(type, {recordOf(columns)}); }
@@ -95,16 +98,16 @@ class ExerciseTest : public ::testing::Test {
     FormState state;
     CountingStore store;
     std::map<std::string, std::string> files;
-    const StringTable* table = &germanTable();
     std::uint32_t seed = 20;
-    QAform form{state,
-                {germanTable(), store,
-                 [this](const std::string& path) -> std::optional<std::string> {
-                     const auto found = files.find(path);
-                     return found == files.end() ? std::nullopt : std::optional(found->second);
-                 },
-                 [this] { return seed; }}};
+    QAform form{state, surroundings(germanTable())};
 
+    ExerciseSurroundings surroundings(const StringTable& texts) {
+        const auto readFile = [this](const std::string& path) -> std::optional<std::string> {
+            const auto found = files.find(path);
+            return found == files.end() ? std::nullopt : std::optional(found->second);
+        };
+        return {texts, store, readFile, [this] { return seed; }};
+    }
     void SetUp() override { form.c_MainAppPath = "app"; }
 };
 
