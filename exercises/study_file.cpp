@@ -17,11 +17,12 @@ struct TaggedColumn {
     std::string_view tag;
 };
 
+/// First come prompts, told by their tags, in any order and each as often as wanted; then lines
+/// that count by their place, whatever their tags.
 struct StudyLayout {
     std::vector<int> types;
-    std::vector<TaggedColumn>
-        prompts;                     ///< told by their tags, in any order, each as often as wanted
-    std::vector<TaggedColumn> lines; ///< then these, each in its place whatever its tag
+    std::vector<TaggedColumn> prompts;
+    std::vector<TaggedColumn> lines;
 };
 
 const std::vector<StudyLayout>& layouts() {
