@@ -169,8 +169,8 @@ void QAform::requestSession() {
 }
 
 void QAform::judge(ExercisePanel& panel, int row, int option) {
-    const ExerciseSpec* spec = running();
-    if (!spec || !questionLive || exercise->isShut(row, answerGiven))
+    if (&panel != activePanel() || !questionLive || row >= exercise->rowCount() ||
+        exercise->isShut(row, answerGiven))
         return;
     AnswerRow& asked = *panel.rows[static_cast<std::size_t>(row)];
     const bool right = exercise->isRight({row, option, asked.typed()});
@@ -179,7 +179,7 @@ void QAform::judge(ExercisePanel& panel, int row, int option) {
     exercise->useUp(row, answerGiven);
     asked.judge(right, right ? exercise->rightAnswer(row) : std::string(texts[Text::answerWrong]));
     if (exercise->canFinish(row) && allRight())
-        c_showResult.publish(spec->solvedCode);
+        c_showResult.publish(running()->solvedCode);
 }
 
 bool QAform::allRight() const {
@@ -188,11 +188,10 @@ bool QAform::allRight() const {
 }
 
 void QAform::showSolution(ExercisePanel& panel) {
-    const ExerciseSpec* spec = running();
-    if (!spec)
+    if (&panel != activePanel())
         return;
     endFlight();
-    c_showResult.publish(spec->solutionCode);
+    c_showResult.publish(running()->solutionCode);
     if (panel.folds())
         panel.frame.setHeight(foldedPanelHeight);
     panel.reveal(*exercise);
@@ -201,7 +200,7 @@ void QAform::showSolution(ExercisePanel& panel) {
 void QAform::flyQuestion(ExercisePanel& panel) {
     constexpr std::int16_t trackDelta = 3;
     constexpr std::int16_t studentFlies = 4;
-    if (!running())
+    if (&panel != activePanel())
         return;
     c_QAFly.publish(panel.flyCode);
     c_TrackDelta.publish(trackDelta);

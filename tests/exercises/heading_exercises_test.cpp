@@ -168,6 +168,9 @@ TEST_F(HeadingExercisesTest, TheFourthRowIsGoneInADmeArcAndBackInAHolding) {
     start(9, many({{ans1, "left"}, {ans2, "10"}, {ans3, "20"}}));
     EXPECT_FALSE(label("Label5").visible());
     EXPECT_FALSE(option("Option14").visible());
+    option("Option14").choose();
+    option("Option46").choose();
+    EXPECT_FALSE(label("Label11").visible()) << "nor is a click from elsewhere judged";
     click("Option13");
     EXPECT_TRUE(wrong("Label8"));
     click("Command27");
