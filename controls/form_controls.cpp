@@ -40,6 +40,13 @@ void OptionButton::show() {
     touch();
 }
 
+void OptionButton::clear() {
+    if (!chosen())
+        return;
+    group.chosen = nullptr;
+    touch();
+}
+
 void OptionButton::click() {
     if (enabled() && visible())
         choose();

@@ -110,6 +110,8 @@ class OptionButton : public FormControl {
     void choose();
     /// Shows a choice that came about elsewhere, without the handler.
     void show();
+    /// Takes the choice back; no handler runs.
+    void clear();
     /// The user's click.
     void click();
 

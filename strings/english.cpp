@@ -612,6 +612,15 @@ constexpr StringEntry entries[] = {
     {733, "the line behind a sample"},
     {734, "no more than 101 comments"},
     {735, "no more than 6000 samples"},
+
+    // Study files.
+    {761, "min.sec"},
+    {762, "The study file can't be read: "},
+    {763, "There are no questions in the study file: "},
+    {764, "The study file ends within a question, which is left out: "},
+    {765, "The study file has more than 301 questions; the others are left out: "},
+    {766, "question"},
+    {767, "line"},
     // Wind, comments and reference.
     {801, "Draw"},
     {802, "All 101 comments are taken. Delete one, or step back and write one anew."},

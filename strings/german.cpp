@@ -616,6 +616,15 @@ constexpr StringEntry entries[] = {
     {733, "die Zeile hinter einem Messpunkt"},
     {734, "höchstens 101 Kommentare"},
     {735, "höchstens 6000 Messpunkte"},
+
+    // Study files.
+    {761, "min.sec"},
+    {762, "Die Übungsdatei kann nicht gelesen werden: "},
+    {763, "In der Übungsdatei stehen keine Fragen: "},
+    {764, "Die Übungsdatei endet mitten in einer Frage, die daher fehlt: "},
+    {765, "Die Übungsdatei hat mehr als 301 Fragen; die weiteren fehlen: "},
+    {766, "Frage"},
+    {767, "Zeile"},
     // Wind, comments and reference.
     {801, "Zeichnen"},
     {802, "Alle 101 Kommentare sind belegt. Löschen Sie einen, oder blättern Sie zurück und "

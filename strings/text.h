@@ -570,6 +570,15 @@ enum class Text : int {
     expectedNoFurtherComment = 734,
     expectedNoFurtherSample = 735,
 
+    // Study files.
+    unitMinutesSeconds = 761,
+    studyUnreadable = 762,
+    studyWithoutQuestions = 763,
+    studyEndsInQuestion = 764,
+    studyTooLong = 765,
+    studyQuestion = 766,
+    studyLine = 767,
+
     // Wind, comments and reference.
     windDraw = 801,
     commentTableFull = 802,

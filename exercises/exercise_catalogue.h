@@ -1,0 +1,37 @@
+#pragma once
+
+#include "exercises/exercise.h"
+#include "exercises/panel_widgets.h"
+#include "exercises/question_draw.h"
+
+#include <memory>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace tarnel {
+
+/// What stands for an exercise outside its questions.
+struct ExerciseSpec {
+    std::int16_t type; ///< the value of `c_QAtype`
+    PanelId panel;
+    std::string_view studyFile; ///< the German one; others have "e-" before the name
+    bool studyFileForAll;       ///< the German file serves where the other is missing
+    Text title;
+    std::string_view statisticStem;
+    std::int16_t solvedCode;   ///< `c_showResult` once all is right
+    std::int16_t solutionCode; ///< `c_showResult` when the solution is asked for
+    bool startsAtRandom;
+    std::unique_ptr<Exercise> (*make)(const StringTable& texts, QuestionDraw& draw);
+};
+
+/// The exercises, types 1 to 10.
+[[nodiscard]] std::span<const ExerciseSpec> exerciseCatalogue();
+
+/// The exercise of `type`, or null.
+[[nodiscard]] const ExerciseSpec* exerciseOf(int type);
+
+/// The names of its study file, the one to be preferred first.
+[[nodiscard]] std::vector<std::string> studyFileNames(const ExerciseSpec& exercise, bool german);
+
+} // namespace tarnel

@@ -1,0 +1,74 @@
+#include "exercises/exercise_panel.h"
+
+namespace tarnel {
+
+ExercisePanel::ExercisePanel(FormState& form, const PanelWidgets& widgets)
+    : flyCode(widgets.flyCode),
+      frame(form, widgets.frame),
+      statisticBox(form, widgets.statisticBox, Text::statistics),
+      statistic(form, widgets.statistic),
+      notice(form, widgets.notice),
+      task(form, widgets.task),
+      nextButton(form, widgets.next, Text::nextQuestion),
+      solutionButton(form, widgets.solution, Text::showSolution),
+      flyButton(form, widgets.fly, Text::flyYourself),
+      cancelButton(form, widgets.cancel, Text::cancel),
+      randomBox(form, widgets.random, Text::randomOrder) {
+    for (const RowWidgets& row : widgets.rows)
+        rows.push_back(std::make_unique<AnswerRow>(form, row));
+    frame.setVisible(false);
+    frame.setHeight(panelHeight);
+    task.setColours(restingColours);
+    notice.setColours(restingColours);
+    notice.setVisible(false);
+    for (FormControl* control : controls())
+        if (control->name().empty())
+            control->setVisible(false);
+}
+
+void ExercisePanel::ask(const Exercise& exercise) {
+    task.setText(exercise.task());
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        const int row = static_cast<int>(i);
+        if (row < exercise.rowCount())
+            rows[i]->ask(exercise.prompt(row), exercise.offers(row));
+        else
+            rows[i]->hide();
+    }
+    setAnswerable(true);
+}
+
+void ExercisePanel::reveal(const Exercise& exercise) {
+    for (int row = 0; row < exercise.rowCount(); ++row)
+        rows[static_cast<std::size_t>(row)]->reveal(exercise.solution(row));
+}
+
+void ExercisePanel::clear() {
+    task.setText({});
+    statistic.setText({});
+    for (const auto& row : rows)
+        row->hide();
+    setAnswerable(false);
+}
+
+void ExercisePanel::setNotice(const std::string& message) {
+    notice.setText(message);
+    notice.setVisible(!message.empty());
+}
+
+void ExercisePanel::setAnswerable(bool answerable) {
+    solutionButton.setEnabled(answerable);
+    flyButton.setEnabled(answerable);
+}
+
+std::vector<FormControl*> ExercisePanel::controls() {
+    std::vector<FormControl*> all = {&frame, &statisticBox, &statistic, &notice, &task};
+    for (const auto& row : rows) {
+        const std::vector<FormControl*> widgets = row->controls();
+        all.insert(all.end(), widgets.begin(), widgets.end());
+    }
+    all.insert(all.end(), {&solutionButton, &flyButton, &nextButton, &cancelButton, &randomBox});
+    return all;
+}
+
+} // namespace tarnel

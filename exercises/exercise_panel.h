@@ -1,0 +1,50 @@
+#pragma once
+
+#include "controls/form_frame.h"
+#include "exercises/answer_row.h"
+#include "exercises/exercise.h"
+
+namespace tarnel {
+
+/// The height of a panel in twips.
+constexpr std::int16_t panelHeight = 4250;
+constexpr std::int16_t foldedPanelHeight = 1100;
+
+/// One of the five frames: title, statistic, task, sub-questions and buttons. What it asks comes
+/// from an `Exercise`. A widget that the frame lacks stays invisible.
+class ExercisePanel {
+  public:
+    ExercisePanel(FormState& form, const PanelWidgets& widgets);
+
+    /// Poses the question that `exercise` has taken. Rows that it does not have are hidden.
+    void ask(const Exercise& exercise);
+    /// Shows the solution of every sub-question.
+    void reveal(const Exercise& exercise);
+    /// Shows no question; it can only be passed or left.
+    void clear();
+    /// Tells `message` in place of a question or above it; nothing if it is empty.
+    void setNotice(const std::string& message);
+
+    /// Whether the panel folds to its small height when the student watches or flies.
+    [[nodiscard]] bool folds() const { return flyCode != 0; }
+    /// All widgets, in the order of the keyboard.
+    [[nodiscard]] std::vector<FormControl*> controls();
+
+    const std::int16_t flyCode; ///< `c_QAFly` while the panel's question is flown; 0 never
+    FormFrame frame;
+    FormFrame statisticBox;
+    TextPanel statistic;
+    ColourLabel notice; ///< what is wrong with the study file, in place of a question or above it
+    ColourLabel task;
+    std::vector<std::unique_ptr<AnswerRow>> rows;
+    CommandButton nextButton;
+    CommandButton solutionButton;
+    CommandButton flyButton;
+    CommandButton cancelButton;
+    CheckBox randomBox;
+
+  private:
+    void setAnswerable(bool answerable);
+};
+
+} // namespace tarnel

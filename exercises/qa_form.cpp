@@ -1,0 +1,273 @@
+#include "exercises/qa_form.h"
+
+#include "core/number_text.h"
+#include "exercises/val_str.h"
+
+#include <algorithm>
+
+namespace tarnel {
+
+namespace {
+
+/// The negated `c_QAFly` that unfolds the panel for ADF positions. Nothing sets it; the others go
+/// by their panel's code.
+constexpr std::int16_t adfFlightEnded = -5;
+
+void unfold(ExercisePanel& panel) {
+    panel.frame.setVisible(true);
+    panel.frame.setHeight(panelHeight);
+}
+
+} // namespace
+
+QAform::QAform(FormState& form, ExerciseSurroundings surroundings)
+    : statistics(surroundings.settings),
+      texts(surroundings.texts),
+      readFile(std::move(surroundings.readFile)),
+      draw(std::move(surroundings.seed)) {
+    for (std::size_t i = 0; i < panelCount; ++i) {
+        panels[i] = std::make_unique<ExercisePanel>(form, panelWidgets()[i]);
+        connect(*panels[i]);
+    }
+    for (const auto& row : panel(PanelId::frame1).rows)
+        row->prompt.setColours({0, 0x808080});
+}
+
+void QAform::connect(ExercisePanel& panel) {
+    panel.nextButton.onClick = [this] { next(); };
+    panel.solutionButton.onClick = [this, &panel] { showSolution(panel); };
+    panel.flyButton.onClick = [this, &panel] { flyQuestion(panel); };
+    panel.cancelButton.onClick = [this] { cancel(); };
+    for (std::size_t row = 0; row < panel.rows.size(); ++row)
+        panel.rows[row]->onPick = [this, &panel, row](int option) {
+            judge(panel, static_cast<int>(row), option);
+        };
+}
+
+const ExerciseSpec* QAform::running() const {
+    return exercise ? exerciseOf(c_QAtype) : nullptr;
+}
+
+ExercisePanel* QAform::activePanel() {
+    const ExerciseSpec* spec = running();
+    return spec ? &panel(spec->panel) : nullptr;
+}
+
+FormControl* QAform::find(std::string_view name) {
+    for (const auto& panel : panels)
+        for (FormControl* control : panel->controls())
+            if (control->name() == name)
+                return control;
+    return nullptr;
+}
+
+std::string QAform::inApplicationFolder(std::string_view path) const {
+    std::string folder = c_MainAppPath;
+    if (!folder.ends_with('\\') && !folder.ends_with('/'))
+        folder += '\\';
+    return folder.append(path);
+}
+
+void QAform::New_c_QAtype() {
+    if (const ExerciseSpec* spec = exerciseOf(c_QAtype))
+        start(*spec);
+    else if (c_QAtype != -1)
+        DisplayQuestion();
+}
+
+void QAform::start(const ExerciseSpec& spec) {
+    endFlight();
+    exercise = spec.make(texts, draw);
+    for (const auto& other : panels)
+        other->frame.setVisible(false);
+    ExercisePanel& shown = panel(spec.panel);
+    unfold(shown);
+    c_smallFrame = false;
+    if (spec.startsAtRandom)
+        shown.randomBox.set(1);
+    loadStudyFileOf(spec);
+    draw.shuffle(lastQuestion);
+    questionIndex = -1;
+    shuffleCursor = 0;
+    DisplayQuestion();
+}
+
+void QAform::loadStudyFileOf(const ExerciseSpec& spec) {
+    for (const std::string& name : studyFileNames(spec, texts.isGerman())) {
+        LoadStudyFile(name);
+        if (study.end != StudyEnd::unreadable)
+            return;
+    }
+}
+
+void QAform::LoadStudyFile(const std::string& name) {
+    const auto bytes = readFile(inApplicationFolder("default\\study\\" + name));
+    study = bytes ? readStudyFile(*bytes, c_QAtype) : StudyFile{{}, StudyEnd::unreadable, 0, 0};
+    lastQuestion = static_cast<std::int16_t>(study.records.size()) - 1;
+    questionIndex = lastQuestion;
+    remark = studyRemark(name);
+}
+
+std::string QAform::studyRemark(const std::string& name) const {
+    const auto about = [&](Text what) { return std::string(texts[what]) + name; };
+    const std::string place = " (" + std::string(texts[Text::studyQuestion]) + Str(study.record) +
+                              ", " + std::string(texts[Text::studyLine]) + Str(study.line) + ")";
+    switch (study.end) {
+    case StudyEnd::unreadable:
+        return about(Text::studyUnreadable);
+    case StudyEnd::insideRecord:
+        return about(Text::studyEndsInQuestion) + place;
+    case StudyEnd::tooManyRecords:
+        return about(Text::studyTooLong) + place;
+    case StudyEnd::complete:
+        break;
+    }
+    return study.records.empty() ? about(Text::studyWithoutQuestions) : std::string();
+}
+
+void QAform::DisplayQuestion() {
+    answerRight.fill(0);
+    answerGiven.fill(0);
+    const ExerciseSpec* spec = running();
+    if (!spec)
+        return;
+    questionLive = false;
+    exerciseTitle = texts[spec->title];
+    ExercisePanel& shown = panel(spec->panel);
+    shown.clear();
+    shown.frame.setText(exerciseTitle);
+    shown.setNotice(remark);
+    c_QASessionFileName.publish({});
+    if (!study.records.empty())
+        poseQuestion(*spec, shown);
+}
+
+void QAform::poseQuestion(const ExerciseSpec& spec, ExercisePanel& shown) {
+    stepQuestion(shown.randomBox.value() == 1);
+    shown.frame.setText(exerciseTitle + " (" + Str(questionIndex + 1) + " " +
+                        std::string(texts[Text::of]) + " " +
+                        numberText(std::int64_t{lastQuestion + 1}) + ")");
+    shown.statistic.setText(statisticLine(statistics.of(spec.statisticStem), texts));
+    exercise->take(currentRecord());
+    shown.ask(*exercise);
+    requestSession();
+    questionLive = true;
+}
+
+void QAform::stepQuestion(bool atRandom) {
+    std::int16_t& counter = atRandom ? shuffleCursor : questionIndex;
+    ++counter;
+    if (counter > lastQuestion)
+        counter = 0;
+    if (atRandom)
+        questionIndex = static_cast<std::int16_t>(draw.question(shuffleCursor));
+}
+
+void QAform::requestSession() {
+    c_QASessionFileName.publish(
+        inApplicationFolder("default\\sessions\\" + currentRecord()[StudyColumn::sessionName]));
+}
+
+void QAform::judge(ExercisePanel& panel, int row, int option) {
+    if (&panel != activePanel() || !questionLive || row >= exercise->rowCount() ||
+        exercise->isShut(row, answerGiven))
+        return;
+    AnswerRow& asked = *panel.rows[static_cast<std::size_t>(row)];
+    const bool right = exercise->isRight({row, option, asked.typed()});
+    if (right)
+        answerRight[static_cast<std::size_t>(row)] = -1;
+    exercise->useUp(row, answerGiven);
+    asked.judge(right, right ? exercise->rightAnswer(row) : std::string(texts[Text::answerWrong]));
+    if (exercise->canFinish(row) && allRight())
+        c_showResult.publish(running()->solvedCode);
+}
+
+bool QAform::allRight() const {
+    return std::all_of(answerRight.begin(), answerRight.begin() + exercise->rowCount(),
+                       [](std::int16_t flag) { return flag != 0; });
+}
+
+void QAform::showSolution(ExercisePanel& panel) {
+    if (&panel != activePanel())
+        return;
+    endFlight();
+    c_showResult.publish(running()->solutionCode);
+    if (panel.folds())
+        panel.frame.setHeight(foldedPanelHeight);
+    panel.reveal(*exercise);
+}
+
+void QAform::flyQuestion(ExercisePanel& panel) {
+    constexpr std::int16_t trackDelta = 3;
+    constexpr std::int16_t studentFlies = 4;
+    if (&panel != activePanel())
+        return;
+    c_QAFly.publish(panel.flyCode);
+    c_TrackDelta.publish(trackDelta);
+    c_showResult.publish(studentFlies);
+    panel.frame.setVisible(true);
+    panel.frame.setHeight(foldedPanelHeight);
+}
+
+/// Ends the student's flight as the way back to the exercise does.
+void QAform::endFlight() {
+    if (c_QAFly <= 0)
+        return;
+    c_TrackDelta.publish(0);
+    c_QAFly = static_cast<std::int16_t>(-c_QAFly);
+}
+
+void QAform::New_c_QAFly() {
+    if (c_QAFly >= 0)
+        return;
+    for (const auto& flown : panels)
+        if (c_QAFly == -flown->flyCode)
+            unfold(*flown);
+    if (c_QAFly == adfFlightEnded)
+        unfold(panel(PanelId::frame11));
+    if (running() && questionLive)
+        requestSession();
+}
+
+void QAform::fold(bool small) {
+    for (const PanelId id : {PanelId::frame29, PanelId::frame11, PanelId::frame2, PanelId::frame20})
+        panel(id).frame.setHeight(small ? foldedPanelHeight : panelHeight);
+}
+
+void QAform::next() {
+    constexpr std::int16_t nextQuestion = 2;
+    const ExerciseSpec* spec = running();
+    if (!spec)
+        return;
+    endFlight();
+    countAnswer(*spec);
+    c_showResult.publish(nextQuestion);
+    c_smallFrame = false;
+    DisplayQuestion();
+}
+
+/// Counts the question if anything was answered. One that was not all right comes again, unless the
+/// order is random.
+void QAform::countAnswer(const ExerciseSpec& spec) {
+    if (std::ranges::all_of(answerGiven, [](std::int16_t flag) { return flag == 0; }))
+        return;
+    const bool right = allRight();
+    statistics.count(spec.statisticStem, questionIndex, lastQuestion, right);
+    if (!right)
+        --questionIndex;
+}
+
+void QAform::cancel() {
+    endFlight();
+    questionLive = false;
+    c_QASessionFileName.publish({});
+    c_showResult.publish(0);
+    c_QAtype.publish(0);
+}
+
+void QAform::LoadPowerTip() {
+    if (showPowerTips)
+        showPowerTips(inApplicationFolder("pwr.rtf"));
+}
+
+} // namespace tarnel

@@ -1,0 +1,116 @@
+#pragma once
+
+#include "core/property.h"
+#include "exercises/exercise_catalogue.h"
+#include "exercises/exercise_panel.h"
+#include "exercises/question_draw.h"
+#include "exercises/statistics.h"
+#include "exercises/study_file.h"
+
+#include <memory>
+#include <optional>
+
+namespace tarnel {
+
+/// The bytes of a file; nothing if it can't be read. The path has "\" between the folders.
+using FileReader = std::function<std::optional<std::string>(const std::string& path)>;
+
+/// What the exercises need from outside.
+struct ExerciseSurroundings {
+    const StringTable& texts;
+    SettingsStore& settings;
+    FileReader readFile;
+    SeedSource seed;
+};
+
+/// `QAform`: the quiz over ten exercises: it asks the questions of a study file, judges, counts and
+/// reveals. It does nothing to the flight itself: what a question needs of it is left in the
+/// properties, which the main tick polls.
+class QAform {
+  public:
+    /// `form` counts the changes of all panels.
+    QAform(FormState& form, ExerciseSurroundings surroundings);
+
+    Statistics statistics;
+
+    PropertyBag properties;
+    /// Setting it to 1 to 10 starts that exercise. 0: the student has left it, -1: closed.
+    Property<std::int16_t> c_QAtype{properties, "c_QAtype", 1, [this] { New_c_QAtype(); }};
+    /// The session to be loaded next; whoever loads it clears the request.
+    Property<std::string> c_QASessionFileName{properties, "c_QASessionFileName"};
+    /// The folder of the study files and sessions.
+    Property<std::string> c_MainAppPath{properties, "c_MainAppPath"};
+    /// A request, cleared by whoever carries it out: 1 replay the solution, 6 the same with the
+    /// replay controls armed, 2 the next question is up, 4 the student flies.
+    Property<std::int16_t> c_showResult{properties, "c_showResult"};
+    /// Above 0 while the student flies the question: the panel's code. Negated when the flight has
+    /// ended: that unfolds the panel and asks for the question's session again, since the flight
+    /// has overwritten it. Going on, leaving and asking for the solution end it so by themselves:
+    /// an aircraft that still flies then is to be stopped.
+    Property<std::int16_t> c_QAFly{properties, "c_QAFly", 0, [this] { New_c_QAFly(); }};
+    /// Folds the panels to the small height, except the one for positions.
+    Property<bool> c_smallFrame{properties, "c_smallFrame", false, [this] { fold(c_smallFrame); }};
+    /// Above 0: the distance of track marks that the student's flight asks for, cleared when taken.
+    Property<std::int16_t> c_TrackDelta{properties, "c_TrackDelta"};
+
+    /// Shows the next question of the running exercise.
+    void DisplayQuestion();
+    /// Reads the study file of that name for the current type. What can't be read is told in the
+    /// panel's notice.
+    void LoadStudyFile(const std::string& name);
+    /// Hands the path of the power tips to `showPowerTips`, if there is such a viewer.
+    void LoadPowerTip();
+    std::function<void(const std::string& path)> showPowerTips;
+
+    [[nodiscard]] ExercisePanel& panel(PanelId id) { return *panels[static_cast<std::size_t>(id)]; }
+    /// The panel of the running exercise; null if none runs.
+    [[nodiscard]] ExercisePanel* activePanel();
+    /// The widget of that name, null if no panel has it.
+    [[nodiscard]] FormControl* find(std::string_view name);
+
+  private:
+    [[nodiscard]] const ExerciseSpec* running() const;
+    [[nodiscard]] std::string inApplicationFolder(std::string_view path) const;
+
+    void New_c_QAtype();
+    void New_c_QAFly();
+    void fold(bool small);
+    void connect(ExercisePanel& panel);
+
+    void start(const ExerciseSpec& spec);
+    void loadStudyFileOf(const ExerciseSpec& spec);
+    [[nodiscard]] std::string studyRemark(const std::string& name) const;
+    void poseQuestion(const ExerciseSpec& spec, ExercisePanel& shown);
+    void stepQuestion(bool atRandom);
+    void requestSession();
+    [[nodiscard]] const StudyRecord& currentRecord() const {
+        return study.records[static_cast<std::size_t>(questionIndex)];
+    }
+
+    void judge(ExercisePanel& panel, int row, int option);
+    [[nodiscard]] bool allRight() const;
+    void showSolution(ExercisePanel& panel);
+    void flyQuestion(ExercisePanel& panel);
+    void endFlight();
+    void next();
+    void countAnswer(const ExerciseSpec& spec);
+    void cancel();
+
+    const StringTable& texts;
+    FileReader readFile;
+    QuestionDraw draw;
+    std::array<std::unique_ptr<ExercisePanel>, panelCount> panels;
+
+    std::unique_ptr<Exercise> exercise; ///< null before the first start
+    StudyFile study;
+    std::string remark; ///< what is wrong with the study file
+    std::int16_t lastQuestion = -1;
+    std::int16_t questionIndex = -1;
+    std::int16_t shuffleCursor = 0;
+    AnswerFlags answerRight{};
+    AnswerFlags answerGiven{};
+    bool questionLive = false; ///< false while a question is being put up
+    std::string exerciseTitle;
+};
+
+} // namespace tarnel
