@@ -40,6 +40,10 @@ std::optional<std::string> UserControl2::nameFor(FileRequest request, std::int16
     return chosen;
 }
 
+void UserControl2::loadByName(const std::string& path) {
+    loadSessionFrom(FileRequest::loadSession, path, fileRequest::byName);
+}
+
 /// Whoever owns the strip brings it to rest; without one the clock alone stops.
 void UserControl2::comeToRest() {
     messages.stopForLoading();
@@ -116,6 +120,7 @@ void UserControl2::applySession(const SessionFile& session) {
         recording.at(i) = session.samples[static_cast<std::size_t>(i) - 1];
     recording.setNewest(count);
     c_TraceBufferMax.publish(count);
+    c_FlyEN.publish(count > 0 ? 1 : 0);
     if (count > 0)
         restoreAll(count);
     else

@@ -63,6 +63,8 @@ class UserControl2 {
     void resetView();
     /// Loads a session that the user picked elsewhere, as his pick in the dialog does.
     void openSession(const std::string& path);
+    /// Loads a session of the program's own: its first sample comes up.
+    void loadByName(const std::string& path);
     /// Saves the flight as it was recorded. Throws what `saveFileBytes` throws.
     void saveSessionTo(const std::string& path);
     /// Moves a station to a chart position; its label and radials follow.

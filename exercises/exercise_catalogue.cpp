@@ -73,6 +73,11 @@ const ExerciseSpec* exerciseOf(int type) {
     return nullptr;
 }
 
+bool asksForPosition(int type) {
+    const ExerciseSpec* exercise = exerciseOf(type);
+    return exercise && (exercise->panel == PanelId::frame1 || exercise->panel == PanelId::frame11);
+}
+
 std::vector<std::string> studyFileNames(const ExerciseSpec& exercise, bool german) {
     const std::string name(exercise.studyFile);
     if (german)

@@ -31,6 +31,13 @@ struct ExerciseSpec {
 /// The exercise of `type`, or null.
 [[nodiscard]] const ExerciseSpec* exerciseOf(int type);
 
+/// Whether the exercise asks for a position: the radio faces would tell it.
+[[nodiscard]] bool asksForPosition(int type);
+
+/// `c_QAtype` besides the exercises' types.
+constexpr std::int16_t exerciseLeft = 0;
+constexpr std::int16_t exerciseClosed = -1;
+
 /// The names of its study file, the one to be preferred first.
 [[nodiscard]] std::vector<std::string> studyFileNames(const ExerciseSpec& exercise, bool german);
 

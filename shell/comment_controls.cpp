@@ -55,7 +55,7 @@ void Form1::showCommentNumber() {
 }
 
 void Form1::showComment() {
-    const std::string& comment = UserControl11.c_CurrentComment;
+    const std::string comment = questionOpen() ? std::string() : UserControl11.c_CurrentComment;
     commentPanel.comment.setVisible(!comment.empty());
     if (!comment.empty())
         commentPanel.comment.setText(comment);

@@ -28,6 +28,7 @@ void Form1::connectFiles() {
 /// An empty session at rest, with everything shown as the strip says.
 void Form1::newSession() {
     StopReplay();
+    practising = false;
     UserControl11.c_TrackDelta = 0;
     replayPage.lock.set(0);
     replayPage.hide.set(0);

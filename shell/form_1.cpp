@@ -4,8 +4,8 @@ namespace tarnel {
 
 Form1::Form1(const StringTable& table, OutsideWorld& world, std::string applicationPath)
     : texts(table),
-      UserControl11(*this),
       outside(world),
+      UserControl11(*this),
       inst2Links{inst2,
                  inst2ChannelButton,
                  inst2TypeList,
@@ -55,6 +55,7 @@ void Form1::connectStrip() {
     rateQuadruple.onClick = [this] { setRate(83); };
     radialCycleButton.onClick = [this] { cycleRadialLines(); };
     connectFiles();
+    connectExercises();
     connectChartPage();
     connectReplay();
     connectWind();

@@ -1,13 +1,16 @@
 #pragma once
 
 #include "controls/form_controls.h"
+#include "controls/form_frame.h"
 #include "core/run_time_error.h"
 #include "engine/user_control_2.h"
+#include "exercises/qa_form.h"
 #include "instruments/ap_control_face.h"
 #include "instruments/dme_control_face.h"
 #include "instruments/radio_face.h"
 #include "instruments/stopwatch_face.h"
 #include "instruments/user_control_1.h"
+#include "shell/exercise_menu.h"
 #include "shell/instrument_feed.h"
 #include "shell/instrument_position.h"
 #include "shell/outside_world.h"
@@ -83,6 +86,11 @@ class Form1 : private SimulationMessages {
     [[nodiscard]] FeedSources feedSources();
     [[nodiscard]] bool simulationRuns() const { return simStopped == 0; }
     [[nodiscard]] bool replayRuns() const { return replayOn != 0; }
+    [[nodiscard]] bool exerciseRuns() const { return exerciseUp; }
+    /// While a question stands open: its answer must not be found by other means.
+    [[nodiscard]] bool questionOpen() const {
+        return exerciseUp && !solutionSeen && QAform1.c_QAFly <= 0;
+    }
     [[nodiscard]] const PositionLinks& links2() const { return inst2Links; }
     [[nodiscard]] const PositionLinks& links3() const { return inst3Links; }
     [[nodiscard]] bool anyInstrumentLarge() const;
@@ -90,6 +98,10 @@ class Form1 : private SimulationMessages {
     const StringTable& texts;
     FormState state;
 
+  private:
+    OutsideWorld& outside;
+
+  public:
     UserControl2 UserControl11;
     InstrumentPosition inst1; ///< the reserve instrument `UserControl12`
     InstrumentPosition inst2; ///< `UserControl13(0)`
@@ -103,9 +115,11 @@ class Form1 : private SimulationMessages {
     DMEControlFace DMEControlFace2;
     APControlFace APControlFace1;
     tvsmtimer tvsmtimer1;
+    QAform QAform1{state, exerciseSurroundings()};
 
     // The control strip.
     CommandButton startButton{state, "Command6", Text::startSim, Text::startSimTip};
+    CommandButton backButton{state, "Command7", Text::backToExercise, Text::backToExerciseTip};
     OptionGroup rateGroup;
     OptionButton rateReal{state, rateGroup, "Option5", Text::realTime, Text::realTimeTip};
     OptionButton rateHalf{state, rateGroup, "Option6", Text::rateHalf, Text::rateHalfTip};
@@ -128,6 +142,7 @@ class Form1 : private SimulationMessages {
     CheckBox floatingGyroBox{state, "FloatingGyro", Text::floatingGyro, Text::floatingGyroTip};
 
     FileMenu fileMenu{state};
+    ExerciseMenu exerciseMenu{state};
 
     // The instrument panel.
     SelectionList inst3TypeList{state, "Combo2", instrumentKinds(), Text::instrument2Selection};
@@ -149,6 +164,8 @@ class Form1 : private SimulationMessages {
     CheckBox inst3RadialBox{state, "Check1", Text::showRadial, Text::showRadialTip};
     CheckBox inst2OverlayBox{state, "Check12", Text::rmiPointer, Text::rmiPointerTip};
     CheckBox inst3OverlayBox{state, "Check10", Text::rmiPointer, Text::rmiPointerTip};
+
+    FormFrame instruments{state, "UserControl13"}; ///< both positions
 
     // The status bar.
     TextPanel sessionPanel{state, "StatusPanel1"};
@@ -179,13 +196,30 @@ class Form1 : private SimulationMessages {
     void setReceiverDefaults();
     void setPanelDefaults();
 
+    // Exercises.
+    void connectExercises();
+    void startExercise(const ExerciseItem& item);
+    void leaveExercise();
+    void endExerciseFlight();
+    ExerciseSurroundings exerciseSurroundings();
+    void rememberShell();
+    void openPractice(const std::string& name, bool practised);
+    void switchFaces(bool active);
+    void showSolution(bool armed);
+    void showNextQuestion();
+    void hideForQuestion();
+    void letStudentFly();
+    void loadQuestionSession();
+
     // The tick, in this order.
     void tick();
     void guardPractiseArea();
     void echoReplayLock();
     void followFrequencies();
     void echoSelectors();
+    void followExerciseFlight();
     void copyReceiverSelections();
+    void followExercise();
     void followInstrumentSelectors();
     void coupleAutopilot();
     void coupleHeadingBug();
@@ -244,8 +278,8 @@ class Form1 : private SimulationMessages {
     void askForSession(Property<std::int16_t>& request);
     void keepPracticeFlight();
     void recallPracticeFlight();
-    void enableResting(bool resting);
-    void enableFileMenus(bool enabled);
+    void restOrFly(bool resting);
+    void enableControls();
     void setLocked(bool locked);
     void toggleStopwatch();
     void resetStopwatch();
@@ -263,7 +297,6 @@ class Form1 : private SimulationMessages {
     void fileWrong(FileRequest request, const std::string& path,
                    const FileProblem& problem) override;
 
-    OutsideWorld& outside;
     PositionLinks inst2Links;
     PositionLinks inst3Links;
     std::int16_t simStopped = 1;
@@ -276,6 +309,17 @@ class Form1 : private SimulationMessages {
     std::int16_t blinkCounter = 0;
     std::int16_t locCourse = 0;
     std::int16_t radialCycle = 0;
+    bool exerciseUp = false; ///< an exercise has taken the shell over
+    bool practising = false; ///< a practice session is loaded
+    struct {
+        OptionButton* rate = nullptr;
+        int trace = 1;
+        int inst2Type = 0;
+        int inst3Type = 0;
+        bool inst2Large = false;
+        int radialShown = 0;
+    } beforeExercise;
+    bool solutionSeen = false; ///< of the question that is up
     bool boxUp = false;
     std::string errorTold; ///< the run-time error that was last told and still lasts
     bool pictureMissingSaid = false;

@@ -4,6 +4,8 @@ namespace tarnel {
 
 /// The letters in brackets on the status panels.
 bool Form1::pressKey(char letter) {
+    if (questionOpen())
+        return false;
     switch (letter) {
     case 'M':
         startButton.click();

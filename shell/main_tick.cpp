@@ -28,10 +28,12 @@ void Form1::tick() {
     guardPractiseArea();
     echoReplayLock();
     followFrequencies();
+    followExerciseFlight();
     UserControl11.c_HDGchanged.setIfChanged(0);
     echoSelectors();
     copyReceiverSelections();
     showWind();
+    followExercise();
     followInstrumentSelectors();
     coupleAutopilot();
     coupleHeadingBug();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "exercises/settings_store.h"
+
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -28,6 +30,11 @@ class OutsideWorld {
     virtual std::optional<std::string> chooseFile(const FileQuestion&) { return {}; }
     /// Where draws by chance start from; a world without a clock lets them go on.
     virtual std::optional<std::uint32_t> clockSeed() { return {}; }
+    /// Where the statistics are kept; without a place of their own they end with the program.
+    virtual SettingsStore& settings() { return memory; }
+
+  private:
+    MemorySettingsStore memory;
 };
 
 } // namespace tarnel

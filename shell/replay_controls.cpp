@@ -38,19 +38,19 @@ void Form1::connectReplay() {
 }
 
 void Form1::startReplay() {
-    startButton.setEnabled(false);
     replaySubStep = 0;
     UserControl11.c_ReplayInterpolation = 0;
     if (replayIndex >= UserControl11.c_TraceBufferMax)
         replayIndex = 0;
     replayOn = -1;
+    enableControls();
 }
 
 void Form1::stopReplay() {
     replaySubStep = 0;
     UserControl11.c_ReplayInterpolation = 0;
     replayOn = 0;
-    startButton.setEnabled(true);
+    enableControls();
 }
 
 void Form1::StopReplay() {

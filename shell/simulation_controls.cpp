@@ -18,7 +18,7 @@ void Form1::startFlight() {
     stationPage.edit.set(0);
     startButton.setCaption(Text::stopSim);
     startButton.setTip(Text::stopSimTip);
-    enableResting(false);
+    restOrFly(false);
     UserControl11.c_TimerEN = 1;
     modePanel.setText(text(Text::panelTraining));
 }
@@ -29,30 +29,43 @@ void Form1::stopFlight() {
     simStopped = 1;
     startButton.setCaption(Text::startSim);
     startButton.setTip(Text::startSimTip);
-    enableResting(true);
+    restOrFly(true);
     UserControl11.c_TimerEN = 0;
     followReplayBar();
     replayPage.bar.setValue(UserControl11.c_TraceBufferMax);
     replayIndex = static_cast<std::int16_t>(replayPage.bar.value());
     modePanel.setText(text(Text::panelPause));
+    if (practising || QAform1.c_QAFly > 0)
+        UserControl11.c_TrackDelta = 3;
 }
 
-/// What acts only on a flight at rest.
-void Form1::enableResting(bool resting) {
-    for (FormControl* control :
-         std::initializer_list<FormControl*>{&replayPage.play, &replayPage.stop, &replayPage.loop,
-                                             &replayPage.lock, &replayPage.bar, &stationPage.edit})
-        control->setEnabled(resting);
+void Form1::restOrFly(bool resting) {
     replayPage.bar.setVisible(resting);
     if (!resting)
         commentPanel.mark.setVisible(false);
     pages.replay.choose();
-    enableFileMenus(resting);
+    enableControls();
 }
 
-void Form1::enableFileMenus(bool enabled) {
+/// What may be used at rest or in flight, during an exercise, and while a question stands open.
+void Form1::enableControls() {
+    const bool resting = simStopped == 1;
+    const bool open = questionOpen();
+    for (FormControl* control :
+         std::initializer_list<FormControl*>{&replayPage.play, &replayPage.stop, &replayPage.loop,
+                                             &replayPage.lock, &replayPage.bar})
+        control->setEnabled(resting && !open);
+    for (FormControl* control : std::initializer_list<FormControl*>{
+             &replayPage.hide, &chartPage.hide, &chartPage.trace, &chartPage.vectors})
+        control->setEnabled(!open);
+    const bool free = resting && !exerciseUp;
+    stationPage.edit.setEnabled(free);
     for (CommandButton* item : fileMenu.items())
-        item->setEnabled(enabled && item->onClick);
+        item->setEnabled(free);
+    for (CommandButton* item : exerciseMenu.items())
+        item->setEnabled(free);
+    const bool mayFly = !exerciseUp || (QAform1.c_QAFly > 0 && UserControl11.c_FlyEN == 1);
+    startButton.setEnabled(mayFly && replayOn == 0);
 }
 
 void Form1::StopFly() {

@@ -38,6 +38,7 @@ void tuneNdb(ADFControlFace& face, std::int16_t picture, std::int16_t slot) {
 void Form1::setApplicationPath(const std::string& path) {
     UserControl11.c_MainAppPath = path;
     UserControl11.c_ScratchPath = path;
+    QAform1.c_MainAppPath = path;
     for (UserControl_1* instrument :
          {&inst2.instrument, &inst3.instrument, &inst1.instrument, &UserControl_DG})
         instrument->c_MainAppPath = path;
@@ -67,7 +68,8 @@ void Form1::setPanelDefaults() {
     practicePanel.frame.setVisible(false);
     commentPanel.comment.setVisible(false);
     showCommentNumber();
-    enableFileMenus(true);
+    backButton.setVisible(false);
+    enableControls();
 }
 
 void Form1::startUp(const std::string& applicationPath) {

@@ -1,0 +1,116 @@
+#include "exercises/exercise_catalogue.h"
+#include "shell/form_1.h"
+
+namespace tarnel {
+
+namespace {
+
+/// Types of exercises that the shell treats differently.
+constexpr std::int16_t windExercise = 8;
+constexpr std::int16_t orientation = 10;
+
+/// `c_showResult`.
+enum ShowResult : std::int16_t { replaySolution = 1, nextQuestion = 2, fly = 4, replayArmed = 6 };
+
+/// Whether a solution is shown with the selected radial.
+bool showsRadial(std::int16_t type) {
+    return (type >= 1 && type <= 3) || type == 9 || type == orientation;
+}
+
+} // namespace
+
+/// A question that the student flies himself: the panel is free, and the way back is open.
+void Form1::followExerciseFlight() {
+    if (QAform1.c_QAFly <= 0)
+        return;
+    replayPage.lock.set(0);
+    inst3RadialBox.set(0);
+    backButton.setVisible(true);
+    if (QAform1.c_TrackDelta > 0) {
+        UserControl11.c_TrackDelta = QAform1.c_TrackDelta;
+        QAform1.c_TrackDelta = 0;
+    }
+}
+
+/// Carries out what the exercise asks of the shell.
+void Form1::followExercise() {
+    if (QAform1.c_QAtype == exerciseLeft)
+        leaveExercise();
+    if (!exerciseUp)
+        return;
+    if (QAform1.c_QAFly <= 0 && simStopped == 0)
+        endExerciseFlight();
+    const std::int16_t wanted = QAform1.c_showResult;
+    QAform1.c_showResult = 0;
+    if (wanted == replaySolution || wanted == replayArmed)
+        showSolution(wanted == replayArmed);
+    else if (wanted == nextQuestion)
+        showNextQuestion();
+    if (!QAform1.c_QASessionFileName.get().empty())
+        loadQuestionSession();
+    if (wanted == fly)
+        letStudentFly();
+    enableControls();
+}
+
+void Form1::showSolution(bool armed) {
+    StopReplay();
+    StopFly();
+    solutionSeen = true;
+    instruments.setVisible(true);
+    inst3RadialBox.set(showsRadial(QAform1.c_QAtype) ? 1 : 0);
+    setHidden(false);
+    if (QAform1.c_QAtype == windExercise) {
+        UserControl11.c_SpeedVectorEN = 1;
+        UserControl11.c_TraceEN = 0;
+    }
+    replayPage.lock.set(1);
+    backButton.setVisible(armed);
+    replayIndex = 0;
+    replayPage.play.choose();
+}
+
+void Form1::showNextQuestion() {
+    StopReplay();
+    StopFly();
+    solutionSeen = false;
+    QAform1.c_smallFrame = false;
+    inst3RadialBox.set(0);
+    replayPage.lock.set(1);
+    backButton.setVisible(false);
+    switchFaces(!asksForPosition(QAform1.c_QAtype));
+    hideForQuestion();
+}
+
+/// A question gives nothing away: no track, no comment, and no aircraft but where the chart is what
+/// is asked about.
+void Form1::hideForQuestion() {
+    const bool askedOnChart = QAform1.c_QAtype == orientation;
+    solutionSeen = false;
+    setHidden(true);
+    instruments.setVisible(!askedOnChart);
+    if (askedOnChart)
+        UserControl11.c_AirplaneEN = 1;
+}
+
+/// The flight begins at the first sample, with the settings that were recorded there; the next tick
+/// frees them.
+void Form1::letStudentFly() {
+    StopReplay();
+    setHidden(true);
+    switchFaces(true);
+    instruments.setVisible(true);
+    replayPage.lock.set(1);
+    if (UserControl11.c_FlyEN == 1)
+        UserControl11.c_HscrollRepeatValue = 1;
+}
+
+void Form1::loadQuestionSession() {
+    const std::string path = QAform1.c_QASessionFileName;
+    QAform1.c_QASessionFileName = std::string();
+    UserControl11.loadByName(path);
+    if (!solutionSeen)
+        hideForQuestion();
+}
+
+} // namespace tarnel

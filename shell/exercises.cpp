@@ -1,0 +1,161 @@
+#include "core/number_text.h"
+#include "core/run_time_error.h"
+#include "engine/file_requests.h"
+#include "exercises/exercise_catalogue.h"
+#include "persistence/file_bytes.h"
+#include "shell/form_1.h"
+
+#include <algorithm>
+#include <filesystem>
+
+namespace tarnel {
+
+namespace {
+
+constexpr std::size_t largestStudyFile = 1 << 20;
+constexpr const char* sessionsFolder = "default/sessions/";
+
+std::optional<std::string> readStudy(const std::string& path) {
+    try {
+        return readFileBytes(path, largestStudyFile);
+    } catch (const RunTimeError&) {
+        return {};
+    }
+}
+
+} // namespace
+
+ExerciseSurroundings Form1::exerciseSurroundings() {
+    return {texts, outside.settings(), readStudy,
+            [this] { return outside.clockSeed().value_or(0); }};
+}
+
+void Form1::connectExercises() {
+    backButton.onClick = [this] { endExerciseFlight(); };
+    for (std::size_t i = 0; i < exerciseItems().size(); ++i)
+        exerciseMenu.exercises[i]->onClick = [this, i] { startExercise(exerciseItems()[i]); };
+    for (std::size_t i = 0; i < ExerciseMenu::practiceCount; ++i) {
+        const std::string number = zeroPadded(static_cast<std::int64_t>(i + 1), 2);
+        exerciseMenu.adfPractice[i]->onClick = [this, number] {
+            openPractice("adf practise " + number + ".ts", true);
+        };
+        exerciseMenu.vorPractice[i]->onClick = [this, number] {
+            openPractice("vor practise " + number + ".ts", true);
+        };
+    }
+    exerciseMenu.introduction1.onClick = [this] { openPractice("introduction 1.ts", false); };
+    exerciseMenu.introduction2.onClick = [this] { openPractice("introduction 2.ts", false); };
+    exerciseMenu.resetStatistics.onClick = [this] { QAform1.statistics.reset(); };
+    QAform1.c_QAtype.publish(exerciseClosed);
+    QAform1.statistics.prepare();
+}
+
+/// The sessions of other languages than German have "e-" before their names. `practised` ones must;
+/// of the others the German one serves where there is no other.
+void Form1::openPractice(const std::string& name, bool practised) {
+    const std::string folder = UserControl11.c_MainAppPath.get() + "/" + sessionsFolder;
+    std::string path = folder + name;
+    if (texts[Text::languageWord] != "german") {
+        const std::string other = folder + "e-" + name;
+        if (practised || std::filesystem::exists(other))
+            path = other;
+    }
+    practising = practised;
+    chartPage.trace.set(1);
+    UserControl11.loadByName(path);
+    UserControl11.c_TrackDelta = practised ? 1 : 0;
+}
+
+void Form1::startExercise(const ExerciseItem& item) {
+    StopReplay();
+    StopFly();
+    rememberShell();
+    exerciseUp = true;
+    practising = false;
+    rateQuadruple.choose();
+    replayPage.lock.set(1);
+    if (item.inst2Kind >= 0)
+        inst2TypeList.select(item.inst2Kind);
+    if (item.inst3Kind >= 0)
+        inst3TypeList.select(item.inst3Kind);
+    if (item.inst2Size == ExerciseItem::Size::large)
+        inst2Large.choose();
+    else if (item.inst2Size == ExerciseItem::Size::small)
+        inst2Small.choose();
+    switchFaces(!asksForPosition(item.type));
+    UserControl11.c_TrackDelta = 0;
+    QAform1.c_smallFrame = false;
+    QAform1.c_QAtype = item.type;
+    hideForQuestion();
+    enableControls();
+}
+
+void Form1::rememberShell() {
+    for (OptionButton* rate : {&rateReal, &rateHalf, &rateDouble, &rateQuadruple})
+        if (rate->chosen())
+            beforeExercise.rate = rate;
+    beforeExercise.trace = chartPage.trace.value();
+    beforeExercise.inst2Type = inst2TypeList.index();
+    beforeExercise.inst3Type = inst3TypeList.index();
+    beforeExercise.inst2Large = inst2Large.chosen();
+    beforeExercise.radialShown = inst3RadialBox.value();
+}
+
+/// The student has left: the shell is again as a free flight needs it, at the question's first
+/// sample.
+void Form1::leaveExercise() {
+    QAform1.c_QAtype.publish(exerciseClosed);
+    if (!exerciseUp)
+        return;
+    StopReplay();
+    StopFly();
+    exerciseUp = solutionSeen = false;
+    backButton.setVisible(false);
+    switchFaces(true);
+    instruments.setVisible(true);
+    if (UserControl11.c_FlyEN == 1)
+        UserControl11.c_HscrollRepeatValue = 1;
+    followReplayBar();
+    pushPanelState();
+    replayPage.lock.set(0);
+    UserControl11.c_TrackDelta = 0;
+    UserControl11.c_SessionFileName = text(Text::newSessionFile);
+    inst3RadialBox.set(beforeExercise.radialShown);
+    inst2TypeList.select(beforeExercise.inst2Type);
+    inst3TypeList.select(beforeExercise.inst3Type);
+    (beforeExercise.inst2Large ? inst2Large : inst2Small).choose();
+    beforeExercise.rate->choose();
+    chartPage.trace.set(beforeExercise.trace);
+    setHidden(false);
+    enableControls();
+}
+
+/// Back from a flight or from the solution to the question.
+void Form1::endExerciseFlight() {
+    StopReplay();
+    StopFly();
+    UserControl11.c_TrackDelta = 0;
+    QAform1.c_smallFrame = false;
+    if (QAform1.c_QAFly > 0)
+        QAform1.c_QAFly = static_cast<std::int16_t>(-QAform1.c_QAFly);
+    switchFaces(!asksForPosition(QAform1.c_QAtype));
+    replayPage.lock.set(1);
+    backButton.setVisible(false);
+    if (!solutionSeen)
+        hideForQuestion();
+    enableControls();
+}
+
+/// The stopwatch's face has no switch of its own: its buttons rest.
+void Form1::switchFaces(bool active) {
+    const std::int16_t value = active ? 1 : 0;
+    APControlFace1.c_OnOff = value;
+    NAVControlFace1.c_OnOff = value;
+    NAVControlFace2.c_OnOff = value;
+    DMEControlFace1.c_OnOff = value;
+    ADFControlFace1.c_OnOff = value;
+    stopwatchStartButton.setEnabled(active);
+    stopwatchResetButton.setEnabled(active);
+}
+
+} // namespace tarnel
