@@ -4,6 +4,7 @@
 #include "persistence/line_source.h"
 #include "persistence/line_writer.h"
 
+#include <algorithm>
 #include <charconv>
 
 namespace tarnel {
@@ -54,7 +55,8 @@ void writePositions(LineWriter& lines, const ChartFile& chart) {
     const double latitude = withFifteenDigits(aircraft.latitude);
     const SplitAngle mixed{toSplit(aircraft.longitude).degrees, toSplit(latitude).minutes};
     lines.numberLine(latitude);
-    lines.numberLine(withFifteenDigits(toPlain(mixed)));
+    lines.numberLine(
+        withFifteenDigits(std::clamp(toPlain(mixed), -longitudeRule.limit, longitudeRule.limit)));
     lines.line("0");
     for (const ChartStation& station : chart.stations) {
         const GeoPosition place = station.position.value_or(GeoPosition{});
