@@ -15,6 +15,10 @@ if(TARNEL_SANITIZE)
     -fsanitize=${TARNEL_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(tarnel_options INTERFACE -fsanitize=${TARNEL_SANITIZE})
 endif()
+if(TARNEL_FUZZ)
+  # Lets a fuzzer see which way its input takes.
+  target_compile_options(tarnel_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 
 # tarnel_library(NAME core SOURCES a.cpp LINKS chart)
 #

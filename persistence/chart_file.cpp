@@ -4,7 +4,7 @@
 #include "persistence/line_source.h"
 #include "persistence/line_writer.h"
 
-#include <charconv>
+#include <algorithm>
 
 namespace tarnel {
 
@@ -39,27 +39,17 @@ void readAll(LineSource& lines, ChartFile& chart) {
     readPositions(lines, chart);
 }
 
-double withFifteenDigits(double value) {
-    constexpr int digits = 15;
-    char buffer[32];
-    const auto end =
-        std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::general, digits)
-            .ptr;
-    std::from_chars(buffer, end, value);
-    return value;
-}
-
 void writePositions(LineWriter& lines, const ChartFile& chart) {
     const GeoPosition aircraft = chart.aircraft.value_or(GeoPosition{});
-    const double latitude = withFifteenDigits(aircraft.latitude);
-    const SplitAngle mixed{toSplit(aircraft.longitude).degrees, toSplit(latitude).minutes};
-    lines.numberLine(latitude);
-    lines.numberLine(withFifteenDigits(toPlain(mixed)));
+    const SplitPosition split = toSplit(aircraft);
+    const SplitAngle mixed{split.longitude.degrees, split.latitude.minutes};
+    lines.numberLine(aircraft.latitude);
+    lines.numberLine(std::clamp(toPlain(mixed), -longitudeRule.limit, longitudeRule.limit));
     lines.line("0");
     for (const ChartStation& station : chart.stations) {
         const GeoPosition place = station.position.value_or(GeoPosition{});
-        lines.numberLine(withFifteenDigits(place.longitude));
-        lines.numberLine(withFifteenDigits(place.latitude));
+        lines.numberLine(place.longitude);
+        lines.numberLine(place.latitude);
     }
 }
 

@@ -31,8 +31,8 @@ struct ChartFile : StationBlock {
 /// always written as 1 and 0.
 ///
 /// Earlier installations write the longitude of the aircraft with the minutes of its latitude, and
-/// so does this. Positions have 15 significant digits, so that splitting them into degrees and
-/// minutes and back between two savings changes nothing.
+/// so does this. All other positions read back to the same bits. Throws the overflow error when the
+/// aircraft's degrees leave 16 bits.
 [[nodiscard]] std::string writeChart(const ChartFile& chart, std::optional<int> key);
 
 } // namespace tarnel

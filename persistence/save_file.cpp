@@ -83,16 +83,17 @@ class NewFile {
     void write(std::string_view bytes) {
         while (!bytes.empty()) {
             const ssize_t count = disk.write(file, bytes.data(), bytes.size());
-            if (count < 0 && errno != EINTR)
-                failAs(errno);
+            if (count == 0 || (count < 0 && errno != EINTR))
+                failAs(count == 0 ? EIO : errno);
             if (count > 0)
                 bytes.remove_prefix(static_cast<std::size_t>(count));
         }
     }
 
+    /// Not every disk knows permissions: where they can't be had, the file goes before them.
     void store(std::optional<mode_t> permissions) {
-        if (permissions && ::fchmod(file, *permissions) != 0)
-            failAs(errno);
+        if (permissions)
+            (void)::fchmod(file, *permissions);
         if (disk.fsync(file) != 0)
             failAs(errno);
         const int closing = std::exchange(file, -1);

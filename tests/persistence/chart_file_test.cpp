@@ -255,6 +255,8 @@ TEST(ChartWriter, WritesEveryLineByteForByte) {
     const std::string plain = joinLines(expected, lineCount);
     EXPECT_EQ(writeChart(chart, {}), plain);
     EXPECT_EQ(writeChart(chart, 7), encipheredChart(plain));
+    chart.aircraft = GeoPosition{48.5, -360}; // the minutes don't lead out of what can be read
+    EXPECT_FALSE(readChart(writeChart(chart, {})).problem);
 }
 
 TEST(ChartWriter, EveryStateAndLabelHasALine) {

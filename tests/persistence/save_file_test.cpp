@@ -55,6 +55,20 @@ class TroubledDisk : public DiskCalls {
     std::function<int()> trouble;
 };
 
+/// A disk that has a file under the first name that is tried for a new one.
+class TakenNameDisk : public DiskCalls {
+  public:
+    int create(const char* path) override {
+        if (taken.empty()) {
+            taken = path;
+            ::close(DiskCalls::create(path));
+        }
+        return DiskCalls::create(path);
+    }
+
+    std::string taken;
+};
+
 class SaveFileTest : public testing::Test {
   protected:
     void SetUp() override {
@@ -108,6 +122,13 @@ TEST_F(SaveFileTest, MakesAndReplacesFiles) {
     saveFileBytes(path, "");
     EXPECT_EQ(content(), "");
     EXPECT_EQ(filesInFolder(), 1U);
+}
+
+TEST_F(SaveFileTest, WritesIntoNoFileThatIsInTheWay) {
+    TakenNameDisk disk;
+    saveFileBytes(path, after, disk);
+    EXPECT_EQ(content(), after);
+    EXPECT_EQ(readFileBytes(disk.taken, most), "");
 }
 
 TEST_F(SaveFileTest, ALinkStaysAndItsTargetChanges) {

@@ -79,11 +79,6 @@ TEST(SessionFile, IsWrittenByteForByte) {
     EXPECT_EQ(writeSession(session, 7), encipheredFile(expected));
 }
 
-TEST(SessionFile, FieldsComeInTheOrderOfTheFile) {
-    EXPECT_NE(bitsOf(sampleOfLines()).find(joinLines(sampleLines(), sampleSize)),
-              std::string::npos);
-}
-
 TEST(SessionFile, NumbersOfEarlierInstallationsAreTaken) {
     const auto lines = [](const char* number, const char* whole) {
         auto text = sessionLines(1);

@@ -1,0 +1,19 @@
+:c:Turn, then wait
+:c:---
+:v1id:,ALB@u
+:v1fr:,112.30
+:v2id:,BRK@r
+:v2fr:,108.40
+:n1id:,CA@l
+:n1fr:,338
+:n2id:,DU@d
+:n2fr:,369
+:loid:,ILS
+:lofr:,108.70
+:n1:,2
+:n2:,5
+:n3:,1
+:n4:,2
+:n1:,4
+:mc:,2
+:ms:,2

@@ -1,0 +1,8 @@
+#include "session_checks.h"
+
+using namespace tarnel;
+
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    requireThatItCanBeSaved(readSession(asText(data, size)));
+    return 0;
+}
