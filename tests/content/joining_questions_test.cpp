@@ -64,6 +64,8 @@ void expectHolding(const StudyRecord& record, const FlownQuestion& flown, Slot s
         EXPECT_LT(ahead(turn.tick - 4 * ticksPerSecond), -0.9);
         EXPECT_GT(ahead(turn.tick), 0.7);
     }
+    EXPECT_THAT(flown.plan.events.front().settings.comment.value_or(""),
+                testing::StartsWith(entry.name));
     // In the end the station is ahead again, about on the inbound course.
     const FlightRow& end = flown.rows.back();
     EXPECT_LT(std::abs(turnBetween(end.heading, radialAt(end, station) + 180)), 10);
