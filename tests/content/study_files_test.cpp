@@ -59,6 +59,9 @@ TEST(StudyFiles, StandOnFlightsThatAreShortAndWhole) {
             EXPECT_GE(flown.rows.back().sample, 45);
             EXPECT_LE(flown.rows.back().sample, 181);
             EXPECT_EQ(flown.asked().turnRate, 0);
+            // What the question asks must not be told beside it.
+            for (const FlightEvent& event : flown.plan.events)
+                EXPECT_FALSE(event.settings.comment && event.at < 10);
             const auto isSet = [](std::int16_t type, std::string_view wanted) {
                 return wanted.empty() || instrumentWord(type) == wanted;
             };
