@@ -78,10 +78,10 @@ void expectDirection(const std::string& written, double degrees) {
 }
 
 void forEachQuestion(const std::string& stem,
-                     const std::function<void(const StudyLanguage&, const StudyRecord&,
+                     const std::function<void(const StudyLanguage&, const WrittenQuestion&,
                                               const FlownQuestion&)>& check) {
     for (const StudyLanguage& language : studyLanguages()) {
-        for (const StudyRecord& record : readStudyFile(language, studyLayout(stem))) {
+        for (const WrittenQuestion& record : readStudyFile(language, studyLayout(stem))) {
             SCOPED_TRACE(language.prefix + record.session);
             check(language, record, flownQuestion(record.session));
         }

@@ -53,7 +53,7 @@ void expectDirection(const std::string& written, double degrees);
 
 /// Calls `check` for each record of an exercise in both languages, with its flight.
 void forEachQuestion(const std::string& stem,
-                     const std::function<void(const StudyLanguage&, const StudyRecord&,
+                     const std::function<void(const StudyLanguage&, const WrittenQuestion&,
                                               const FlownQuestion&)>& check);
 
 } // namespace tarnel

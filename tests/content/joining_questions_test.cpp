@@ -42,7 +42,7 @@ Entry entryOf(double heading, double inbound, bool rightTurns) {
     return {"offset", offset, heading == offset ? "maintain" : heading > offset ? "left" : "right"};
 }
 
-void expectHolding(const StudyRecord& record, const FlownQuestion& flown, Slot station) {
+void expectHolding(const WrittenQuestion& record, const FlownQuestion& flown, Slot station) {
     const double heading = record.number("a1");
     const double inbound = record.number("a2");
     expectDirection(record.text("a1"), flown.asked().heading);
@@ -76,7 +76,7 @@ TEST(HoldingQuestions, AreEnteredAsTheirAnswersSay) {
     for (const char* stem : {"hsihld", "dghld"}) {
         std::set<std::string> entries;
         forEachQuestion(
-            stem, [&](const auto&, const StudyRecord& record, const FlownQuestion& flown) {
+            stem, [&](const auto&, const WrittenQuestion& record, const FlownQuestion& flown) {
                 const bool gyro = std::string(stem) == "dghld";
                 expectHolding(record, flown, gyro ? flown.adfStation() : flown.navStation());
                 const bool standard = record.text("a3") == "Standard";
@@ -97,7 +97,7 @@ std::string angleTrend(const StudyLanguage& language, double first, double later
                                             : language.interceptShrinks;
 }
 
-void expectIntercept(const StudyLanguage& language, const StudyRecord& record,
+void expectIntercept(const StudyLanguage& language, const WrittenQuestion& record,
                      const FlownQuestion& flown, bool inbound) {
     const bool beacon = record.text("qa").find("NDB") != std::string::npos;
     const Slot station = beacon ? flown.adfStation() : flown.navStation();
@@ -140,7 +140,7 @@ TEST(InterceptQuestions, AreFlownOntoTheRequiredBearing) {
     for (const bool inbound : {true, false}) {
         forEachQuestion(
             inbound ? "qdm" : "qdr",
-            [&](const StudyLanguage& language, const StudyRecord& record,
+            [&](const StudyLanguage& language, const WrittenQuestion& record,
                 const FlownQuestion& flown) { expectIntercept(language, record, flown, inbound); });
     }
 }
@@ -162,7 +162,7 @@ std::size_t lastTurn(const FlownQuestion& flown) {
     return tick;
 }
 
-void expectArcKept(const StudyRecord& record, const FlownQuestion& flown, std::size_t from,
+void expectArcKept(const WrittenQuestion& record, const FlownQuestion& flown, std::size_t from,
                    std::size_t until) {
     const Slot station = flown.navStation();
     const double distance = numberBehind(record.text("qc"), "ARC ");
@@ -180,7 +180,7 @@ void expectArcKept(const StudyRecord& record, const FlownQuestion& flown, std::s
 
 TEST(ArcQuestions, AreJoinedKeptAndLeft) {
     forEachQuestion(
-        "dmearc", [](const auto&, const StudyRecord& record, const FlownQuestion& flown) {
+        "dmearc", [](const auto&, const WrittenQuestion& record, const FlownQuestion& flown) {
             const Slot station = flown.navStation();
             const double final = numberBehind(record.text("qc"), "inal ");
             EXPECT_THAT(record.text("qc"), HasSubstr(flown.identifier(station)));

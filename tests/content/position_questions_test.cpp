@@ -73,7 +73,7 @@ void expectPickable(const std::string& direction) {
     EXPECT_LT(std::stoi(direction), 360) << direction;
 }
 
-void expectRadialAndQdm(const StudyRecord& record, const FlownQuestion& flown) {
+void expectRadialAndQdm(const WrittenQuestion& record, const FlownQuestion& flown) {
     const Slot station = flown.navStation();
     const double radial = radialAt(flown.asked(), station);
     for (const char* prompt : {"qa", "qb"})
@@ -87,7 +87,7 @@ void expectRadialAndQdm(const StudyRecord& record, const FlownQuestion& flown) {
 }
 
 TEST(HsiQuestions, TellWhereTheBarGoes) {
-    forEachQuestion("hsi", [](const StudyLanguage& language, const StudyRecord& record,
+    forEachQuestion("hsi", [](const StudyLanguage& language, const WrittenQuestion& record,
                               const FlownQuestion& flown) {
         expectRadialAndQdm(record, flown);
         EXPECT_NE(record.text("a1"), "355"); // the first list has no such item
@@ -96,7 +96,7 @@ TEST(HsiQuestions, TellWhereTheBarGoes) {
 }
 
 TEST(VorQuestions, TellWhereTheNeedleGoes) {
-    forEachQuestion("stdvor", [](const StudyLanguage& language, const StudyRecord& record,
+    forEachQuestion("stdvor", [](const StudyLanguage& language, const WrittenQuestion& record,
                                  const FlownQuestion& flown) {
         expectRadialAndQdm(record, flown);
         const double change = needleMove(flown).change;
@@ -108,7 +108,8 @@ TEST(VorQuestions, TellWhereTheNeedleGoes) {
 }
 
 /// Four different offers, the right one among them.
-void expectOffered(const StudyRecord& record, const std::string& stem, const std::string& answer) {
+void expectOffered(const WrittenQuestion& record, const std::string& stem,
+                   const std::string& answer) {
     std::set<std::string> offers;
     for (const char number : {'1', '2', '3', '4'})
         offers.insert(record.text(stem + number));
@@ -117,7 +118,7 @@ void expectOffered(const StudyRecord& record, const std::string& stem, const std
 }
 
 TEST(AdfQuestions, TellBearingsAndTheirTrend) {
-    forEachQuestion("adfpos", [](const StudyLanguage& language, const StudyRecord& record,
+    forEachQuestion("adfpos", [](const StudyLanguage& language, const WrittenQuestion& record,
                                  const FlownQuestion& flown) {
         const Slot station = flown.adfStation();
         const double radial = radialAt(flown.asked(), station);
@@ -145,7 +146,7 @@ TEST(OrientationQuestions, TellWhatTheChartShows) {
     const std::set<std::string> list = {"030", "045", "060", "090", "120", "135", "150", "180",
                                         "210", "225", "240", "270", "300", "315", "330", "360"};
     forEachQuestion(
-        "orientation", [&](const auto&, const StudyRecord& record, const FlownQuestion& flown) {
+        "orientation", [&](const auto&, const WrittenQuestion& record, const FlownQuestion& flown) {
             for (const char* answer : {"a1", "a2", "a3"})
                 EXPECT_THAT(list, Contains(record.text(answer)));
             EXPECT_THAT(record.text("qa"), HasSubstr(flown.identifier(Slot::vor1)));

@@ -43,10 +43,10 @@ std::optional<std::string> valueBehind(const std::string& line, std::size_t tagL
     return line.substr(tagLength);
 }
 
-std::optional<StudyRecord> nextRecord(Lines& lines, const StudyLayout& layout) {
+std::optional<WrittenQuestion> nextRecord(Lines& lines, const StudyLayout& layout) {
     constexpr std::size_t tag = 5;
     constexpr std::size_t sessionTag = 4;
-    StudyRecord record;
+    WrittenQuestion record;
     for (const std::string& column : layout.columns) {
         const std::size_t tagLength = tag + (layout.stem == "adfpos" && column[0] != 'a' ? 1 : 0);
         const std::string line = lines.next();
@@ -102,11 +102,12 @@ const StudyLayout& studyLayout(const std::string& stem) {
                          [&](const StudyLayout& layout) { return layout.stem == stem; });
 }
 
-std::vector<StudyRecord> readStudyFile(const StudyLanguage& language, const StudyLayout& layout) {
+std::vector<WrittenQuestion> readStudyFile(const StudyLanguage& language,
+                                           const StudyLayout& layout) {
     const std::string path =
         TARNEL_DATA_FOLDER "/default/study/" + language.prefix + layout.file + ".sty";
     Lines lines(readFileBytes(path, largestFile));
-    std::vector<StudyRecord> records;
+    std::vector<WrittenQuestion> records;
     while (!lines.atEnd() && !testing::Test::HasFailure()) {
         if (auto record = nextRecord(lines, layout))
             records.push_back(std::move(*record));

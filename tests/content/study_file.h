@@ -37,7 +37,7 @@ struct StudyLayout {
 
 using StudyColumns = std::map<std::string, std::string>;
 
-struct StudyRecord {
+struct WrittenQuestion {
     StudyColumns columns;
     std::string session; ///< without its extension
 
@@ -49,7 +49,7 @@ struct StudyRecord {
 
 /// Reads a shipped study file and expects its form: lines ended by CR LF, a tag of the right length
 /// on each, a separator behind each record. Ends at the first line that has not this form.
-[[nodiscard]] std::vector<StudyRecord> readStudyFile(const StudyLanguage& language,
-                                                     const StudyLayout& layout);
+[[nodiscard]] std::vector<WrittenQuestion> readStudyFile(const StudyLanguage& language,
+                                                         const StudyLayout& layout);
 
 } // namespace tarnel

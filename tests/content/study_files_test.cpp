@@ -12,7 +12,7 @@ bool isNumber(const std::string& text) {
     return text.find_first_not_of("0123456789.") == std::string::npos;
 }
 
-StudyColumns numbersOf(const StudyRecord& record) {
+StudyColumns numbersOf(const WrittenQuestion& record) {
     StudyColumns numbers = record.columns;
     std::erase_if(numbers, [](const auto& column) { return !isNumber(column.second); });
     return numbers;
@@ -53,7 +53,7 @@ const std::map<std::string, Instruments> instrumentsOf = {
 
 TEST(StudyFiles, StandOnFlightsThatAreShortAndWhole) {
     for (const auto& [stem, instruments] : instrumentsOf) {
-        forEachQuestion(stem, [&](const auto&, const StudyRecord&, const FlownQuestion& flown) {
+        forEachQuestion(stem, [&](const auto&, const WrittenQuestion&, const FlownQuestion& flown) {
             EXPECT_EQ(flown.boxes, 0U);
             EXPECT_EQ(flown.asked().sample, 1);
             EXPECT_GE(flown.rows.back().sample, 45);

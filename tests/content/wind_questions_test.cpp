@@ -42,7 +42,7 @@ double secondsOf(const std::string& text) {
 }
 
 TEST(WindQuestions, AreSolvedByTheWindTriangle) {
-    forEachQuestion("wind", [](const StudyLanguage& language, const StudyRecord& record,
+    forEachQuestion("wind", [](const StudyLanguage& language, const WrittenQuestion& record,
                                const FlownQuestion& flown) {
         const FlightRow& asked = flown.asked();
         const double inbound = *flown.plan.start.obs3;
@@ -66,7 +66,7 @@ TEST(WindQuestions, AreSolvedByTheWindTriangle) {
 }
 
 TEST(WindQuestions, AreFlownAlongTheInboundCourse) {
-    forEachQuestion("wind", [](const auto&, const StudyRecord&, const FlownQuestion& flown) {
+    forEachQuestion("wind", [](const auto&, const WrittenQuestion&, const FlownQuestion& flown) {
         const double inbound = *flown.plan.start.obs3;
         const WindTriangle wind = triangleOf(flown.asked(), inbound);
         const Slot station = flown.navStation();
