@@ -612,6 +612,8 @@ constexpr StringEntry entries[] = {
     {733, "the line behind a sample"},
     {734, "no more than 101 comments"},
     {735, "no more than 6000 samples"},
+    {736, "an airspeed from 0 to 1000 kt"},
+    {737, "a wind speed up to 500 kt"},
 
     // Study files.
     {761, "min.sec"},

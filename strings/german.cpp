@@ -616,6 +616,8 @@ constexpr StringEntry entries[] = {
     {733, "die Zeile hinter einem Messpunkt"},
     {734, "höchstens 101 Kommentare"},
     {735, "höchstens 6000 Messpunkte"},
+    {736, "eine Geschwindigkeit von 0 bis 1000 kt"},
+    {737, "eine Windstärke bis 500 kt"},
 
     // Study files.
     {761, "min.sec"},

@@ -569,6 +569,8 @@ enum class Text : int {
     expectedSampleEnd = 733,
     expectedNoFurtherComment = 734,
     expectedNoFurtherSample = 735,
+    expectedAirspeed = 736,
+    expectedWindSpeed = 737,
 
     // Study files.
     unitMinutesSeconds = 761,
