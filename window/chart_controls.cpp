@@ -1,32 +1,23 @@
 #include "window/chart_controls.h"
 
-#include "window/bold_text.h"
 #include "window/form_binding.h"
 #include "window/icons.h"
 #include "window/look.h"
+#include "window/view_switch.h"
 
 #include <QHBoxLayout>
-#include <QPushButton>
 #include <QToolButton>
 
 #include <iterator>
 
 namespace tarnel {
 
-namespace {
-
-constexpr int segmentPadding = 20;
-
-} // namespace
-
 ChartControls::ChartControls(Form1& owner, QWidget* parent) : QWidget(parent), form(owner) {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(0);
-    northUp = addView("NorthUp", "first", Text::northUp, true);
-    headingUp = addView("HeadingUp", "last", Text::headingUp, false);
-    row->addWidget(northUp);
-    row->addWidget(headingUp);
+    views = new ViewSwitch(form, this);
+    row->addWidget(views);
     row->addStretch(1);
     zoomOut = addZoom("ZoomOut", Text::zoomOut, Text::zoomOutTip, -1);
     zoomIn = addZoom("ZoomIn", Text::zoomIn, Text::zoomInTip, 1);
@@ -36,21 +27,6 @@ ChartControls::ChartControls(Form1& owner, QWidget* parent) : QWidget(parent), f
     row->addSpacing(4);
     row->addWidget(zoomIn);
     refresh();
-}
-
-QPushButton* ChartControls::addView(const char* name, const char* segment, Text caption, bool up) {
-    auto* button = new QPushButton(textOf(form.texts, caption), this);
-    button->setObjectName(QString::fromLatin1(name));
-    button->setProperty("segment", segment);
-    button->setCheckable(true);
-    button->setToolTip(textOf(form.texts, Text::chartViewTip));
-    button->setMinimumWidth(boldTextWidth(*button) + segmentPadding);
-    connect(button, &QPushButton::clicked, this, [this, up] {
-        form.guarded([&] { form.setNorthUp(up); });
-        shownView = -1;
-        refresh();
-    });
-    return button;
 }
 
 QToolButton* ChartControls::addZoom(const char* name, Text caption, Text tip, int steps) {
@@ -64,14 +40,11 @@ QToolButton* ChartControls::addZoom(const char* name, Text caption, Text tip, in
 }
 
 void ChartControls::refresh() {
-    const int view = form.UserControl11.c_MAPnorthUP;
+    views->refresh();
     const int scale = form.UserControl11.c_MAPscale;
-    if (view == shownView && scale == shownScale)
+    if (scale == shownScale)
         return;
-    shownView = view;
     shownScale = scale;
-    northUp->setChecked(view == 1);
-    headingUp->setChecked(view != 1);
     zoomOut->setEnabled(scale > MapView::offeredScales[0]);
     zoomIn->setEnabled(scale < MapView::offeredScales[std::size(MapView::offeredScales) - 1]);
 }
