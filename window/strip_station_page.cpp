@@ -3,7 +3,6 @@
 #include "chart/chart_picture.h"
 #include "window/look.h"
 
-#include <QFrame>
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -12,11 +11,11 @@ namespace tarnel {
 namespace {
 
 constexpr int gapBetweenStations = 6;
+constexpr int gapAfterBar = 6;
 
 /// A station's controls beside a bar in its colour, like the names on the chart.
-const QString tileSheet =
-    QStringLiteral("QWidget#Station { border-left: 2px solid %1; padding-left: 4px; }"
-                   "QLabel[readout=\"true\"] { color: %1; }");
+const QString tileSheet = QStringLiteral("QWidget#Station { border-left: 2px solid %1; }"
+                                         "QLabel[readout=\"true\"] { color: %1; }");
 
 void showText(QLabel& label, const std::string& text) {
     if (const QString shown = QString::fromStdString(text); label.text() != shown)
@@ -46,11 +45,12 @@ QLabel* StripStationPage::addLabel(QLayout& column, const char* property) {
 }
 
 QWidget* StripStationPage::makeStation(std::size_t index) {
-    auto* tile = new QFrame(this);
+    auto* tile = new QWidget(this);
+    tile->setAttribute(Qt::WA_StyledBackground);
     tile->setObjectName(QStringLiteral("Station"));
     tile->setStyleSheet(tileSheet.arg(look::fromSurface(slotColour(index)).name()));
     auto* column = new QVBoxLayout(tile);
-    column->setContentsMargins(0, 0, 0, 0);
+    column->setContentsMargins(gapAfterBar, 0, 0, 0);
     column->setSpacing(0);
     stations[index] = {addLabel(*column, "readout"), addLabel(*column, "secondary")};
     const StationPage::Switches switches = form.stationPage.switches()[index];

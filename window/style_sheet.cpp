@@ -55,20 +55,22 @@ QPushButton[segment]:checked { background: $paper; color: $accent; font-weight: 
 QPushButton[segment]:focus:!checked { border: 1px solid $accent; color: $accent; }
 
 QPushButton[tab="true"] { background: transparent; border: none; border-radius: 0;
-  border-bottom: {2}px solid transparent; padding: 0 {4}px; }
+  border-bottom: {2}px solid transparent; padding: 0 {4}px;
+  min-height: {22}px; max-height: {22}px; }
 QPushButton[tab="true"]:hover { color: $accent; }
 QPushButton[tab="true"]:checked { color: $accent; font-weight: bold; border-bottom-color: $accent; }
 QPushButton[tab="true"]:focus { background: $hairline; border-top-left-radius: {4}px;
   border-top-right-radius: {4}px; }
 
-QSpinBox, QLineEdit { background: $paper; color: $ink; border: 1px solid $line;
+QSpinBox { font-size: {12}px; min-height: {24}px; }
+QLineEdit { background: $paper; color: $ink; border: 1px solid $line;
   border-radius: {5}px; padding: 0 {6}px; min-height: {24}px; max-height: {24}px;
   font-size: {12}px; selection-background-color: $accent; selection-color: white; }
-QSpinBox:hover, QLineEdit:hover { border-color: $accent; }
-QSpinBox:focus, QLineEdit:focus { border: 2px solid $accent; padding: 0 {5}px; }
+QLineEdit:hover { border-color: $accent; }
+QLineEdit:focus { border: 2px solid $accent; padding: 0 {5}px; }
 
 QToolButton { background: $paper; border: 1px solid $line; border-radius: {5}px;
-  min-width: {26}px; min-height: {22}px; max-height: {22}px; }
+  min-width: {26}px; min-height: {24}px; max-height: {24}px; }
 QToolButton:hover:enabled { border-color: $accent; }
 QToolButton:pressed { background: $hairline; }
 QToolButton:focus { border: 2px solid $accent; }
