@@ -31,7 +31,7 @@ constexpr double leaderWidth = 1;
 constexpr double barToText = 5;
 constexpr double textToEdge = 3;
 constexpr double symbolToLabel = 3;
-constexpr double dotDiameter = 4.4;
+constexpr double traceDiameter = 4.4;
 constexpr double aheadDiameter = 3.2;
 
 constexpr double windPadding = 3;
@@ -95,8 +95,8 @@ void ChartPainter::paint(QPainter& painter, double side, double devicePixelRatio
     paintFeather(painter, frame, picture.localizer);
     paintRadials(painter, frame, picture.radialsI2);
     paintRadials(painter, frame, picture.radialsI3);
-    paintDots(painter, picture.trace, dotDiameter);
-    paintDots(painter, picture.ahead, aheadDiameter);
+    trace.paint(painter, frame, picture.trace, traceDiameter * frame.symbolScale);
+    ahead.paint(painter, frame, picture.ahead, aheadDiameter * frame.symbolScale);
     for (std::size_t slot = 0; slot < slotCount; ++slot)
         if (isOnPaper(slot))
             symbols.paint(painter, frame, picture.symbols[slot], slot, rotation());
@@ -177,23 +177,6 @@ void ChartPainter::layOutLabels(const ScaleBar& scale) {
                             frame.along(vectors.ground)};
     const std::size_t lineCount = vectors.ground.visible ? std::size(lines) : 0;
     placeLabels(labels, frame.paper, {areas, {lines, lineCount}});
-}
-
-void ChartPainter::paintDots(QPainter& painter, const DotLayer& layer, double size) const {
-    const std::vector<Dot>& dots = layer.all();
-    if (dots.empty())
-        return;
-    const double diameter = size * frame.symbolScale;
-    const QRectF area = frame.paper.adjusted(-diameter, -diameter, diameter, diameter);
-    QVarLengthArray<QPointF, 256> points;
-    for (const Dot& dot : dots) {
-        const QPointF at = frame.at({static_cast<double>(dot.x), static_cast<double>(dot.y)});
-        if (area.contains(at))
-            points.append(at);
-    }
-    painter.setPen(
-        QPen(look::fromSurface(dots.front().colour), diameter, Qt::SolidLine, Qt::RoundCap));
-    painter.drawPoints(points.data(), static_cast<int>(points.size()));
 }
 
 void ChartPainter::paintNames(QPainter& painter) const {

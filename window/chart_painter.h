@@ -2,6 +2,7 @@
 
 #include "engine/user_control_2.h"
 #include "strings/string_table.h"
+#include "window/chart_dots.h"
 #include "window/chart_frame.h"
 #include "window/chart_labels.h"
 #include "window/chart_overlays.h"
@@ -47,7 +48,6 @@ class ChartPainter {
 
     [[nodiscard]] Areas occupiedAreas(const ScaleBar& scale) const;
     void paintRadialNames(QPainter& painter, std::span<const QRectF> occupied) const;
-    void paintDots(QPainter& painter, const DotLayer& layer, double diameter) const;
     void paintNames(QPainter& painter) const;
     void paintName(QPainter& painter, const ChartLabel& label, std::size_t slot) const;
     void paintVectors(QPainter& painter, Areas& occupied) const;
@@ -59,6 +59,8 @@ class ChartPainter {
     const StringTable& texts;
     ChartFrame frame{1, 1, 1};
     ChartSymbols symbols;
+    ChartDots trace;
+    ChartDots ahead;
     std::array<NameText, slotCount> nameTexts;
 
     std::array<ChartLabel, slotCount> labels;
