@@ -12,6 +12,12 @@
 
 namespace tarnel {
 
+namespace {
+
+constexpr int zoomGap = 4;
+
+} // namespace
+
 ChartControls::ChartControls(Form1& owner, QWidget* parent) : QWidget(parent), form(owner) {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
@@ -24,7 +30,7 @@ ChartControls::ChartControls(Form1& owner, QWidget* parent) : QWidget(parent), f
     zoomOut->setIcon(signIcon(Sign::zoomOut, look::ink));
     zoomIn->setIcon(signIcon(Sign::zoomIn, look::ink));
     row->addWidget(zoomOut);
-    row->addSpacing(4);
+    row->addSpacing(zoomGap);
     row->addWidget(zoomIn);
     refresh();
 }
@@ -37,6 +43,13 @@ QToolButton* ChartControls::addZoom(const char* name, Text caption, Text tip, in
     connect(button, &QToolButton::clicked, this,
             [this, steps] { form.guarded([&] { form.stepScale(steps); }); });
     return button;
+}
+
+/// On a very small chart the strip's page alone has the views.
+void ChartControls::resizeEvent(QResizeEvent* /*event*/) {
+    const int needed = views->sizeHint().width() + zoomOut->sizeHint().width() +
+                       zoomIn->sizeHint().width() + 2 * zoomGap;
+    views->setVisible(width() >= needed);
 }
 
 void ChartControls::refresh() {

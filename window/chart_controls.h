@@ -20,6 +20,9 @@ class ChartControls : public QWidget {
     /// Shows the present view.
     void refresh();
 
+  protected:
+    void resizeEvent(QResizeEvent* event) override;
+
   private:
     QToolButton* addZoom(const char* name, Text caption, Text tip, int steps);
 

@@ -60,6 +60,7 @@ QWidget* CommentCard::makeComment() {
     place->setObjectName(QStringLiteral("Frame3"));
     place->setFocusPolicy(Qt::StrongFocus);
     place->setWidgetResizable(true);
+    place->setMinimumHeight(1); // the card measures the text itself
     place->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     comment = new QLabel;
     comment->setProperty("comment", true);

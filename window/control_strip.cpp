@@ -16,13 +16,14 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <array>
 
 namespace tarnel {
 
 namespace {
 
-constexpr int rowGap = 6;
+constexpr int rowGap = 5;
 constexpr int tabPadding = 16;
 
 /// Narrower strips do without the words before the speeds and the read-outs.
@@ -136,6 +137,18 @@ void ControlStrip::refresh() {
         return;
     startShowsStop = runs;
     startButton->setIcon(signIcon(runs ? Sign::stop : Sign::play, Qt::white));
+}
+
+int ControlStrip::wantedHeight(int width) const {
+    const QMargins margins = layout()->contentsMargins();
+    const int inner = width - margins.left() - margins.right();
+    int tallest = 0;
+    for (const StripPage* page : pages)
+        tallest = std::max(tallest, page->heightForWidth(inner));
+    int height = margins.top() + margins.bottom() + tallest;
+    for (int i = 0; i + 1 < layout()->count(); ++i)
+        height += layout()->itemAt(i)->sizeHint().height() + rowGap;
+    return height;
 }
 
 void ControlStrip::resizeEvent(QResizeEvent*) {

@@ -27,6 +27,9 @@ class ControlStrip : public QWidget {
     /// Shows the page that is chosen, and on the start button what a click will do.
     void refresh();
 
+    /// The height at which every page has room at a width.
+    [[nodiscard]] int wantedHeight(int width) const;
+
   protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;

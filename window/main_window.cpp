@@ -91,8 +91,9 @@ PanelSizes MainWindow::panelSizes() const {
 void MainWindow::layOut() {
     const int barHeight = static_cast<int>(look::statusHeight * shownScale);
     const QSize body(desk->width(), desk->height() - barHeight);
-    const WindowLayout layout = layOutWindow(
-        body, panelSizes(), [this](int width) { return comment->wantedHeight(width); });
+    const ColumnWishes wishes{[this](int width) { return strip->wantedHeight(width); },
+                              [this](int width) { return comment->wantedHeight(width); }};
+    const WindowLayout layout = layOutWindow(body, panelSizes(), wishes);
     if (layout.uiScale != shownScale) {
         shownScale = layout.uiScale;
         setStyleSheet(sheetFor(shownScale));

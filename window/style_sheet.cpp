@@ -52,6 +52,7 @@ QPushButton[segment="first"] { border-left-width: 1px; border-top-left-radius: {
 QPushButton[segment="last"] { border-top-right-radius: {5}px; border-bottom-right-radius: {5}px; }
 QPushButton[segment]:checked { background: $paper; color: $accent; font-weight: bold;
   border: {2}px solid $accent; border-radius: {5}px; padding: 0 {3}px; }
+QPushButton[segment]:checked:focus { background: $tint; }
 QPushButton[segment]:focus:!checked { border: 1px solid $accent; color: $accent; }
 
 QPushButton[tab="true"] { background: transparent; border: none; border-radius: 0;

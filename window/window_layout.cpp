@@ -10,7 +10,7 @@ namespace tarnel {
 namespace {
 
 constexpr double stripHeight = 178;
-constexpr int smallestChart = 200;
+constexpr int smallestChart = 160;
 constexpr double headerHeight = 32;
 constexpr double panelReferenceWidth = 712;
 constexpr double largeToSmall = 1.35;
@@ -141,14 +141,15 @@ class PanelLayout {
 };
 
 /// Chart, strip and comment below each other in a column of `width`.
-void layOutChart(WindowLayout& layout, QSize body, int width, const CommentHeight& commentHeight) {
+void layOutChart(WindowLayout& layout, QSize body, int width, const ColumnWishes& wishes) {
     const int margin = whole(look::gap * layout.uiScale);
     const int bottom = body.height() - margin;
-    const int wanted = commentHeight ? commentHeight(width) : 0;
-    const int roomAbove = bottom - margin - whole(stripHeight * layout.uiScale) - margin;
-    const int comment = std::min(wanted, roomAbove - margin - smallestChart);
+    const int strip = std::max(whole(stripHeight * layout.uiScale), wishes.strip(width));
+    const int forChart = bottom - margin - strip - margin;
+    const int wanted = wishes.comment(width);
+    const int comment = std::min(wanted, forChart - margin - smallestChart);
     const int forComment = wanted > 0 ? comment + margin : 0;
-    const int side = std::clamp(roomAbove - forComment, smallestChart, width);
+    const int side = std::clamp(forChart - forComment, smallestChart, width);
     layout.chart = {margin + (width - side) / 2, margin, side, side};
     const int stripTop = margin + side + margin;
     layout.strip = {margin, stripTop, width, bottom - forComment - stripTop};
@@ -158,7 +159,7 @@ void layOutChart(WindowLayout& layout, QSize body, int width, const CommentHeigh
 
 } // namespace
 
-WindowLayout layOutWindow(QSize body, PanelSizes sizes, const CommentHeight& commentHeight) {
+WindowLayout layOutWindow(QSize body, PanelSizes sizes, const ColumnWishes& wishes) {
     WindowLayout layout;
     layout.uiScale = uiScaleOf(body);
     const int margin = whole(look::gap * layout.uiScale);
@@ -168,7 +169,7 @@ WindowLayout layOutWindow(QSize body, PanelSizes sizes, const CommentHeight& com
     if (sizes.inst2Large || sizes.inst3Large)
         side *= largeChartShare;
     const int columnWidth = std::max(whole(side), smallestChart);
-    layOutChart(layout, body, columnWidth, commentHeight);
+    layOutChart(layout, body, columnWidth, wishes);
     const int panelLeft = margin + columnWidth + margin;
     layout.panel = {panelLeft, margin, body.width() - margin - panelLeft, height};
     PanelLayout(layout, sizes).layOut();

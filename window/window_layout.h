@@ -33,13 +33,17 @@ struct WindowLayout {
     QRect autopilot;
 };
 
-/// The height that a comment's card wants at a width; 0 for no card.
-using CommentHeight = std::function<int(int)>;
+/// The heights that parts of the chart's column want at its width.
+struct ColumnWishes {
+    using Height = std::function<int(int)>;
+    Height strip = [](int) { return 0; };
+    Height comment = [](int) { return 0; }; ///< 0 for no card
+};
 
 /// Lays out the space between menu bar and status bar. A large instrument takes its room from the
 /// chart, a comment from the chart's height alone: strip and instruments stay where they are. Meant
 /// for 1000 x 640 and more; nothing overlaps below that, but it gets cramped.
 [[nodiscard]] WindowLayout layOutWindow(QSize body, PanelSizes sizes,
-                                        const CommentHeight& commentHeight = {});
+                                        const ColumnWishes& wishes = {});
 
 } // namespace tarnel
