@@ -1,5 +1,6 @@
 #include "window/style_sheet.h"
 
+#include "chart/chart_picture.h"
 #include "window/panel_look.h"
 
 #include <QHash>
@@ -32,6 +33,13 @@ QLabel[comment="true"] { font-size: {15}px; }
 QScrollArea#Frame3 { background: transparent; border: 1px solid transparent; border-radius: {3}px; }
 QScrollArea#Frame3:focus { border-color: $accent; }
 QCheckBox { font-size: {12}px; }
+
+QWidget[station="first"] { border-left: {2}px solid $first; }
+QWidget[station="second"] { border-left: {2}px solid $second; }
+QWidget[station="localizer"] { border-left: {2}px solid $localizer; }
+QLabel[station="first"] { border: none; color: $first; }
+QLabel[station="second"] { border: none; color: $second; }
+QLabel[station="localizer"] { border: none; color: $localizer; }
 
 QPushButton { background: $paper; color: $ink; border: 1px solid $line; border-radius: {5}px;
   padding: 0 {10}px; min-height: {24}px; max-height: {24}px; font-size: {12}px; }
@@ -108,6 +116,7 @@ QPushButton[channel="true"]:focus { border: 2px solid $panelFocus; padding: 0; }
 
 QWidget#StatusPanels { background: $bar; border-top: 1px solid $line; }
 QWidget#StatusPanels QLabel { font-size: {12}px; padding-left: {10}px; }
+QWidget#StatusPanels QLabel#FlightTime { padding-right: {10}px; }
 )";
 
 const QHash<QString, QColor>& colours() {
@@ -124,6 +133,9 @@ const QHash<QString, QColor>& colours() {
         {QStringLiteral("tint"), look::onPaper(look::accent, 0.15)},
         {QStringLiteral("accentDeep"), look::accent.darker(130)},
         {QStringLiteral("accentLight"), look::accent.lighter(115)},
+        {QStringLiteral("first"), look::fromSurface(chartColour::first)},
+        {QStringLiteral("second"), look::fromSurface(chartColour::second)},
+        {QStringLiteral("localizer"), look::localizer},
         {QStringLiteral("unit"), look::unit},
         {QStringLiteral("moduleTop"), look::moduleTop},
         {QStringLiteral("moduleBottom"), look::moduleBottom},
