@@ -13,11 +13,11 @@ constexpr int gapBetweenStations = 6;
 constexpr int gapAfterBar = 6;
 
 /// The name of a station's colour in the style sheet.
-const char* colourName(std::size_t slot) {
+QString colourName(std::size_t slot) {
     const Colour colour = slotColour(slot);
-    return colour == chartColour::first    ? "first"
-           : colour == chartColour::second ? "second"
-                                           : "localizer";
+    return colour == chartColour::first    ? QStringLiteral("First")
+           : colour == chartColour::second ? QStringLiteral("Second")
+                                           : QStringLiteral("Localizer");
 }
 
 void showText(QLabel& label, const std::string& text) {
@@ -50,12 +50,12 @@ QLabel* StripStationPage::addLabel(QLayout& column, const char* property) {
 QWidget* StripStationPage::makeStation(std::size_t index) {
     auto* tile = new QWidget(this);
     tile->setAttribute(Qt::WA_StyledBackground);
-    tile->setProperty("station", colourName(index));
+    tile->setObjectName(QStringLiteral("Station") + colourName(index));
     auto* column = new QVBoxLayout(tile);
     column->setContentsMargins(gapAfterBar, 0, 0, 0);
     column->setSpacing(0);
     stations[index] = {addLabel(*column, "readout"), addLabel(*column, "secondary")};
-    stations[index].identifier->setProperty("station", colourName(index));
+    stations[index].identifier->setObjectName(QStringLiteral("Name") + colourName(index));
     const StationPage::Switches switches = form.stationPage.switches()[index];
     for (CheckBox* control : {switches.station, switches.dme})
         if (control)

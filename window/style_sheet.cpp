@@ -34,12 +34,12 @@ QScrollArea#Frame3 { background: transparent; border: 1px solid transparent; bor
 QScrollArea#Frame3:focus { border-color: $accent; }
 QCheckBox { font-size: {12}px; }
 
-QWidget[station="first"] { border-left: {2}px solid $first; }
-QWidget[station="second"] { border-left: {2}px solid $second; }
-QWidget[station="localizer"] { border-left: {2}px solid $localizer; }
-QLabel[station="first"] { border: none; color: $first; }
-QLabel[station="second"] { border: none; color: $second; }
-QLabel[station="localizer"] { border: none; color: $localizer; }
+QWidget#StationFirst { border-left: {2}px solid $first; }
+QWidget#StationSecond { border-left: {2}px solid $second; }
+QWidget#StationLocalizer { border-left: {2}px solid $localizer; }
+QLabel#NameFirst { color: $first; }
+QLabel#NameSecond { color: $second; }
+QLabel#NameLocalizer { color: $localizer; }
 
 QPushButton { background: $paper; color: $ink; border: 1px solid $line; border-radius: {5}px;
   padding: 0 {10}px; min-height: {24}px; max-height: {24}px; font-size: {12}px; }
