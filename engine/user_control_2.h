@@ -65,6 +65,8 @@ class UserControl2 {
     void openSession(const std::string& path);
     /// Loads a session of the program's own: its first sample comes up.
     void loadByName(const std::string& path);
+    /// The bytes of a session file with the flight as it was recorded.
+    [[nodiscard]] std::string sessionBytes();
     /// Saves the flight as it was recorded. Throws what `saveFileBytes` throws.
     void saveSessionTo(const std::string& path);
     /// Moves a station to a chart position; its label and radials follow.
