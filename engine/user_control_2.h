@@ -63,6 +63,8 @@ class UserControl2 {
     void resetView();
     /// Loads a session that the user picked elsewhere, as his pick in the dialog does.
     void openSession(const std::string& path);
+    /// Loads a chart that the user picked elsewhere, as his pick in the dialog does.
+    void openChart(const std::string& path);
     /// Loads a session of the program's own: its first sample comes up.
     void loadByName(const std::string& path);
     /// The bytes of a session file with the flight as it was recorded.
@@ -289,6 +291,7 @@ class UserControl2 {
     void randomize();
     void comeToRest();
     void loadChart();
+    void loadChartFrom(const std::string& path);
     void saveChart();
     void applyChart(const ChartFile& chart);
     void applyStations(const StationBlock& block);

@@ -638,6 +638,13 @@ constexpr StringEntry entries[] = {
     {813, "Vectors: off, type 1, type 2"},
     {814, "Wind: off, manual, random"},
     {815, "Radial lines: centre, border, none"},
+    // Documents, statistics, files from outside.
+    {841, "Delete what all exercises have counted? This can't be undone."},
+    {842, "Open the Book"},
+    {843, "POWER TIPS"},
+    {844, "No program was found that opens \"%1\"."},
+    {845, "To open \"%1\", stop the flight or leave the exercise first."},
+    {846, "Usage: %1 [SESSION.ts or CHART.map]"},
 };
 
 } // namespace

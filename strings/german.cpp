@@ -643,6 +643,13 @@ constexpr StringEntry entries[] = {
     {813, "Windeinfluss: aus, Typ 1, Typ 2"},
     {814, "Wind: aus, manuell, Zufall"},
     {815, "Radiale: Mitte, Rand, keine"},
+    // Documents, statistics, files from outside.
+    {841, "Die Zählungen aller Übungen löschen? Das lässt sich nicht rückgängig machen."},
+    {842, "Buch öffnen"},
+    {843, "POWER TIPS"},
+    {844, "Es wurde kein Programm gefunden, das \"%1\" öffnet."},
+    {845, "Um \"%1\" zu öffnen, halten Sie zuerst den Flug an oder verlassen Sie die Übung."},
+    {846, "Aufruf: %1 [SITZUNG.ts oder KARTE.map]"},
 };
 
 } // namespace

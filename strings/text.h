@@ -595,6 +595,14 @@ enum class Text : int {
     keyVectors = 813,
     keyWind = 814,
     keyRadials = 815,
+
+    // Documents, statistics, files from outside.
+    resetStatisticsQuestion = 841,
+    bookStart = 842,
+    bookTips = 843,
+    noReader = 844,
+    openAtRest = 845,
+    usage = 846,
 };
 
 } // namespace tarnel
