@@ -9,6 +9,15 @@
 
 namespace tarnel {
 
+namespace {
+
+QString nameOf(const FormControl& control) {
+    const auto name = control.name();
+    return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
+}
+
+} // namespace
+
 FormBinding::FormBinding(Form1& owner, QObject* parent) : QObject(parent), form(owner) {}
 
 void FormBinding::follow(std::function<void()> update) {
@@ -21,8 +30,7 @@ QString FormBinding::captionOf(const FormControl& control) const {
 }
 
 void FormBinding::showCommon(const FormControl& control, QWidget& widget) const {
-    const auto name = control.name();
-    widget.setObjectName(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())));
+    widget.setObjectName(nameOf(control));
     widget.setVisible(control.visible());
     widget.setEnabled(control.enabled());
     if (control.tip())
@@ -38,6 +46,13 @@ void FormBinding::bind(CommandButton& control, QAbstractButton& button) {
         showCommon(control, button);
         button.setText(captionOf(control));
     });
+}
+
+void FormBinding::bind(CommandButton& control, QAction& action) {
+    connect(&action, &QAction::triggered, this,
+            [this, &control] { form.guarded([&control] { control.click(); }); });
+    action.setObjectName(nameOf(control));
+    follow([&control, &action] { action.setEnabled(control.enabled()); });
 }
 
 void FormBinding::bind(CheckBox& control, QAbstractButton& button) {
@@ -103,7 +118,9 @@ void FormBinding::bind(TextPanel& control, QLabel& label) {
     follow([this, &control, &label] {
         showCommon(control, label);
         label.setText(QString::fromStdString(control.text()));
-        if (!control.tip())
+        if (!control.tipText().empty())
+            label.setToolTip(QString::fromStdString(control.tipText()));
+        else if (!control.tip())
             label.setToolTip(label.text());
     });
 }

@@ -27,6 +27,7 @@ class FormBinding : public QObject {
     explicit FormBinding(Form1& form, QObject* parent = nullptr);
 
     void bind(CommandButton& control, QAbstractButton& button);
+    void bind(CommandButton& control, QAction& action);
     void bind(CheckBox& control, QAbstractButton& button);
     void bind(CheckBox& control, QAction& action);
     void bind(OptionButton& control, QAbstractButton& button);
