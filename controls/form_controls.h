@@ -145,9 +145,13 @@ class TextPanel : public FormControl {
     using FormControl::FormControl;
     [[nodiscard]] const std::string& text() const { return content; }
     void setText(std::string text) { change(content, text); }
+    /// What stands in the tool tip; without one, the control's own tip or the text.
+    [[nodiscard]] const std::string& tipText() const { return tipContent; }
+    void setTipText(const std::string& tip) { change(tipContent, tip); }
 
   private:
     std::string content;
+    std::string tipContent;
 };
 
 } // namespace tarnel

@@ -19,17 +19,25 @@ std::int16_t toBoolean(bool value) {
 void UserControl2::loadChart() {
     const auto path = nameFor(FileRequest::loadChart, c_loadChart, c_ChartFileName);
     c_loadChart.publish(0);
-    if (!path)
-        return;
+    if (path)
+        loadChartFrom(*path);
+}
+
+void UserControl2::openChart(const std::string& path) {
+    chartNamedByUser = messages.isShipped(path) ? std::string() : path;
+    loadChartFrom(path);
+}
+
+void UserControl2::loadChartFrom(const std::string& path) {
     try {
-        const ChartFile chart = readChart(readFileBytes(*path, largestChart));
+        const ChartFile chart = readChart(readFileBytes(path, largestChart));
         comeToRest();
         applyChart(chart);
-        c_ChartFileName.setIfChanged(*path);
+        c_ChartFileName.setIfChanged(path);
         if (chart.problem)
-            messages.fileWrong(FileRequest::loadChart, *path, *chart.problem);
+            messages.fileWrong(FileRequest::loadChart, path, *chart.problem);
     } catch (const RunTimeError& error) {
-        messages.fileFailed(FileRequest::loadChart, *path, error);
+        messages.fileFailed(FileRequest::loadChart, path, error);
     }
 }
 

@@ -46,6 +46,7 @@ void ChartMouse::down(ChartButton button, Point at) {
         showHeadingLine(at);
     } else if (button == ChartButton::left && stationAt(at)) {
         draggedStation = stationAt(at);
+        beforeDrag = {*draggedStation, inSlot(sim.stations, *draggedStation).position};
         dragStation(at);
     } else if (button == ChartButton::left) {
         airplaneDragging = true;
@@ -111,6 +112,12 @@ std::optional<Slot> ChartMouse::stationAt(Point at) const {
         if (sim.picture.symbols[i].visible && sim.picture.symbols[i].area.contains(at))
             return static_cast<Slot>(i);
     return {};
+}
+
+void ChartMouse::takeBackDrag() {
+    cancel();
+    inSlot(sim.stations, beforeDrag.slot).position = beforeDrag.position;
+    sim.MapScale();
 }
 
 /// The symbol's centre follows the pointer. The bearings are those of the dragged station from each

@@ -25,6 +25,8 @@ class ChartMouse {
     void down(ChartButton button, Point at);
     void move(Point at);
     void up();
+    /// Puts the station that was dragged last back to where it stood: a double click is no drag.
+    void takeBackDrag();
     /// Puts every tool away and hides what they show.
     void cancel();
 
@@ -62,6 +64,10 @@ class ChartMouse {
     bool windDragging = false;
     Point windStart;
     std::optional<Slot> draggedStation;
+    struct {
+        Slot slot = Slot::vor1;
+        SplitPosition position;
+    } beforeDrag;
 };
 
 } // namespace tarnel

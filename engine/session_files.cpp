@@ -145,14 +145,18 @@ void UserControl2::saveSession() {
     }
 }
 
-void UserControl2::saveSessionTo(const std::string& path) {
+std::string UserControl2::sessionBytes() {
     SessionFile session;
     describeStations(session);
     for (int i = 0; i < Comments::count; ++i)
         session.comments.push_back(comments.text(i));
     for (int i = 1; i <= c_TraceBufferMax; ++i)
         session.samples.push_back(recording.at(i));
-    saveFileBytes(path, writeSession(session, keyToSave()));
+    return writeSession(session, keyToSave());
+}
+
+void UserControl2::saveSessionTo(const std::string& path) {
+    saveFileBytes(path, sessionBytes());
 }
 
 } // namespace tarnel

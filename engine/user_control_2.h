@@ -63,8 +63,12 @@ class UserControl2 {
     void resetView();
     /// Loads a session that the user picked elsewhere, as his pick in the dialog does.
     void openSession(const std::string& path);
+    /// Loads a chart that the user picked elsewhere, as his pick in the dialog does.
+    void openChart(const std::string& path);
     /// Loads a session of the program's own: its first sample comes up.
     void loadByName(const std::string& path);
+    /// The bytes of a session file with the flight as it was recorded.
+    [[nodiscard]] std::string sessionBytes();
     /// Saves the flight as it was recorded. Throws what `saveFileBytes` throws.
     void saveSessionTo(const std::string& path);
     /// Moves a station to a chart position; its label and radials follow.
@@ -287,6 +291,7 @@ class UserControl2 {
     void randomize();
     void comeToRest();
     void loadChart();
+    void loadChartFrom(const std::string& path);
     void saveChart();
     void applyChart(const ChartFile& chart);
     void applyStations(const StationBlock& block);

@@ -45,24 +45,27 @@ void Form1::connectExercises() {
     }
     exerciseMenu.introduction1.onClick = [this] { openPractice("introduction 1.ts", false); };
     exerciseMenu.introduction2.onClick = [this] { openPractice("introduction 2.ts", false); };
-    exerciseMenu.resetStatistics.onClick = [this] { QAform1.statistics.reset(); };
+    exerciseMenu.resetStatistics.onClick = [this] {
+        if (confirm(text(Text::resetStatistics), text(Text::resetStatisticsQuestion)))
+            QAform1.statistics.reset();
+    };
     QAform1.c_QAtype.publish(exerciseClosed);
     QAform1.statistics.prepare();
 }
 
-/// The sessions of other languages than German have "e-" before their names. `practised` ones must;
-/// of the others the German one serves where there is no other.
-void Form1::openPractice(const std::string& name, bool practised) {
+/// The sessions of other languages than German have "e-" before their names. Unless it has to be
+/// the language's own, the German one serves where there is no other.
+std::string Form1::shippedSession(const std::string& name, bool ownLanguage) const {
     const std::string folder = UserControl11.c_MainAppPath.get() + "/" + sessionsFolder;
-    std::string path = folder + name;
-    if (texts[Text::languageWord] != "german") {
-        const std::string other = folder + "e-" + name;
-        if (practised || std::filesystem::exists(other))
-            path = other;
-    }
+    const std::string other = folder + "e-" + name;
+    const bool takesOther = !texts.isGerman() && (ownLanguage || std::filesystem::exists(other));
+    return takesOther ? other : folder + name;
+}
+
+void Form1::openPractice(const std::string& name, bool practised) {
     practising = practised;
     chartPage.trace.set(1);
-    UserControl11.loadByName(path);
+    UserControl11.loadByName(shippedSession(name, practised));
     UserControl11.c_TrackDelta = practised ? 1 : 0;
 }
 

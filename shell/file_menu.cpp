@@ -1,6 +1,10 @@
 #include "engine/file_requests.h"
+#include "persistence/file_path.h"
 #include "shell/form_1.h"
+#include "shell/text_format.h"
 
+#include <algorithm>
+#include <cctype>
 #include <utility>
 
 namespace tarnel {
@@ -55,6 +59,22 @@ void Form1::openSession(const std::string& path) {
     replayPage.lock.set(0);
     chartPage.trace.set(1);
     UserControl11.openSession(path);
+}
+
+void Form1::openFile(const std::string& path) {
+    const std::filesystem::path file = portablePath(path);
+    if (!fileMenu.loadSession.enabled()) {
+        showBox(text(Text::windowTitle),
+                filledIn(texts[Text::openAtRest], {file.filename().string()}), BoxKind::notice);
+        return;
+    }
+    std::string extension = file.extension().string();
+    std::ranges::transform(extension, extension.begin(),
+                           [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    if (extension == ".map")
+        UserControl11.openChart(path);
+    else
+        openSession(path);
 }
 
 /// Keeps the flight aside and shows the session that it practises.

@@ -62,6 +62,18 @@ class Form1 : private SimulationMessages {
     bool applyStationEdit(const StationEdit& edit);
     /// Opens a session that the user picked outside the menus, as the menu does.
     void openSession(const std::string& path);
+    /// Opens a chart (".map") or a session that the user picked outside the menus, as the menus do.
+    /// In flight and in an exercise a box asks him to end it first.
+    void openFile(const std::string& path);
+
+    // Documents of the application folder. A box tells of one that is missing; a flight goes on.
+    /// Opens the book, at a page if that is above 0.
+    void openBook(int page);
+    /// Opens one of `approachCharts`, and at rest the session that goes with it.
+    void openApproachChart(std::size_t index);
+    void openHelp();
+    void openUserGuide();
+    void openProductPage();
     /// Does what a letter on the status panels stands for: M, P, H, T, V, W or R. False for others.
     bool pressKey(char letter);
 
@@ -203,6 +215,7 @@ class Form1 : private SimulationMessages {
     void endExerciseFlight();
     ExerciseSurroundings exerciseSurroundings();
     void rememberShell();
+    [[nodiscard]] std::string shippedSession(const std::string& name, bool ownLanguage) const;
     void openPractice(const std::string& name, bool practised);
     void switchFaces(bool active);
     void showSolution(bool armed);
@@ -213,6 +226,7 @@ class Form1 : private SimulationMessages {
 
     // The tick, in this order.
     void tick();
+    void showSessionName();
     void guardPractiseArea();
     void echoReplayLock();
     void followFrequencies();
@@ -287,6 +301,9 @@ class Form1 : private SimulationMessages {
     // Boxes.
     void showBox(const std::string& title, const std::string& message,
                  BoxKind kind = BoxKind::warning);
+    bool confirm(const std::string& title, const std::string& question);
+    bool openDocument(const std::string& path, int page);
+    bool openShipped(const std::string& german, const std::string& other);
     void reportRunTimeError(const RunTimeError& error);
     void bufferWarning(BufferWarning warning) override;
     std::optional<std::string> chooseFile(FileRequest request, const std::string& present) override;
@@ -321,7 +338,8 @@ class Form1 : private SimulationMessages {
     } beforeExercise;
     bool solutionSeen = false; ///< of the question that is up
     bool boxUp = false;
-    std::string errorTold; ///< the run-time error that was last told and still lasts
+    std::string sessionShown; ///< the path whose name the status panel shows
+    std::string errorTold;    ///< the run-time error that was last told and still lasts
     bool pictureMissingSaid = false;
     std::array<std::int16_t, 3> flightTimeShown{-1, -1, -1};
     std::array<std::int16_t, 2> stopwatchShown{-1, -1};

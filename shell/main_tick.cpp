@@ -1,5 +1,6 @@
 #include "core/number_text.h"
 #include "core/rounding.h"
+#include "persistence/file_path.h"
 #include "shell/form_1.h"
 
 #include <algorithm>
@@ -40,7 +41,7 @@ void Form1::tick() {
     showDme();
     locCourse = toInt16(UserControl11.c_LocCrs1);
     pinAltitude();
-    sessionPanel.setText(UserControl11.c_SessionFileName);
+    showSessionName();
     blinkCommentMark();
     followReplayBar();
     echoChannelButtons();
@@ -60,6 +61,15 @@ void Form1::tick() {
     showReplayClock();
     followStations();
     errorTold.clear();
+}
+
+/// The file's name; its folders stand in the tool tip.
+void Form1::showSessionName() {
+    if (UserControl11.c_SessionFileName.get() == sessionShown)
+        return;
+    sessionShown = UserControl11.c_SessionFileName;
+    sessionPanel.setText(portablePath(sessionShown).filename().string());
+    sessionPanel.setTipText(sessionShown);
 }
 
 void Form1::guardPractiseArea() {

@@ -85,6 +85,13 @@ void Form1::showBox(const std::string& title, const std::string& message, BoxKin
     boxUp = wasUp;
 }
 
+bool Form1::confirm(const std::string& title, const std::string& question) {
+    const bool wasUp = std::exchange(boxUp, true);
+    const bool confirmed = outside.ask(title, question);
+    boxUp = wasUp;
+    return confirmed;
+}
+
 /// An error that comes again at every tick is told once; the next clean tick forgets it.
 void Form1::reportRunTimeError(const RunTimeError& error) {
     const std::string told =

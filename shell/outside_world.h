@@ -26,8 +26,13 @@ class OutsideWorld {
     virtual ~OutsideWorld() = default;
     /// Shows a box and comes back when the user has closed it.
     virtual void messageBox(BoxKind kind, const std::string& title, const std::string& text) = 0;
+    /// Asks a question that is answered by yes or no.
+    virtual bool ask(const std::string& /*title*/, const std::string& /*text*/) { return true; }
     /// The path that the user picks; nothing if he changes his mind, or where nobody is to ask.
     virtual std::optional<std::string> chooseFile(const FileQuestion&) { return {}; }
+    /// Opens a document in the program that the user has for it, at a page if that is above 0.
+    /// False if there is no such program.
+    virtual bool openDocument(const std::string& /*path*/, int /*page*/) { return true; }
     /// Where draws by chance start from; a world without a clock lets them go on.
     virtual std::optional<std::uint32_t> clockSeed() { return {}; }
     /// Where the statistics are kept; without a place of their own they end with the program.

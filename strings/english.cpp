@@ -643,6 +643,13 @@ constexpr StringEntry entries[] = {
     {816, "Scale"},
     {817, "Shows about %1 x %1 NM"},
     {818, "Comment mark"},
+    // Documents, statistics, files from outside.
+    {841, "Delete what all exercises have counted? This can't be undone."},
+    {842, "Open the Book"},
+    {843, "POWER TIPS"},
+    {844, "No program was found that opens \"%1\"."},
+    {845, "To open \"%1\", stop the flight or leave the exercise first."},
+    {846, "Usage: %1 [SESSION.ts or CHART.map]"},
 };
 
 } // namespace

@@ -648,6 +648,13 @@ constexpr StringEntry entries[] = {
     {816, "Maßstab"},
     {817, "Zeigt etwa %1 x %1 NM"},
     {818, "Kommentarmarke"},
+    // Documents, statistics, files from outside.
+    {841, "Die Zählungen aller Übungen löschen? Das lässt sich nicht rückgängig machen."},
+    {842, "Buch öffnen"},
+    {843, "POWER TIPS"},
+    {844, "Es wurde kein Programm gefunden, das \"%1\" öffnet."},
+    {845, "Um \"%1\" zu öffnen, halten Sie zuerst den Flug an oder verlassen Sie die Übung."},
+    {846, "Aufruf: %1 [SITZUNG.ts oder KARTE.map]"},
 };
 
 } // namespace

@@ -600,6 +600,14 @@ enum class Text : int {
     chartScale = 816,
     chartScaleTip = 817,
     commentMark = 818,
+
+    // Documents, statistics, files from outside.
+    resetStatisticsQuestion = 841,
+    bookStart = 842,
+    bookTips = 843,
+    noReader = 844,
+    openAtRest = 845,
+    usage = 846,
 };
 
 } // namespace tarnel

@@ -9,10 +9,16 @@
 #include "window/single_instance.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QFileInfo>
 #include <QIcon>
+#include <QLibraryInfo>
 #include <QScreen>
+#include <QStandardPaths>
 #include <QStyleFactory>
 #include <QTextStream>
+#include <QTimer>
+#include <QTranslator>
 
 namespace tarnel {
 
@@ -21,6 +27,7 @@ namespace {
 /// The share of a large screen that the window takes at first; on a small one it takes all.
 constexpr double shareOfScreen = 0.86;
 constexpr QSize smallScreen{1366, 860};
+constexpr int usageIsWrong = 2;
 
 void openOnScreen(MainWindow& window) {
     const QSize available = window.screen()->availableSize();
@@ -30,6 +37,28 @@ void openOnScreen(MainWindow& window) {
     }
     window.resize(available * shareOfScreen);
     window.show();
+}
+
+/// Both languages share settings and scratch files.
+void nameApplication() {
+    QApplication::setApplicationName(QStringLiteral("tarnel"));
+    QApplication::setDesktopFileName(QStringLiteral("tarnel"));
+}
+
+/// The buttons of Qt's own boxes and dialogs, where its translations are installed.
+void translateDialogs(const StringTable& texts) {
+    auto* translator = new QTranslator(QApplication::instance());
+    const QString language = texts.isGerman() ? QStringLiteral("de") : QStringLiteral("en");
+    if (translator->load(QStringLiteral("qtbase_") + language,
+                         QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(translator);
+}
+
+/// The copy of a practice flight is this user's.
+void useScratchFolder(Form1& form) {
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
+    if (QDir().mkpath(folder))
+        form.UserControl11.c_ScratchPath = folder.toStdString();
 }
 
 void showAgain(MainWindow& window) {
@@ -55,21 +84,38 @@ void dressApplication(const StringTable& texts, const QString& applicationFolder
 
 int runApplication(int argc, char** argv, const StringTable& texts) {
     QApplication application(argc, argv);
+    nameApplication();
+    const QStringList words = QApplication::arguments();
+    if (words.size() > 2 || (words.size() == 2 && words[1].startsWith(QLatin1Char('-')))) {
+        QTextStream(stderr) << textOf(texts, Text::usage).arg(words[0]) << '\n';
+        return usageIsWrong;
+    }
+    const QString file = words.size() == 2 ? QFileInfo(words[1]).absoluteFilePath() : QString();
     SingleInstance instance;
-    if (instance.otherRuns()) {
+    if (instance.otherRuns(file)) {
         QTextStream(stderr) << textOf(texts, Text::alreadyRunning) << '\n';
         return 0;
     }
     const std::string folder = applicationFolder();
     dressApplication(texts, QString::fromStdString(folder));
+    translateDialogs(texts);
     installPanelAccessibility();
     QtOutsideWorld outside;
     Form1 form(texts, outside, folder);
+    useScratchFolder(form);
     MainWindow window(form);
     outside.setParent(&window);
-    instance.onOther = [&window] { showAgain(window); };
+    const auto openIn = [&window](const QString& path) {
+        if (!path.isEmpty())
+            window.openFile(path);
+    };
+    instance.onOther = [&](const QString& path) {
+        showAgain(window);
+        openIn(path);
+    };
     openOnScreen(window);
     window.startTimers();
+    QTimer::singleShot(0, &window, [&] { openIn(file); });
     return QApplication::exec();
 }
 

@@ -9,8 +9,9 @@ namespace tarnel {
 /// Gives the application its font, style and icon.
 void dressApplication(const StringTable& texts, const QString& applicationFolder);
 
-/// Runs the trainer in the language of `texts` until its window is closed. Returns the program's
-/// exit status; 0 also if it already runs and its window was brought to the front.
+/// Runs the trainer in the language of `texts` until its window is closed, and opens the chart or
+/// session that the command line names. Returns the program's exit status; 0 also if it already
+/// runs, and its window was brought to the front with that file; 2 for a wrong command line.
 int runApplication(int argc, char** argv, const StringTable& texts);
 
 } // namespace tarnel

@@ -5,6 +5,7 @@
 #include "window/chart_lines.h"
 #include "window/line_clipping.h"
 #include "window/look.h"
+#include "window/readout_plate.h"
 #include "window/text_of.h"
 
 #include <QPainter>
@@ -326,6 +327,7 @@ void ChartPainter::paintOverlays(QPainter& painter, const ScaleBar& scale) const
         paintHelp(
             painter, frame,
             textOf(texts, sim.mouse.windTool() ? Text::helpDrawWind : Text::helpSelectHeading));
+    paintStationReadout(painter, frame, sim.picture.stationReadout);
     paintPaperEdge(painter, frame);
 }
 

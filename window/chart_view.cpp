@@ -7,6 +7,7 @@
 #include "window/text_of.h"
 
 #include <QAccessible>
+#include <QContextMenuEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QWheelEvent>
@@ -45,7 +46,7 @@ ChartView::ChartView(UserControl2& simulation, const StringTable& table, QWidget
     : QWidget(parent), sim(simulation), texts(table), painter(simulation, table) {
     lamps = new ReferenceLamps(sim, texts, this);
     setFocusPolicy(Qt::TabFocus);
-    setContextMenuPolicy(Qt::PreventContextMenu);
+    setMouseTracking(true);
     setAccessibleName(spokenChart());
     showCursor();
 }
@@ -93,8 +94,11 @@ void ChartView::resizeEvent(QResizeEvent* /*event*/) {
 }
 
 void ChartView::showCursor() {
+    const bool overStation = pointer && stationAt(*pointer);
     const bool canAct = sim.view.northUpMode && (sim.stopped() || sim.mouse.windTool());
-    const Qt::CursorShape wanted = canAct ? Qt::CrossCursor : Qt::ArrowCursor;
+    const Qt::CursorShape wanted = overStation ? Qt::PointingHandCursor
+                                   : canAct    ? Qt::CrossCursor
+                                               : Qt::ArrowCursor;
     if (cursor().shape() != wanted)
         setCursor(wanted);
 }
@@ -104,12 +108,41 @@ Point ChartView::toTwips(QPointF at) const {
     return {at.x() * twipsPerPixel, at.y() * twipsPerPixel};
 }
 
+/// The station that can be dragged and edited there.
+std::optional<Slot> ChartView::stationAt(QPointF at) const {
+    return resting() ? sim.mouse.stationAt(toTwips(at)) : std::nullopt;
+}
+
 void ChartView::mousePressEvent(QMouseEvent* event) {
+    const std::optional<Slot> station = stationAt(event->position());
+    if (event->button() == Qt::RightButton && station && onStationMenu)
+        return onStationMenu(station, event->globalPosition().toPoint());
     guard([&] { sim.mouse.down(chartButton(event->button()), toTwips(event->position())); });
     refresh();
 }
 
+void ChartView::mouseDoubleClickEvent(QMouseEvent* event) {
+    const std::optional<Slot> station = stationAt(event->position());
+    if (event->button() != Qt::LeftButton || !station || !onEditStation)
+        return mousePressEvent(event);
+    guard([&] { sim.mouse.takeBackDrag(); });
+    onEditStation(*station);
+}
+
+/// The mouse's part is done when its button goes down.
+void ChartView::contextMenuEvent(QContextMenuEvent* event) {
+    event->accept();
+    if (event->reason() == QContextMenuEvent::Keyboard && sim.c_mapedit == 1 && resting() &&
+        onStationMenu)
+        onStationMenu({}, event->globalPos());
+}
+
+void ChartView::leaveEvent(QEvent* /*event*/) {
+    pointer.reset();
+}
+
 void ChartView::mouseMoveEvent(QMouseEvent* event) {
+    pointer = event->position();
     guard([&] { sim.mouse.move(toTwips(event->position())); });
     refresh();
 }

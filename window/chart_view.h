@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <functional>
+#include <optional>
 
 namespace tarnel {
 
@@ -32,6 +33,11 @@ class ChartView : public QWidget {
     ModelGuard guard = unguarded();
     /// Called with the notches that the wheel was turned over the chart, forwards positive.
     std::function<void(int)> onZoom;
+    /// Called with the station that was double-clicked while charts are edited.
+    std::function<void(Slot)> onEditStation;
+    /// Called while charts are edited for a context menu at a place on the screen: of the station
+    /// under the pointer, or of all of them for the menu key.
+    std::function<void(std::optional<Slot>, QPoint)> onStationMenu;
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -39,11 +45,16 @@ class ChartView : public QWidget {
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void leaveEvent(QEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
 
   private:
     [[nodiscard]] Point toTwips(QPointF at) const;
     [[nodiscard]] double side() const { return std::min(width(), height()); }
+    [[nodiscard]] bool resting() const { return sim.view.northUpMode && sim.stopped(); }
+    [[nodiscard]] std::optional<Slot> stationAt(QPointF at) const;
     void showCursor();
 
     UserControl2& sim;
@@ -52,6 +63,7 @@ class ChartView : public QWidget {
     ReferenceLamps* lamps = nullptr;
     std::uint64_t paintedRevision = 0;
     int wheelRest = 0;
+    std::optional<QPointF> pointer; ///< while it is over the chart
 };
 
 } // namespace tarnel

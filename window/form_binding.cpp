@@ -138,7 +138,9 @@ void FormBinding::bind(TextPanel& control, QLabel& label) {
     follow([this, &control, &label] {
         showCommon(control, label);
         label.setText(QString::fromStdString(control.text()));
-        if (!control.tip() && !label.wordWrap())
+        if (!control.tipText().empty())
+            label.setToolTip(QString::fromStdString(control.tipText()));
+        else if (!control.tip() && !label.wordWrap())
             label.setToolTip(label.text());
     });
 }

@@ -4,10 +4,12 @@
 #include "window/chart_view.h"
 #include "window/comment_card.h"
 #include "window/control_strip.h"
+#include "window/file_opener.h"
 #include "window/floating_gyro.h"
 #include "window/instrument_panel.h"
 #include "window/look.h"
 #include "window/menu_tree.h"
+#include "window/station_editing.h"
 #include "window/status_panels.h"
 #include "window/style_sheet.h"
 
@@ -39,6 +41,7 @@ MainWindow::MainWindow(Form1& owner)
     };
     makeMenus();
     makeDesk();
+    opener = new FileOpener(form, *this);
     setStyleSheet(sheetFor(1)); // once for all widgets
     resize(usualWindow);
 
@@ -70,12 +73,17 @@ void MainWindow::makeDesk() {
     chart = new ChartView(form.UserControl11, form.texts, desk);
     chart->guard = guard;
     chart->onZoom = [this](int steps) { form.guarded([&] { form.stepScale(steps); }); };
+    stationEditing = std::make_unique<StationEditing>(form, *chart);
     chartControls = new ChartControls(form, chart);
     strip = new ControlStrip(form, binding, desk);
     comment = new CommentCard(form, binding, desk);
     panel = new InstrumentPanel(form, binding, pictures, guard, desk);
     status = new StatusPanels(form, binding, desk);
     gyro = new additional_DG(form, pictures, this);
+}
+
+void MainWindow::openFile(const QString& path) {
+    opener->open(path);
 }
 
 void MainWindow::startTimers() {

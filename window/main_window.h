@@ -8,13 +8,17 @@
 #include <QMainWindow>
 #include <QTimer>
 
+#include <memory>
+
 namespace tarnel {
 
 class ChartControls;
 class ChartView;
 class CommentCard;
 class ControlStrip;
+class FileOpener;
 class InstrumentPanel;
+class StationEditing;
 class StatusPanels;
 class additional_DG;
 
@@ -28,6 +32,9 @@ class MainWindow : public QMainWindow {
 
     /// Lets time run: the coupling as fast as it can, the simulation at its rate.
     void startTimers();
+
+    /// Opens a chart or a session that comes from outside the menus, by its absolute path.
+    void openFile(const QString& path);
 
     /// Brings everything that is shown up to date with the form.
     void refresh();
@@ -50,6 +57,8 @@ class MainWindow : public QMainWindow {
     PictureStore pictures;
     QWidget* desk = nullptr;
     ChartView* chart = nullptr;
+    std::unique_ptr<StationEditing> stationEditing;
+    FileOpener* opener = nullptr;
     ChartControls* chartControls = nullptr;
     ControlStrip* strip = nullptr;
     CommentCard* comment = nullptr;

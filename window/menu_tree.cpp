@@ -1,21 +1,30 @@
 #include "window/menu_tree.h"
 
+#include "shell/documents.h"
+
 #include <QAction>
 #include <QActionGroup>
 #include <QMenu>
 #include <QMenuBar>
 
+#include <algorithm>
 #include <span>
 
 namespace tarnel {
 
 namespace {
 
-/// An entry of a menu by its object name and text.
-struct MenuEntry {
-    const char* name;
-    Text text;
-};
+/// A sub menu can be opened while any of its items can be used.
+void followItems(QMenu& menu) {
+    const auto update = [&menu] {
+        const QList<QAction*> items = menu.actions();
+        menu.menuAction()->setEnabled(std::ranges::any_of(
+            items, [](const QAction* item) { return item->isEnabled() && !item->isSeparator(); }));
+    };
+    for (const QAction* item : menu.actions())
+        QObject::connect(item, &QAction::enabledChanged, &menu, update);
+    update();
+}
 
 class MenuBuilder {
   public:
@@ -32,11 +41,13 @@ class MenuBuilder {
   private:
     QMenu* menu(QWidget& parent, const char* name, Text text);
     QAction* entry(QMenu& menu, const char* name, const QString& text);
-    QAction* later(QMenu& menu, const MenuEntry& each);
-    void allLater(QMenu& menu, std::span<const MenuEntry> entries);
+    QAction* bound(QMenu& menu, CommandButton& control, const QKeySequence& shortcut = {});
+    QAction* opening(QMenu& menu, const QString& name, Text text, std::function<void()> open);
+    void exerciseGroup(QMenu& menu, const char* name, Text header, Text first, Text last);
     void practiceSessions(QMenu& menu, const char* name, Text header, Text prefix,
-                          const char* items);
-    void textRange(QMenu& menu, const char* prefix, Text first, Text last);
+                          ExerciseMenu::Practice& items);
+    void bookChapter(QMenu& menu, const BookChapter& chapter, int& page);
+    void approaches(QMenu& menu);
     QString text(Text id) const { return textOf(form.texts, id).replace('&', "&&"); }
 
     QMenuBar& bar;
@@ -58,93 +69,111 @@ QAction* MenuBuilder::entry(QMenu& parent, const char* name, const QString& capt
     return action;
 }
 
-QAction* MenuBuilder::later(QMenu& parent, const MenuEntry& each) {
-    QAction* action = entry(parent, each.name, text(each.text));
-    action->setEnabled(false);
+/// An item of the form; without a caption of its own it gets its text from the caller.
+QAction* MenuBuilder::bound(QMenu& parent, CommandButton& control, const QKeySequence& shortcut) {
+    QAction* action = parent.addAction(control.caption() ? text(*control.caption()) : QString());
+    action->setShortcut(shortcut);
+    binding.bind(control, *action);
     return action;
 }
 
-void MenuBuilder::allLater(QMenu& parent, std::span<const MenuEntry> entries) {
-    for (const MenuEntry& each : entries)
-        later(parent, each);
-}
-
-void MenuBuilder::practiceSessions(QMenu& parent, const char* name, Text header, Text prefix,
-                                   const char* items) {
-    constexpr int sessions = 10;
-    QMenu* list = menu(parent, name, header);
-    for (int i = 1; i <= sessions; ++i) {
-        QAction* action = entry(*list, "", text(prefix) + QString::number(i));
-        action->setObjectName(QString::fromLatin1(items) + QString::number(i));
-        action->setEnabled(false);
-    }
-    list->menuAction()->setEnabled(false);
-}
-
-void MenuBuilder::textRange(QMenu& parent, const char* prefix, Text first, Text last) {
-    QMenu* list = menu(parent, prefix, first);
-    for (int id = static_cast<int>(first); id <= static_cast<int>(last); ++id) {
-        QAction* action = entry(*list, prefix, text(static_cast<Text>(id)));
-        action->setEnabled(false);
-    }
-    list->menuAction()->setEnabled(false);
+/// An item that opens a document.
+QAction* MenuBuilder::opening(QMenu& parent, const QString& name, Text id,
+                              std::function<void()> open) {
+    QAction* action = entry(parent, name.toLatin1().constData(), text(id));
+    QObject::connect(action, &QAction::triggered, &bar,
+                     [this_form = &form, open = std::move(open)] { this_form->guarded(open); });
+    return action;
 }
 
 void MenuBuilder::buildFile(const MenuActions& actions) {
     FileMenu& items = form.fileMenu;
     QMenu* file = menu(bar, "mnufile", Text::menuFile);
-    for (CommandButton* control : items.items()) {
-        if (control == &items.loadChart)
-            file->addSeparator();
-        binding.bind(*control, *file->addAction(text(*control->caption())));
-    }
-    later(*file, {"fencrypt", Text::encipherFiles});
+    bound(*file, items.newSession, QKeySequence::New);
+    bound(*file, items.loadSession, QKeySequence::Open);
+    bound(*file, items.loadOldSession);
+    bound(*file, items.saveSession, QKeySequence::Save);
+    bound(*file, items.saveSessionAs, Qt::CTRL | Qt::SHIFT | Qt::Key_S);
+    file->addSeparator();
+    bound(*file, items.loadChart);
+    bound(*file, items.saveChart);
+    bound(*file, items.saveChartAs);
+    binding.bind(items.encipher, *entry(*file, "fencrypt", text(Text::encipherFiles)));
     file->addSeparator();
     QAction* exit = entry(*file, "mnuExit", text(Text::exitProgram));
     exit->setShortcut(QKeySequence::Quit);
     QObject::connect(exit, &QAction::triggered, &bar, actions.exit);
 }
 
+/// The exercises of a sub menu, by their first and last item.
+void MenuBuilder::exerciseGroup(QMenu& parent, const char* name, Text header, Text first,
+                                Text last) {
+    QMenu* group = menu(parent, name, header);
+    const std::span<const ExerciseItem> items = exerciseItems();
+    const auto from = std::ranges::find(items, first, &ExerciseItem::text) - items.begin();
+    const auto to = std::ranges::find(items, last, &ExerciseItem::text) - items.begin();
+    for (auto i = from; i <= to; ++i)
+        bound(*group, *form.exerciseMenu.exercises[static_cast<std::size_t>(i)]);
+    followItems(*group);
+}
+
+void MenuBuilder::practiceSessions(QMenu& parent, const char* name, Text header, Text prefix,
+                                   ExerciseMenu::Practice& items) {
+    QMenu* list = menu(parent, name, header);
+    for (std::size_t i = 0; i < items.size(); ++i)
+        bound(*list, *items[i])->setText(text(prefix) + QString::number(i + 1));
+    followItems(*list);
+}
+
 void MenuBuilder::buildExercises() {
-    static constexpr MenuEntry adfRmi[] = {{"adfpos", Text::exerciseAdfPosition},
-                                           {"qdm", Text::exerciseQdm},
-                                           {"qdr", Text::exerciseQdr}};
-    static constexpr MenuEntry hsiVor[] = {
-        {"hsipos2", Text::exerciseHsiPosition},   {"mnuAltitude", Text::exerciseHsiPositionLarge},
-        {"hldhsi", Text::exerciseHsiHolding},     {"dmearcs", Text::exerciseDmeArcs},
-        {"stdvor", Text::exerciseStdVorPosition}, {"wind", Text::exerciseWind},
-        {"hlddg", Text::exerciseDgHolding}};
+    ExerciseMenu& items = form.exerciseMenu;
     QMenu* exercises = menu(bar, "mnuOption", Text::menuExercises);
-    for (const auto& [name, header, entries] :
-         {std::tuple{"adfrmi", Text::exercisesAdfRmi, std::span<const MenuEntry>(adfRmi)},
-          std::tuple{"hsivor", Text::exercisesHsiVor, std::span<const MenuEntry>(hsiVor)}}) {
-        QMenu* group = menu(*exercises, name, header);
-        allLater(*group, entries);
-        group->menuAction()->setEnabled(false);
-    }
+    exerciseGroup(*exercises, "adfrmi", Text::exercisesAdfRmi, Text::exerciseAdfPosition,
+                  Text::exerciseQdr);
+    exerciseGroup(*exercises, "hsivor", Text::exercisesHsiVor, Text::exerciseHsiPosition,
+                  Text::exerciseDgHolding);
     QMenu* practice = menu(*exercises, "adfvorprac", Text::practiceAdfVor);
-    practiceSessions(*practice, "vorprac", Text::practiceVor, Text::vorPracticePrefix, "vor");
-    practiceSessions(*practice, "adfprac", Text::practiceAdf, Text::adfPracticePrefix, "adf");
-    practice->menuAction()->setEnabled(false);
-    later(*exercises, {"qdnorient", Text::exerciseOrientation});
+    practiceSessions(*practice, "vorprac", Text::practiceVor, Text::vorPracticePrefix,
+                     items.vorPractice);
+    practiceSessions(*practice, "adfprac", Text::practiceAdf, Text::adfPracticePrefix,
+                     items.adfPractice);
+    followItems(*practice);
+    bound(*exercises, *items.exercises.back());
     exercises->addSeparator();
-    later(*exercises, {"resstats", Text::resetStatistics});
+    bound(*exercises, items.resetStatistics);
+    followItems(*exercises);
+}
+
+/// The items of a chapter open the pages of the table from `page` on.
+void MenuBuilder::bookChapter(QMenu& parent, const BookChapter& chapter, int& page) {
+    QMenu* list = menu(parent, chapter.name, chapter.header);
+    const int first = static_cast<int>(chapter.first);
+    for (int id = first; id <= static_cast<int>(chapter.last); ++id, ++page) {
+        const QString name = QString::fromLatin1(chapter.name) + QString::number(id - first + 1);
+        opening(*list, name, static_cast<Text>(id), [this_form = &form, index = page] {
+            this_form->openBook(this_form->texts.bookPage(index));
+        });
+    }
+}
+
+void MenuBuilder::approaches(QMenu& parent) {
+    QMenu* list = menu(parent, "approach", Text::menuApproachCharts);
+    const std::span<const ApproachChart> charts = approachCharts();
+    for (std::size_t i = 0; i < charts.size(); ++i)
+        opening(*list, QString::fromLatin1(charts[i].document).left(4), charts[i].name,
+                [this_form = &form, i] { this_form->openApproachChart(i); });
 }
 
 void MenuBuilder::buildBook() {
     QMenu* book = menu(bar, "mnubuch", Text::menuBook);
-    textRange(*book, "pdf0", Text::tipsHsiAndStdVor, Text::tipsAdfPosition);
-    textRange(*book, "pdf1", Text::bookFacilities, Text::bookNdbAdfBasics);
-    textRange(*book, "pdf2", Text::bookPresentations, Text::bookIndicatingInstrument);
-    textRange(*book, "pdf3", Text::bookIndicator, Text::bookStdIlsInterpretation);
-    textRange(*book, "pdf4", Text::bookIlsExamples, Text::bookIlsOstrava);
-    textRange(*book, "pdf5", Text::bookRmiAdf, Text::bookDmeArcStdVor);
-    textRange(*book, "pdf6", Text::bookInterceptions, Text::bookQdrInterceptions);
-    textRange(*book, "pdf7", Text::bookWind, Text::bookDirectionalGyro);
-    textRange(*book, "pdf8", Text::bookHolding, Text::bookHoldingExamples);
-    textRange(*book, "pdf9", Text::bookOrientation, Text::bookTwoNeedles);
+    opening(*book, QStringLiteral("bookStart"), Text::bookStart,
+            [this_form = &form] { this_form->openBook(0); });
     book->addSeparator();
-    textRange(*book, "approach", Text::menuApproachCharts, Text::approachLowg);
+    int page = 0;
+    for (const BookChapter& chapter : bookChapters())
+        bookChapter(*book, chapter, page);
+    book->addSeparator();
+    approaches(*book);
 }
 
 void MenuBuilder::buildView() {
@@ -202,15 +231,22 @@ void MenuBuilder::buildKeys(QMenu& view) {
 
 void MenuBuilder::buildHelp(const MenuActions& actions) {
     QMenu* help = menu(bar, "mnuhelp", Text::menuHelp);
-    later(*help, {"hilfeindex", Text::helpIndex});
+    Form1* owner = &form;
+    const auto page = [owner](int index) {
+        return [owner, index] { owner->openBook(owner->texts.bookPage(index)); };
+    };
+    opening(*help, QStringLiteral("hilfeindex"), Text::helpIndex, [owner] { owner->openHelp(); });
     QMenu* introduction = menu(*help, "intromain", Text::introduction);
-    later(*introduction, {"intro1", Text::introduction1});
-    later(*introduction, {"intro2", Text::introduction2});
-    introduction->menuAction()->setEnabled(false);
-    later(*help, {"userguide", Text::userGuide});
-    later(*help, {"pdf11", Text::bookAbbreviations});
-    later(*help, {"pdf12", Text::bookIndex});
-    later(*help, {"webqxr", Text::productPage});
+    bound(*introduction, form.exerciseMenu.introduction1);
+    bound(*introduction, form.exerciseMenu.introduction2);
+    followItems(*introduction);
+    opening(*help, QStringLiteral("userguide"), Text::userGuide,
+            [owner] { owner->openUserGuide(); });
+    opening(*help, QStringLiteral("bookAbbreviations"), Text::bookAbbreviations,
+            page(abbreviationsPage));
+    opening(*help, QStringLiteral("bookIndex"), Text::bookIndex, page(bookIndexPage));
+    opening(*help, QStringLiteral("webqxr"), Text::productPage,
+            [owner] { owner->openProductPage(); });
     help->addSeparator();
     QAction* about = entry(*help, "test", text(Text::aboutTarnel));
     QObject::connect(about, &QAction::triggered, &bar, actions.about);

@@ -15,7 +15,7 @@ struct MenuActions {
     std::function<void()> about;
 };
 
-/// Builds the menu bar. What can't be used yet stands in its place, greyed.
+/// Builds the menu bar.
 void buildMenus(QMenuBar& bar, Form1& form, FormBinding& binding, const MenuActions& actions);
 
 } // namespace tarnel

@@ -9,38 +9,56 @@ namespace tarnel {
 namespace {
 
 constexpr int answerMilliseconds = 500;
-
-/// One name a user, whatever the language.
-QString serverName() {
-    return QStringLiteral("tarnel-%1").arg(static_cast<qulonglong>(getuid()));
-}
+/// More than any path takes.
+constexpr qint64 longestMessage = 1 << 16;
 
 } // namespace
 
-bool SingleInstance::otherRuns() {
-    const QString name = serverName();
+/// One name a user, whatever the language.
+QString SingleInstance::userInstance() {
+    return QStringLiteral("tarnel-%1").arg(static_cast<qulonglong>(getuid()));
+}
+
+bool SingleInstance::otherRuns(const QString& path) {
     QLocalSocket socket;
-    socket.connectToServer(name);
+    socket.connectToServer(serverName);
     if (socket.waitForConnected(answerMilliseconds)) {
+        socket.write(path.toUtf8());
+        socket.flush();
         socket.disconnectFromServer();
+        if (socket.state() != QLocalSocket::UnconnectedState)
+            socket.waitForDisconnected(answerMilliseconds);
         return true;
     }
-    listen(name);
+    listen();
     return false;
+}
+
+/// The path is what came until the other side hung up.
+void SingleInstance::receive(QLocalSocket& socket) {
+    const auto message = std::make_shared<QByteArray>();
+    const auto take = [&socket, message] {
+        *message += socket.read(longestMessage - message->size());
+    };
+    QObject::connect(&socket, &QLocalSocket::readyRead, &socket, take);
+    QObject::connect(&socket, &QLocalSocket::disconnected, &server, [this, &socket, message, take] {
+        take();
+        socket.deleteLater();
+        if (onOther)
+            onOther(QString::fromUtf8(*message));
+    });
 }
 
 /// A socket that a crashed instance left behind is removed. Where no socket can be made the program
 /// still runs, alone or not.
-void SingleInstance::listen(const QString& name) {
+void SingleInstance::listen() {
     QObject::connect(&server, &QLocalServer::newConnection, &server, [this] {
         while (QLocalSocket* socket = server.nextPendingConnection())
-            socket->deleteLater();
-        if (onOther)
-            onOther();
+            receive(*socket);
     });
-    QLocalServer::removeServer(name);
+    QLocalServer::removeServer(serverName);
     server.setSocketOptions(QLocalServer::UserAccessOption);
-    server.listen(name);
+    server.listen(serverName);
 }
 
 } // namespace tarnel

@@ -3,6 +3,7 @@
 #include "flights/plan_error.h"
 #include "persistence/chart_file.h"
 #include "persistence/file_bytes.h"
+#include "persistence/session_file.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -49,6 +50,19 @@ std::string defaultChart() {
 
 std::vector<FlownRow> fly(const std::string& plan) {
     return flownRows(readPlan(plan, "plan.toml"));
+}
+
+TEST(ScriptedFlight, BecomesASessionWithItsComments) {
+    ScriptedFlight flight(
+        readPlan("seconds = 20\n[[event]]\nat = 5\ncomment = \"MUN 060°\"\n", "plan.toml"),
+        englishTable(), TARNEL_DATA_FOLDER);
+    flight.fly(20, [] {});
+    const SessionFile session = readSession(flight.form().UserControl11.sessionBytes());
+    EXPECT_FALSE(session.problem);
+    ASSERT_EQ(session.samples.size(), 15U);
+    EXPECT_EQ(session.comments.at(0), "MUN 060°");
+    EXPECT_EQ(session.samples.front().traceComment, -1);
+    EXPECT_EQ(session.samples.back().traceComment, 0);
 }
 
 TEST(ScriptedFlight, BeginsAsThePlanSays) {

@@ -1,3 +1,4 @@
+#include "core/run_time_error.h"
 #include "flights/flight.h"
 #include "flights/flight_csv.h"
 #include "flights/flight_summary.h"
@@ -19,10 +20,12 @@ using namespace tarnel;
 enum ExitStatus { done = 0, planIsWrong = 1, usageIsWrong = 2, outputFailed = 3 };
 
 constexpr auto usage =
-    "Usage: tarnel-fly PLAN [--csv FILE] [--picture FILE] [--until SECONDS] [--language de|en]\n"
+    "Usage: tarnel-fly PLAN [--csv FILE] [--session FILE] [--picture FILE]\n"
+    "                  [--until SECONDS] [--language de|en]\n"
     "Flies a plan without showing a window.\n"
     "\n"
     "  --csv FILE        write a table with a line for each tick\n"
+    "  --session FILE    write the flight as a session that the trainer opens\n"
     "  --picture FILE    write the window as it stands at the end, such as window.png\n"
     "  --until SECONDS   end the flight there, if the plan does not end earlier\n"
     "  --language de|en  the language of the picture; English without it\n"
@@ -44,10 +47,26 @@ void flyTo(ScriptedFlight& flight, const FlyOptions& options) {
         table->close();
 }
 
+void writeSession(UserControl2& simulation, const std::string& file) {
+    if (file == standardOutput) {
+        OutputFile output(file);
+        output.write(simulation.sessionBytes());
+        output.close();
+        return;
+    }
+    try {
+        simulation.saveSessionTo(file);
+    } catch (const RunTimeError&) {
+        throw OutputError(file);
+    }
+}
+
 void run(const FlyOptions& options) {
     const StringTable& texts = options.german ? germanTable() : englishTable();
     ScriptedFlight flight(readPlanFile(options.plan), texts, applicationFolder());
     flyTo(flight, options);
+    if (options.session)
+        writeSession(flight.form().UserControl11, *options.session);
     if (options.picture)
         writePicture(flight.form(), *options.picture);
     if (options.hasOutput())

@@ -28,6 +28,8 @@ void takeOption(FlyOptions& options, const std::string& name, const std::string&
         options.csv = value;
     else if (name == "--picture")
         options.picture = value;
+    else if (name == "--session")
+        options.session = value;
     else if (name == "--until")
         options.until = secondsFrom(value);
     else if (name == "--language")
@@ -39,7 +41,8 @@ void takeOption(FlyOptions& options, const std::string& name, const std::string&
 void check(const FlyOptions& options) {
     if (options.plan.empty())
         throw UsageError("a plan is missing");
-    if (options.csv == standardOutput && options.picture == standardOutput)
+    const auto toStandard = [](const auto& output) { return output == standardOutput ? 1 : 0; };
+    if (toStandard(options.csv) + toStandard(options.picture) + toStandard(options.session) > 1)
         throw UsageError("only one output can go to standard output");
 }
 

@@ -18,11 +18,12 @@ struct FlyOptions {
     std::string plan;
     std::optional<std::string> csv;
     std::optional<std::string> picture;
+    std::optional<std::string> session;
     std::optional<double> until; ///< seconds
     bool german = false;
     bool help = false;
 
-    [[nodiscard]] bool hasOutput() const { return csv || picture; }
+    [[nodiscard]] bool hasOutput() const { return csv || picture || session; }
 };
 
 /// Reads the words behind the program's name. Throws UsageError.

@@ -1,0 +1,49 @@
+#include "window/file_dialog.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+namespace tarnel {
+
+namespace {
+
+/// Whether a dialog may start there: a save must be able to end there, too.
+bool serves(const QFileInfo& folder, bool saves) {
+    return folder.isDir() && (!saves || folder.isWritable());
+}
+
+QString documents() {
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QFileInfo(folder).isDir() ? folder : QDir::homePath();
+}
+
+} // namespace
+
+QString FileDialog::folderFor(const FileQuestion& question) const {
+    const QFileInfo present(QString::fromStdString(question.present));
+    const bool inFolder = present.fileName() != present.filePath();
+    if (inFolder && serves(QFileInfo(present.path()), question.saves))
+        return present.path();
+    if (!lastFolder.isEmpty() && serves(QFileInfo(lastFolder), question.saves))
+        return lastFolder;
+    return question.saves ? documents() : QString::fromStdString(question.folder);
+}
+
+std::optional<std::string> FileDialog::ask(const FileQuestion& question, QWidget* parent) {
+    QFileDialog dialog(parent, QString::fromStdString(question.title), folderFor(question),
+                       QString::fromStdString(question.filter));
+    dialog.setDefaultSuffix(QString::fromStdString(question.extension));
+    dialog.setAcceptMode(question.saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialog.setFileMode(question.saves ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    const QFileInfo present(QString::fromStdString(question.present));
+    if (question.saves || present.isFile())
+        dialog.selectFile(present.fileName());
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return {};
+    const QFileInfo chosen(dialog.selectedFiles().constFirst());
+    lastFolder = chosen.absolutePath();
+    return chosen.absoluteFilePath().toStdString();
+}
+
+} // namespace tarnel

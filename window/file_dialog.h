@@ -1,0 +1,25 @@
+#pragma once
+
+#include "shell/outside_world.h"
+
+#include <QString>
+
+#include <optional>
+
+class QWidget;
+
+namespace tarnel {
+
+/// `FileDialog`: asks for files in the system's dialog. It opens in the folder of the present file,
+/// else where the last file was picked, else among the program's own files for loading and among
+/// the user's documents for saving. A save asks before it takes the name of a file that is there.
+class FileDialog {
+  public:
+    std::optional<std::string> ask(const FileQuestion& question, QWidget* parent);
+
+  private:
+    [[nodiscard]] QString folderFor(const FileQuestion& question) const;
+    QString lastFolder;
+};
+
+} // namespace tarnel

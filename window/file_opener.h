@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+class QWidget;
+
+namespace tarnel {
+
+class Form1;
+
+/// `FileOpener`: opens charts and sessions that come from outside the menus: dropped on the window,
+/// named when the program is started, or handed over by a second start. While a box or a dialog is
+/// up a file waits.
+class FileOpener : public QObject {
+    Q_OBJECT
+
+  public:
+    /// Takes drops on `window`.
+    FileOpener(Form1& form, QWidget& window);
+
+    /// `path` is absolute.
+    void open(const QString& path);
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    Form1& form;
+};
+
+} // namespace tarnel

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "shell/form_1.h"
+
+#include <QPoint>
+
+#include <optional>
+
+class QMenu;
+
+namespace tarnel {
+
+class ChartView;
+
+/// `StationEditing`: the station editor and the context menu of stations, for a chart view.
+class StationEditing {
+  public:
+    StationEditing(Form1& form, ChartView& chart);
+
+    /// Opens the editor.
+    void edit(Slot slot);
+    /// Opens the context menu of a station; of all of them where none is under the pointer.
+    void showMenu(std::optional<Slot> slot, QPoint at);
+
+  private:
+    void addEditor(QMenu& menu, Slot slot);
+    void addSwitches(QMenu& menu, Slot slot);
+
+    Form1& form;
+    ChartView& view;
+};
+
+} // namespace tarnel
