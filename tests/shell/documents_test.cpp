@@ -1,0 +1,132 @@
+#include "shell/documents.h"
+#include "shell/trainer_fixture.h"
+#include "support/sample_session.h"
+
+#include <gmock/gmock.h>
+
+namespace tarnel {
+namespace {
+
+namespace fs = std::filesystem;
+
+struct ReadersWorld : NotedWorld {
+    bool hasReader = true;
+    bool answer = false;
+    std::vector<std::string> opened;
+    bool openDocument(const std::string& path, int page) override {
+        opened.push_back(fs::path(path).filename().string() + " " + std::to_string(page));
+        return hasReader;
+    }
+    bool ask(const std::string&, const std::string&) override { return answer; }
+};
+
+class DocumentsTest : public testing::Test {
+  protected:
+    static std::string withChart(const ApplicationFolder& folder) {
+        fs::copy_file(TARNEL_DATA_FOLDER "/default.map", folder.path + "/default.map");
+        return folder.path;
+    }
+    std::string put(const std::string& name, const std::string& content = "-") {
+        const fs::path path = fs::path(folder.path) / name;
+        fs::create_directories(path.parent_path());
+        std::ofstream(path, std::ios::binary) << content;
+        return path.string();
+    }
+    static std::string session() {
+        std::string text;
+        for (const auto& lines : {sessionHeadLines(), sampleLines(), sampleLines()})
+            for (const std::string& line : lines)
+                text += line + "\r\n";
+        return text;
+    }
+    std::string shownSession() { return form.UserControl11.c_SessionFileName; }
+
+    ApplicationFolder folder;
+    ReadersWorld world;
+    Form1 form{englishTable(), world, withChart(folder)};
+};
+
+TEST_F(DocumentsTest, EveryChapterHasItsPages) {
+    int items = 0;
+    for (const BookChapter& chapter : bookChapters())
+        items += static_cast<int>(chapter.last) - static_cast<int>(chapter.first) + 1;
+    EXPECT_EQ(items, abbreviationsPage);
+    const int beforeIndicator = 17 + 3 + 2;
+    EXPECT_EQ(form.texts.bookPage(beforeIndicator), 30);
+    EXPECT_EQ(form.texts.bookPage(abbreviationsPage), 250);
+    EXPECT_EQ(form.texts.bookPage(bookIndexPage), 251);
+}
+
+TEST_F(DocumentsTest, TheBookOpensInTheLanguageAndItsAbsenceLeavesTheFlightAlone) {
+    form.startButton.click();
+    form.openBook(26);
+    EXPECT_THAT(world.boxes, testing::ElementsAre(testing::HasSubstr("The book was not found")));
+    EXPECT_TRUE(world.opened.empty());
+    put("Buch/buch_en.pdf");
+    form.openBook(26);
+    form.openBook(0);
+    EXPECT_THAT(world.opened, testing::ElementsAre("buch_en.pdf 26", "buch_en.pdf 0"));
+    EXPECT_TRUE(form.simulationRuns());
+    world.hasReader = false;
+    form.openBook(0);
+    EXPECT_THAT(world.boxes.back(), testing::HasSubstr("No program"));
+}
+
+TEST_F(DocumentsTest, AnApproachChartBringsItsSessionAtRestOnly) {
+    form.openApproachChart(2);
+    ASSERT_EQ(world.boxes.size(), 2U);
+    EXPECT_THAT(world.boxes[0], testing::HasSubstr("NOT FOR NAVIGATIONAL PURPOSES"));
+    EXPECT_THAT(world.boxes[1], testing::HasSubstr("eddr111app[1].pdf"));
+    put("default/charts/eddr111app[1].pdf");
+    const std::string german = put("default/sessions/orient eddr 27.ts", session());
+    form.startButton.click();
+    form.openApproachChart(2);
+    EXPECT_EQ(shownSession(), "New Session.ts");
+    EXPECT_TRUE(form.simulationRuns());
+    form.startButton.click();
+    form.openApproachChart(2);
+    EXPECT_EQ(shownSession(), german);
+    const std::string english = put("default/sessions/e-orient eddr 27.ts", session());
+    form.openApproachChart(2);
+    EXPECT_EQ(shownSession(), english);
+    EXPECT_EQ(world.opened.size(), 3U);
+    EXPECT_EQ(world.boxes.size(), 5U);
+}
+
+TEST_F(DocumentsTest, FilesFromOutsideOpenAsTheirNamesSayAndOnlyAtRest) {
+    const std::string flight = put("Grüße/my flight.ts", session());
+    const std::string chart = put("other.MAP");
+    fs::copy_file(TARNEL_DATA_FOLDER "/default.map", chart, fs::copy_options::overwrite_existing);
+    form.startButton.click();
+    form.openFile(flight);
+    EXPECT_THAT(world.boxes, testing::ElementsAre(testing::HasSubstr("\"my flight.ts\"")));
+    EXPECT_TRUE(form.simulationRuns());
+    form.startButton.click();
+
+    form.openFile(flight);
+    form.Timer1();
+    EXPECT_EQ(form.sessionPanel.text(), "my flight.ts");
+    EXPECT_EQ(form.sessionPanel.tipText(), flight);
+    form.openFile(chart);
+    EXPECT_EQ(form.UserControl11.c_ChartFileName.get(), chart);
+    EXPECT_EQ(world.boxes.size(), 1U);
+
+    form.openFile(put("notes.txt", "no session\n"));
+    form.openFile(folder.path + "/gone.ts");
+    ASSERT_EQ(world.boxes.size(), 3U);
+    EXPECT_THAT(world.boxes[1], testing::HasSubstr("notes.txt"));
+    EXPECT_THAT(world.boxes[2], testing::HasSubstr("gone.ts"));
+}
+
+TEST_F(DocumentsTest, StatisticsAreDeletedOnlyOnAYes) {
+    const auto counted = [this] { return world.settings().value("qxr1", "stats", "hsi_bad", "0"); };
+    world.settings().setValue("qxr1", "stats", "hsi_bad", "7");
+    form.exerciseMenu.resetStatistics.click();
+    EXPECT_EQ(counted(), "7");
+    world.answer = true;
+    form.exerciseMenu.resetStatistics.click();
+    EXPECT_EQ(counted(), "0");
+}
+
+} // namespace
+} // namespace tarnel

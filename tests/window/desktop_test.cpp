@@ -1,0 +1,222 @@
+#include "window/file_settings.h"
+#include "window/qt_outside_world.h"
+#include "window/single_instance.h"
+#include "window/student_fixture.h"
+
+#include <QDropEvent>
+#include <QFile>
+#include <QFileDialog>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QUrl>
+#include <gmock/gmock.h>
+
+#include <functional>
+
+namespace tarnel {
+namespace {
+
+void write(const QString& path, const QByteArray& bytes) {
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+}
+
+QByteArray read(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+class MenuTest : public Student {
+  protected:
+    QAction& item(const char* name) {
+        auto* found = window->findChild<QAction*>(QString::fromLatin1(name));
+        if (!found)
+            throw std::runtime_error(std::string("no item called ") + name);
+        return *found;
+    }
+    bool opens(const char* name) { return find<QMenu>(name).menuAction()->isEnabled(); }
+    /// Calls for each item that is no sub menu.
+    void eachItem(QMenu& menu, const std::function<void(QAction&)>& call) {
+        for (QAction* action : menu.actions())
+            if (action->menu())
+                eachItem(*action->menu(), call);
+            else if (!action->isSeparator())
+                call(*action);
+    }
+};
+
+TEST_F(MenuTest, EveryItemCanBeUsedAtRestAndFilesAndExercisesRestInFlight) {
+    open();
+    int items = 0;
+    for (const QAction* top : window->menuBar()->actions())
+        eachItem(*top->menu(), [&](const QAction& action) {
+            EXPECT_TRUE(action.isEnabled()) << qPrintable(action.text());
+            EXPECT_FALSE(action.text().isEmpty()) << qPrintable(action.objectName());
+            ++items;
+        });
+    EXPECT_GT(items, 120);
+    click("Command6");
+    for (const char* name :
+         {"mnuNewSession", "mnuSaveChartAs", "qdm", "adf10", "intro2", "resstats"})
+        EXPECT_FALSE(item(name).isEnabled()) << name;
+    for (const char* name : {"mnuOption", "adfrmi", "adfvorprac", "vorprac", "intromain"})
+        EXPECT_FALSE(opens(name)) << name;
+    EXPECT_TRUE(opens("mnufile"));
+    EXPECT_TRUE(item("pdf31").isEnabled());
+    item("pdf31").trigger();
+    EXPECT_THAT(world.boxes, testing::ElementsAre(testing::HasSubstr("book was not found")));
+    EXPECT_TRUE(form->simulationRuns());
+    click("Command6");
+    EXPECT_TRUE(opens("vorprac"));
+}
+
+TEST_F(MenuTest, ItemsDoWhatTheyAreNamedFor) {
+    open();
+    item("fencrypt").trigger();
+    EXPECT_NE(form->UserControl11.c_doEncrypt, off);
+    item("qdr").trigger();
+    settle();
+    EXPECT_EQ(form->QAform1.c_QAtype, 7);
+    EXPECT_FALSE(item("mnuLoadSession").isEnabled());
+    EXPECT_FALSE(opens("mnuOption"));
+}
+
+class DropTest : public Student {
+  protected:
+    bool drop(const QList<QUrl>& urls) {
+        QMimeData data;
+        data.setUrls(urls);
+        QDragEnterEvent enter({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(window.get(), &enter);
+        QDropEvent event({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, {});
+        event.ignore();
+        QApplication::sendEvent(window.get(), &event);
+        QTest::qWait(1);
+        settle();
+        return event.isAccepted();
+    }
+};
+
+TEST_F(DropTest, ADroppedFileOpensOrSaysWhyNot) {
+    open();
+    const QTemporaryDir folder;
+    const QString flight = folder.filePath(QStringLiteral("Flug über Köln.ts"));
+    write(flight, QByteArray::fromStdString(form->UserControl11.sessionBytes()));
+    EXPECT_FALSE(drop({QUrl(QStringLiteral("https://example.org/a.ts"))}));
+    EXPECT_TRUE(drop({QUrl::fromLocalFile(flight)}));
+    EXPECT_EQ(find<QLabel>("StatusPanel1").text(), QStringLiteral("Flug über Köln.ts"));
+    EXPECT_EQ(find<QLabel>("StatusPanel1").toolTip(), flight);
+    EXPECT_TRUE(world.boxes.empty());
+    EXPECT_TRUE(drop({QUrl::fromLocalFile(folder.filePath(QStringLiteral("gone.map")))}));
+    EXPECT_THAT(world.boxes, testing::ElementsAre(testing::HasSubstr("gone.map")));
+}
+
+TEST(SingleInstanceTest, ASecondStartHandsItsFileOver) {
+    const QString name = QStringLiteral("tarnel-test-%1").arg(QApplication::applicationPid());
+    std::vector<QString> asked;
+    SingleInstance first(name);
+    ASSERT_FALSE(first.otherRuns());
+    first.onOther = [&](const QString& path) { asked.push_back(path); };
+    const QString path = QStringLiteral("/home/student/Flüge/über Köln.ts");
+    EXPECT_TRUE(SingleInstance(name).otherRuns(path));
+    EXPECT_TRUE(SingleInstance(name).otherRuns());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return asked.size() == 2; }));
+    EXPECT_THAT(asked, testing::UnorderedElementsAre(path, QString()));
+}
+
+TEST(FileSettingsTest, TextsSurviveARestartAndOneFlushWritesThem) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("new/settings.ini"));
+    {
+        FileSettings settings(path);
+        settings.setValue("app", "stats", "hsi_total 12", "4");
+        settings.setValue("app", "stats", "Übung/a\\b %2F", " groß, \"quoted\"; 100% ");
+        settings.setValue("app", "stats", "empty", "");
+        settings.setValue("app", "old", "key", "1");
+        EXPECT_FALSE(QFile::exists(path));
+        settings.flush();
+        settings.deleteSection("app", "old");
+    }
+    const FileSettings again(path);
+    EXPECT_EQ(again.value("app", "stats", "hsi_total 12", "-"), "4");
+    EXPECT_EQ(again.value("app", "stats", "Übung/a\\b %2F", "-"), " groß, \"quoted\"; 100% ");
+    EXPECT_EQ(again.value("app", "stats", "empty", "-"), "");
+    EXPECT_EQ(again.value("app", "old", "key", "-"), "-");
+}
+
+TEST(FileSettingsTest, WhatWasEditedByHandComesBackAndNothingElseIsLost) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("settings.ini"));
+    write(path, "nonsense\n[app]\nstats\\a=one, two\nstats\\b=@Variant(\\0\\0)\nstats\\c=\"12\"x\n"
+                "loose=5\n[other]\nx\\y=3\n\xff\xfe[\n");
+    {
+        FileSettings settings(path);
+        EXPECT_EQ(settings.value("app", "stats", "a", "-"), "one,two");
+        settings.setValue("app", "stats", "d", "8");
+    }
+    const FileSettings again(path);
+    EXPECT_EQ(again.value("app", "stats", "a", "-"), "one,two");
+    EXPECT_EQ(again.value("app", "stats", "d", "-"), "8");
+    EXPECT_EQ(again.value("other", "x", "y", "-"), "3");
+}
+
+/// The window with boxes and dialogs of its own.
+class DialogTest : public MenuTest {
+  protected:
+    void openWithDialogs() {
+        outside = std::make_unique<QtOutsideWorld>(folder.filePath(QStringLiteral("settings.ini")));
+        form = std::make_unique<Form1>(englishTable(), *outside, TARNEL_APPLICATION_FOLDER);
+        window = std::make_unique<MainWindow>(*form);
+        outside->setParent(window.get());
+        window->show();
+        settle();
+    }
+    ~DialogTest() override {
+        window.reset();
+        form.reset();
+    }
+    /// Triggers an item and answers the file dialog that comes with `answer`. False if none came.
+    bool trigger(const char* name, const std::function<void(QFileDialog&)>& answer) {
+        bool came = false;
+        QTimer::singleShot(0, window.get(), [&] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            if (!dialog)
+                return;
+            came = true;
+            answer(*dialog);
+        });
+        item(name).trigger();
+        settle();
+        return came;
+    }
+
+    QTemporaryDir folder;
+    std::unique_ptr<QtOutsideWorld> outside;
+};
+
+TEST_F(DialogTest, TheShippedChartIsSavedUnderAnotherNameOnly) {
+    openWithDialogs();
+    const QByteArray shipped = read(QStringLiteral(TARNEL_APPLICATION_FOLDER "/default.map"));
+    const QString mine = folder.filePath(QStringLiteral("mine"));
+    EXPECT_TRUE(trigger("mnuSaveChart", [&](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptSave);
+        dialog.selectFile(mine);
+        static_cast<QDialog&>(dialog).accept();
+    }));
+    EXPECT_EQ(form->UserControl11.c_ChartFileName.get(), mine.toStdString() + ".map");
+    EXPECT_TRUE(QFile::exists(mine + QStringLiteral(".map")));
+    EXPECT_EQ(read(QStringLiteral(TARNEL_APPLICATION_FOLDER "/default.map")), shipped);
+    EXPECT_FALSE(trigger("mnuSaveChart", [](QFileDialog& dialog) { dialog.reject(); }));
+    EXPECT_TRUE(trigger("mnuSaveSession", [&](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.directory().canonicalPath(), QDir(folder.path()).canonicalPath());
+        dialog.reject();
+    }));
+}
+
+} // namespace
+} // namespace tarnel
