@@ -638,6 +638,9 @@ constexpr StringEntry entries[] = {
     {813, "Vectors: off, type 1, type 2"},
     {814, "Wind: off, manual, random"},
     {815, "Radial lines: centre, border, none"},
+    {816, "Scale"},
+    {817, "Shows about %1 x %1 NM"},
+    {818, "Comment mark"},
 };
 
 } // namespace

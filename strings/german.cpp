@@ -643,6 +643,9 @@ constexpr StringEntry entries[] = {
     {813, "Windeinfluss: aus, Typ 1, Typ 2"},
     {814, "Wind: aus, manuell, Zufall"},
     {815, "Radiale: Mitte, Rand, keine"},
+    {816, "Maßstab"},
+    {817, "Zeigt etwa %1 x %1 NM"},
+    {818, "Kommentarmarke"},
 };
 
 } // namespace

@@ -595,6 +595,9 @@ enum class Text : int {
     keyVectors = 813,
     keyWind = 814,
     keyRadials = 815,
+    chartScale = 816,
+    chartScaleTip = 817,
+    commentMark = 818,
 };
 
 } // namespace tarnel

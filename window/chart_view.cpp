@@ -3,6 +3,7 @@
 #include "core/number_text.h"
 #include "core/rounding.h"
 #include "window/look.h"
+#include "window/reference_lamps.h"
 #include "window/text_of.h"
 
 #include <QAccessible>
@@ -42,6 +43,7 @@ QString angleText(double degrees, int digits, char positive, char negative) {
 
 ChartView::ChartView(UserControl2& simulation, const StringTable& table, QWidget* parent)
     : QWidget(parent), sim(simulation), texts(table), painter(simulation, table) {
+    lamps = new ReferenceLamps(sim, texts, this);
     setFocusPolicy(Qt::TabFocus);
     setContextMenuPolicy(Qt::PreventContextMenu);
     setAccessibleName(spokenChart());
@@ -50,6 +52,7 @@ ChartView::ChartView(UserControl2& simulation, const StringTable& table, QWidget
 
 void ChartView::refresh() {
     showCursor();
+    lamps->refresh();
     if (paintedRevision == sim.picture.surface.revision())
         return;
     update();
@@ -84,9 +87,14 @@ void ChartView::paintEvent(QPaintEvent* /*event*/) {
                              look::paperRadius, look::paperRadius);
 }
 
+void ChartView::resizeEvent(QResizeEvent* /*event*/) {
+    const ChartFrame frame(side(), sim.picture.size, devicePixelRatioF());
+    lamps->setGeometry(lampsPlate(frame).toAlignedRect());
+}
+
 void ChartView::showCursor() {
-    const bool canPlace = sim.view.northUpMode && sim.stopped();
-    const Qt::CursorShape wanted = canPlace ? Qt::CrossCursor : Qt::ArrowCursor;
+    const bool canAct = sim.view.northUpMode && (sim.stopped() || sim.mouse.windTool());
+    const Qt::CursorShape wanted = canAct ? Qt::CrossCursor : Qt::ArrowCursor;
     if (cursor().shape() != wanted)
         setCursor(wanted);
 }

@@ -11,6 +11,8 @@
 
 namespace tarnel {
 
+class ReferenceLamps;
+
 /// `ChartView`: the chart as a widget. It shows the simulation's picture on white paper and hands
 /// it the mouse.
 class ChartView : public QWidget {
@@ -33,6 +35,7 @@ class ChartView : public QWidget {
 
   protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -46,6 +49,7 @@ class ChartView : public QWidget {
     UserControl2& sim;
     const StringTable& texts;
     ChartPainter painter;
+    ReferenceLamps* lamps = nullptr;
     std::uint64_t paintedRevision = 0;
     int wheelRest = 0;
 };

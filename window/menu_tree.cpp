@@ -26,6 +26,7 @@ class MenuBuilder {
     void buildExercises();
     void buildBook();
     void buildView();
+    void buildKeys(QMenu& view);
     void buildHelp(const MenuActions& actions);
 
   private:
@@ -90,21 +91,14 @@ void MenuBuilder::textRange(QMenu& parent, const char* prefix, Text first, Text 
 }
 
 void MenuBuilder::buildFile(const MenuActions& actions) {
-    static constexpr MenuEntry sessions[] = {
-        {"mnuNewSession", Text::newSession},         {"mnuLoadSession", Text::loadSession},
-        {"mnuLoadOLDSession", Text::loadOldSession}, {"mnuSaveSession", Text::saveSession},
-        {"mnuSaveSessionAs", Text::saveSessionAs},
-    };
-    static constexpr MenuEntry charts[] = {
-        {"mnuloadchart", Text::loadChart},
-        {"mnuSaveChart", Text::saveChart},
-        {"mnuSaveChartAs", Text::saveChartAs},
-        {"fencrypt", Text::encipherFiles},
-    };
+    FileMenu& items = form.fileMenu;
     QMenu* file = menu(bar, "mnufile", Text::menuFile);
-    allLater(*file, sessions);
-    file->addSeparator();
-    allLater(*file, charts);
+    for (CommandButton* control : items.items()) {
+        if (control == &items.loadChart)
+            file->addSeparator();
+        binding.bind(*control, *file->addAction(text(*control->caption())));
+    }
+    later(*file, {"fencrypt", Text::encipherFiles});
     file->addSeparator();
     QAction* exit = entry(*file, "mnuExit", text(Text::exitProgram));
     exit->setShortcut(QKeySequence::Quit);
@@ -174,6 +168,8 @@ void MenuBuilder::buildView() {
     QObject::connect(heading, &QAction::triggered, &bar,
                      guarded([](Form1& f) { f.setNorthUp(false); }));
     view->addSeparator();
+    buildKeys(*view);
+    view->addSeparator();
     QAction* larger = entry(*view, "zoomIn", text(Text::zoomIn));
     larger->setShortcut(QKeySequence::ZoomIn);
     QObject::connect(larger, &QAction::triggered, &bar, guarded([](Form1& f) { f.stepScale(1); }));
@@ -181,11 +177,27 @@ void MenuBuilder::buildView() {
     smaller->setShortcut(QKeySequence::ZoomOut);
     QObject::connect(smaller, &QAction::triggered, &bar,
                      guarded([](Form1& f) { f.stepScale(-1); }));
-    QAction* cycle = entry(*view, "cycleRadialLines", text(Text::cycleRadialLines));
-    QObject::connect(cycle, &QAction::triggered, &bar,
-                     guarded([](Form1& f) { f.cycleRadialLines(); }));
     view->addSeparator();
     binding.bind(form.floatingGyroBox, *entry(*view, "floatingGyro", text(Text::floatingGyro)));
+}
+
+/// The letters on the status panels. A field that takes text keeps them to itself.
+void MenuBuilder::buildKeys(QMenu& view) {
+    static constexpr std::pair<char, Text> keys[] = {
+        {'M', Text::keyStart},   {'P', Text::keyReplay},  {'H', Text::keyHide},
+        {'T', Text::keyTrace},   {'V', Text::keyVectors}, {'W', Text::keyWind},
+        {'R', Text::keyRadials},
+    };
+    for (const auto& [letter, caption] : keys) {
+        const QString key{QLatin1Char(letter)};
+        QAction* action = entry(view, "", text(caption));
+        action->setObjectName(QStringLiteral("key") + key);
+        action->setShortcut(QKeySequence(key));
+        action->setAutoRepeat(false);
+        QObject::connect(action, &QAction::triggered, &bar, [this_form = &form, which = letter] {
+            this_form->guarded([&] { this_form->pressKey(which); });
+        });
+    }
 }
 
 void MenuBuilder::buildHelp(const MenuActions& actions) {

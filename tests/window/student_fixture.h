@@ -1,0 +1,82 @@
+#pragma once
+
+#include "strings/tables.h"
+#include "window/application.h"
+#include "window/main_window.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace tarnel {
+
+struct NotedWorld : OutsideWorld {
+    std::vector<std::string> boxes;
+    void messageBox(BoxKind, const std::string&, const std::string& text) override {
+        boxes.push_back(text);
+    }
+};
+
+/// The window as a student has it, with the time run by hand.
+class Student : public testing::Test {
+  protected:
+    void open(const StringTable& texts = englishTable(), QSize size = {1280, 800}) {
+        dressApplication(texts, QStringLiteral(TARNEL_APPLICATION_FOLDER));
+        form = std::make_unique<Form1>(texts, world, TARNEL_APPLICATION_FOLDER);
+        window = std::make_unique<MainWindow>(*form);
+        window->resize(size);
+        window->show();
+        settle();
+    }
+    void settle() {
+        form->Timer1();
+        form->Timer1();
+        window->refresh();
+        QApplication::processEvents();
+    }
+    void fly(int seconds) {
+        for (int i = 0; i < seconds * 3; ++i) {
+            form->simulationTimer();
+            form->Timer1();
+        }
+        settle();
+    }
+    template <class Widget = QAbstractButton>
+    Widget& find(const char* name) {
+        auto* found = window->findChild<Widget*>(QString::fromLatin1(name));
+        if (!found)
+            throw std::runtime_error(std::string("no widget called ") + name);
+        return *found;
+    }
+    /// The one that is shown, where several do the same.
+    template <class Widget = QAbstractButton>
+    Widget& findShown(const char* name) {
+        for (auto* found : window->findChildren<Widget*>(QString::fromLatin1(name)))
+            if (found->isVisible())
+                return *found;
+        throw std::runtime_error(std::string("no widget shown called ") + name);
+    }
+    void click(const char* name) {
+        find(name).click();
+        settle();
+    }
+    void drag(QWidget& widget, QPoint from, QPoint way) {
+        QTest::mousePress(&widget, Qt::LeftButton, {}, from);
+        QTest::mouseMove(&widget, from + way / 2);
+        QTest::mouseMove(&widget, from + way);
+        QTest::mouseRelease(&widget, Qt::LeftButton, {}, from + way);
+        settle();
+    }
+
+    NotedWorld world;
+    std::unique_ptr<Form1> form;
+    std::unique_ptr<MainWindow> window;
+};
+
+} // namespace tarnel
