@@ -106,6 +106,16 @@ QPushButton[channel="true"]:hover { border-color: $unit; }
 QPushButton[channel="true"]:pressed { background: $panelBottom; }
 QPushButton[channel="true"]:focus { border: 2px solid $panelFocus; padding: 0; }
 
+QLabel[quizTitle="true"] { font-size: {15}px; font-weight: bold; }
+QLabel[quizTask="true"] { font-weight: bold; }
+QLabel[notice="true"] { color: $wrong; }
+QPushButton[quiz="true"] { min-height: {26}px; max-height: {26}px; }
+QPushButton[choice="true"] { min-height: {30}px; max-height: {30}px; font-size: {13}px; }
+QLineEdit[quiz="true"] { min-height: {28}px; max-height: {28}px; font-size: {13}px; }
+QComboBox[quiz="true"] { min-height: {30}px; max-height: {30}px; }
+QComboBox[quiz="true"] QAbstractItemView { background: $paper; color: $ink; border: 1px solid $line;
+  selection-background-color: $accent; selection-color: white; outline: none; }
+
 QWidget#StatusPanels { background: $bar; border-top: 1px solid $line; }
 QWidget#StatusPanels QLabel { font-size: {12}px; padding-left: {10}px; }
 )";
@@ -124,6 +134,7 @@ const QHash<QString, QColor>& colours() {
         {QStringLiteral("tint"), look::onPaper(look::accent, 0.15)},
         {QStringLiteral("accentDeep"), look::accent.darker(130)},
         {QStringLiteral("accentLight"), look::accent.lighter(115)},
+        {QStringLiteral("wrong"), look::wrong},
         {QStringLiteral("unit"), look::unit},
         {QStringLiteral("moduleTop"), look::moduleTop},
         {QStringLiteral("moduleBottom"), look::moduleBottom},
