@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
+#include <QStyle>
 
 #include <algorithm>
 
@@ -22,8 +23,8 @@ constexpr int partGap = 6;
 constexpr int buttonGap = 8;
 constexpr int titleGap = 6;
 constexpr int statisticGap = 16;
-/// Room for prompts that the answers never get, as a share of the row.
-constexpr double leastPromptShare = 0.25;
+/// Of a prompt's width, where it stands in two lines.
+constexpr double twoLineShare = 0.62;
 
 } // namespace
 
@@ -69,7 +70,6 @@ void QuizFrame::makeButtons(FormBinding& binding) {
     solution = button(asked.solutionButton, binding);
     fly = button(asked.flyButton, binding);
     next = button(asked.nextButton, binding);
-    next->setProperty("primary", true);
     cancel = button(asked.cancelButton, binding);
     random = new TickBox(this);
     binding.bind(asked.randomBox, *random);
@@ -137,13 +137,23 @@ void QuizFrame::followFold() {
         row->setVisible(row->asked() && !folded());
     QStringList told;
     for (const QuizRow* row : questions)
-        if (const QString line = row->summary(); !line.isEmpty())
-            told << line;
+        if (row->asked() && row->revealed())
+            told << row->summary();
     answers->setText(told.join(QStringLiteral("   ")));
     answers->setVisible(folded() && !told.isEmpty());
     task->setVisible(!task->text().isEmpty());
     if (flightBar)
         flightBar->setVisible(folded());
+    setNextPrimary(!folded());
+}
+
+/// Of a flight, starting is what comes first.
+void QuizFrame::setNextPrimary(bool primary) {
+    if (next->property("primary").toBool() == primary)
+        return;
+    next->setProperty("primary", primary);
+    next->style()->unpolish(next);
+    next->style()->polish(next);
 }
 
 void QuizFrame::follow() {
@@ -200,10 +210,10 @@ int QuizFrame::arrangeHeader(int top, int width, bool placing) const {
     const int tall = title->sizeHint().height();
     const int below =
         std::max(statistic->sizeHint().height(), beside ? 0 : random->sizeHint().height());
-    const int second = oneLine ? top : top + tall;
+    const int second = oneLine ? top : top + tall + scaled(1);
     const int bottom = oneLine ? top + tall : second + below;
     if (!placing)
-        return bottom + scaled(2);
+        return bottom + scaled(3);
     title->setGeometry(left, top, title->sizeHint().width(), tall);
     place->setGeometry(left + title->width() + scaled(titleGap), top, place->sizeHint().width(),
                        tall);
@@ -213,7 +223,7 @@ int QuizFrame::arrangeHeader(int top, int width, bool placing) const {
     if (!beside)
         random->setGeometry(left + width - random->sizeHint().width(), second,
                             random->sizeHint().width(), below);
-    headerLine = bottom + scaled(2);
+    headerLine = bottom + scaled(3);
     return headerLine;
 }
 
@@ -229,18 +239,24 @@ int QuizFrame::arrangeTexts(int top, int width, bool placing) const {
     return top;
 }
 
-/// As much for the prompts as the longest needs, if the answers keep their room.
+/// As much for the prompts as the longest needs, if the answers keep their room. Answers stand in
+/// two lines rather than prompts in three.
 int QuizFrame::promptWidth(int width) const {
     int prompts = 0;
-    int answersWidth = 0;
+    int inLine = 0;
+    int broken = 0;
     for (const QuizRow* row : questions) {
         if (!row->asked())
             continue;
         prompts = std::max(prompts, row->promptWidth());
-        answersWidth = std::max(answersWidth, row->answersWidth());
+        inLine = std::max(inLine, row->answersWidth());
+        broken = std::max(broken, row->brokenAnswersWidth());
     }
-    const int left = width - answersWidth - scaled(inset);
-    return std::min(prompts, std::max(left, qRound(leastPromptShare * width)));
+    const int besideLines = width - inLine - scaled(inset);
+    const int besideBroken = width - broken - scaled(inset);
+    const int twoLines = qRound(twoLineShare * prompts);
+    return std::min(prompts,
+                    besideLines >= twoLines ? besideLines : std::min(besideBroken, twoLines));
 }
 
 /// What is left of the height is spread between the rows.

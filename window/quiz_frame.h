@@ -59,6 +59,7 @@ class QuizFrame : public QWidget {
     void makeButtons(FormBinding& binding);
     void followTitle();
     void followFold();
+    void setNextPrimary(bool primary);
 
     /// Places everything in a card of `size`, or only measures. The height that is needed.
     int arrange(QSize size, bool place) const;

@@ -10,6 +10,7 @@ namespace tarnel {
 namespace {
 
 constexpr double digitShare = 0.77; ///< of the text's height
+constexpr double brokenShare = 0.88;
 constexpr int digitGap = 6;
 constexpr int padding = 7;
 
@@ -20,20 +21,56 @@ QuizOption::QuizOption(int number, QWidget* parent)
     setProperty("choice", true);
 }
 
-QFont QuizOption::digitFont() const {
+QFont QuizOption::smallFont(double share) const {
     QFont small = font();
-    small.setPixelSize(qRound(QFontInfo(small).pixelSize() * digitShare));
+    small.setPixelSize(qRound(QFontInfo(small).pixelSize() * share));
     return small;
 }
 
-int QuizOption::textWidth() const {
-    return fontMetrics().size(Qt::TextShowMnemonic, text()).width();
+QString QuizOption::shownText() const {
+    return text().replace(QStringLiteral("&&"), QStringLiteral("&"));
 }
 
-int QuizOption::neededWidth() const {
+/// What digit, gap and padding take of the width.
+int QuizOption::digitPart() const {
+    return QFontMetrics(smallFont(digitShare)).horizontalAdvance(digit) +
+           qRound((digitGap + 2 * padding) * quiz::scaleOf(*this));
+}
+
+int QuizOption::lineWidth() const {
     ensurePolished();
-    const int digitWidth = QFontMetrics(digitFont()).horizontalAdvance(digit);
-    return textWidth() + qRound((digitGap + 2 * padding) * quiz::scaleOf(*this)) + digitWidth;
+    return digitPart() + fontMetrics().horizontalAdvance(shownText());
+}
+
+int QuizOption::brokenWidth() const {
+    ensurePolished();
+    const QFontMetrics metrics(smallFont(brokenShare));
+    const QStringList words = shownText().split(QLatin1Char(' '));
+    int narrowest = metrics.horizontalAdvance(shownText());
+    for (qsizetype i = 1; i < words.size(); ++i) {
+        const int first = metrics.horizontalAdvance(words.first(i).join(QLatin1Char(' ')));
+        const int second = metrics.horizontalAdvance(words.sliced(i).join(QLatin1Char(' ')));
+        narrowest = qMin(narrowest, qMax(first, second));
+    }
+    return digitPart() + narrowest + 1;
+}
+
+/// Digit and text stand in the middle as one.
+void QuizOption::paintText(QPainter& painter) const {
+    const double scale = quiz::scaleOf(*this);
+    const bool oneLine = width() >= lineWidth();
+    const int wide = oneLine ? lineWidth() : brokenWidth();
+    const int left = qMax(2, (width() - wide) / 2 + qRound(padding * scale));
+    const QRect line = rect().adjusted(left, 0, 0, 0);
+    painter.setPen(isEnabled() ? look::secondaryInk : look::unit);
+    painter.setFont(smallFont(digitShare));
+    painter.drawText(line, Qt::AlignVCenter | Qt::AlignLeft, digit);
+    const int textLeft = painter.fontMetrics().horizontalAdvance(digit) + qRound(digitGap * scale);
+    painter.setPen(isEnabled() ? look::ink : look::unit);
+    painter.setFont(oneLine ? font() : smallFont(brokenShare));
+    painter.drawText(line.adjusted(textLeft, 0, oneLine ? 0 : -2, 0),
+                     Qt::AlignVCenter | Qt::AlignLeft | (oneLine ? 0 : Qt::TextWordWrap),
+                     shownText());
 }
 
 void QuizOption::paintEvent(QPaintEvent*) {
@@ -48,18 +85,7 @@ void QuizOption::paintEvent(QPaintEvent*) {
                                   : look::paper);
     painter.drawRoundedRect(QRectF(rect()).adjusted(edge / 2, edge / 2, -edge / 2, -edge / 2),
                             look::controlRadius, look::controlRadius);
-    // Digit and text stand in the middle as one.
-    const int left = (width() - neededWidth()) / 2 + qRound(padding * quiz::scaleOf(*this));
-    const QRect line = rect().adjusted(qMax(left, 2), 0, 0, 0);
-    painter.setPen(isEnabled() ? look::secondaryInk : look::unit);
-    painter.setFont(digitFont());
-    painter.drawText(line, Qt::AlignVCenter | Qt::AlignLeft, digit);
-    const int textLeft =
-        painter.fontMetrics().horizontalAdvance(digit) + qRound(digitGap * quiz::scaleOf(*this));
-    painter.setPen(isEnabled() ? look::ink : look::unit);
-    painter.setFont(font());
-    painter.drawText(line.adjusted(textLeft, 0, 0, 0),
-                     Qt::AlignVCenter | Qt::AlignLeft | Qt::TextShowMnemonic, text());
+    paintText(painter);
 }
 
 } // namespace tarnel

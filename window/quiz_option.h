@@ -12,15 +12,19 @@ class QuizOption : public QPushButton {
     /// `digit` counts the row's answers from 1.
     QuizOption(int digit, QWidget* parent);
 
-    /// The width in which text and digit have room.
-    [[nodiscard]] int neededWidth() const;
+    /// The width in which the text has room in one line.
+    [[nodiscard]] int lineWidth() const;
+    /// The width in which it has room in two lines, if it can be broken.
+    [[nodiscard]] int brokenWidth() const;
 
   protected:
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    [[nodiscard]] QFont digitFont() const;
-    [[nodiscard]] int textWidth() const;
+    [[nodiscard]] QFont smallFont(double share) const;
+    [[nodiscard]] QString shownText() const;
+    [[nodiscard]] int digitPart() const;
+    void paintText(QPainter& painter) const;
 
     QString digit;
 };

@@ -36,7 +36,9 @@ QuizRow::QuizRow(int number, AnswerRow& row, const StringTable& table, FormBindi
     numberLabel->setProperty("secondary", true);
     prompt = new QLabel(this);
     prompt->setWordWrap(true);
-    binding.bind(row.prompt, *prompt);
+    prompt->setTextFormat(Qt::PlainText);
+    const std::string_view name = row.prompt.name();
+    prompt->setObjectName(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())));
     makeEntries(binding);
     makeOptions(binding);
     makeList(binding);
@@ -77,9 +79,9 @@ void QuizRow::makeList(FormBinding& binding) {
 void QuizRow::follow() {
     for (std::size_t i = 0; i < units.size(); ++i)
         units[i]->setText(textOf(texts, *answerRow.entries[i]->unit.caption()));
-    const bool solution =
-        answerRow.answer.visible() && answerRow.answer.colours() == solutionColours;
-    verdict->tell(answerRow.verdict(), solution, plain(answerRow.answer.text()), verdictWord());
+    // A lone question mark would look lost in a line of its own.
+    prompt->setText(promptText().replace(QStringLiteral(" ?"), QStringLiteral("\u00A0?")));
+    verdict->tell(answerRow.verdict(), revealed(), plain(answerRow.answer.text()), verdictWord());
     verdict->setAccessibleName(spokenVerdict());
     nameAnswers();
 }
@@ -106,9 +108,11 @@ QString QuizRow::verdictWord() const {
 }
 
 QString QuizRow::summary() const {
-    if (!asked() || open())
-        return {};
     return promptText() + QLatin1Char(' ') + plain(answerRow.answer.text());
+}
+
+bool QuizRow::revealed() const {
+    return answerRow.answer.visible() && answerRow.answer.colours() == solutionColours;
 }
 
 QString QuizRow::promptText() const {
@@ -166,21 +170,37 @@ int QuizRow::entriesWidth() const {
 int QuizRow::widestOption() const {
     int widest = 0;
     for (const QuizOption* option : options)
-        widest = std::max(widest, option->neededWidth());
+        widest = std::max(widest, option->lineWidth());
     return widest;
+}
+
+/// Its entries have room there too once they are told to be right.
+int QuizRow::listWidth() const {
+    int width = list->sizeHint().width();
+    const QString right = textOf(texts, Text::answerRight);
+    for (int i = 1; i < list->count(); ++i)
+        width = std::max(width, verdict->widthFor(list->itemText(i), right));
+    return width;
 }
 
 int QuizRow::answersWidth() const {
     if (list)
-        return list->sizeHint().width();
+        return listWidth();
     int width = entriesWidth();
     for (const QuizOption* option : options)
-        width += option->neededWidth();
+        width += option->lineWidth();
     return width + scaled(quiz::answerGap) * static_cast<int>(options.size() - 1);
 }
 
+int QuizRow::brokenAnswersWidth() const {
+    int width = answersWidth();
+    for (const QuizOption* option : options)
+        width += option->brokenWidth() - option->lineWidth();
+    return width;
+}
+
 int QuizRow::promptPart(int width, int wanted) const {
-    return std::min(wanted, width - answersWidth() - scaled(columnGap));
+    return std::min(wanted, width - brokenAnswersWidth() - scaled(columnGap));
 }
 
 int QuizRow::heightFor(int width, int wanted) const {
@@ -205,7 +225,7 @@ void QuizRow::layOutAnswers(int left, int width) {
     const int tall = scaled(quiz::answerHeight);
     const int top = (height() - tall) / 2;
     if (list)
-        list->setGeometry(left, top, std::min(list->sizeHint().width(), width), tall);
+        list->setGeometry(left, top, std::min(listWidth(), width), tall);
     int x = left;
     for (std::size_t i = 0; i < fields.size(); ++i) {
         fields[i]->setGeometry(x, top, scaled(fieldWidth), tall);
@@ -216,17 +236,25 @@ void QuizRow::layOutAnswers(int left, int width) {
     layOutOptions(x, left + width - x);
 }
 
-/// All options have the same width if that can be.
+/// All options have the same width if that can be; else as many as can stand in one line.
 void QuizRow::layOutOptions(int left, int width) {
     if (options.empty())
         return;
     const int count = static_cast<int>(options.size());
     const int gap = scaled(quiz::answerGap);
-    const int each = std::min((width - gap * (count - 1)) / count, scaled(widestChoice));
+    int free = width - gap * (count - 1);
+    const int each = std::min(free / count, scaled(widestChoice));
     const bool alike = each >= widestOption();
+    for (const QuizOption* option : options)
+        free -= option->brokenWidth();
     const int tall = scaled(quiz::answerHeight);
     for (QuizOption* option : options) {
-        const int wide = alike ? each : option->neededWidth();
+        const int more = option->lineWidth() - option->brokenWidth();
+        const bool inLine = more <= free;
+        if (inLine)
+            free -= more;
+        const int own = inLine ? option->lineWidth() : option->brokenWidth();
+        const int wide = alike ? each : own;
         option->setGeometry(left, (height() - tall) / 2, wide, tall);
         left += wide + gap;
     }

@@ -30,7 +30,9 @@ class QuizRow : public QWidget {
     [[nodiscard]] bool asked() const { return answerRow.prompt.visible(); }
     /// Whether it can still be answered.
     [[nodiscard]] bool open() const { return asked() && !answerRow.answer.visible(); }
-    /// Prompt and answer in one line, where there is an answer.
+    /// Whether its solution is shown.
+    [[nodiscard]] bool revealed() const;
+    /// Prompt and answer in one line.
     [[nodiscard]] QString summary() const;
     [[nodiscard]] QString promptText() const;
 
@@ -41,9 +43,10 @@ class QuizRow : public QWidget {
     /// Goes from a field on to what follows it; a single button there is pressed.
     void goOnFrom(QWidget* field);
 
-    /// The widths that the prompt takes in one line, and the answers at least.
+    /// The widths that prompt and answers take in one line, and the answers in two.
     [[nodiscard]] int promptWidth() const;
     [[nodiscard]] int answersWidth() const;
+    [[nodiscard]] int brokenAnswersWidth() const;
     /// The height at a width, of which the prompt has a part.
     [[nodiscard]] int heightFor(int width, int promptWidth) const;
     /// Takes a place, with so much of it for the prompt; less if the answers need it.
@@ -62,6 +65,7 @@ class QuizRow : public QWidget {
     [[nodiscard]] int scaled(int pixels) const;
     [[nodiscard]] int entriesWidth() const;
     [[nodiscard]] int widestOption() const;
+    [[nodiscard]] int listWidth() const;
     [[nodiscard]] int promptPart(int width, int wanted) const;
     void layOutAnswers(int left, int width);
     void layOutOptions(int left, int width);

@@ -55,14 +55,18 @@ QFont QuizVerdict::wordFont() const {
     return small;
 }
 
-QSize QuizVerdict::sizeHint() const {
+int QuizVerdict::widthFor(const QString& answer, const QString& besides) const {
     ensurePolished();
     const double scale = quiz::scaleOf(*this);
     double wide = (2 * inset + signSize + partGap) * scale +
-                  QFontMetrics(answerFont()).horizontalAdvance(text());
-    if (!word.isEmpty())
-        wide += partGap * scale + QFontMetrics(wordFont()).horizontalAdvance(word);
-    return {qRound(wide + 1), qRound(quiz::answerHeight * scale)};
+                  QFontMetrics(answerFont()).horizontalAdvance(answer);
+    if (!besides.isEmpty())
+        wide += partGap * scale + QFontMetrics(wordFont()).horizontalAdvance(besides);
+    return qRound(wide + 1);
+}
+
+QSize QuizVerdict::sizeHint() const {
+    return {widthFor(text(), word), qRound(quiz::answerHeight * quiz::scaleOf(*this))};
 }
 
 /// A tick, a cross, or a dot where nothing was answered.

@@ -17,6 +17,8 @@ class QuizVerdict : public QLabel {
     /// `word` is the verdict where the answer does not tell it; it may be empty.
     void tell(Verdict verdict, bool solution, const QString& answer, const QString& word);
 
+    /// The width that an answer and a word take.
+    [[nodiscard]] int widthFor(const QString& answer, const QString& word) const;
     [[nodiscard]] QSize sizeHint() const override;
 
   protected:

@@ -33,7 +33,7 @@ QScrollArea#Frame3 { background: transparent; border: 1px solid transparent; bor
 QScrollArea#Frame3:focus { border-color: $accent; }
 QCheckBox { font-size: {12}px; }
 
-QPushButton { background: $paper; color: $ink; border: 1px solid $line; border-radius: {5}px;
+QPushButton { background: $paper; color: $ink; border: 1px solid $line; border-radius: {5}px; outline: none;
   padding: 0 {10}px; min-height: {24}px; max-height: {24}px; font-size: {12}px; }
 QPushButton:hover { border-color: $accent; }
 QPushButton:pressed { background: $hairline; }
@@ -109,10 +109,9 @@ QPushButton[channel="true"]:focus { border: 2px solid $panelFocus; padding: 0; }
 QLabel[quizTitle="true"] { font-size: {15}px; font-weight: bold; }
 QLabel[quizTask="true"] { font-weight: bold; }
 QLabel[notice="true"] { color: $wrong; }
-QPushButton[quiz="true"] { min-height: {26}px; max-height: {26}px; }
-QPushButton[choice="true"] { min-height: {30}px; max-height: {30}px; font-size: {13}px; }
+QPushButton[quiz="true"] { min-height: {26}px; max-height: {26}px; min-width: {56}px; }
+QPushButton[choice="true"] { min-height: {28}px; max-height: {28}px; font-size: {13}px; }
 QLineEdit[quiz="true"] { min-height: {28}px; max-height: {28}px; font-size: {13}px; }
-QComboBox[quiz="true"] { min-height: {30}px; max-height: {30}px; }
 QComboBox[quiz="true"] QAbstractItemView { background: $paper; color: $ink; border: 1px solid $line;
   selection-background-color: $accent; selection-color: white; outline: none; }
 
