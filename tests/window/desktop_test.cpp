@@ -205,6 +205,7 @@ TEST_F(DialogTest, TheShippedChartIsSavedUnderAnotherNameOnly) {
     const QString mine = folder.filePath(QStringLiteral("mine"));
     EXPECT_TRUE(trigger("mnuSaveChart", [&](QFileDialog& dialog) {
         EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptSave);
+        EXPECT_NE(dialog.directory(), QDir(QStringLiteral(TARNEL_APPLICATION_FOLDER)));
         dialog.selectFile(mine);
         static_cast<QDialog&>(dialog).accept();
     }));
