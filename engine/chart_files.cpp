@@ -116,7 +116,7 @@ void UserControl2::saveChart() {
     chart.aircraft = aircraft.published();
     chart.locCourse = c_LocCrs1;
     try {
-        saveFileBytes(*path, writeChart(chart, drawKey()));
+        saveFileBytes(*path, writeChart(chart, keyToSave()));
         c_ChartFileName.setIfChanged(*path);
     } catch (const RunTimeError& error) {
         messages.fileFailed(FileRequest::saveChart, *path, error);

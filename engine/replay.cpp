@@ -62,8 +62,8 @@ void UserControl2::goToSample() {
 /// Clocks, speed, turn and wind; the heading too unless the aircraft flies on between samples.
 void UserControl2::restoreMotion(const Sample& sample) {
     if (c_ReplayInterpolation == showSample) {
-        aircraft.trueHeading = sample.traceHeading;
-        c_HDG.publish(sample.traceHeading);
+        aircraft.trueHeading = intoCircle(sample.traceHeading);
+        c_HDG.publish(aircraft.trueHeading);
     }
     c_ApMinutes.publish(sample.traceStopMinutes);
     c_ApSeconds.publish(sample.traceStopSeconds);
@@ -72,7 +72,9 @@ void UserControl2::restoreMotion(const Sample& sample) {
     c_ApSeconds2.publish(sample.traceFlightSeconds);
     c_TAS.publish(sample.traceTAS);
     Turn_Rate.publish(sample.traceTurnRate);
-    wind = {static_cast<double>(sample.traceWindDirection), sample.traceWindSpeed};
+    const bool calm = sample.traceWindDirection < 0 || sample.traceWindSpeed < 0;
+    wind =
+        calm ? Wind{} : Wind{static_cast<double>(sample.traceWindDirection), sample.traceWindSpeed};
     c_HDGbug.publish(sample.traceHDGbug);
     c_APhdg.publish(sample.traceAPhdg);
     c_APtas.publish(sample.traceAPtas);

@@ -1,5 +1,6 @@
 #include "engine/file_requests.h"
 #include "engine/user_control_2.h"
+#include "persistence/cipher.h"
 #include "persistence/file_bytes.h"
 #include "persistence/older_session_file.h"
 #include "persistence/save_file.h"
@@ -57,11 +58,11 @@ void UserControl2::openSession(const std::string& path) {
 }
 
 /// A key from 1 to 99 if files are to be enciphered.
-std::optional<int> UserControl2::drawKey() {
+std::optional<int> UserControl2::keyToSave() {
     if (c_doEncrypt == off)
         return {};
     randomize();
-    return random.below(99) + 1;
+    return drawKey(random);
 }
 
 void UserControl2::loadSession() {
@@ -151,7 +152,7 @@ std::string UserControl2::sessionBytes() {
         session.comments.push_back(comments.text(i));
     for (int i = 1; i <= c_TraceBufferMax; ++i)
         session.samples.push_back(recording.at(i));
-    return writeSession(session, drawKey());
+    return writeSession(session, keyToSave());
 }
 
 void UserControl2::saveSessionTo(const std::string& path) {

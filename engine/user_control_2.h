@@ -287,7 +287,7 @@ class UserControl2 {
 
     std::optional<std::string> nameFor(FileRequest request, std::int16_t how,
                                        const std::string& present);
-    std::optional<int> drawKey();
+    std::optional<int> keyToSave();
     void randomize();
     void comeToRest();
     void loadChart();

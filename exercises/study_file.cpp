@@ -1,6 +1,6 @@
 #include "exercises/study_file.h"
 
-#include "exercises/study_encoding.h"
+#include "persistence/text_encoding.h"
 
 #include <algorithm>
 #include <optional>
@@ -164,7 +164,8 @@ StudyFile readStudyFile(std::string_view bytes, int type) {
     const StudyLayout* layout = layoutOf(type);
     if (!layout)
         return file;
-    const std::string text = studyText(bytes);
+    const std::string_view content = withoutByteOrderMark(bytes);
+    const std::string text = toUtf8(content, encodingOf(content));
     LineReader lines(text);
     while (!lines.onlyBlankLeft() && file.end == StudyEnd::complete) {
         if (file.records.size() == maxStudyRecords)

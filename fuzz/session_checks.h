@@ -9,7 +9,7 @@ namespace tarnel {
 inline void requireThatItCanBeSaved(const SessionFile& session) {
     constexpr int key = 42;
     require(session.samples.size() <= Recording::lastSample);
-    require(session.comments.size() <= Recording::mostComments);
+    require(session.comments.size() <= Comments::count);
     const std::string saved = writeSession(session, {});
     const SessionFile again = readSession(saved);
     require(!again.problem);

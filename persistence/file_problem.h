@@ -19,6 +19,8 @@ enum class FileField {
     localizerCourse,
     wholeNumber,      ///< of 16 bits
     degrees,          ///< an angle that may go round several times
+    airspeed,         ///< 0 to 1000 kt
+    windSpeed,        ///< up to 500 kt
     commentIndex,     ///< -1 to 100
     sampleEnd,        ///< the line behind the fields of a sample
     noFurtherComment, ///< there are 101 already

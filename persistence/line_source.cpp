@@ -35,9 +35,7 @@ void LineSource::openEitherForm() {
 }
 
 void LineSource::skipByteOrderMark() {
-    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-    if (std::string_view(bytes).starts_with(byteOrderMark))
-        at = byteOrderMark.size();
+    at = bytes.size() - withoutByteOrderMark(bytes).size();
 }
 
 void LineSource::decipher() {

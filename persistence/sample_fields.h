@@ -16,6 +16,10 @@ struct SampleRules {
     static constexpr WholeRule whole{FileField::wholeNumber,
                                      std::numeric_limits<std::int16_t>::min(),
                                      std::numeric_limits<std::int16_t>::max()};
+    // Faster than any aircraft and any wind; the wind triangle holds both.
+    static constexpr WholeRule airspeed{FileField::airspeed, 0, 1000};
+    static constexpr WholeRule windSpeed{FileField::windSpeed,
+                                         std::numeric_limits<std::int16_t>::min(), 500};
     static constexpr WholeRule comment{FileField::commentIndex, noComment, Comments::count - 1};
 };
 
@@ -27,7 +31,7 @@ void visitFieldsBehindPosition(AnySample& sample, Visitor visit) {
     visit(sample.traceHeading, Rules::degrees);
     visit(sample.traceStopMinutes, Rules::whole);
     visit(sample.traceStopSeconds, Rules::whole);
-    visit(sample.traceTAS, Rules::whole);
+    visit(sample.traceTAS, Rules::airspeed);
     visit(sample.traceTurnRate, Rules::whole);
     visit(sample.traceFlightMinutes, Rules::whole);
     visit(sample.traceFlightSeconds, Rules::whole);
@@ -38,7 +42,7 @@ void visitFieldsBehindPosition(AnySample& sample, Visitor visit) {
     }
     visit(sample.traceLocCourse, Rules::whole);
     visit(sample.traceWindDirection, Rules::whole);
-    visit(sample.traceWindSpeed, Rules::whole);
+    visit(sample.traceWindSpeed, Rules::windSpeed);
     visit(sample.traceObsI2, Rules::degrees);
     visit(sample.traceObsI3, Rules::degrees);
     for (auto* field :

@@ -143,4 +143,19 @@ std::string encodeForFile(std::string text) {
     return text;
 }
 
+std::string_view withoutByteOrderMark(std::string_view bytes) {
+    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+    if (bytes.starts_with(byteOrderMark))
+        bytes.remove_prefix(byteOrderMark.size());
+    return bytes;
+}
+
+std::size_t nextCharacter(std::string_view text, std::size_t at) {
+    const auto continues = [&] { return (static_cast<unsigned char>(text[at]) & 0xC0) == 0x80; };
+    do
+        ++at;
+    while (at < text.size() && continues());
+    return at;
+}
+
 } // namespace tarnel

@@ -22,6 +22,12 @@ enum class TextEncoding { utf8, windows1252 };
 /// characters of the same number, as Windows has it.
 [[nodiscard]] std::string toUtf8(std::string_view bytes, TextEncoding encoding);
 
+/// `bytes` behind the byte-order mark, if they begin with one.
+[[nodiscard]] std::string_view withoutByteOrderMark(std::string_view bytes);
+
+/// Where the character that starts at `at` of valid UTF-8 ends.
+[[nodiscard]] std::size_t nextCharacter(std::string_view text, std::size_t at);
+
 /// `text`, which is valid UTF-8, as the bytes of a file.
 [[nodiscard]] std::string encodeForFile(std::string text);
 

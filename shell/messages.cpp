@@ -37,6 +37,10 @@ Text expectedName(FileField field) {
         return Text::expectedWholeNumber;
     case FileField::degrees:
         return Text::expectedDegrees;
+    case FileField::airspeed:
+        return Text::expectedAirspeed;
+    case FileField::windSpeed:
+        return Text::expectedWindSpeed;
     case FileField::commentIndex:
         return Text::expectedCommentIndex;
     case FileField::sampleEnd:

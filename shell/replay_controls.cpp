@@ -14,11 +14,6 @@ bool isInstrument(std::int16_t type) {
     return type >= adf && type <= dg;
 }
 
-/// A recorded course, which may lie above 360 degrees.
-double shownCourse(double recorded) {
-    return recorded > 360 ? recorded - 360 : recorded;
-}
-
 std::string timeOf(const Sample& sample) {
     std::string text =
         zeroPadded(sample.traceFlightMinutes, 2) + ":" + zeroPadded(sample.traceFlightSeconds, 2);
@@ -117,8 +112,8 @@ void Form1::showReplayClock() {
 void Form1::pushPanelState() {
     UserControl2& sim = UserControl11;
     sim.c_replayActive = 0;
-    writeHeadingBug(sim.c_HDGbug);
-    APControlFace1.c_HDG = static_cast<double>(sim.c_APhdg);
+    writeHeadingBug(toInt16(intoCircle(sim.c_HDGbug)));
+    APControlFace1.c_HDG = intoCircle(sim.c_APhdg);
     APControlFace1.c_HDGChange = 0;
     APControlFace1.c_TAS = static_cast<double>(sim.c_APtas);
     APControlFace1.c_ALT = static_cast<double>(sim.c_APalt);
@@ -136,7 +131,8 @@ void Form1::pushPosition(const PositionLinks& links) {
     instrument.c_ADFCardselect.setIfChanged(links.cardSelect);
     position.navSel = links.navSelect;
     instrument.c_NAVselect.setIfChanged(links.navSelect);
-    position.obs = position.obsHsi = shownCourse(links.courseOnChart);
+    // A course recorded under a turned chart is a sum and may lie above 360.
+    position.obs = position.obsHsi = intoCircle(links.courseOnChart);
     instrument.c_MouseOBS = 360 - position.obs;
     instrument.c_MouseOBS_HSI = 360 - position.obsHsi;
     position.mouseObsSeen = instrument.c_MouseOBS;

@@ -612,6 +612,8 @@ constexpr StringEntry entries[] = {
     {733, "the line behind a sample"},
     {734, "no more than 101 comments"},
     {735, "no more than 6000 samples"},
+    {736, "an airspeed from 0 to 1000 kt"},
+    {737, "a wind speed up to 500 kt"},
 
     // Study files.
     {761, "min.sec"},
@@ -638,6 +640,9 @@ constexpr StringEntry entries[] = {
     {813, "Vectors: off, type 1, type 2"},
     {814, "Wind: off, manual, random"},
     {815, "Radial lines: centre, border, none"},
+    {816, "Scale"},
+    {817, "Shows about %1 x %1 NM"},
+    {818, "Comment mark"},
     // Documents, statistics, files from outside.
     {841, "Delete what all exercises have counted? This can't be undone."},
     {842, "Open the Book"},

@@ -616,6 +616,8 @@ constexpr StringEntry entries[] = {
     {733, "die Zeile hinter einem Messpunkt"},
     {734, "höchstens 101 Kommentare"},
     {735, "höchstens 6000 Messpunkte"},
+    {736, "eine Geschwindigkeit von 0 bis 1000 kt"},
+    {737, "eine Windstärke bis 500 kt"},
 
     // Study files.
     {761, "min.sec"},
@@ -643,6 +645,9 @@ constexpr StringEntry entries[] = {
     {813, "Windeinfluss: aus, Typ 1, Typ 2"},
     {814, "Wind: aus, manuell, Zufall"},
     {815, "Radiale: Mitte, Rand, keine"},
+    {816, "Maßstab"},
+    {817, "Zeigt etwa %1 x %1 NM"},
+    {818, "Kommentarmarke"},
     // Documents, statistics, files from outside.
     {841, "Die Zählungen aller Übungen löschen? Das lässt sich nicht rückgängig machen."},
     {842, "Buch öffnen"},

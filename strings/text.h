@@ -569,6 +569,8 @@ enum class Text : int {
     expectedSampleEnd = 733,
     expectedNoFurtherComment = 734,
     expectedNoFurtherSample = 735,
+    expectedAirspeed = 736,
+    expectedWindSpeed = 737,
 
     // Study files.
     unitMinutesSeconds = 761,
@@ -595,6 +597,9 @@ enum class Text : int {
     keyVectors = 813,
     keyWind = 814,
     keyRadials = 815,
+    chartScale = 816,
+    chartScaleTip = 817,
+    commentMark = 818,
 
     // Documents, statistics, files from outside.
     resetStatisticsQuestion = 841,

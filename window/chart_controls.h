@@ -4,10 +4,11 @@
 
 #include <QWidget>
 
-class QPushButton;
 class QToolButton;
 
 namespace tarnel {
+
+class ViewSwitch;
 
 /// `ChartControls`: what lies over the upper edge of the chart: the two views and the scale.
 class ChartControls : public QWidget {
@@ -19,17 +20,17 @@ class ChartControls : public QWidget {
     /// Shows the present view.
     void refresh();
 
+  protected:
+    void resizeEvent(QResizeEvent* event) override;
+
   private:
-    QPushButton* addView(const char* name, const char* segment, Text caption, bool northUp);
     QToolButton* addZoom(const char* name, Text caption, Text tip, int steps);
 
     Form1& form;
-    QPushButton* northUp = nullptr;
-    QPushButton* headingUp = nullptr;
+    ViewSwitch* views = nullptr;
     QToolButton* zoomOut = nullptr;
     QToolButton* zoomIn = nullptr;
     int shownScale = 0;
-    int shownView = -1;
 };
 
 } // namespace tarnel

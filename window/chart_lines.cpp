@@ -132,12 +132,12 @@ void paintArrow(QPainter& painter, const ChartFrame& frame, const QLineF& line, 
     painter.drawPolygon(QPolygonF{line.p2(), base + across, base - across});
 }
 
-/// A text beside a line, on the side that `outwards` points to, near the middle or where it covers
-/// none of the `occupied` areas.
-void paintBeside(QPainter& painter, const ChartFrame& frame, const QLineF& line, QPointF outwards,
-                 const QString& text, std::span<const QRectF> occupied) {
+/// A text beside a line, and what it covers: on the side that `outwards` points to, near the middle
+/// or where it covers none of the `occupied` areas.
+QRectF paintBeside(QPainter& painter, const ChartFrame& frame, const QLineF& line, QPointF outwards,
+                   const QString& text, std::span<const QRectF> occupied) {
     if (line.length() < shortestArrow)
-        return;
+        return {};
     painter.setFont(frame.vectorFont);
     const QSizeF size = textSize(painter, text);
     const double along =
@@ -146,7 +146,9 @@ void paintBeside(QPainter& painter, const ChartFrame& frame, const QLineF& line,
         const QPointF centre = line.pointAt(share) + outwards * (along + letteringGap);
         return QRectF(centre - QPointF(size.width(), size.height()) / 2, size);
     };
-    paintPlate(painter, placeAt(freeShare(vectorPlaces, occupied, placeAt)), text);
+    const QRectF place = placeAt(freeShare(vectorPlaces, occupied, placeAt));
+    paintPlate(painter, place, text);
+    return place;
 }
 
 /// The unit vector across `line` that points away from `other`, upwards or right if they coincide.
@@ -160,6 +162,40 @@ QPointF awayFrom(const QLineF& line, QPointF other, bool otherwiseUp) {
         return side > 0 ? -across : across;
     const bool pointsUp = across.y() < 0 || (across.y() == 0 && across.x() > 0);
     return pointsUp == otherwiseUp ? across : -across;
+}
+
+/// A line of text on a plate.
+struct PlateRow {
+    QString text;
+    QColor colour;
+};
+
+/// Texts below each other on one plate, whose upper left corner stands at `anchor` if the paper
+/// reaches that far.
+void paintRows(QPainter& painter, const ChartFrame& frame, Point anchor,
+               std::span<const PlateRow> rows) {
+    painter.setFont(frame.nameFont);
+    const double rowHeight = QFontMetricsF(frame.nameFont).height();
+    double width = 0;
+    for (const PlateRow& row : rows)
+        width = std::max(width, textSize(painter, row.text).width());
+    QRectF plate(frame.at(anchor),
+                 QSizeF(width + headingPadding,
+                        rowHeight * static_cast<double>(rows.size()) + 2 * platePadding));
+    const auto onPaper = [&](double start, double length) {
+        return std::clamp(start, edgeMargin,
+                          std::max(edgeMargin, frame.side - length - edgeMargin));
+    };
+    plate.moveTopLeft({onPaper(plate.left(), plate.width()), onPaper(plate.top(), plate.height())});
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(look::faded(look::paper, plateOpacity));
+    painter.drawRoundedRect(plate, look::paperRadius, look::paperRadius);
+    QRectF at(plate.left() + headingPadding, plate.top() + platePadding, width, rowHeight);
+    for (const PlateRow& row : rows) {
+        painter.setPen(row.colour);
+        painter.drawText(at, Qt::AlignLeft | Qt::AlignVCenter, row.text);
+        at.translate(0, rowHeight);
+    }
 }
 
 } // namespace
@@ -228,26 +264,30 @@ void paintRadialLettering(QPainter& painter, const ChartFrame& frame, const Line
     painter.restore();
 }
 
-void paintSpeedVectors(QPainter& painter, const ChartFrame& frame, const SpeedVectorLines& lines,
-                       const VectorTexts& texts, std::span<const QRectF> occupied) {
+std::array<QRectF, 2> paintSpeedVectors(QPainter& painter, const ChartFrame& frame,
+                                        const SpeedVectorLines& lines, const VectorTexts& texts,
+                                        std::span<const QRectF> occupied) {
+    std::array<QRectF, 2> covered;
     const QLineF air = frame.along(lines.air);
     const QLineF ground(frame.at(lines.ground.to), frame.at(lines.ground.from));
     const QColor groundColour = look::fromSurface(lines.ground.colour);
     const QColor airColour = look::fromSurface(lines.air.colour);
     if (lines.ground.visible) {
         painter.setPen(groundColour);
-        paintBeside(painter, frame, ground, awayFrom(ground, air.p2(), false), texts.ground,
-                    occupied);
+        covered[0] = paintBeside(painter, frame, ground, awayFrom(ground, air.p2(), false),
+                                 texts.ground, occupied);
         paintArrow(painter, frame, ground, groundColour, groundWidth);
     }
     if (lines.air.visible) {
         painter.setPen(airColour);
-        paintBeside(painter, frame, air, awayFrom(air, ground.p2(), true), texts.air, occupied);
+        covered[1] =
+            paintBeside(painter, frame, air, awayFrom(air, ground.p2(), true), texts.air, occupied);
         paintArrow(painter, frame, air, airColour, airWidth);
     }
     if (lines.wind.visible)
         paintArrow(painter, frame, frame.along(lines.wind), look::fromSurface(lines.wind.colour),
                    windWidth);
+    return covered;
 }
 
 void paintHeadingLine(QPainter& painter, const ChartFrame& frame, const HeadingLine& heading,
@@ -257,26 +297,26 @@ void paintHeadingLine(QPainter& painter, const ChartFrame& frame, const HeadingL
                    look::fromSurface(heading.line.colour), airWidth);
     if (!heading.name.visible && !heading.value.visible)
         return;
-    painter.setFont(frame.nameFont);
-    const QString value = QString::fromStdString(heading.value.caption);
-    const QSizeF nameSize = textSize(painter, name);
-    const QSizeF valueSize = textSize(painter, value);
-    QRectF plate(frame.at(heading.name.anchor),
-                 QSizeF(std::max(nameSize.width(), valueSize.width()) + headingPadding,
-                        nameSize.height() + valueSize.height() + 2 * platePadding));
-    const auto onPaper = [&](double start, double length) {
-        return std::clamp(start, edgeMargin,
-                          std::max(edgeMargin, frame.side - length - edgeMargin));
-    };
-    plate.moveTopLeft({onPaper(plate.left(), plate.width()), onPaper(plate.top(), plate.height())});
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(look::faded(look::paper, plateOpacity));
-    painter.drawRoundedRect(plate, look::paperRadius, look::paperRadius);
-    const QRectF inner = plate.adjusted(headingPadding, platePadding, -platePadding, -platePadding);
-    painter.setPen(look::secondaryInk);
-    painter.drawText(inner, Qt::AlignLeft | Qt::AlignTop, name);
-    painter.setPen(look::fromSurface(heading.value.colour));
-    painter.drawText(inner, Qt::AlignLeft | Qt::AlignBottom, value);
+    const PlateRow rows[] = {
+        {name, look::secondaryInk},
+        {QString::fromStdString(heading.value.caption), look::fromSurface(heading.value.colour)}};
+    paintRows(painter, frame, heading.name.anchor, rows);
+}
+
+void paintWindLine(QPainter& painter, const ChartFrame& frame, const WindLine& wind,
+                   const WindTexts& texts) {
+    const QPen pen(look::fromSurface(wind.line.colour), windWidth * frame.symbolScale,
+                   Qt::SolidLine, Qt::RoundCap);
+    for (const Line* line : {&wind.line, &wind.headLeft, &wind.headRight})
+        if (line->visible)
+            paintSolid(painter, frame, frame.along(*line), pen);
+    if (!wind.name.visible)
+        return;
+    const PlateRow rows[] = {
+        {texts.name, look::secondaryInk},
+        {QString::fromStdString(wind.direction.caption), pen.color()},
+        {QString::fromStdString(wind.speed.caption) + QLatin1Char(' ') + texts.unit, pen.color()}};
+    paintRows(painter, frame, wind.name.anchor, rows);
 }
 
 } // namespace tarnel

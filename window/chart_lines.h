@@ -6,6 +6,7 @@
 #include <QRectF>
 #include <QString>
 
+#include <array>
 #include <span>
 
 class QPainter;
@@ -30,11 +31,22 @@ struct VectorTexts {
     QString air;
     QString ground;
 };
-void paintSpeedVectors(QPainter& painter, const ChartFrame& frame, const SpeedVectorLines& lines,
-                       const VectorTexts& texts, std::span<const QRectF> occupied);
+/// Returns what the two texts cover.
+std::array<QRectF, 2> paintSpeedVectors(QPainter& painter, const ChartFrame& frame,
+                                        const SpeedVectorLines& lines, const VectorTexts& texts,
+                                        std::span<const QRectF> occupied);
 
 /// The line of the heading tool with its two labels on one plate.
 void paintHeadingLine(QPainter& painter, const ChartFrame& frame, const HeadingLine& heading,
                       const QString& name);
+
+/// The line along which the wind blows while it is drawn, with its head and its labels on one
+/// plate.
+struct WindTexts {
+    QString name;
+    QString unit; ///< behind the speed
+};
+void paintWindLine(QPainter& painter, const ChartFrame& frame, const WindLine& wind,
+                   const WindTexts& texts);
 
 } // namespace tarnel

@@ -7,6 +7,7 @@
 #include <QTransform>
 #include <QVarLengthArray>
 
+#include <algorithm>
 #include <cmath>
 
 namespace tarnel {
@@ -27,6 +28,10 @@ constexpr double numbersHeight = 18;
 constexpr double unitWidth = 22;
 constexpr double textRoom = 40; ///< more than a number or the unit takes
 constexpr double plateOpacity = 0.85;
+
+constexpr double lampsWidth = 152;
+constexpr double lampsHeight = 34;
+constexpr double lampsGap = 6; ///< above the scale bar
 
 constexpr double arrowHalfLength = 13;
 constexpr double arrowHalfWidth = 6;
@@ -189,6 +194,15 @@ void paintScaleBar(QPainter& painter, const ChartFrame& frame, const ScaleBar& s
                      Qt::AlignLeft | Qt::AlignVCenter, unit);
 }
 
+QRectF lampsPlate(const ChartFrame& frame) {
+    const double scale = frame.textScale;
+    const double scaleBar = barPadding + barHeight + numbersHeight;
+    const QSizeF size(lampsWidth * scale, lampsHeight * scale);
+    return {QPointF(look::overlayInset, frame.side - look::overlayInset -
+                                            (scaleBar + lampsGap) * scale - size.height()),
+            size};
+}
+
 QRectF northArrowPlate(const ChartFrame& frame) {
     const QSizeF size(arrowPlateWidth * frame.textScale, arrowPlateHeight * frame.textScale);
     return {QPointF(frame.side - look::overlayInset - size.width(),
@@ -223,7 +237,7 @@ void paintNorthArrow(QPainter& painter, const ChartFrame& frame, double rotation
 }
 
 QRectF controlStrip(const ChartFrame& frame) {
-    return {0, 0, frame.side, controlStripHeight * frame.textScale};
+    return {0, 0, frame.side, controlStripHeight * std::max(1.0, frame.textScale)};
 }
 
 void paintHelp(QPainter& painter, const ChartFrame& frame, const QString& text) {

@@ -30,6 +30,9 @@ struct ScaleBar {
 void paintScaleBar(QPainter& painter, const ChartFrame& frame, const ScaleBar& scale,
                    const QString& unit);
 
+/// Where the lamps of the reference stand: above the scale bar.
+[[nodiscard]] QRectF lampsPlate(const ChartFrame& frame);
+
 /// What the north arrow covers.
 [[nodiscard]] QRectF northArrowPlate(const ChartFrame& frame);
 void paintNorthArrow(QPainter& painter, const ChartFrame& frame, double rotation,

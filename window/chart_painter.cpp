@@ -3,6 +3,7 @@
 #include "core/number_text.h"
 #include "window/chart_airplane.h"
 #include "window/chart_lines.h"
+#include "window/line_clipping.h"
 #include "window/look.h"
 #include "window/readout_plate.h"
 #include "window/text_of.h"
@@ -12,6 +13,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
+#include <limits>
 
 namespace tarnel {
 
@@ -29,7 +32,23 @@ constexpr double leaderWidth = 1;
 constexpr double barToText = 5;
 constexpr double textToEdge = 3;
 constexpr double symbolToLabel = 3;
-constexpr double dotDiameter = 4.4;
+constexpr double traceDiameter = 4.4;
+constexpr double aheadDiameter = 3.2;
+
+constexpr double windPadding = 3;
+constexpr double windGap = 6;       ///< between the airplane and its wind label
+constexpr double cornerReach = 0.7; ///< of that gap, where the label stands off a corner
+constexpr double coveredCost = 10;
+constexpr double lineCost = 2;
+constexpr double dotCost = 0.5;
+constexpr double paperCost = 40;
+constexpr double placeCost = 0.1; ///< of each place further down the list
+constexpr double moveCost = 1;    ///< of leaving the last place
+
+/// Where the wind label stands beside the airplane, in steps to the right and down; the best place
+/// first.
+constexpr QPointF windPlaces[] = {{1, -1}, {-1, -1}, {1, 1}, {-1, 1},
+                                  {0, 1},  {0, -1},  {1, 0}, {-1, 0}};
 
 /// The side of the station where its label was put, degrees clockwise from the top. It leans off
 /// upright and level, so that the leader shows beside the ticks and lines that run there.
@@ -46,6 +65,11 @@ QString courseText(double degrees) {
     const auto whole = static_cast<int>(std::lround(degrees)) % 360;
     const int course = whole <= 0 ? whole + 360 : whole;
     return QString::fromStdString(zeroPadded(course, 3));
+}
+
+template <class Areas>
+std::span<const QRectF> spanOf(const Areas& areas) {
+    return {areas.data(), static_cast<std::size_t>(areas.size())};
 }
 
 bool sameCourse(const RadialLines& a, const RadialLines& b) {
@@ -73,16 +97,17 @@ void ChartPainter::paint(QPainter& painter, double side, double devicePixelRatio
     paintFeather(painter, frame, picture.localizer);
     paintRadials(painter, frame, picture.radialsI2);
     paintRadials(painter, frame, picture.radialsI3);
-    paintTrace(painter);
+    trace.paint(painter, frame, picture.trace, traceDiameter * frame.symbolScale);
+    ahead.paint(painter, frame, picture.ahead, aheadDiameter * frame.symbolScale);
     for (std::size_t slot = 0; slot < slotCount; ++slot)
         if (isOnPaper(slot))
             symbols.paint(painter, frame, picture.symbols[slot], slot, rotation());
-    const Areas areas = occupiedAreas(scale);
-    const std::span occupied(areas.data(), static_cast<std::size_t>(areas.size()));
-    paintRadialNames(painter, occupied);
+    Areas occupied = occupiedAreas(scale);
+    paintRadialNames(painter, spanOf(occupied));
     paintNames(painter);
     paintVectors(painter, occupied);
     paintAirplane(painter, frame, picture.airplane);
+    paintWindLabel(painter, occupied);
     paintOverlays(painter, scale);
 }
 
@@ -146,30 +171,14 @@ void ChartPainter::layOutLabels(const ScaleBar& scale) {
         label.side = sideOf(symbol);
         label.size = nameText(slot).size;
     }
-    const QRectF areas[] = {controlStrip(frame), scale.plate, northArrowPlate(frame),
+    const QRectF lamps = sim.referenceReading.known ? lampsPlate(frame) : QRectF();
+    const QRectF areas[] = {controlStrip(frame), scale.plate, northArrowPlate(frame), lamps,
                             airplaneArea(frame, sim.picture.airplane)};
     const SpeedVectorLines& vectors = sim.picture.speedVectors;
     const QLineF lines[] = {frame.along(vectors.air), frame.along(vectors.wind),
                             frame.along(vectors.ground)};
     const std::size_t lineCount = vectors.ground.visible ? std::size(lines) : 0;
     placeLabels(labels, frame.paper, {areas, {lines, lineCount}});
-}
-
-void ChartPainter::paintTrace(QPainter& painter) const {
-    const std::vector<Dot>& dots = sim.picture.trace.all();
-    if (dots.empty())
-        return;
-    const double diameter = dotDiameter * frame.symbolScale;
-    const QRectF area = frame.paper.adjusted(-diameter, -diameter, diameter, diameter);
-    QVarLengthArray<QPointF, 256> points;
-    for (const Dot& dot : dots) {
-        const QPointF at = frame.at({static_cast<double>(dot.x), static_cast<double>(dot.y)});
-        if (area.contains(at))
-            points.append(at);
-    }
-    painter.setPen(
-        QPen(look::fromSurface(dots.front().colour), diameter, Qt::SolidLine, Qt::RoundCap));
-    painter.drawPoints(points.data(), static_cast<int>(points.size()));
 }
 
 void ChartPainter::paintNames(QPainter& painter) const {
@@ -207,6 +216,8 @@ void ChartPainter::paintName(QPainter& painter, const ChartLabel& label, std::si
 /// What lettering keeps clear of: labels, symbols, and what stands at the edges.
 ChartPainter::Areas ChartPainter::occupiedAreas(const ScaleBar& scale) const {
     Areas areas{controlStrip(frame), scale.plate, northArrowPlate(frame)};
+    if (sim.referenceReading.known)
+        areas.append(lampsPlate(frame));
     for (const ChartLabel& label : labels) {
         if (!label.shown)
             continue;
@@ -233,21 +244,82 @@ void ChartPainter::paintRadialNames(QPainter& painter, std::span<const QRectF> o
         letter(sim.picture.radialsI3);
 }
 
-void ChartPainter::paintVectors(QPainter& painter, std::span<const QRectF> occupied) const {
+/// Paints the wind triangle and adds its texts to the areas that are taken.
+void ChartPainter::paintVectors(QPainter& painter, Areas& occupied) const {
     const SpeedVectorLines& lines = sim.picture.speedVectors;
     if (!lines.air.visible && !lines.wind.visible && !lines.ground.visible)
         return;
     const auto knots = [this](Text name, int value) -> QString {
         return textOf(texts, name) + QLatin1Char(' ') + QString::number(value);
     };
-    paintSpeedVectors(painter, frame, lines,
-                      {knots(Text::autopilotSpeed, sim.aircraft.tasUsed),
-                       knots(Text::chartGroundSpeed, sim.speedVectors.groundSpeed)},
-                      occupied);
+    for (const QRectF& text :
+         paintSpeedVectors(painter, frame, lines,
+                           {knots(Text::autopilotSpeed, sim.aircraft.tasUsed),
+                            knots(Text::chartGroundSpeed, sim.speedVectors.groundSpeed)},
+                           spanOf(occupied)))
+        occupied.append(text);
+}
+
+double ChartPainter::costOfWindLabel(const QRectF& place, const Areas& occupied) const {
+    double cost = frame.paper.contains(place) ? 0 : paperCost;
+    for (const QRectF& area : occupied)
+        if (area.intersects(place))
+            cost += coveredCost;
+    const SpeedVectorLines& lines = sim.picture.speedVectors;
+    for (const Line* line : {&lines.air, &lines.wind, &lines.ground, &sim.picture.windLine.line})
+        if (line->visible && clipped(frame.along(*line), place))
+            cost += lineCost;
+    for (const DotLayer* layer : {&sim.picture.ahead, &sim.picture.trace})
+        for (const Dot& dot : layer->all())
+            if (place.contains(frame.at({static_cast<double>(dot.x), static_cast<double>(dot.y)})))
+                cost += dotCost;
+    return cost;
+}
+
+QRectF ChartPainter::windLabelAt(std::size_t index, QSizeF size) const {
+    const QPointF way = windPlaces[index];
+    const QRectF airplane = airplaneArea(frame, sim.picture.airplane);
+    const double reach = std::max(airplane.width(), airplane.height()) / 2 + windGap;
+    const double aside = (way.y() == 0 ? reach : reach * cornerReach) + size.width() / 2;
+    const double along = (way.x() == 0 ? reach : reach * cornerReach) + size.height() / 2;
+    const QPointF centre =
+        frame.at(sim.aircraft.place.wide) + QPointF(way.x() * aside, way.y() * along);
+    return {centre - QPointF(size.width(), size.height()) / 2, size};
+}
+
+/// The wind stands beside the airplane, where it covers least; it stays there while that is about
+/// as good.
+void ChartPainter::paintWindLabel(QPainter& painter, const Areas& occupied) {
+    const Label& label = sim.picture.windLabel;
+    if (!label.visible)
+        return;
+    const QString text =
+        textOf(texts, Text::chartWindPrefix) + QString::fromStdString(label.caption);
+    const QFontMetricsF metrics(frame.lineFont);
+    const QSizeF size(metrics.horizontalAdvance(text) + 2 * windPadding, metrics.height() + 2);
+    double best = std::numeric_limits<double>::infinity();
+    QRectF place;
+    const std::size_t last = windPlace;
+    for (std::size_t i = 0; i < std::size(windPlaces); ++i) {
+        const QRectF tried = windLabelAt(i, size);
+        const double cost = costOfWindLabel(tried, occupied) + placeCost * static_cast<double>(i) +
+                            (i == last ? 0 : moveCost);
+        if (cost >= best)
+            continue;
+        best = cost;
+        place = tried;
+        windPlace = i;
+    }
+    painter.fillRect(place, look::faded(look::paper, labelOpacity));
+    painter.setFont(frame.lineFont);
+    painter.setPen(look::fromSurface(chartColour::windVector));
+    painter.drawText(place, Qt::AlignCenter, text);
 }
 
 void ChartPainter::paintOverlays(QPainter& painter, const ScaleBar& scale) const {
     paintHeadingLine(painter, frame, sim.picture.heading, textOf(texts, Text::chartHeading));
+    paintWindLine(painter, frame, sim.picture.windLine,
+                  {textOf(texts, Text::chartWind), textOf(texts, Text::unitKnots)});
     paintScaleBar(painter, frame, scale, textOf(texts, Text::unitNauticalMiles));
     paintNorthArrow(painter, frame, rotation(), textOf(texts, Text::chartNorth));
     const Label& help = sim.picture.help;

@@ -2,6 +2,7 @@
 
 #include "engine/user_control_2.h"
 #include "strings/string_table.h"
+#include "window/chart_dots.h"
 #include "window/chart_frame.h"
 #include "window/chart_labels.h"
 #include "window/chart_overlays.h"
@@ -36,7 +37,7 @@ class ChartPainter {
         QSizeF size;
     };
 
-    using Areas = QVarLengthArray<QRectF, 2 * slotCount + 3>;
+    using Areas = QVarLengthArray<QRectF, 2 * slotCount + 6>;
 
     void fitFrame(double side, double devicePixelRatio);
     void layOutLabels(const ScaleBar& scale);
@@ -47,19 +48,24 @@ class ChartPainter {
 
     [[nodiscard]] Areas occupiedAreas(const ScaleBar& scale) const;
     void paintRadialNames(QPainter& painter, std::span<const QRectF> occupied) const;
-    void paintTrace(QPainter& painter) const;
     void paintNames(QPainter& painter) const;
     void paintName(QPainter& painter, const ChartLabel& label, std::size_t slot) const;
-    void paintVectors(QPainter& painter, std::span<const QRectF> occupied) const;
+    void paintVectors(QPainter& painter, Areas& occupied) const;
+    void paintWindLabel(QPainter& painter, const Areas& occupied);
+    [[nodiscard]] QRectF windLabelAt(std::size_t index, QSizeF size) const;
+    [[nodiscard]] double costOfWindLabel(const QRectF& place, const Areas& occupied) const;
     void paintOverlays(QPainter& painter, const ScaleBar& scale) const;
 
     const UserControl2& sim;
     const StringTable& texts;
     ChartFrame frame{1, 1, 1};
     ChartSymbols symbols;
+    ChartDots trace;
+    ChartDots ahead;
     std::array<NameText, slotCount> nameTexts;
 
     std::array<ChartLabel, slotCount> labels;
+    std::size_t windPlace = 0; ///< where beside the airplane the wind label stood last
 };
 
 } // namespace tarnel

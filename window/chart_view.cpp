@@ -3,6 +3,7 @@
 #include "core/number_text.h"
 #include "core/rounding.h"
 #include "window/look.h"
+#include "window/reference_lamps.h"
 #include "window/text_of.h"
 
 #include <QAccessible>
@@ -43,6 +44,7 @@ QString angleText(double degrees, int digits, char positive, char negative) {
 
 ChartView::ChartView(UserControl2& simulation, const StringTable& table, QWidget* parent)
     : QWidget(parent), sim(simulation), texts(table), painter(simulation, table) {
+    lamps = new ReferenceLamps(sim, texts, this);
     setFocusPolicy(Qt::TabFocus);
     setMouseTracking(true);
     setAccessibleName(spokenChart());
@@ -51,6 +53,7 @@ ChartView::ChartView(UserControl2& simulation, const StringTable& table, QWidget
 
 void ChartView::refresh() {
     showCursor();
+    lamps->refresh();
     if (paintedRevision == sim.picture.surface.revision())
         return;
     update();
@@ -85,10 +88,16 @@ void ChartView::paintEvent(QPaintEvent* /*event*/) {
                              look::paperRadius, look::paperRadius);
 }
 
+void ChartView::resizeEvent(QResizeEvent* /*event*/) {
+    const ChartFrame frame(side(), sim.picture.size, devicePixelRatioF());
+    lamps->setGeometry(lampsPlate(frame).toAlignedRect());
+}
+
 void ChartView::showCursor() {
     const bool overStation = pointer && stationAt(*pointer);
+    const bool canAct = sim.view.northUpMode && (sim.stopped() || sim.mouse.windTool());
     const Qt::CursorShape wanted = overStation ? Qt::PointingHandCursor
-                                   : resting() ? Qt::CrossCursor
+                                   : canAct    ? Qt::CrossCursor
                                                : Qt::ArrowCursor;
     if (cursor().shape() != wanted)
         setCursor(wanted);

@@ -12,6 +12,8 @@
 
 namespace tarnel {
 
+class ReferenceLamps;
+
 /// `ChartView`: the chart as a widget. It shows the simulation's picture on white paper and hands
 /// it the mouse.
 class ChartView : public QWidget {
@@ -39,6 +41,7 @@ class ChartView : public QWidget {
 
   protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -57,6 +60,7 @@ class ChartView : public QWidget {
     UserControl2& sim;
     const StringTable& texts;
     ChartPainter painter;
+    ReferenceLamps* lamps = nullptr;
     std::uint64_t paintedRevision = 0;
     int wheelRest = 0;
     std::optional<QPointF> pointer; ///< while it is over the chart

@@ -3,134 +3,120 @@
 #include "window/bold_text.h"
 #include "window/icons.h"
 #include "window/look.h"
-#include "window/tick_box.h"
+#include "window/segment_row.h"
+#include "window/strip_chart_page.h"
+#include "window/strip_replay_page.h"
+#include "window/strip_station_page.h"
+#include "window/strip_wind_page.h"
 
-#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
-#include <QSlider>
-#include <QToolButton>
+#include <QStackedWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <array>
 
 namespace tarnel {
 
 namespace {
 
-constexpr int rowGap = 6;
+constexpr int rowGap = 5;
+constexpr int tabPadding = 16;
 
-/// Narrower strips do without the word before the speeds.
-constexpr int roomForSpeedCaption = 420;
+/// Narrower strips do without the words before the speeds and the read-outs.
+constexpr int roomForCaptions = 420;
 
 } // namespace
 
 ControlStrip::ControlStrip(Form1& owner, FormBinding& links, QWidget* parent)
     : QWidget(parent), form(owner), binding(links) {
+    tellKeys();
     auto* rows = new QVBoxLayout(this);
     rows->setContentsMargins(look::cardInset, look::cardInset - 2, look::cardInset,
                              look::cardInset - 2);
     rows->setSpacing(rowGap);
     rows->addLayout(makeFlightRow());
-    rows->addLayout(makeReplayRow());
-    rows->addLayout(makeBoxes());
-    rows->addLayout(makeReadouts());
+    rows->addLayout(makeTabRow());
+    rows->addWidget(makePages(), 1);
     startButton->setIcon(signIcon(Sign::play, Qt::white));
     startButton->setFocus();
 }
 
+/// The letters on the status panels, in the tips of what does the same.
+void ControlStrip::tellKeys() {
+    binding.tellKey(form.startButton, 'M');
+    binding.tellKey(form.replayPage.play, 'P');
+    binding.tellKey(form.replayPage.stop, 'P');
+    binding.tellKey(form.replayPage.hide, 'H');
+    binding.tellKey(form.chartPage.hide, 'H');
+    binding.tellKey(form.chartPage.trace, 'T');
+    binding.tellKey(form.chartPage.vectors, 'V');
+    binding.tellKey(form.windPage.none, 'W');
+    binding.tellKey(form.windPage.manual, 'W');
+    binding.tellKey(form.windPage.random, 'W');
+    binding.tellKey(form.radialCycleButton, 'R');
+}
+
 QHBoxLayout* ControlStrip::makeFlightRow() {
     auto* row = new QHBoxLayout;
-    auto* start = new QPushButton(this);
-    start->setProperty("primary", true);
-    binding.bind(form.startButton, *start);
-    startButton = start;
-    row->addWidget(start);
+    startButton = new QPushButton(this);
+    startButton->setProperty("primary", true);
+    binding.bind(form.startButton, *startButton);
+    row->addWidget(startButton);
     row->addSpacing(8);
     speedCaption = captioned(Text::speed);
     row->addWidget(speedCaption);
-
-    auto* segments = new QHBoxLayout;
-    segments->setSpacing(0);
-    const std::array<OptionButton*, 4> rates = {&form.rateHalf, &form.rateReal, &form.rateDouble,
-                                                &form.rateQuadruple};
-    for (OptionButton* rate : rates) {
-        auto* segment = new QPushButton(this);
-        segment->setProperty("segment", rate == rates.front()  ? "first"
-                                        : rate == rates.back() ? "last"
-                                                               : "middle");
-        binding.bind(*rate, *segment);
-        segments->addWidget(segment, boldTextWidth(*segment));
-    }
-    row->addLayout(segments, 1);
+    row->addWidget(
+        segmentRow(binding, {&form.rateHalf, &form.rateReal, &form.rateDouble, &form.rateQuadruple},
+                   this),
+        1);
     return row;
 }
 
-/// The replay's controls stand in their place until a replay can be flown.
-QHBoxLayout* ControlStrip::makeReplayRow() {
+QHBoxLayout* ControlStrip::makeTabRow() {
     auto* row = new QHBoxLayout;
-    row->addWidget(captioned(Text::pageReplay));
-    struct ReplayButton {
-        const char* name;
-        Sign sign;
-        Text caption;
-    };
-    static constexpr ReplayButton buttons[] = {
-        {"Option11", Sign::play, Text::replayPlay},
-        {"Option12", Sign::stop, Text::replayStop},
-        {"Check11", Sign::loop, Text::loopReplay},
-        {"Check13", Sign::interpolate, Text::interpolate},
-    };
-    for (const ReplayButton& each : buttons) {
-        auto* button = new QToolButton(this);
-        button->setObjectName(QString::fromLatin1(each.name));
-        button->setIcon(signIcon(each.sign, look::ink));
-        button->setAccessibleName(textOf(form.texts, each.caption));
-        button->setEnabled(false);
-        row->addWidget(button);
-    }
-    auto* bar = new QSlider(Qt::Horizontal, this);
-    bar->setObjectName(QStringLiteral("HScroll1"));
-    bar->setAccessibleName(textOf(form.texts, Text::replayPosition));
-    bar->setEnabled(false);
-    row->addWidget(bar, 1);
-    return row;
-}
-
-QLayout* ControlStrip::makeBoxes() {
-    auto* grid = new QGridLayout;
-    grid->setHorizontalSpacing(12);
-    grid->setVerticalSpacing(2);
-    const std::array<CheckBox*, 4> boxes = {&form.chartPage.trace, &form.replayPage.hide, &form.replayPage.lock,
-                                            &form.floatingGyroBox};
-    for (std::size_t i = 0; i < boxes.size(); ++i) {
-        auto* box = new TickBox(this);
-        binding.bind(*boxes[i], *box);
-        grid->addWidget(box, static_cast<int>(i / 2), static_cast<int>(i % 2));
-    }
-    return grid;
-}
-
-QHBoxLayout* ControlStrip::makeReadouts() {
-    auto* row = new QHBoxLayout;
-    const auto addReadout = [&](Text name, TextPanel& readout, Text unit) {
-        row->addWidget(captioned(name));
-        auto* value = new QLabel(this);
-        value->setProperty("readout", true);
-        binding.bind(readout, *value);
-        row->addWidget(value);
-        row->addWidget(captioned(unit));
-        row->addSpacing(14);
-    };
-    addReadout(Text::autopilotSpeed, form.speedReadout, Text::unitKnots);
-    addReadout(Text::turnRate, form.turnReadout, Text::unitDegreesPerSecond);
+    row->setSpacing(0);
+    for (OptionButton* page :
+         {&form.pages.chart, &form.pages.replay, &form.pages.wind, &form.pages.stations})
+        addTab(*row, *page);
     row->addStretch(1);
-    auto* cycle = new QPushButton(this);
-    binding.bind(form.radialCycleButton, *cycle);
-    row->addWidget(cycle);
+    addReadout(*row, Text::autopilotSpeed, form.speedReadout, Text::unitKnots);
+    row->addSpacing(12);
+    addReadout(*row, Text::turnRate, form.turnReadout, Text::unitDegreesPerSecond);
     return row;
+}
+
+void ControlStrip::addTab(QHBoxLayout& row, OptionButton& page) {
+    auto* tab = new QPushButton(this);
+    tab->setProperty("tab", true);
+    binding.bind(page, *tab);
+    tab->setMinimumWidth(boldTextWidth(*tab) + tabPadding);
+    row.addWidget(tab);
+}
+
+void ControlStrip::addReadout(QHBoxLayout& row, Text name, TextPanel& readout, Text unit) {
+    constexpr int beforeUnit = 4;
+    readoutCaptions.push_back(captioned(name));
+    row.addWidget(readoutCaptions.back());
+    row.addSpacing(beforeUnit);
+    auto* value = new QLabel(this);
+    value->setProperty("readout", true);
+    binding.bind(readout, *value);
+    row.addWidget(value);
+    row.addSpacing(beforeUnit);
+    row.addWidget(captioned(unit));
+}
+
+QStackedWidget* ControlStrip::makePages() {
+    stack = new QStackedWidget(this);
+    pages = {new StripChartPage(form, binding, stack), new StripReplayPage(form, binding, stack),
+             new StripWindPage(form, binding, stack), new StripStationPage(form, binding, stack)};
+    for (StripPage* page : pages)
+        stack->addWidget(page);
+    return stack;
 }
 
 QLabel* ControlStrip::captioned(Text text) {
@@ -140,6 +126,12 @@ QLabel* ControlStrip::captioned(Text text) {
 }
 
 void ControlStrip::refresh() {
+    const std::array order = {&form.pages.chart, &form.pages.replay, &form.pages.wind,
+                              &form.pages.stations};
+    for (std::size_t i = 0; i < order.size(); ++i)
+        if (order[i]->chosen())
+            stack->setCurrentIndex(static_cast<int>(i));
+    pages[static_cast<std::size_t>(stack->currentIndex())]->refresh();
     const bool runs = form.simulationRuns();
     if (runs == startShowsStop)
         return;
@@ -147,8 +139,23 @@ void ControlStrip::refresh() {
     startButton->setIcon(signIcon(runs ? Sign::stop : Sign::play, Qt::white));
 }
 
+int ControlStrip::wantedHeight(int width) const {
+    const QMargins margins = layout()->contentsMargins();
+    const int inner = width - margins.left() - margins.right();
+    int tallest = 0;
+    for (const StripPage* page : pages)
+        tallest = std::max(tallest, page->heightForWidth(inner));
+    int height = margins.top() + margins.bottom() + tallest;
+    for (int i = 0; i + 1 < layout()->count(); ++i)
+        height += layout()->itemAt(i)->sizeHint().height() + rowGap;
+    return height;
+}
+
 void ControlStrip::resizeEvent(QResizeEvent*) {
-    speedCaption->setVisible(width() >= roomForSpeedCaption);
+    const bool room = width() >= roomForCaptions;
+    speedCaption->setVisible(room);
+    for (QLabel* caption : readoutCaptions)
+        caption->setVisible(room);
 }
 
 void ControlStrip::paintEvent(QPaintEvent*) {
@@ -158,6 +165,9 @@ void ControlStrip::paintEvent(QPaintEvent*) {
     painter.setBrush(look::card);
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), look::controlRadius,
                             look::controlRadius);
+    painter.setPen(look::hairline);
+    const int line = stack->y() - rowGap;
+    painter.drawLine(look::cardInset, line, width() - look::cardInset, line);
 }
 
 } // namespace tarnel

@@ -5,23 +5,30 @@
 
 #include <QWidget>
 
+#include <vector>
+
 class QHBoxLayout;
 class QLabel;
 class QPushButton;
-class QVBoxLayout;
+class QStackedWidget;
 
 namespace tarnel {
 
-/// `ControlStrip`: the card below the chart: start and stop, the speed, what is shown, the replay's
-/// place, and the read-outs.
+class StripPage;
+
+/// `ControlStrip`: the card below the chart: start and stop, the speed and the read-outs, and below
+/// them one of four pages.
 class ControlStrip : public QWidget {
     Q_OBJECT
 
   public:
     ControlStrip(Form1& form, FormBinding& binding, QWidget* parent = nullptr);
 
-    /// Shows on the start button what a click will do.
+    /// Shows the page that is chosen, and on the start button what a click will do.
     void refresh();
+
+    /// The height at which every page has room at a width.
+    [[nodiscard]] int wantedHeight(int width) const;
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -29,15 +36,20 @@ class ControlStrip : public QWidget {
 
   private:
     QHBoxLayout* makeFlightRow();
-    QHBoxLayout* makeReplayRow();
-    QLayout* makeBoxes();
-    QHBoxLayout* makeReadouts();
+    QHBoxLayout* makeTabRow();
+    QStackedWidget* makePages();
+    void addTab(QHBoxLayout& row, OptionButton& page);
+    void addReadout(QHBoxLayout& row, Text name, TextPanel& readout, Text unit);
     QLabel* captioned(Text text);
+    void tellKeys();
 
     Form1& form;
     FormBinding& binding;
     QLabel* speedCaption = nullptr;
+    std::vector<QLabel*> readoutCaptions;
     QPushButton* startButton = nullptr;
+    QStackedWidget* stack = nullptr;
+    std::vector<StripPage*> pages;
     bool startShowsStop = false;
 };
 

@@ -1,10 +1,13 @@
 #include "window/form_binding.h"
 
+#include "window/replay_bar.h"
+
 #include <QAbstractButton>
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QSignalBlocker>
 
 namespace tarnel {
@@ -14,6 +17,17 @@ namespace {
 QString nameOf(const FormControl& control) {
     const auto name = control.name();
     return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
+}
+
+/// A box shows the value 2 as partly ticked; another button has no such state.
+void showValue(QAbstractButton& button, int value) {
+    const QSignalBlocker quiet(&button);
+    if (auto* box = qobject_cast<QCheckBox*>(&button))
+        box->setCheckState(value == 0   ? Qt::Unchecked
+                           : value == 1 ? Qt::Checked
+                                        : Qt::PartiallyChecked);
+    else
+        button.setChecked(value == 1);
 }
 
 } // namespace
@@ -29,12 +43,20 @@ QString FormBinding::captionOf(const FormControl& control) const {
     return control.caption() ? textOf(form.texts, *control.caption()) : QString();
 }
 
+QString FormBinding::tipOf(const FormControl& control) const {
+    const QString tip = textOf(form.texts, *control.tip());
+    const auto letter = letters.find(&control);
+    return letter == letters.end() ? tip
+                                   : tip + QStringLiteral(" [%1]").arg(QLatin1Char(letter->second));
+}
+
 void FormBinding::showCommon(const FormControl& control, QWidget& widget) const {
-    widget.setObjectName(nameOf(control));
+    if (widget.objectName().isEmpty())
+        widget.setObjectName(nameOf(control));
     widget.setVisible(control.visible());
     widget.setEnabled(control.enabled());
     if (control.tip())
-        widget.setToolTip(textOf(form.texts, *control.tip()));
+        widget.setToolTip(tipOf(control));
     if (control.caption())
         widget.setAccessibleName(captionOf(control));
 }
@@ -56,23 +78,20 @@ void FormBinding::bind(CommandButton& control, QAction& action) {
 }
 
 void FormBinding::bind(CheckBox& control, QAbstractButton& button) {
+    bind(control, button, [&control] { control.click(); });
+}
+
+void FormBinding::bind(CheckBox& control, QAbstractButton& button, std::function<void()> click) {
     button.setCheckable(true);
-    connect(&button, &QAbstractButton::clicked, this, [this, &control, &button] {
-        form.guarded([&control] { control.click(); });
-        const QSignalBlocker quiet(&button);
-        button.setChecked(control.value() == 1);
-    });
+    connect(&button, &QAbstractButton::clicked, this,
+            [this, &control, &button, click = std::move(click)] {
+                form.guarded(click);
+                showValue(button, control.value());
+            });
     follow([this, &control, &button] {
         showCommon(control, button);
         button.setText(captionOf(control));
-        const QSignalBlocker quiet(&button);
-        if (auto* box = qobject_cast<QCheckBox*>(&button)) {
-            box->setCheckState(control.value() == 0   ? Qt::Unchecked
-                               : control.value() == 1 ? Qt::Checked
-                                                      : Qt::PartiallyChecked);
-        } else {
-            button.setChecked(control.value() == 1);
-        }
+        showValue(button, control.value());
     });
 }
 
@@ -115,13 +134,35 @@ void FormBinding::bind(SelectionList& control, QComboBox& list) {
 }
 
 void FormBinding::bind(TextPanel& control, QLabel& label) {
+    label.setTextFormat(Qt::PlainText);
     follow([this, &control, &label] {
         showCommon(control, label);
         label.setText(QString::fromStdString(control.text()));
         if (!control.tipText().empty())
             label.setToolTip(QString::fromStdString(control.tipText()));
-        else if (!control.tip())
+        else if (!control.tip() && !label.wordWrap())
             label.setToolTip(label.text());
+    });
+}
+
+void FormBinding::bind(ScrollBar& control, ReplayBar& bar) {
+    bar.onScroll = [this, &control](int value) {
+        form.guarded([&control, value] { control.scrollTo(value); });
+    };
+    follow([this, &control, &bar] {
+        showCommon(control, bar);
+        bar.showPlace(control.max(), control.value());
+    });
+}
+
+void FormBinding::bind(TextField& control, QLineEdit& field) {
+    connect(&field, &QLineEdit::textEdited, this, [this, &control](const QString& text) {
+        form.guarded([&control, &text] { control.type(text.toStdString()); });
+    });
+    follow([this, &control, &field] {
+        showCommon(control, field);
+        if (const QString text = QString::fromStdString(control.text()); text != field.text())
+            field.setText(text);
     });
 }
 

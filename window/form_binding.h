@@ -8,31 +8,42 @@
 #include <QString>
 
 #include <functional>
+#include <map>
 #include <vector>
 
 class QAbstractButton;
 class QAction;
 class QComboBox;
 class QLabel;
+class QLineEdit;
 class QWidget;
 
 namespace tarnel {
 
+class ReplayBar;
+
 /// Keeps widgets equal to the controls of the form: clicks go to the form, and what the form
-/// changes is shown at the next `refresh`. A widget takes its control's name as object name.
+/// changes is shown at the next `refresh`. A widget without an object name takes its control's.
 class FormBinding : public QObject {
     Q_OBJECT
 
   public:
     explicit FormBinding(Form1& form, QObject* parent = nullptr);
 
+    /// The tool tips of `control` also tell the key that does the same. To be said before binding.
+    void tellKey(const FormControl& control, char letter) { letters[&control] = letter; }
+
     void bind(CommandButton& control, QAbstractButton& button);
     void bind(CommandButton& control, QAction& action);
     void bind(CheckBox& control, QAbstractButton& button);
+    /// A click does `click` in place of what a click on a box does.
+    void bind(CheckBox& control, QAbstractButton& button, std::function<void()> click);
     void bind(CheckBox& control, QAction& action);
     void bind(OptionButton& control, QAbstractButton& button);
     void bind(SelectionList& control, QComboBox& list);
     void bind(TextPanel& control, QLabel& label);
+    void bind(ScrollBar& control, ReplayBar& bar);
+    void bind(TextField& control, QLineEdit& field);
 
     /// Brings the widgets up to date if a control has changed.
     void refresh();
@@ -41,9 +52,11 @@ class FormBinding : public QObject {
     void follow(std::function<void()> update);
     void showCommon(const FormControl& control, QWidget& widget) const;
     [[nodiscard]] QString captionOf(const FormControl& control) const;
+    [[nodiscard]] QString tipOf(const FormControl& control) const;
 
     Form1& form;
     std::vector<std::function<void()>> updates;
+    std::map<const FormControl*, char> letters;
     std::uint64_t shown = 0;
 };
 

@@ -2,6 +2,7 @@
 
 #include "window/chart_controls.h"
 #include "window/chart_view.h"
+#include "window/comment_card.h"
 #include "window/control_strip.h"
 #include "window/file_opener.h"
 #include "window/floating_gyro.h"
@@ -38,10 +39,10 @@ MainWindow::MainWindow(Form1& owner)
     pictures.onMissing = [this](const QString& name) {
         QTimer::singleShot(0, this, [this, name] { form.pictureMissing(name.toStdString()); });
     };
-    setStyleSheet(sheetFor(1));
     makeMenus();
     makeDesk();
     opener = new FileOpener(form, *this);
+    setStyleSheet(sheetFor(1)); // once for all widgets
     resize(usualWindow);
 
     couplingTimer.setTimerType(Qt::PreciseTimer);
@@ -49,6 +50,8 @@ MainWindow::MainWindow(Form1& owner)
     connect(&couplingTimer, &QTimer::timeout, this, &MainWindow::couplingTick);
     simulationTimer.setTimerType(Qt::PreciseTimer);
     connect(&simulationTimer, &QTimer::timeout, this, [this] { form.simulationTimer(); });
+    replayTimer.setTimerType(Qt::PreciseTimer);
+    connect(&replayTimer, &QTimer::timeout, this, [this] { form.Timer2(); });
     autopilotTimer.setInterval(autopilotMilliseconds);
     connect(&autopilotTimer, &QTimer::timeout, this, [this] { form.autopilotTimer(); });
 }
@@ -73,6 +76,7 @@ void MainWindow::makeDesk() {
     stationEditing = std::make_unique<StationEditing>(form, *chart);
     chartControls = new ChartControls(form, chart);
     strip = new ControlStrip(form, binding, desk);
+    comment = new CommentCard(form, binding, desk);
     panel = new InstrumentPanel(form, binding, pictures, guard, desk);
     status = new StatusPanels(form, binding, desk);
     gyro = new additional_DG(form, pictures, this);
@@ -95,18 +99,23 @@ PanelSizes MainWindow::panelSizes() const {
 void MainWindow::layOut() {
     const int barHeight = static_cast<int>(look::statusHeight * shownScale);
     const QSize body(desk->width(), desk->height() - barHeight);
-    const WindowLayout layout = layOutWindow(body, panelSizes());
+    const ColumnWishes wishes{[this](int width) { return strip->wantedHeight(width); },
+                              [this](int width) { return comment->wantedHeight(width); }};
+    const WindowLayout layout = layOutWindow(body, panelSizes(), wishes);
     if (layout.uiScale != shownScale) {
         shownScale = layout.uiScale;
         setStyleSheet(sheetFor(shownScale));
         QTimer::singleShot(0, this, &MainWindow::layOut);
     }
     shownSizes = panelSizes();
+    shownComments = comment->contents();
     chart->setGeometry(layout.chart);
     const int inset = look::overlayInset;
     chartControls->setGeometry(inset, inset, layout.chart.width() - 2 * inset,
                                chartControls->sizeHint().height());
     strip->setGeometry(layout.strip);
+    comment->setGeometry(layout.comment);
+    comment->setVisible(!layout.comment.isEmpty());
     panel->setGeometry(layout.panel);
     panel->layOut(layout);
     status->setGeometry(0, body.height(), desk->width(), barHeight);
@@ -123,26 +132,30 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     QCoreApplication::quit();
 }
 
-/// The interval follows the rate that was chosen, and the timer runs while the flight does.
-void MainWindow::followSimulationClock() {
-    const bool runs = form.UserControl11.c_TimerEN == 1;
+void MainWindow::follow(QTimer& timer, bool runs, int interval) {
+    if (timer.interval() != interval)
+        timer.setInterval(interval);
+    if (runs != timer.isActive())
+        runs ? timer.start() : timer.stop();
+}
+
+/// Both intervals follow the rate that was chosen; each timer runs while what it moves does.
+void MainWindow::followClocks() {
     const int interval = form.UserControl11.c_TimerSIMrate;
-    if (simulationTimer.interval() != interval)
-        simulationTimer.setInterval(interval);
-    if (runs != simulationTimer.isActive())
-        runs ? simulationTimer.start() : simulationTimer.stop();
+    follow(simulationTimer, form.UserControl11.c_TimerEN == 1, interval);
+    follow(replayTimer, form.replayRuns(), interval);
 }
 
 void MainWindow::couplingTick() {
     form.Timer1();
-    followSimulationClock();
+    followClocks();
     refresh();
 }
 
 void MainWindow::refresh() {
     binding.refresh();
-    const PanelSizes sizes = panelSizes();
-    if (sizes.inst2Large != shownSizes.inst2Large || sizes.inst3Large != shownSizes.inst3Large)
+    comment->refresh();
+    if (panelSizes() != shownSizes || comment->contents() != shownComments)
         layOut();
     chart->refresh();
     chartControls->refresh();

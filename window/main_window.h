@@ -14,6 +14,7 @@ namespace tarnel {
 
 class ChartControls;
 class ChartView;
+class CommentCard;
 class ControlStrip;
 class FileOpener;
 class InstrumentPanel;
@@ -47,7 +48,8 @@ class MainWindow : public QMainWindow {
     void makeDesk();
     void layOut();
     void couplingTick();
-    void followSimulationClock();
+    void followClocks();
+    static void follow(QTimer& timer, bool runs, int interval);
     [[nodiscard]] PanelSizes panelSizes() const;
 
     Form1& form;
@@ -59,13 +61,16 @@ class MainWindow : public QMainWindow {
     FileOpener* opener = nullptr;
     ChartControls* chartControls = nullptr;
     ControlStrip* strip = nullptr;
+    CommentCard* comment = nullptr;
     InstrumentPanel* panel = nullptr;
     StatusPanels* status = nullptr;
     additional_DG* gyro = nullptr;
     QTimer couplingTimer;
     QTimer simulationTimer;
     QTimer autopilotTimer;
+    QTimer replayTimer;
     PanelSizes shownSizes;
+    std::size_t shownComments = 0;
     double shownScale = 1;
 };
 

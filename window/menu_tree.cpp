@@ -35,6 +35,7 @@ class MenuBuilder {
     void buildExercises();
     void buildBook();
     void buildView();
+    void buildKeys(QMenu& view);
     void buildHelp(const MenuActions& actions);
 
   private:
@@ -196,6 +197,8 @@ void MenuBuilder::buildView() {
     QObject::connect(heading, &QAction::triggered, &bar,
                      guarded([](Form1& f) { f.setNorthUp(false); }));
     view->addSeparator();
+    buildKeys(*view);
+    view->addSeparator();
     QAction* larger = entry(*view, "zoomIn", text(Text::zoomIn));
     larger->setShortcut(QKeySequence::ZoomIn);
     QObject::connect(larger, &QAction::triggered, &bar, guarded([](Form1& f) { f.stepScale(1); }));
@@ -203,11 +206,27 @@ void MenuBuilder::buildView() {
     smaller->setShortcut(QKeySequence::ZoomOut);
     QObject::connect(smaller, &QAction::triggered, &bar,
                      guarded([](Form1& f) { f.stepScale(-1); }));
-    QAction* cycle = entry(*view, "cycleRadialLines", text(Text::cycleRadialLines));
-    QObject::connect(cycle, &QAction::triggered, &bar,
-                     guarded([](Form1& f) { f.cycleRadialLines(); }));
     view->addSeparator();
     binding.bind(form.floatingGyroBox, *entry(*view, "floatingGyro", text(Text::floatingGyro)));
+}
+
+/// The letters on the status panels. A field that takes text keeps them to itself.
+void MenuBuilder::buildKeys(QMenu& view) {
+    static constexpr std::pair<char, Text> keys[] = {
+        {'M', Text::keyStart},   {'P', Text::keyReplay},  {'H', Text::keyHide},
+        {'T', Text::keyTrace},   {'V', Text::keyVectors}, {'W', Text::keyWind},
+        {'R', Text::keyRadials},
+    };
+    for (const auto& [letter, caption] : keys) {
+        const QString key{QLatin1Char(letter)};
+        QAction* action = entry(view, "", text(caption));
+        action->setObjectName(QStringLiteral("key") + key);
+        action->setShortcut(QKeySequence(key));
+        action->setAutoRepeat(false);
+        QObject::connect(action, &QAction::triggered, &bar, [this_form = &form, which = letter] {
+            this_form->guarded([&] { this_form->pressKey(which); });
+        });
+    }
 }
 
 void MenuBuilder::buildHelp(const MenuActions& actions) {

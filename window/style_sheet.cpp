@@ -1,5 +1,6 @@
 #include "window/style_sheet.h"
 
+#include "chart/chart_picture.h"
 #include "window/panel_look.h"
 
 #include <QHash>
@@ -28,6 +29,17 @@ QToolTip { background: $card; color: $ink; border: 1px solid $line; padding: {3}
 QLabel { color: $ink; background: transparent; }
 QLabel[secondary="true"] { color: $secondaryInk; font-size: {12}px; }
 QLabel[readout="true"] { font-size: {13}px; font-weight: bold; }
+QLabel[comment="true"] { font-size: {15}px; }
+QScrollArea#Frame3 { background: transparent; border: 1px solid transparent; border-radius: {3}px; }
+QScrollArea#Frame3:focus { border-color: $accent; }
+QCheckBox { font-size: {12}px; }
+
+QWidget#StationFirst { border-left: {2}px solid $first; }
+QWidget#StationSecond { border-left: {2}px solid $second; }
+QWidget#StationLocalizer { border-left: {2}px solid $localizer; }
+QLabel#NameFirst { color: $first; }
+QLabel#NameSecond { color: $second; }
+QLabel#NameLocalizer { color: $localizer; }
 
 QPushButton { background: $paper; color: $ink; border: 1px solid $line; border-radius: {5}px;
   padding: 0 {10}px; min-height: {24}px; max-height: {24}px; font-size: {12}px; }
@@ -48,13 +60,30 @@ QPushButton[segment="first"] { border-left-width: 1px; border-top-left-radius: {
 QPushButton[segment="last"] { border-top-right-radius: {5}px; border-bottom-right-radius: {5}px; }
 QPushButton[segment]:checked { background: $paper; color: $accent; font-weight: bold;
   border: {2}px solid $accent; border-radius: {5}px; padding: 0 {3}px; }
+QPushButton[segment]:checked:focus { background: $tint; }
 QPushButton[segment]:focus:!checked { border: 1px solid $accent; color: $accent; }
 
+QPushButton[tab="true"] { background: transparent; border: none; border-radius: 0;
+  border-bottom: {2}px solid transparent; padding: 0 {4}px;
+  min-height: {22}px; max-height: {22}px; }
+QPushButton[tab="true"]:hover { color: $accent; }
+QPushButton[tab="true"]:checked { color: $accent; font-weight: bold; border-bottom-color: $accent; }
+QPushButton[tab="true"]:focus { background: $hairline; border-top-left-radius: {4}px;
+  border-top-right-radius: {4}px; }
+
+QSpinBox { font-size: {12}px; min-height: {24}px; }
+QLineEdit { background: $paper; color: $ink; border: 1px solid $line;
+  border-radius: {5}px; padding: 0 {6}px; min-height: {24}px; max-height: {24}px;
+  font-size: {12}px; selection-background-color: $accent; selection-color: white; }
+QLineEdit:hover { border-color: $accent; }
+QLineEdit:focus { border: 2px solid $accent; padding: 0 {5}px; }
+
 QToolButton { background: $paper; border: 1px solid $line; border-radius: {5}px;
-  min-width: {26}px; min-height: {22}px; max-height: {22}px; }
+  min-width: {26}px; min-height: {24}px; max-height: {24}px; }
 QToolButton:hover:enabled { border-color: $accent; }
 QToolButton:pressed { background: $hairline; }
 QToolButton:focus { border: 2px solid $accent; }
+QToolButton:checked { background: $tint; border-color: $accent; }
 QToolButton:disabled { background: $card; border-color: $hairline; }
 
 QSlider { min-height: {18}px; max-height: {18}px; background: transparent; }
@@ -87,6 +116,7 @@ QPushButton[channel="true"]:focus { border: 2px solid $panelFocus; padding: 0; }
 
 QWidget#StatusPanels { background: $bar; border-top: 1px solid $line; }
 QWidget#StatusPanels QLabel { font-size: {12}px; padding-left: {10}px; }
+QWidget#StatusPanels QLabel#FlightTime { padding-right: {10}px; }
 )";
 
 const QHash<QString, QColor>& colours() {
@@ -100,8 +130,12 @@ const QHash<QString, QColor>& colours() {
         {QStringLiteral("ink"), look::ink},
         {QStringLiteral("secondaryInk"), look::secondaryInk},
         {QStringLiteral("accent"), look::accent},
+        {QStringLiteral("tint"), look::onPaper(look::accent, 0.15)},
         {QStringLiteral("accentDeep"), look::accent.darker(130)},
         {QStringLiteral("accentLight"), look::accent.lighter(115)},
+        {QStringLiteral("first"), look::fromSurface(chartColour::first)},
+        {QStringLiteral("second"), look::fromSurface(chartColour::second)},
+        {QStringLiteral("localizer"), look::localizer},
         {QStringLiteral("unit"), look::unit},
         {QStringLiteral("moduleTop"), look::moduleTop},
         {QStringLiteral("moduleBottom"), look::moduleBottom},

@@ -9,7 +9,7 @@ namespace tarnel {
 
 namespace {
 
-constexpr int spaceBeforeText = 7;
+constexpr int spaceBeforeText = 6;
 
 void paintMark(QPainter& painter, const QRectF& field, Qt::CheckState state) {
     if (state == Qt::Unchecked)
@@ -31,8 +31,8 @@ int TickBox::fieldSize() const {
 }
 
 QSize TickBox::sizeHint() const {
-    return {fieldSize() + spaceBeforeText + fontMetrics().horizontalAdvance(text()) + 4,
-            fontMetrics().height() + 8};
+    return {fieldSize() + spaceBeforeText + fontMetrics().horizontalAdvance(text()) + 2,
+            fontMetrics().height() + 5};
 }
 
 void TickBox::paintEvent(QPaintEvent*) {

@@ -10,6 +10,7 @@ namespace tarnel {
 namespace {
 
 constexpr double stripHeight = 178;
+constexpr int smallestChart = 160;
 constexpr double headerHeight = 32;
 constexpr double panelReferenceWidth = 712;
 constexpr double largeToSmall = 1.35;
@@ -139,9 +140,26 @@ class PanelLayout {
     double head = 0;
 };
 
+/// Chart, strip and comment below each other in a column of `width`.
+void layOutChart(WindowLayout& layout, QSize body, int width, const ColumnWishes& wishes) {
+    const int margin = whole(look::gap * layout.uiScale);
+    const int bottom = body.height() - margin;
+    const int strip = std::max(whole(stripHeight * layout.uiScale), wishes.strip(width));
+    const int forChart = bottom - margin - strip - margin;
+    const int wanted = wishes.comment(width);
+    const int comment = std::min(wanted, forChart - margin - smallestChart);
+    const int forComment = wanted > 0 ? comment + margin : 0;
+    const int side = std::clamp(forChart - forComment, smallestChart, width);
+    layout.chart = {margin + (width - side) / 2, margin, side, side};
+    const int stripTop = margin + side + margin;
+    layout.strip = {margin, stripTop, width, bottom - forComment - stripTop};
+    if (wanted > 0)
+        layout.comment = {margin, bottom - comment, width, comment};
+}
+
 } // namespace
 
-WindowLayout layOutWindow(QSize body, PanelSizes sizes) {
+WindowLayout layOutWindow(QSize body, PanelSizes sizes, const ColumnWishes& wishes) {
     WindowLayout layout;
     layout.uiScale = uiScaleOf(body);
     const int margin = whole(look::gap * layout.uiScale);
@@ -150,11 +168,9 @@ WindowLayout layOutWindow(QSize body, PanelSizes sizes) {
     double side = std::min(height - margin - stripHeight * layout.uiScale, widest);
     if (sizes.inst2Large || sizes.inst3Large)
         side *= largeChartShare;
-    const int chartSide = std::max(whole(side), 200);
-    layout.chart = {margin, margin, chartSide, chartSide};
-    const int stripTop = margin + chartSide + margin;
-    layout.strip = {margin, stripTop, chartSide, body.height() - margin - stripTop};
-    const int panelLeft = margin + chartSide + margin;
+    const int columnWidth = std::max(whole(side), smallestChart);
+    layOutChart(layout, body, columnWidth, wishes);
+    const int panelLeft = margin + columnWidth + margin;
     layout.panel = {panelLeft, margin, body.width() - margin - panelLeft, height};
     PanelLayout(layout, sizes).layOut();
     return layout;

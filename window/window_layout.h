@@ -4,6 +4,7 @@
 #include <QSize>
 
 #include <array>
+#include <functional>
 
 namespace tarnel {
 
@@ -11,6 +12,7 @@ namespace tarnel {
 struct PanelSizes {
     bool inst2Large = false;
     bool inst3Large = false;
+    bool operator==(const PanelSizes&) const = default;
 };
 
 /// Where everything stands in the window, in pixels. Panel places are relative to the panel.
@@ -19,6 +21,7 @@ struct WindowLayout {
     double panelScale = 1; ///< of what stands on the panel: 1 at 712 px width
     QRect chart;
     QRect strip;
+    QRect comment; ///< empty without one
     QRect panel;
     std::array<QRect, 2> headers;     ///< above the instruments
     std::array<QRect, 2> instruments; ///< square
@@ -30,8 +33,17 @@ struct WindowLayout {
     QRect autopilot;
 };
 
+/// The heights that parts of the chart's column want at its width.
+struct ColumnWishes {
+    using Height = std::function<int(int)>;
+    Height strip = [](int) { return 0; };
+    Height comment = [](int) { return 0; }; ///< 0 for no card
+};
+
 /// Lays out the space between menu bar and status bar. A large instrument takes its room from the
-/// chart. Meant for 1000 x 640 and more; nothing overlaps below that, but it gets cramped.
-[[nodiscard]] WindowLayout layOutWindow(QSize body, PanelSizes sizes);
+/// chart, a comment from the chart's height alone: strip and instruments stay where they are. Meant
+/// for 1000 x 640 and more; nothing overlaps below that, but it gets cramped.
+[[nodiscard]] WindowLayout layOutWindow(QSize body, PanelSizes sizes,
+                                        const ColumnWishes& wishes = {});
 
 } // namespace tarnel

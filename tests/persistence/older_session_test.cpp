@@ -86,7 +86,7 @@ TEST(OlderSession, StopsAtTheLineThatIsWrong) {
         {7, ":mc:,99999", {7, FileField::mapCentre, false}},
         {8, "91", {8, FileField::latitude, false}},
         {51, "north", {51, FileField::degrees, false}},
-        {54, "1e9", {54, FileField::wholeNumber, false}},
+        {54, "1e9", {54, FileField::airspeed, false}},
     };
     for (const Case& c : cases) {
         auto lines = complete;
@@ -96,11 +96,11 @@ TEST(OlderSession, StopsAtTheLineThatIsWrong) {
 }
 
 TEST(OlderSession, ATrackOverThePoleEndsBeforeIt) {
-    auto lines = olderLines(400);
+    auto lines = olderLines(2000);
     lines[7] = "89.9";
     for (std::size_t i = 7; i < lines.size(); i += 41) {
         lines[i + 2] = "0";
-        lines[i + 5] = "32767";
+        lines[i + 5] = "1000";
     }
     const SessionFile session = readLines(lines);
     ASSERT_TRUE(session.problem);

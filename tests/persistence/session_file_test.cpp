@@ -158,7 +158,7 @@ TEST(SessionFile, NamesTheLineThatIsWrong) {
         {19, ":ms:,wide", FileField::mapScale},  {20, "90.1", FileField::latitude},
         {20, "48,25", FileField::latitude},      {21, "inf", FileField::longitude},
         {22, "1e5", FileField::degrees},         {23, "32768", FileField::wholeNumber},
-        {24, "1e300", FileField::wholeNumber},   {25, "", FileField::wholeNumber},
+        {24, "1e300", FileField::wholeNumber},   {25, "", FileField::airspeed},
         {30, "-361", FileField::longitude},      {44, "nan", FileField::degrees},
         {58, "--", FileField::wholeNumber},      {59, "101", FileField::commentIndex},
         {59, "-2", FileField::commentIndex},
@@ -266,7 +266,8 @@ Sample anySample() {
     sample.traceLon = anyDegrees(360);
     sample.traceHeading = anyDegrees(360);
     sample.traceObsI2 = anyDegrees(720);
-    sample.traceTAS = any16();
+    sample.traceTAS = *rc::gen::inRange<std::int16_t>(0, 1001);
+    sample.traceTurnRate = any16();
     sample.traceHDGbug = any16();
     sample.traceComment = *rc::gen::inRange<std::int16_t>(-1, 101);
     for (GeoPosition& station : sample.traceStations)

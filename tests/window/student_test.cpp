@@ -1,79 +1,13 @@
-#include "strings/tables.h"
-#include "window/application.h"
 #include "window/chart_view.h"
 #include "window/instrument_view.h"
-#include "window/main_window.h"
+#include "window/student_fixture.h"
 
-#include <QAbstractButton>
-#include <QApplication>
 #include <QComboBox>
 #include <QLabel>
-#include <QMenuBar>
-#include <QTest>
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <memory>
-#include <string>
-#include <vector>
 
 namespace tarnel {
 namespace {
-
-struct NotedWorld : OutsideWorld {
-    std::vector<std::string> boxes;
-    void messageBox(BoxKind, const std::string&, const std::string& text) override {
-        boxes.push_back(text);
-    }
-};
-
-/// The window as a student has it, with the time run by hand.
-class Student : public testing::Test {
-  protected:
-    void open(const StringTable& texts = englishTable(), QSize size = {1280, 800}) {
-        dressApplication(texts, QStringLiteral(TARNEL_APPLICATION_FOLDER));
-        form = std::make_unique<Form1>(texts, world, TARNEL_APPLICATION_FOLDER);
-        window = std::make_unique<MainWindow>(*form);
-        window->resize(size);
-        window->show();
-        settle();
-    }
-    void settle() {
-        form->Timer1();
-        form->Timer1();
-        window->refresh();
-        QApplication::processEvents();
-    }
-    void fly(int seconds) {
-        for (int i = 0; i < seconds * 3; ++i) {
-            form->simulationTimer();
-            form->Timer1();
-        }
-        settle();
-    }
-    template <class Widget = QAbstractButton>
-    Widget& find(const char* name) {
-        auto* found = window->findChild<Widget*>(QString::fromLatin1(name));
-        if (!found)
-            throw std::runtime_error(std::string("no widget called ") + name);
-        return *found;
-    }
-    void click(const char* name) {
-        find(name).click();
-        settle();
-    }
-    void drag(QWidget& widget, QPoint from, QPoint way) {
-        QTest::mousePress(&widget, Qt::LeftButton, {}, from);
-        QTest::mouseMove(&widget, from + way / 2);
-        QTest::mouseMove(&widget, from + way);
-        QTest::mouseRelease(&widget, Qt::LeftButton, {}, from + way);
-        settle();
-    }
-
-    NotedWorld world;
-    std::unique_ptr<Form1> form;
-    std::unique_ptr<MainWindow> window;
-};
 
 TEST_F(Student, StartsAndStopsTheFlight) {
     open();
@@ -189,27 +123,6 @@ TEST_F(Student, MissingPicturesAreToldOnceAndTheNeedlesStay) {
     window->grab();
     QTest::qWait(1);
     EXPECT_EQ(world.boxes.size(), told);
-}
-
-// No word is cut off, in neither language, on the smallest screen.
-TEST_F(Student, ReadsEveryButtonInFull) {
-    for (const StringTable* texts : {&germanTable(), &englishTable()}) {
-        for (const QSize size : {QSize(1024, 768), QSize(1280, 800)}) {
-            open(*texts, size);
-            for (auto* button : window->findChildren<QAbstractButton*>()) {
-                if (!button->isVisible() || button->text().isEmpty() ||
-                    button->inherits("QToolButton"))
-                    continue;
-                const int needed = QFontMetrics(button->font()).horizontalAdvance(button->text());
-                EXPECT_GE(button->width(), needed) << qPrintable(button->text());
-            }
-            for (auto* label : window->findChildren<QLabel*>())
-                if (label->isVisible()) {
-                    EXPECT_GE(label->width(), label->sizeHint().width())
-                        << qPrintable(label->text());
-                }
-        }
-    }
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -76,6 +77,29 @@ TEST(WindowLayout, PartsKeepTheSizeThatHandsAndEyesNeed) {
             static_cast<double>(layout.instruments[0].width()) / layout.instruments[1].width();
         if (each.sizes.inst2Large && !each.sizes.inst3Large && each.body.height() >= 700) {
             EXPECT_GT(ratio, 1.1) << nameOf(each);
+        }
+    }
+}
+
+// A comment takes its room from the chart's height: what hands and eyes are at keeps its place.
+TEST(WindowLayout, ACommentStandsBelowTheChartAndMovesNothingElse) {
+    for (const Case& each : allCases()) {
+        const WindowLayout without = layOutWindow(each.body, each.sizes);
+        EXPECT_TRUE(without.comment.isEmpty());
+        for (const int wanted : {60, 130, 500}) {
+            const WindowLayout with =
+                layOutWindow(each.body, each.sizes, {.comment = [wanted](int) { return wanted; }});
+            EXPECT_EQ(with.panel, without.panel) << nameOf(each);
+            EXPECT_EQ(panelParts(with), panelParts(without)) << nameOf(each);
+            EXPECT_EQ(with.strip.width(), without.strip.width()) << nameOf(each);
+            EXPECT_GE(with.strip.height(), 150) << nameOf(each);
+            EXPECT_GT(with.strip.top(), with.chart.bottom()) << nameOf(each);
+            EXPECT_GT(with.comment.top(), with.strip.bottom()) << nameOf(each);
+            EXPECT_LT(with.comment.bottom(), each.body.height()) << nameOf(each);
+            EXPECT_FALSE(with.comment.intersects(with.panel)) << nameOf(each);
+            EXPECT_GE(with.chart.height(), 160) << nameOf(each);
+            EXPECT_EQ(with.chart.width(), with.chart.height()) << nameOf(each);
+            EXPECT_GE(with.comment.height(), std::min(wanted, 130)) << nameOf(each);
         }
     }
 }

@@ -1,0 +1,330 @@
+#include "exercises/exercise_catalogue.h"
+#include "flights/flight.h"
+#include "strings/tables.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+namespace tarnel {
+namespace {
+
+namespace fs = std::filesystem;
+
+class ExerciseFlow : public testing::TestWithParam<std::size_t> {
+  protected:
+    void couple(int ticks = 3) {
+        for (int i = 0; i < ticks; ++i)
+            form.Timer1();
+    }
+    void start(std::size_t item) {
+        form.exerciseMenu.exercises[item]->click();
+        couple();
+    }
+    ExercisePanel& panel() { return *form.QAform1.activePanel(); }
+    void click(CommandButton& button) {
+        button.click();
+        couple();
+    }
+    void toFirstQuestion() {
+        while (panel().frame.text().find("( 1 von") == std::string::npos)
+            click(panel().nextButton);
+    }
+    /// Lets the replay run to its end.
+    void watch() {
+        for (int i = 0; form.replayRuns() && i < 4 * Recording::lastSample; ++i) {
+            form.Timer2();
+            couple(1);
+        }
+    }
+    void fly(int seconds) {
+        for (int i = 0; i < 3 * seconds; ++i) {
+            form.simulationTimer();
+            couple(1);
+        }
+    }
+
+    /// The answers that the solution shows, by row.
+    std::vector<std::string> solution() {
+        click(panel().solutionButton);
+        std::vector<std::string> answers;
+        for (const auto& row : panel().rows)
+            answers.push_back(row->answer.text());
+        return answers;
+    }
+    static int choices(const AnswerRow& row) {
+        return static_cast<int>(row.list ? row.list->entries().size() : row.options.size());
+    }
+    /// Types what a field asks for and picks a choice.
+    static void answer(AnswerRow& row, int choice, const std::string& solution) {
+        const auto digits = solution.find_first_of("0123456789-");
+        const std::string number = digits == std::string::npos ? "" : solution.substr(digits);
+        if (row.entries.size() == 1)
+            row.entries[0]->field.type(number);
+        else if (row.entries.size() == 2) {
+            row.entries[0]->field.type(number.substr(0, number.find('.')));
+            row.entries[1]->field.type(number.substr(number.find('.') + 1, 2));
+        }
+        if (row.list)
+            row.list->pick(choice);
+        else
+            row.options[static_cast<std::size_t>(choice)]->click();
+    }
+    [[nodiscard]] static bool asked(const AnswerRow& row) { return row.prompt.visible(); }
+
+    /// Finds the right choice of each row by trying: a wrong answer brings the question again.
+    std::vector<int> rightChoices(const std::vector<std::string>& solutions) {
+        std::vector<int> right(panel().rows.size(), -1);
+        for (std::size_t r = 0; r < right.size(); ++r) {
+            AnswerRow& row = *panel().rows[r];
+            const int first = row.list ? 1 : 0;
+            for (int choice = first; asked(row) && choice < choices(row); ++choice) {
+                answer(row, choice, solutions[r]);
+                const bool hit = row.verdict() == Verdict::right;
+                if (hit)
+                    right[r] = choice;
+                click(panel().nextButton);
+                if (hit)
+                    break;
+            }
+        }
+        return right;
+    }
+    void expectHidden() {
+        const UserControl2& sim = form.UserControl11;
+        EXPECT_TRUE(form.questionOpen());
+        EXPECT_EQ(sim.c_TraceEN + sim.c_SpeedVectorEN + sim.c_TraceAheadEN, 0);
+        EXPECT_TRUE(sim.picture.trace.all().empty());
+        EXPECT_FALSE(form.commentPanel.comment.visible());
+        EXPECT_FALSE(form.startButton.enabled());
+        EXPECT_FALSE(form.replayPage.play.enabled());
+        EXPECT_FALSE(form.pressKey('H'));
+        EXPECT_EQ(sim.presentSampleIndex(), 1);
+        EXPECT_GT(sim.c_TraceBufferMax, 40);
+    }
+
+    RecordingWorld world;
+    Form1 form{germanTable(), world, TARNEL_APPLICATION_FOLDER};
+};
+
+TEST_P(ExerciseFlow, IsAskedAnsweredShownAndLeft) {
+    couple();
+    const std::int16_t type = exerciseItems()[GetParam()].type;
+    start(GetParam());
+    ASSERT_TRUE(form.exerciseRuns());
+    panel().randomBox.set(0);
+    if (type == 10) // begins at random
+        toFirstQuestion();
+    EXPECT_THAT(panel().frame.text(), testing::HasSubstr("( 1 von 1"));
+    EXPECT_TRUE(world.boxes.empty()) << world.boxes[0].text;
+    expectHidden();
+    EXPECT_EQ(form.UserControl11.c_AirplaneEN, type == 10 ? 1 : 0);
+    EXPECT_EQ(form.instruments.visible(), type != 10);
+    for (CommandButton* item : form.exerciseMenu.items())
+        EXPECT_FALSE(item->enabled()) << item->name();
+    EXPECT_FALSE(form.fileMenu.loadSession.enabled());
+
+    const std::vector<std::string> solutions = solution();
+    EXPECT_FALSE(form.questionOpen());
+    EXPECT_TRUE(form.replayRuns());
+    EXPECT_TRUE(form.instruments.visible());
+    EXPECT_EQ(form.UserControl11.c_AirplaneEN, 1);
+    EXPECT_EQ(form.UserControl11.c_SpeedVectorEN, type == 8 ? 1 : 0);
+    couple(1);
+    EXPECT_EQ(form.replayPage.lock.value(), 1);
+    watch();
+    EXPECT_EQ(form.replayPage.bar.value(), form.UserControl11.c_TraceBufferMax);
+    click(panel().nextButton); // seen, not answered: the next question
+    EXPECT_THAT(panel().frame.text(), testing::HasSubstr("( 2 von 1"));
+    EXPECT_THAT(panel().statistic.text(), testing::HasSubstr(": 0"));
+    expectHidden();
+    click(panel().cancelButton);
+    EXPECT_FALSE(form.exerciseRuns());
+
+    start(GetParam());
+    panel().randomBox.set(0);
+    toFirstQuestion();
+    const std::vector<int> right = rightChoices(solutions);
+    for (std::size_t r = 0; r < right.size(); ++r) {
+        if (asked(*panel().rows[r])) {
+            ASSERT_GE(right[r], 0) << "row " << r << " can't be answered: " << solutions[r];
+            answer(*panel().rows[r], right[r], solutions[r]);
+        }
+    }
+    couple();
+    EXPECT_TRUE(form.replayRuns()); // all right: the solution at once
+    click(panel().nextButton);
+    EXPECT_THAT(panel().statistic.text(), testing::HasSubstr("Richtige: 1"));
+    EXPECT_THAT(panel().frame.text(), testing::HasSubstr("( 2 von 1"));
+    click(panel().cancelButton);
+}
+
+class FlownExercise : public ExerciseFlow {};
+
+TEST_P(FlownExercise, IsFlownByTheStudentAndComesBack) {
+    couple();
+    const std::int16_t type = exerciseItems()[GetParam()].type;
+    start(GetParam());
+    const std::string question = panel().frame.text();
+    const Sample first = form.UserControl11.recording.at(1);
+    const std::int16_t samples = form.UserControl11.c_TraceBufferMax;
+    click(panel().flyButton);
+    EXPECT_GT(form.QAform1.c_QAFly, 0);
+    EXPECT_TRUE(form.startButton.enabled());
+    EXPECT_TRUE(form.backButton.visible());
+    EXPECT_EQ(form.replayPage.lock.value(), 0);
+    EXPECT_EQ(form.inst3.type, first.traceInst3);
+    EXPECT_EQ(form.NAVControlFace1.c_OnOff, 1);
+    form.startButton.click();
+    fly(20);
+    EXPECT_TRUE(form.simulationRuns());
+    EXPECT_NEAR(form.UserControl11.c_TraceBufferMax, 16, 1);
+    EXPECT_TRUE(form.UserControl11.referenceReading.known) << type;
+    click(form.backButton);
+    EXPECT_FALSE(form.simulationRuns());
+    EXPECT_LT(form.QAform1.c_QAFly, 0);
+    EXPECT_EQ(panel().frame.text(), question);
+    EXPECT_EQ(form.UserControl11.c_TraceBufferMax, samples); // the solution is there again
+    expectHidden();
+
+    click(panel().flyButton);
+    form.startButton.click();
+    fly(5);
+    click(panel().nextButton); // from the midst of a flight
+    EXPECT_FALSE(form.simulationRuns());
+    expectHidden();
+    click(panel().flyButton);
+    form.startButton.click();
+    fly(5);
+    click(panel().cancelButton);
+    EXPECT_FALSE(form.exerciseRuns());
+    EXPECT_FALSE(form.simulationRuns());
+    EXPECT_TRUE(world.boxes.empty());
+}
+
+std::string nameOf(const testing::TestParamInfo<std::size_t>& item) {
+    return exerciseItems()[item.param].name;
+}
+
+/// The items whose questions the student can fly: those that don't ask for a position.
+std::vector<std::size_t> flownItems() {
+    std::vector<std::size_t> items;
+    for (std::size_t i = 0; i < exerciseItems().size(); ++i)
+        if (!asksForPosition(exerciseItems()[i].type))
+            items.push_back(i);
+    return items;
+}
+
+INSTANTIATE_TEST_SUITE_P(All, ExerciseFlow, testing::Range<std::size_t>(0, exerciseItems().size()),
+                         nameOf);
+INSTANTIATE_TEST_SUITE_P(All, FlownExercise, testing::ValuesIn(flownItems()), nameOf);
+
+using ExerciseShell = ExerciseFlow;
+
+/// What the shell shows, told as text.
+std::string shellOf(Form1& form) {
+    const auto flag = [](const auto& value) { return std::to_string(value) + " "; };
+    std::string text;
+    for (const OptionButton* rate :
+         {&form.rateReal, &form.rateHalf, &form.rateDouble, &form.rateQuadruple})
+        text += flag(rate->chosen());
+    for (const CheckBox* box :
+         {&form.replayPage.hide, &form.chartPage.hide, &form.chartPage.trace,
+          &form.chartPage.vectors, &form.replayPage.lock, &form.inst3RadialBox})
+        text += flag(box->value());
+    for (const auto* face : {&form.NAVControlFace1.c_OnOff, &form.NAVControlFace2.c_OnOff,
+                             &form.ADFControlFace1.c_OnOff, &form.DMEControlFace1.c_OnOff,
+                             &form.APControlFace1.c_OnOff, &form.NAVControlFace1.c_LockSettings})
+        text += flag(face->get());
+    const UserControl2& sim = form.UserControl11;
+    text += flag(form.inst2.type) + flag(form.inst3.type) + flag(form.inst2Large.chosen()) +
+            flag(sim.c_AirplaneEN.get()) + flag(sim.c_TraceEN.get()) +
+            flag(sim.c_SpeedVectorEN.get()) + flag(form.instruments.visible()) +
+            flag(form.startButton.enabled()) + flag(form.backButton.visible()) +
+            flag(form.replayRuns());
+    for (CommandButton* item : form.exerciseMenu.items())
+        text += flag(item->enabled());
+    for (CommandButton* item : form.fileMenu.items())
+        text += flag(item->enabled());
+    return text + form.hidePanel.text() + form.tracePanel.text() + form.vectorsPanel.text() +
+           form.sessionPanel.text();
+}
+
+TEST_F(ExerciseShell, IsAsItWasAfterTenExercises) {
+    form.rateDouble.click();
+    form.chartPage.vectors.click();
+    couple();
+    const std::string before = shellOf(form);
+    for (std::size_t item = 0; item < exerciseItems().size(); ++item) {
+        start(item);
+        if (item % 2 == 0) {
+            click(panel().solutionButton);
+            watch();
+        }
+        click(panel().cancelButton);
+        EXPECT_EQ(shellOf(form), before) << exerciseItems()[item].name;
+    }
+    form.startButton.click(); // and a free flight goes
+    fly(5);
+    EXPECT_TRUE(form.simulationRuns());
+}
+
+TEST_F(ExerciseShell, AnExerciseStopsAFlightAndCountsItsAnswers) {
+    form.startButton.click();
+    fly(3);
+    EXPECT_FALSE(form.exerciseMenu.exercises[1]->enabled()); // rests in flight
+    form.startButton.click();
+    start(1);
+    panel().randomBox.set(0);
+    answer(*panel().rows[0], 0, "075");
+    click(panel().nextButton);
+    EXPECT_THAT(panel().statistic.text(), testing::HasSubstr("Versuche: 1"));
+    EXPECT_THAT(panel().frame.text(), testing::HasSubstr("( 1 von"));
+    click(panel().cancelButton);
+    form.exerciseMenu.resetStatistics.click();
+    start(1);
+    EXPECT_THAT(panel().statistic.text(), testing::HasSubstr("Versuche: 0"));
+}
+
+TEST_F(ExerciseShell, AMissingSessionIsToldAndTheQuestionCanBePassed) {
+    std::string name = (fs::temp_directory_path() / "tarnel-XXXXXX").string();
+    const fs::path bare = mkdtemp(name.data());
+    fs::create_directories(bare / "default");
+    fs::copy(TARNEL_APPLICATION_FOLDER "/default/study", bare / "default/study",
+             fs::copy_options::recursive | fs::copy_options::skip_symlinks);
+    form.QAform1.c_MainAppPath = bare.string();
+    start(1);
+    ASSERT_EQ(world.boxes.size(), 1U);
+    EXPECT_THAT(world.boxes[0].text, testing::HasSubstr("qdm01.ts"));
+    click(panel().nextButton);
+    EXPECT_EQ(world.boxes.size(), 2U);
+    EXPECT_TRUE(form.questionOpen());
+    click(panel().cancelButton);
+    EXPECT_FALSE(form.exerciseRuns());
+    fs::remove_all(bare);
+}
+
+TEST_F(ExerciseShell, APracticeFlightStandsAtItsFirstSampleWithAReference) {
+    form.exerciseMenu.vorPractice[9]->click();
+    couple();
+    EXPECT_THAT(form.UserControl11.c_SessionFileName.get(), testing::HasSubstr("vor practise 10"));
+    EXPECT_EQ(form.replayPage.bar.value(), 1);
+    EXPECT_TRUE(form.UserControl11.referenceReading.known);
+    EXPECT_TRUE(form.practicePanel.frame.visible());
+    form.startButton.click();
+    fly(20);
+    form.startButton.click();
+    const std::int16_t flown = form.UserControl11.c_TraceBufferMax;
+    form.practicePanel.keep.click(); // the session again, the flight aside
+    couple();
+    EXPECT_GT(form.UserControl11.c_TraceBufferMax, flown);
+    form.practicePanel.recall.click();
+    couple();
+    EXPECT_EQ(form.UserControl11.c_TraceBufferMax, flown);
+    EXPECT_THAT(form.UserControl11.c_SessionFileName.get(), testing::HasSubstr("vor practise 10"));
+    EXPECT_TRUE(world.boxes.empty());
+}
+
+} // namespace
+} // namespace tarnel

@@ -1,0 +1,293 @@
+#include "persistence/file_bytes.h"
+#include "shell/trainer_fixture.h"
+
+#include <gmock/gmock.h>
+
+namespace tarnel {
+namespace {
+
+using testing::HasSubstr;
+
+/// A world whose user picks the files that he is told to.
+struct PickingWorld : NotedWorld {
+    std::optional<std::string> chooseFile(const FileQuestion& question) override {
+        questions.push_back(question);
+        return chosen;
+    }
+    std::vector<FileQuestion> questions;
+    std::optional<std::string> chosen;
+};
+
+class FilesTest : public testing::Test {
+  protected:
+    FilesTest() {
+        std::filesystem::create_directories(folder.path + "/default/sessions");
+        std::filesystem::copy(TARNEL_DATA_FOLDER "/default.map", folder.path + "/default.map");
+        form = std::make_unique<Form1>(englishTable(), world, folder.path);
+    }
+    void couple(int ticks = 3) {
+        for (int i = 0; i < ticks; ++i)
+            form->Timer1();
+    }
+    void fly(int seconds) {
+        form->startButton.click();
+        for (int i = 0; i < 3 * seconds; ++i) {
+            form->simulationTimer();
+            couple();
+        }
+        form->startButton.click();
+        couple();
+    }
+    void saveAs(const std::string& name) {
+        world.chosen = folder.path + "/" + name;
+        form->fileMenu.saveSessionAs.click();
+    }
+    void load(const std::string& name) {
+        world.chosen = folder.path + "/" + name;
+        form->guarded([this] { form->fileMenu.loadSession.click(); });
+        couple();
+    }
+    [[nodiscard]] std::string bytes(const std::string& name) const {
+        return readFileBytes(folder.path + "/" + name, 1 << 24);
+    }
+    void write(const std::string& name, const std::string& text) const {
+        std::ofstream(folder.path + "/" + name, std::ios::binary) << text;
+    }
+    UserControl2& sim() { return form->UserControl11; }
+
+    ApplicationFolder folder;
+    PickingWorld world;
+    std::unique_ptr<Form1> form;
+};
+
+TEST_F(FilesTest, ASessionComesBackAsItWasAndRestsOnItsLastSample) {
+    form->inst2TypeList.pick(vor - 1);
+    form->setHeadingBug(60);
+    sim().setWind({240, 15});
+    form->startButton.click();
+    form->commentPanel.text.type("Größe");
+    form->commentPanel.startStop.click();
+    form->startButton.click();
+    fly(40);
+    const std::int16_t samples = sim().c_TraceBufferMax;
+    const Sample tenth = sim().recording.at(10);
+    saveAs("flight.ts");
+    const std::string saved = bytes("flight.ts");
+
+    form->fileMenu.newSession.click();
+    form->inst2TypeList.pick(dg - 1);
+    load("flight.ts");
+    EXPECT_EQ(sim().c_TraceBufferMax, samples);
+    EXPECT_EQ(form->replayPage.bar.value(), samples);
+    EXPECT_EQ(form->replayPage.lock.value(), 1);
+    EXPECT_EQ(form->inst2.type, vor); // the next tick pushes the panel
+    EXPECT_EQ(sim().c_wind.get(), "240/15");
+    EXPECT_EQ(form->commentPanel.comment.text(), "Größe");
+    EXPECT_EQ(sim().recording.at(10).traceLat, tenth.traceLat);
+    EXPECT_EQ(sim().recording.at(10).traceHeading, tenth.traceHeading);
+    EXPECT_EQ(sim().c_TraceEN, 1);
+    EXPECT_EQ(sim().aircraft.place.point, (ChartPoint{3405, 3405}));
+    EXPECT_TRUE(sim().referenceReading.known);
+    EXPECT_EQ(sim().referenceReading.lamps[0], Lamp::green);
+
+    form->fileMenu.saveSession.click(); // the name came from a dialog
+    EXPECT_EQ(bytes("flight.ts"), saved);
+    const GeoPosition end = sim().aircraft.published();
+    fly(4); // goes on from the last sample
+    EXPECT_EQ(sim().c_TraceBufferMax, samples + 3);
+    EXPECT_LT(CourseAndDistance(end, sim().aircraft.published()).distance, 0.3);
+    EXPECT_EQ(sim().reference.at(samples).latitude, sim().recording.at(samples).traceLat);
+    EXPECT_TRUE(world.boxes.empty());
+}
+
+TEST_F(FilesTest, EncipheredFilesHoldTheSame) {
+    fly(20);
+    saveAs("plain.ts");
+    form->fileMenu.encipher.click();
+    saveAs("secret.ts");
+    EXPECT_THAT(bytes("secret.ts"), testing::StartsWith("*****"));
+    form->fileMenu.encipher.click();
+    load("secret.ts");
+    saveAs("again.ts");
+    EXPECT_EQ(bytes("again.ts"), bytes("plain.ts"));
+    world.chosen = folder.path + "/c.map";
+    form->fileMenu.encipher.click();
+    form->fileMenu.saveChartAs.click();
+    EXPECT_THAT(bytes("c.map"), testing::StartsWith("*****"));
+    form->stationPage.vor1.click();
+    form->fileMenu.loadChart.click();
+    couple();
+    EXPECT_EQ(form->stationPage.vor1.value(), 1);
+    EXPECT_TRUE(world.boxes.empty());
+}
+
+TEST_F(FilesTest, SavingAsksBeforeItOverwritesWhatItDidNotName) {
+    fly(8);
+    form->fileMenu.saveSession.click(); // "New Session.ts" was never named
+    EXPECT_EQ(world.questions.size(), 1U);
+    saveAs("mine.ts");
+    form->fileMenu.saveSession.click();
+    EXPECT_EQ(world.questions.size(), 2U);
+
+    saveAs("default/sessions/shipped.ts");
+    form->fileMenu.saveSession.click();
+    EXPECT_EQ(world.questions.size(), 4U);
+    EXPECT_TRUE(world.questions.back().saves);
+    EXPECT_THAT(world.questions.back().present, HasSubstr("shipped.ts"));
+
+    sim().loadByName(folder.path + "/mine.ts"); // as an exercise does
+    couple();
+    EXPECT_EQ(form->replayPage.bar.value(), 1);
+    load("mine.ts");
+    form->fileMenu.newSession.click();
+    form->fileMenu.saveSession.click();
+    EXPECT_EQ(world.questions.size(), 6U);
+    world.chosen.reset(); // the user changes his mind
+    form->fileMenu.saveChart.click();
+    form->fileMenu.loadOldSession.click();
+    EXPECT_EQ(world.questions.size(), 8U);
+    EXPECT_TRUE(world.boxes.empty());
+}
+
+TEST_F(FilesTest, AWrongLineIsNamedAndTheWholeSamplesCount) {
+    fly(20);
+    saveAs("whole.ts");
+    std::string text = bytes("whole.ts");
+    text.resize(text.size() * 2 / 3);
+    write("half.ts", text);
+    const std::int16_t samples = sim().c_TraceBufferMax;
+    load("half.ts");
+    ASSERT_EQ(world.boxes.size(), 1U);
+    EXPECT_THAT(world.boxes[0], HasSubstr("ERROR: LoadSession ERROR # 62 was generated "));
+    EXPECT_THAT(world.boxes[0], HasSubstr("half.ts"));
+    EXPECT_GT(sim().c_TraceBufferMax, samples / 2);
+    EXPECT_LT(sim().c_TraceBufferMax, samples);
+    EXPECT_EQ(form->replayPage.bar.value(), sim().c_TraceBufferMax);
+
+    load("nowhere.ts");
+    EXPECT_THAT(world.boxes[1], HasSubstr("LoadSession ERROR # 53"));
+    EXPECT_THAT(form->sessionPanel.text(), HasSubstr("half.ts")); // what was there stays
+    world.chosen = folder.path + "/nofolder/x.ts";
+    form->fileMenu.saveSessionAs.click();
+    EXPECT_THAT(world.boxes[2], HasSubstr("SaveSession ERROR # 76"));
+    write("wrong.map", ":v1id:,A@u\r\n:v1fr:,112.30\r\n");
+    world.chosen = folder.path + "/wrong.map";
+    form->fileMenu.loadChart.click();
+    EXPECT_THAT(world.boxes[3], HasSubstr("c_loadChart ERROR # 62"));
+    EXPECT_EQ(sim().slot(Slot::vor1).name.get(), "A");
+}
+
+TEST_F(FilesTest, ASessionWithoutSamplesRestoresNothing) {
+    fly(20);
+    const GeoPosition before = sim().aircraft.published();
+    std::string text = bytes("default.map");
+    write("empty.ts", text.substr(0, text.find(":ms:,")) + ":ms:,2\r\n");
+    load("empty.ts");
+    EXPECT_TRUE(world.boxes.empty());
+    EXPECT_EQ(sim().c_TraceBufferMax, 0);
+    EXPECT_EQ(sim().aircraft.published(), before);
+    EXPECT_FALSE(sim().referenceReading.known);
+    couple();
+    fly(8);
+    EXPECT_EQ(sim().c_TraceBufferMax, 6);
+}
+
+TEST_F(FilesTest, NonsenseInTheSettingsOfASampleDoesNoHarm) {
+    fly(8);
+    for (int i = 1; i <= sim().c_TraceBufferMax; ++i) {
+        Sample& sample = sim().recording.at(i);
+        sample.traceInst2 = sample.traceInst3 = 77;
+        sample.traceInst2NAVselect = -5;
+        sample.traceInst3ADFCard = 9;
+        sample.traceNAV1freq = sample.traceNAV2freq = sample.traceADFfreq = 32767;
+        sample.traceDMEfreq = -1;
+        sample.traceHDGbug = -400;
+        sample.traceAPhdg = 9999;
+        sample.traceAPtas = -3;
+        sample.traceAPalt = -32768;
+        sample.traceComment = 100;
+        sample.traceTAS = 1000;
+        sample.traceWindDirection = 32767;
+        sample.traceHeading = 32767;
+        sample.traceWindSpeed = 500;
+        sample.traceObsI2 = 32767;
+    }
+    saveAs("nonsense.ts");
+    form->fileMenu.newSession.click();
+    load("nonsense.ts");
+    couple(20);
+    form->replayPage.bar.scrollTo(2);
+    couple(20);
+    fly(4);
+    EXPECT_TRUE(world.boxes.empty()) << world.boxes[0];
+}
+
+TEST_F(FilesTest, AnOlderSessionIsFlownAnewAndSavedInTodaysForm) {
+    fly(12);
+    saveAs("today.ts");
+    const std::string today = bytes("today.ts");
+    const auto firstSample = [](const std::string& text) {
+        std::size_t at = text.find(":ms:,");
+        return text.find("\r\n", at) + 2;
+    };
+    write("old.ts", ":n1:,1\r\n:n2:,0\r\n:n3:,1\r\n:n4:,1\r\n:n1:,1\r\n:mc:,1\r\n" +
+                        today.substr(firstSample(today)));
+    form->fileMenu.newSession.click();
+    const std::int16_t before = sim().c_TraceBufferMax;
+    world.chosen = folder.path + "/old.ts";
+    form->fileMenu.loadOldSession.click();
+    couple();
+    EXPECT_GT(sim().c_TraceBufferMax, before);
+    EXPECT_EQ(sim().slot(Slot::vor2).enabled, off);
+    saveAs("new.ts");
+    load("new.ts");
+    EXPECT_TRUE(world.boxes.empty());
+}
+
+TEST_F(FilesTest, AChartComesBackWithTheStationsAsTheyWereMoved) {
+    form->stationPage.edit.click();
+    const Point symbol = sim().stations[0].place.wide;
+    ASSERT_EQ(sim().mouse.stationAt(symbol), Slot::vor1);
+    const GeoPosition aircraft = sim().aircraft.published();
+    const double radial = sim().slot(Slot::vor1).radial;
+    sim().mouse.down(ChartButton::left, symbol);
+    sim().mouse.move({sim().stations[1].place.wide.x - 1000, sim().stations[1].place.wide.y});
+    EXPECT_TRUE(sim().picture.stationReadout.visible);
+    EXPECT_THAT(sim().picture.stationReadout.caption, HasSubstr("NM 270°(VOR2)"));
+    EXPECT_NE(sim().slot(Slot::vor1).radial, radial);
+    sim().mouse.up();
+    EXPECT_FALSE(sim().picture.stationReadout.visible);
+    EXPECT_EQ(sim().aircraft.published(), aircraft);
+    const GeoPosition moved = toPlain(sim().stations[0].position);
+
+    StationEdit edit = form->stationToEdit(Slot::vor1);
+    edit.name = "KES";
+    edit.frequency = "11a.60";
+    EXPECT_FALSE(form->applyStationEdit(edit));
+    EXPECT_EQ(world.boxes.back(), "ERROR - Frequency Format: Wrong Frequency Format. Enter a "
+                                  "correct Frequency e.g. 110.40");
+    edit.frequency = "113.60";
+    edit.dmeOn = false;
+    edit.labelPlace = 3;
+    EXPECT_TRUE(form->applyStationEdit(edit));
+    couple();
+    EXPECT_EQ(form->NAVControlFace1.c_Freq1.get(), "113.60");
+
+    world.chosen = folder.path + "/moved.map";
+    form->fileMenu.saveChartAs.click();
+    world.chosen = folder.path + "/default.map";
+    form->fileMenu.loadChart.click();
+    world.chosen = folder.path + "/moved.map";
+    form->fileMenu.loadChart.click();
+    couple();
+    EXPECT_EQ(sim().slot(Slot::vor1).name.get(), "KES");
+    EXPECT_EQ(sim().slot(Slot::vor1).dmeEnabled, off);
+    EXPECT_EQ(inSlot(sim().stations, Slot::vor1).labelOffsetY, 135);
+    EXPECT_NEAR(toPlain(sim().stations[0].position).latitude, moved.latitude, 1e-9);
+    EXPECT_EQ(world.boxes.size(), 1U);
+    form->startButton.click(); // a flight puts the editing away
+    EXPECT_FALSE(sim().mouse.stationAt(sim().stations[0].place.wide));
+}
+
+} // namespace
+} // namespace tarnel

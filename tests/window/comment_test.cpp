@@ -1,0 +1,118 @@
+#include "window/chart_view.h"
+#include "window/comment_card.h"
+#include "window/instrument_panel.h"
+#include "window/replay_bar.h"
+#include "window/student_fixture.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <gmock/gmock.h>
+
+namespace tarnel {
+namespace {
+
+class CommentStudent : public Student {
+  protected:
+    QLabel& comment() { return find<QLabel>("Text2"); }
+    void write(const char* text) {
+        if (!findShown<QCheckBox>("WriteComments").isChecked())
+            click("WriteComments");
+        QTest::keyClicks(&findShown<QLineEdit>("Text8"), QString::fromLatin1(text));
+        click("CommentStart");
+    }
+    QRect placeOf(QWidget& widget) { return {widget.mapTo(window.get(), QPoint()), widget.size()}; }
+    template <class Widget>
+    Widget& the() {
+        return *window->findChild<Widget*>();
+    }
+};
+
+TEST_F(CommentStudent, WritesACommentInFlightAndReadsItInTheReplay) {
+    open();
+    click("Command6");
+    fly(10);
+    write("Turn left now");
+    EXPECT_EQ(find("CommentStart").text(), "Stop");
+    fly(10);
+    click("CommentStart");
+    EXPECT_EQ(findShown<QLineEdit>("Text8").text(), "");
+    EXPECT_EQ(findShown<QLabel>("Label13").text(), "2");
+    fly(10);
+    click("Command6");
+    EXPECT_FALSE(comment().isVisible());
+
+    auto& bar = findShown<ReplayBar>("HScroll1");
+    bar.setValue(12);
+    settle();
+    ASSERT_TRUE(comment().isVisible());
+    EXPECT_EQ(comment().text(), "Turn left now");
+    EXPECT_GE(QFontInfo(comment().font()).pixelSize(), 15);
+    click("Command12");
+    bar.setValue(13);
+    settle();
+    EXPECT_FALSE(comment().isVisible());
+}
+
+// Comments come and go with the samples: nothing may move for it, and no instrument be covered.
+TEST_F(CommentStudent, ReadsACommentBelowTheChartWhileTheWindowKeepsStill) {
+    for (const QSize size : {QSize(980, 660), QSize(1024, 768), QSize(1280, 800)}) {
+        open(germanTable(), size);
+        const QRect panel = placeOf(the<InstrumentPanel>());
+        const int left = the<ChartView>().x();
+        click("Command6");
+        form->UserControl11.startComment(
+            "Das Radial 110 schneiden, dann den Kurs halten, bis die Nadel zu laufen beginnt; "
+            "danach nach links auf den Inbound-Kurs und die Drift durch den Wind beobachten.");
+        fly(10);
+        const QRect chart = placeOf(the<ChartView>());
+        const QRect card = placeOf(the<CommentCard>());
+        ASSERT_TRUE(comment().isVisible());
+        EXPECT_GE(comment().height(), comment().heightForWidth(comment().width()));
+        EXPECT_LE(comment().height(), comment().parentWidget()->height()) << "nothing to scroll";
+        EXPECT_GT(card.top(), chart.bottom());
+        EXPECT_FALSE(card.intersects(panel));
+        EXPECT_EQ(placeOf(the<InstrumentPanel>()), panel);
+        EXPECT_GE(the<ChartView>().x(), left);
+
+        form->UserControl11.stopComment();
+        fly(10);
+        EXPECT_FALSE(comment().isVisible());
+        EXPECT_EQ(placeOf(the<ChartView>()), chart) << "the place of a comment stays";
+        EXPECT_EQ(placeOf(the<CommentCard>()), card);
+    }
+}
+
+TEST_F(CommentStudent, ShowsTheMarkOnlyWithACommentAndWhileItBlinks) {
+    open();
+    auto& mark = find<QLabel>("Text3");
+    form->commentPanel.mark.setVisible(true);
+    settle();
+    EXPECT_FALSE(mark.isVisible());
+    form->UserControl11.c_CurrentComment = "Here";
+    settle();
+    EXPECT_TRUE(mark.isVisible());
+    form->commentPanel.mark.setVisible(false);
+    settle();
+    EXPECT_FALSE(mark.isVisible());
+}
+
+TEST_F(CommentStudent, SeesThePracticePanelInItsStates) {
+    open();
+    auto& panel = find<QWidget>("Frame2");
+    EXPECT_FALSE(panel.isVisible());
+    form->UserControl11.c_TrackDelta = 1;
+    settle();
+    EXPECT_TRUE(panel.isVisible());
+    EXPECT_TRUE(find("PracticeKeep").isChecked());
+    EXPECT_FALSE(find("PracticeRecall").isEnabled());
+    form->UserControl11.c_TrackDelta = 3;
+    settle();
+    EXPECT_TRUE(find("PracticeRecall").isChecked());
+    form->UserControl11.c_TrackDelta = 0;
+    settle();
+    EXPECT_FALSE(panel.isVisible());
+}
+
+} // namespace
+} // namespace tarnel

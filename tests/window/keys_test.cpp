@@ -1,0 +1,119 @@
+#include "window/student_fixture.h"
+
+#include <QAction>
+#include <QLineEdit>
+#include <QSet>
+#include <QSpinBox>
+#include <gmock/gmock.h>
+
+namespace tarnel {
+namespace {
+
+/// A student with the window in front and a hand on the keyboard.
+class KeyStudent : public Student {
+  protected:
+    void openInFront() {
+        open();
+        window->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    }
+    void press(Qt::Key key) {
+        QWidget* focus = QApplication::focusWidget();
+        QTest::keyClick(focus ? focus : window.get(), key);
+        settle();
+    }
+    UserControl2& sim() { return form->UserControl11; }
+};
+
+TEST_F(KeyStudent, DrivesTheModesByTheLettersOfTheStatusBar) {
+    openInFront();
+    press(Qt::Key_M);
+    EXPECT_TRUE(form->simulationRuns());
+    fly(20);
+    press(Qt::Key_M);
+    EXPECT_FALSE(form->simulationRuns());
+    press(Qt::Key_P);
+    EXPECT_TRUE(form->replayRuns());
+    press(Qt::Key_P);
+    EXPECT_FALSE(form->replayRuns());
+    press(Qt::Key_H);
+    EXPECT_EQ(sim().c_AirplaneEN, 0);
+    press(Qt::Key_H);
+    press(Qt::Key_T);
+    EXPECT_EQ(sim().c_TraceEN, 0);
+    press(Qt::Key_V);
+    press(Qt::Key_V);
+    EXPECT_EQ(sim().c_TraceAheadEN, 1);
+    press(Qt::Key_W);
+    EXPECT_TRUE(form->windPage.manual.chosen());
+    press(Qt::Key_R);
+    EXPECT_EQ(sim().c_NAVRadBorder, on);
+}
+
+TEST_F(KeyStudent, TypesTheSameLettersIntoFields) {
+    openInFront();
+    click("WriteComments");
+    auto& text = findShown<QLineEdit>("Text8");
+    text.setFocus();
+    for (const Qt::Key key :
+         {Qt::Key_M, Qt::Key_P, Qt::Key_H, Qt::Key_T, Qt::Key_V, Qt::Key_W, Qt::Key_R})
+        press(key);
+    EXPECT_EQ(text.text().toLower(), "mphtvwr");
+    EXPECT_EQ(QString::fromStdString(form->commentPanel.text.text()), text.text());
+    click("PageWind");
+    findShown<QSpinBox>("WindSpeed").setFocus();
+    press(Qt::Key_M);
+    press(Qt::Key_H);
+    EXPECT_FALSE(form->simulationRuns());
+    EXPECT_EQ(sim().c_AirplaneEN, 1);
+}
+
+TEST_F(KeyStudent, FindsTheLettersInTheMenuAndInTheTips) {
+    open();
+    const auto* start = window->findChild<QAction*>(QStringLiteral("keyM"));
+    ASSERT_NE(start, nullptr);
+    EXPECT_EQ(start->shortcut().toString(), "M");
+    EXPECT_EQ(start->text(), "Start / Stop");
+    EXPECT_THAT(find("Command6").toolTip().toStdString(), testing::EndsWith("[M]"));
+    click("Command6");
+    EXPECT_EQ(find("Command6").toolTip(), "click to stop the simulation [M]");
+}
+
+TEST_F(KeyStudent, CannotTouchTheFilesInFlight) {
+    open();
+    const auto* fresh = window->findChild<QAction*>(QStringLiteral("mnuNewSession"));
+    ASSERT_NE(fresh, nullptr);
+    EXPECT_TRUE(fresh->isEnabled());
+    click("Command6");
+    EXPECT_FALSE(fresh->isEnabled());
+    click("Command6");
+    fly(0);
+    const_cast<QAction*>(fresh)->trigger();
+    settle();
+    EXPECT_EQ(form->replayPage.bar.max(), 1);
+}
+
+// Tab comes to every control of the shown page, and each tells a name.
+TEST_F(KeyStudent, ReachesEveryControlOfThePagesByTab) {
+    openInFront();
+    for (const char* tab : {"PageChart", "PageReplay", "PageWind", "PageStations"}) {
+        click(tab);
+        find("Command6").setFocus();
+        QSet<QWidget*> reached;
+        for (int i = 0; i < 120; ++i) {
+            reached.insert(QApplication::focusWidget());
+            press(Qt::Key_Tab);
+        }
+        auto* strip = find("Command6").parentWidget();
+        for (auto* button : strip->findChildren<QAbstractButton*>()) {
+            if (!button->isVisible() || !button->isEnabled())
+                continue;
+            EXPECT_TRUE(reached.contains(button)) << qPrintable(button->objectName());
+            EXPECT_FALSE(button->accessibleName().isEmpty() && button->text().isEmpty())
+                << qPrintable(button->objectName());
+        }
+    }
+}
+
+} // namespace
+} // namespace tarnel

@@ -1,0 +1,256 @@
+#include "window/chart_view.h"
+#include "window/replay_bar.h"
+#include "window/student_fixture.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QSpinBox>
+#include <QStackedWidget>
+#include <gmock/gmock.h>
+
+#include <cmath>
+
+namespace tarnel {
+namespace {
+
+/// A student at the control strip.
+class StripStudent : public Student {
+  protected:
+    UserControl2& sim() { return form->UserControl11; }
+    int page() { return window->findChild<QStackedWidget*>()->currentIndex(); }
+    /// A flight of so many seconds, at rest, with the replay before it.
+    void openAfterFlight(int seconds = 60) {
+        open();
+        click("Command6");
+        fly(seconds);
+        click("Command6");
+    }
+    void clickShown(const char* name) {
+        QTest::mouseClick(&findShown(name), Qt::LeftButton);
+        settle();
+    }
+};
+
+TEST_F(StripStudent, TurnsThePagesAndKeepsStartAndSpeedInSight) {
+    open();
+    EXPECT_EQ(page(), 1);
+    const char* const tabs[] = {"PageChart", "PageReplay", "PageWind", "PageStations"};
+    for (int i = 3; i >= 0; --i) {
+        clickShown(tabs[i]);
+        EXPECT_EQ(page(), i);
+        for (const char* always : {"Command6", "Option5", "Option8"})
+            EXPECT_TRUE(find(always).isVisible()) << always;
+        EXPECT_TRUE(find<QLabel>("Text1_16").isVisible());
+    }
+    click("Command6");
+    EXPECT_EQ(page(), 1) << "a start shows the replay's page";
+}
+
+TEST_F(StripStudent, SetsTheChart) {
+    open();
+    clickShown("PageChart");
+    clickShown("Scale_500");
+    EXPECT_EQ(sim().c_MAPscale, 500);
+    EXPECT_TRUE(find("Scale_500").isChecked());
+    EXPECT_EQ(find("Scale_500").text(), "1");
+    click("ZoomIn");
+    EXPECT_TRUE(find("Scale_1000").isChecked());
+    EXPECT_FALSE(find("Scale_500").isChecked());
+
+    auto* trace = &findShown<QCheckBox>("Check4");
+    EXPECT_TRUE(trace->isChecked());
+    clickShown("Check4");
+    EXPECT_EQ(sim().c_TraceEN, 0);
+    clickShown("Check5");
+    EXPECT_TRUE(find("Check7").isChecked()) << "both boxes that hide the aircraft agree";
+    EXPECT_EQ(sim().c_AirplaneEN, 0);
+}
+
+TEST_F(StripStudent, GoesThroughTheThreeStatesOfTheVectors) {
+    open();
+    clickShown("PageWind");
+    auto& box = findShown<QCheckBox>("Check3");
+    const auto states = [&] {
+        return std::tuple(box.checkState(), int{sim().c_SpeedVectorEN}, int{sim().c_TraceAheadEN});
+    };
+    clickShown("Check3");
+    EXPECT_EQ(states(), std::tuple(Qt::Checked, 1, 0));
+    clickShown("Check3");
+    EXPECT_EQ(states(), std::tuple(Qt::PartiallyChecked, 0, 1));
+    clickShown("Check3");
+    EXPECT_EQ(states(), std::tuple(Qt::Unchecked, 0, 0));
+}
+
+TEST_F(StripStudent, EntersTheWind) {
+    open();
+    clickShown("PageWind");
+    auto& direction = findShown<QSpinBox>("WindDirection");
+    auto& speed = findShown<QSpinBox>("WindSpeed");
+    const auto type = [this](QSpinBox& field, const char* text) {
+        field.setFocus();
+        field.selectAll();
+        QTest::keyClicks(&field, QString::fromLatin1(text));
+        settle(); // what is typed stands, though the wind is still another
+        QTest::keyClick(&field, Qt::Key_Return);
+        settle();
+    };
+    type(direction, "270");
+    type(speed, "20");
+    EXPECT_EQ(sim().c_wind.get(), "270/20");
+    EXPECT_TRUE(find("Option13").isChecked());
+
+    clickShown("WindOff");
+    EXPECT_EQ(speed.value(), 0);
+    clickShown("Option13");
+    EXPECT_EQ(direction.value(), 270);
+    EXPECT_EQ(speed.value(), 20);
+}
+
+TEST_F(StripStudent, IsNotToldAWindByChanceBeforeAskingForIt) {
+    open();
+    sim().clockSeed = [] { return 7U; };
+    clickShown("PageWind");
+    clickShown("Option14");
+    ASSERT_GT(sim().wind.speed, 0);
+    EXPECT_EQ(findShown<QSpinBox>("WindSpeed").value(), 0);
+    EXPECT_EQ(findShown<QLabel>("Label1").text(), "hidden");
+    clickShown("Check8");
+    EXPECT_EQ(findShown<QSpinBox>("WindSpeed").value(), sim().wind.speed);
+    EXPECT_EQ(findShown<QLabel>("Label1").text().toStdString(), sim().c_wind.get());
+}
+
+TEST_F(StripStudent, DrawsTheWindOnTheChart) {
+    open();
+    clickShown("PageWind");
+    clickShown("Command3");
+    auto* chart = window->findChild<ChartView*>();
+    // West to east: a wind from 270 degrees.
+    QTest::mousePress(chart, Qt::LeftButton, {}, {200, 300});
+    QTest::mouseMove(chart, {280, 300});
+    window->grab();
+    QTest::mouseRelease(chart, Qt::LeftButton, {}, {280, 300});
+    settle();
+    EXPECT_EQ(sim().wind.direction, 270);
+    const double twips = 80 * sim().picture.size / chart->height();
+    EXPECT_NEAR(sim().wind.speed, twips / 50, 2);
+    EXPECT_EQ(findShown<QSpinBox>("WindDirection").value(), 270);
+}
+
+TEST_F(StripStudent, SwitchesStations) {
+    open();
+    clickShown("PageStations");
+    clickShown("Check9");
+    EXPECT_EQ(sim().c_mapedit, 1);
+    clickShown("Check9");
+    EXPECT_EQ(sim().c_mapedit, 0);
+    clickShown("Vor1On");
+    EXPECT_EQ(sim().slot(Slot::vor1).enabled, off);
+    EXPECT_NE(sim().slot(Slot::vor1).dmeEnabled, off);
+    clickShown("Dme1On");
+    EXPECT_FALSE(sim().picture.symbols[0].visible);
+    clickShown("Vor1On");
+    EXPECT_TRUE(sim().picture.symbols[0].visible);
+}
+
+TEST_F(StripStudent, DragsTheReplayBar) {
+    openAfterFlight(120);
+    auto& bar = findShown<ReplayBar>("HScroll1");
+    const int last = form->replayPage.bar.max();
+    ASSERT_GT(last, 80);
+    EXPECT_EQ(bar.value(), last);
+    const double newest = sim().aircraft.published().latitude;
+
+    const int middle = bar.height() / 2;
+    QTest::mousePress(&bar, Qt::LeftButton, {}, {1, middle});
+    settle();
+    EXPECT_EQ(sim().presentSampleIndex(), 1) << "a press takes the bar there";
+    for (int x = 2; x < bar.width(); x += 3)
+        QTest::mouseMove(&bar, {x, middle});
+    QTest::mouseRelease(&bar, Qt::LeftButton, {}, {bar.width() / 2, middle});
+    settle();
+    EXPECT_NEAR(bar.value(), last / 2, 3);
+    EXPECT_EQ(sim().presentSampleIndex(), bar.value()) << "the last place is never lost";
+    EXPECT_LT(sim().aircraft.published().latitude, newest);
+
+    const int before = bar.value();
+    QTest::keyClick(&bar, Qt::Key_Right);
+    QTest::keyClick(&bar, Qt::Key_Right);
+    settle();
+    EXPECT_EQ(sim().presentSampleIndex(), before + 2);
+    QTest::keyClick(&bar, Qt::Key_Home);
+    settle();
+    EXPECT_EQ(sim().presentSampleIndex(), 1);
+    EXPECT_THAT(findShown<QLabel>("ReplayClock").text().toStdString(),
+                testing::EndsWith(" / 01:59"));
+}
+
+// A fast hand asks for more samples than there are frames; each frame asks for one.
+TEST(ReplayBarTest, AsksOncePerFrameWhileDragging) {
+    ReplayBar bar;
+    bar.resize(400, 20);
+    bar.showPlace(6000, 6000);
+    std::vector<int> asked;
+    bar.onScroll = [&](int value) { asked.push_back(value); };
+    QTest::mousePress(&bar, Qt::LeftButton, {}, {10, 10});
+    for (int x = 11; x < 390; ++x)
+        QTest::mouseMove(&bar, {x, 10});
+    EXPECT_LT(asked.size(), 40U);
+    QTest::mouseRelease(&bar, Qt::LeftButton, {}, {300, 10});
+    EXPECT_EQ(asked.back(), bar.value());
+    EXPECT_TRUE(std::adjacent_find(asked.begin(), asked.end()) == asked.end());
+}
+
+TEST_F(StripStudent, PlaysTheReplay) {
+    openAfterFlight(40);
+    QTest::keyClick(&findShown<ReplayBar>("HScroll1"), Qt::Key_Home);
+    settle();
+    clickShown("Option11");
+    EXPECT_FALSE(find("Command6").isEnabled());
+    for (int i = 0; i < 4 * 5; ++i)
+        form->Timer2();
+    settle();
+    EXPECT_EQ(findShown<ReplayBar>("HScroll1").value(), 6);
+    clickShown("Option12");
+    EXPECT_TRUE(find("Command6").isEnabled());
+    EXPECT_FALSE(form->replayRuns());
+}
+
+TEST_F(StripStudent, SeesNoBarAndNoTrackThatAreNotToBeSeen) {
+    openAfterFlight();
+    auto& bar = findShown<ReplayBar>("HScroll1");
+    QTest::keyClick(&bar, Qt::Key_Home);
+    clickShown("Check7");
+    for (int i = 0; i < 3; ++i) {
+        QTest::keyClick(&bar, Qt::Key_Right);
+        settle();
+        EXPECT_TRUE(sim().picture.trace.all().empty());
+    }
+    clickShown("Check7");
+    EXPECT_FALSE(sim().picture.trace.all().empty());
+    click("Command6");
+    EXPECT_FALSE(bar.isVisible());
+    EXPECT_FALSE(find<QLabel>("ReplayClock").isVisible());
+}
+
+TEST_F(StripStudent, SeesTheLampsOnlyWithAReference) {
+    openAfterFlight(8);
+    auto& lamps = find<QWidget>("ReferenceLamps");
+    EXPECT_FALSE(lamps.isVisible());
+    for (int i = 1; i <= 3; ++i) {
+        GeoPosition at = sim().aircraft.published();
+        at.latitude += 1.5 / 60;
+        sim().reference.append(at);
+    }
+    form->replayPage.bar.scrollTo(3);
+    settle();
+    ASSERT_TRUE(lamps.isVisible());
+    EXPECT_THAT(lamps.accessibleName().toStdString(),
+                testing::MatchesRegex("Off track 1.[0-9] NM"));
+    EXPECT_EQ(lamps.focusPolicy() & Qt::TabFocus, Qt::TabFocus);
+    form->replayPage.bar.scrollTo(5);
+    settle();
+    EXPECT_FALSE(lamps.isVisible());
+}
+
+} // namespace
+} // namespace tarnel

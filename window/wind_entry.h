@@ -1,0 +1,33 @@
+#pragma once
+
+#include "core/aircraft.h"
+#include "shell/form_1.h"
+
+#include <QWidget>
+
+class QSpinBox;
+
+namespace tarnel {
+
+/// `WindEntry`: two fields for the wind's direction and speed. They show the present wind unless
+/// one is being typed into, or the wind came by chance and is not to be told.
+class WindEntry : public QWidget {
+    Q_OBJECT
+
+  public:
+    explicit WindEntry(Form1& form, QWidget* parent = nullptr);
+
+    /// Shows the present wind.
+    void refresh();
+
+  private:
+    QSpinBox* addField(const char* name, Text caption, Text unit);
+    void take();
+    [[nodiscard]] bool tells() const;
+
+    Form1& form;
+    QSpinBox* direction = nullptr;
+    QSpinBox* speed = nullptr;
+};
+
+} // namespace tarnel
