@@ -79,8 +79,10 @@ TEST_F(MenuTest, ItemsDoWhatTheyAreNamedFor) {
     open();
     item("fencrypt").trigger();
     EXPECT_NE(form->UserControl11.c_doEncrypt, off);
+    form->stationPage.edit.set(1);
     item("qdr").trigger();
     settle();
+    EXPECT_EQ(form->UserControl11.c_mapedit, 0);
     EXPECT_EQ(form->QAform1.c_QAtype, 7);
     EXPECT_FALSE(item("mnuLoadSession").isEnabled());
     EXPECT_FALSE(opens("mnuOption"));
