@@ -9,6 +9,7 @@
 #include <QElapsedTimer>
 #include <QMainWindow>
 #include <QProcess>
+#include <QTemporaryDir>
 #include <QTimer>
 
 #include <algorithm>
@@ -68,7 +69,8 @@ int emptyTimer() {
 }
 
 int trainer(const std::function<void(Form1&)>& prepare) {
-    QtOutsideWorld outside;
+    const QTemporaryDir scratch;
+    QtOutsideWorld outside(scratch.filePath(QStringLiteral("settings.ini")));
     dressApplication(englishTable(), QString::fromStdString(applicationFolder()));
     Form1 form(englishTable(), outside, applicationFolder());
     MainWindow window(form);
@@ -152,7 +154,8 @@ int emptyPaint(const QElapsedTimer& started) {
 
 int trainerPaint(const QElapsedTimer& started) {
     return firstPaint(started, [](const std::function<int()>& painted) {
-        QtOutsideWorld outside;
+        const QTemporaryDir scratch;
+        QtOutsideWorld outside(scratch.filePath(QStringLiteral("settings.ini")));
         const std::string folder = applicationFolder();
         dressApplication(englishTable(), QString::fromStdString(folder));
         Form1 form(englishTable(), outside, folder);

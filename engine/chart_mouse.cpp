@@ -34,6 +34,7 @@ void ChartMouse::decodeRightButton() {
 }
 
 void ChartMouse::down(ChartButton button, Point at) {
+    beforeDrag.reset();
     if (!allowed())
         return;
     if (button == ChartButton::right && sim.stopped())
@@ -46,7 +47,7 @@ void ChartMouse::down(ChartButton button, Point at) {
         showHeadingLine(at);
     } else if (button == ChartButton::left && stationAt(at)) {
         draggedStation = stationAt(at);
-        beforeDrag = {*draggedStation, inSlot(sim.stations, *draggedStation).position};
+        beforeDrag.emplace(*draggedStation, inSlot(sim.stations, *draggedStation).position);
         dragStation(at);
     } else if (button == ChartButton::left) {
         airplaneDragging = true;
@@ -116,7 +117,9 @@ std::optional<Slot> ChartMouse::stationAt(Point at) const {
 
 void ChartMouse::takeBackDrag() {
     cancel();
-    inSlot(sim.stations, beforeDrag.slot).position = beforeDrag.position;
+    if (!beforeDrag)
+        return;
+    inSlot(sim.stations, beforeDrag->first).position = beforeDrag->second;
     sim.MapScale();
 }
 

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <utility>
 
 namespace tarnel {
 
@@ -25,7 +26,8 @@ class ChartMouse {
     void down(ChartButton button, Point at);
     void move(Point at);
     void up();
-    /// Puts the station that was dragged last back to where it stood: a double click is no drag.
+    /// Puts the station that the last press took hold of back to where it stood: a double click is
+    /// no drag.
     void takeBackDrag();
     /// Puts every tool away and hides what they show.
     void cancel();
@@ -64,10 +66,8 @@ class ChartMouse {
     bool windDragging = false;
     Point windStart;
     std::optional<Slot> draggedStation;
-    struct {
-        Slot slot = Slot::vor1;
-        SplitPosition position;
-    } beforeDrag;
+    /// Where the station stood that the last press took hold of.
+    std::optional<std::pair<Slot, SplitPosition>> beforeDrag;
 };
 
 } // namespace tarnel

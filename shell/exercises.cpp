@@ -72,6 +72,7 @@ void Form1::openPractice(const std::string& name, bool practised) {
 void Form1::startExercise(const ExerciseItem& item) {
     StopReplay();
     StopFly();
+    stationPage.edit.set(0);
     rememberShell();
     exerciseUp = true;
     practising = false;

@@ -45,15 +45,6 @@ void nameApplication() {
     QApplication::setDesktopFileName(QStringLiteral("tarnel"));
 }
 
-/// The buttons of Qt's own boxes and dialogs, where its translations are installed.
-void translateDialogs(const StringTable& texts) {
-    auto* translator = new QTranslator(QApplication::instance());
-    const QString language = texts.isGerman() ? QStringLiteral("de") : QStringLiteral("en");
-    if (translator->load(QStringLiteral("qtbase_") + language,
-                         QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QApplication::installTranslator(translator);
-}
-
 /// The copy of a practice flight is this user's.
 void useScratchFolder(Form1& form) {
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
@@ -80,6 +71,14 @@ void dressApplication(const StringTable& texts, const QString& applicationFolder
     QApplication::setPalette(palette);
     QApplication::setApplicationDisplayName(textOf(texts, Text::windowTitle));
     QApplication::setWindowIcon(QIcon(applicationFolder + QStringLiteral("/tarnel.png")));
+}
+
+void translateDialogs(const StringTable& texts) {
+    auto* translator = new QTranslator(QApplication::instance());
+    const QString language = texts.isGerman() ? QStringLiteral("de") : QStringLiteral("en");
+    if (translator->load(QStringLiteral("qtbase_") + language,
+                         QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(translator);
 }
 
 int runApplication(int argc, char** argv, const StringTable& texts) {

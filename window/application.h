@@ -9,6 +9,10 @@ namespace tarnel {
 /// Gives the application its font, style and icon.
 void dressApplication(const StringTable& texts, const QString& applicationFolder);
 
+/// Gives the buttons of Qt's own boxes and dialogs the language of `texts`, where Qt's translations
+/// are installed.
+void translateDialogs(const StringTable& texts);
+
 /// Runs the trainer in the language of `texts` until its window is closed, and opens the chart or
 /// session that the command line names. Returns the program's exit status; 0 also if it already
 /// runs, and its window was brought to the front with that file; 2 for a wrong command line.

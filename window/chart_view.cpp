@@ -108,9 +108,13 @@ Point ChartView::toTwips(QPointF at) const {
     return {at.x() * twipsPerPixel, at.y() * twipsPerPixel};
 }
 
+bool ChartView::mayEdit() const {
+    return sim.c_mapedit == 1 && sim.view.northUpMode && sim.stopped() && !sim.mouse.windTool();
+}
+
 /// The station that can be dragged and edited there.
 std::optional<Slot> ChartView::stationAt(QPointF at) const {
-    return resting() ? sim.mouse.stationAt(toTwips(at)) : std::nullopt;
+    return mayEdit() ? sim.mouse.stationAt(toTwips(at)) : std::nullopt;
 }
 
 void ChartView::mousePressEvent(QMouseEvent* event) {
@@ -132,8 +136,7 @@ void ChartView::mouseDoubleClickEvent(QMouseEvent* event) {
 /// The mouse's part is done when its button goes down.
 void ChartView::contextMenuEvent(QContextMenuEvent* event) {
     event->accept();
-    if (event->reason() == QContextMenuEvent::Keyboard && sim.c_mapedit == 1 && resting() &&
-        onStationMenu)
+    if (event->reason() == QContextMenuEvent::Keyboard && mayEdit() && onStationMenu)
         onStationMenu({}, event->globalPos());
 }
 

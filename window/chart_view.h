@@ -53,7 +53,7 @@ class ChartView : public QWidget {
   private:
     [[nodiscard]] Point toTwips(QPointF at) const;
     [[nodiscard]] double side() const { return std::min(width(), height()); }
-    [[nodiscard]] bool resting() const { return sim.view.northUpMode && sim.stopped(); }
+    [[nodiscard]] bool mayEdit() const;
     [[nodiscard]] std::optional<Slot> stationAt(QPointF at) const;
     void showCursor();
 

@@ -8,9 +8,17 @@ namespace tarnel {
 
 namespace {
 
-/// Whether a dialog may start there: a save must be able to end there, too.
-bool serves(const QFileInfo& folder, bool saves) {
-    return folder.isDir() && (!saves || folder.isWritable());
+bool liesBelow(const QFileInfo& folder, const QFileInfo& other) {
+    const QString path = folder.canonicalFilePath() + QLatin1Char('/');
+    return path.startsWith(other.canonicalFilePath() + QLatin1Char('/'));
+}
+
+/// Whether a dialog may start there: a save must be able to end there, too, and not among the
+/// program's own files.
+bool serves(const QFileInfo& folder, const FileQuestion& question) {
+    const QFileInfo shipped(QString::fromStdString(question.folder));
+    return folder.isDir() &&
+           (!question.saves || (folder.isWritable() && !liesBelow(folder, shipped)));
 }
 
 QString documents() {
@@ -23,9 +31,9 @@ QString documents() {
 QString FileDialog::folderFor(const FileQuestion& question) const {
     const QFileInfo present(QString::fromStdString(question.present));
     const bool inFolder = present.fileName() != present.filePath();
-    if (inFolder && serves(QFileInfo(present.path()), question.saves))
+    if (inFolder && serves(QFileInfo(present.path()), question))
         return present.path();
-    if (!lastFolder.isEmpty() && serves(QFileInfo(lastFolder), question.saves))
+    if (!lastFolder.isEmpty() && serves(QFileInfo(lastFolder), question))
         return lastFolder;
     return question.saves ? documents() : QString::fromStdString(question.folder);
 }

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <vector>
 
 namespace tarnel {
 
@@ -16,6 +17,7 @@ namespace {
 constexpr double padding = 8;
 constexpr double columnGap = 10;
 constexpr double pointerGap = 12;
+constexpr double edgeMargin = 3;
 constexpr double plateOpacity = 0.94;
 constexpr int columnCount = 3;
 
@@ -31,8 +33,9 @@ Columns columnsOf(const QString& line) {
 
 /// Beside the anchor; on its other side where the paper ends.
 double besidePointer(double anchor, double length, double side) {
-    const double start = anchor + length <= side ? anchor : anchor - length - 2 * pointerGap;
-    return std::clamp(start, 0.0, std::max(0.0, side - length));
+    const double last = side - length - edgeMargin;
+    const double start = anchor <= last ? anchor : anchor - length - 2 * pointerGap;
+    return std::clamp(start, edgeMargin, std::max(edgeMargin, last));
 }
 
 } // namespace

@@ -8,7 +8,7 @@ class QPainter;
 namespace tarnel {
 
 /// Paints the read-out of a station that is dragged: a plate beside the pointer that stays on the
-/// paper, with a line for each other station in its colour, distances and bearings in columns.
+/// paper, with a line for each other station, distances and bearings in columns.
 void paintStationReadout(QPainter& painter, const ChartFrame& frame, const Label& readout);
 
 } // namespace tarnel

@@ -117,13 +117,15 @@ void StationDialog::makePlaces(QFormLayout& rows) {
 
 void StationDialog::makeButtons(QFormLayout& rows) {
     auto* buttons = new QDialogButtonBox(this);
-    QPushButton* okButton = buttons->addButton(text(Text::ok), QDialogButtonBox::AcceptRole);
-    okButton->setObjectName(QStringLiteral("OKButton"));
-    okButton->setProperty("primary", true);
-    okButton->setDefault(true);
-    QPushButton* cancelButton =
-        buttons->addButton(text(Text::cancel), QDialogButtonBox::RejectRole);
-    cancelButton->setObjectName(QStringLiteral("CancelButton"));
+    const auto add = [&](const char* object, Text caption, QDialogButtonBox::ButtonRole role) {
+        auto* button = new QPushButton(text(caption));
+        button->setObjectName(QString::fromLatin1(object));
+        button->setProperty("primary", role == QDialogButtonBox::AcceptRole);
+        buttons->addButton(button, role);
+        return button;
+    };
+    add("OKButton", Text::ok, QDialogButtonBox::AcceptRole)->setDefault(true);
+    add("CancelButton", Text::cancel, QDialogButtonBox::RejectRole);
     connect(buttons, &QDialogButtonBox::accepted, this, &StationDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &StationDialog::reject);
     rows.addRow(buttons);

@@ -79,8 +79,10 @@ TEST_F(MenuTest, ItemsDoWhatTheyAreNamedFor) {
     open();
     item("fencrypt").trigger();
     EXPECT_NE(form->UserControl11.c_doEncrypt, off);
+    form->stationPage.edit.set(1);
     item("qdr").trigger();
     settle();
+    EXPECT_EQ(form->UserControl11.c_mapedit, 0);
     EXPECT_EQ(form->QAform1.c_QAtype, 7);
     EXPECT_FALSE(item("mnuLoadSession").isEnabled());
     EXPECT_FALSE(opens("mnuOption"));
@@ -205,6 +207,7 @@ TEST_F(DialogTest, TheShippedChartIsSavedUnderAnotherNameOnly) {
     const QString mine = folder.filePath(QStringLiteral("mine"));
     EXPECT_TRUE(trigger("mnuSaveChart", [&](QFileDialog& dialog) {
         EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptSave);
+        EXPECT_NE(dialog.directory(), QDir(QStringLiteral(TARNEL_APPLICATION_FOLDER)));
         dialog.selectFile(mine);
         static_cast<QDialog&>(dialog).accept();
     }));

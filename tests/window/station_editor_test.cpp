@@ -43,11 +43,17 @@ class StationEditorTest : public Student {
 
 TEST_F(StationEditorTest, ADoubleClickOpensTheEditorWhichKeepsAWrongFrequency) {
     edit();
-    const SplitPosition before = form->UserControl11.stations[1].position;
+    const auto positions = [this] {
+        std::vector<SplitPosition> all;
+        for (const Station& station : form->UserControl11.stations)
+            all.push_back(station.position);
+        return all;
+    };
+    const std::vector<SplitPosition> before = positions();
     doubleClick(Slot::vor2, {3, 2});
     ASSERT_NE(dialog(), nullptr);
     EXPECT_EQ(dialog()->windowTitle(), "Station Editor - VOR/DME blue");
-    EXPECT_EQ(form->UserControl11.stations[1].position, before);
+    EXPECT_EQ(positions(), before);
     auto& frequency = in<QLineEdit>("MaskEdBox1");
     in<QLineEdit>("Text1").setText("K@LN");
     EXPECT_FALSE(in<QLineEdit>("Text1").hasAcceptableInput());
@@ -77,12 +83,15 @@ TEST_F(StationEditorTest, ADoubleClickOpensTheEditorWhichKeepsAWrongFrequency) {
 
 TEST_F(StationEditorTest, CancelChangesNothingAndAnNdbHasNoDme) {
     edit();
-    doubleClick(Slot::ndb1);
+    const SplitPosition first = form->UserControl11.stations[0].position;
+    QTest::mouseDClick(chart, Qt::LeftButton, {}, symbol(Slot::ndb1));
+    settle();
     ASSERT_NE(dialog(), nullptr);
     EXPECT_EQ(dialog()->findChild<QAbstractButton*>(QStringLiteral("Check2")), nullptr);
     in<QLineEdit>("Text1").setText("XX");
     in<QAbstractButton>("CancelButton").click();
     QTest::qWait(1);
+    EXPECT_EQ(form->UserControl11.stations[0].position, first);
     EXPECT_EQ(dialog(), nullptr);
     EXPECT_NE(properties(Slot::ndb1).name.get(), "XX");
 }
