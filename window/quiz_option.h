@@ -14,7 +14,7 @@ class QuizOption : public QPushButton {
 
     /// The width in which the text has room in one line.
     [[nodiscard]] int lineWidth() const;
-    /// The width in which it has room in two lines, if it can be broken.
+    /// The least width: with less around the text, or in two lines.
     [[nodiscard]] int brokenWidth() const;
 
   protected:
@@ -24,6 +24,7 @@ class QuizOption : public QPushButton {
     [[nodiscard]] QFont smallFont(double share) const;
     [[nodiscard]] QString shownText() const;
     [[nodiscard]] int digitPart() const;
+    [[nodiscard]] int tightWidth() const;
     void paintText(QPainter& painter) const;
 
     QString digit;
