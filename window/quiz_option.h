@@ -14,7 +14,9 @@ class QuizOption : public QPushButton {
 
     /// The width in which the text has room in one line.
     [[nodiscard]] int lineWidth() const;
-    /// The least width: with less around the text, or in two lines.
+    /// The same with less around it.
+    [[nodiscard]] int tightWidth() const;
+    /// The least width: in two lines if the text can be broken.
     [[nodiscard]] int brokenWidth() const;
 
   protected:
@@ -24,7 +26,6 @@ class QuizOption : public QPushButton {
     [[nodiscard]] QFont smallFont(double share) const;
     [[nodiscard]] QString shownText() const;
     [[nodiscard]] int digitPart() const;
-    [[nodiscard]] int tightWidth() const;
     void paintText(QPainter& painter) const;
 
     QString digit;

@@ -234,6 +234,10 @@ TEST_F(QuizPanelTest, OrientationCoversTheInstruments) {
     EXPECT_EQ(covered(), 0);
     EXPECT_FALSE(quiz->isVisible());
     EXPECT_TRUE(find<QWidget>("PageChart").isVisible());
+    form->exerciseMenu.exercises[static_cast<std::size_t>(Item::orientation)]->click();
+    settle();
+    EXPECT_TRUE(quiz->isVisible());
+    EXPECT_FALSE(find<QWidget>("PageChart").isVisible());
 }
 
 TEST_F(QuizPanelTest, TellsWhatIsWrongWithTheStudyFile) {
@@ -256,7 +260,7 @@ void expectWholeTexts(const QuizPanel& quiz, bool inOneLine, const std::string& 
         }
     for (const auto* option : quiz.findChildren<QuizOption*>())
         if (option->isVisible()) {
-            EXPECT_GE(option->width(), inOneLine ? option->lineWidth() : option->brokenWidth())
+            EXPECT_GE(option->width(), inOneLine ? option->tightWidth() : option->brokenWidth())
                 << qPrintable(option->text()) << where;
             EXPECT_GE(option->height(), 30);
         }
