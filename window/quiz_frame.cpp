@@ -31,8 +31,7 @@ constexpr double twoLineShare = 0.62;
 QuizFrame::QuizFrame(ExercisePanel& panel, const StringTable& texts, FormBinding& binding,
                      QWidget* parent)
     : QWidget(parent), asked(panel) {
-    setObjectName(QString::fromUtf8(panel.frame.name().data(),
-                                    static_cast<qsizetype>(panel.frame.name().size())));
+    setObjectName(nameOf(panel.frame));
     makeHeader(binding);
     makeRows(texts, binding);
     makeButtons(binding);

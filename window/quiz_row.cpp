@@ -37,8 +37,7 @@ QuizRow::QuizRow(int number, AnswerRow& row, const StringTable& table, FormBindi
     prompt = new QLabel(this);
     prompt->setWordWrap(true);
     prompt->setTextFormat(Qt::PlainText);
-    const std::string_view name = row.prompt.name();
-    prompt->setObjectName(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())));
+    prompt->setObjectName(nameOf(row.prompt));
     makeEntries(binding);
     makeOptions(binding);
     makeList(binding);
@@ -55,7 +54,10 @@ void QuizRow::makeEntries(FormBinding& binding) {
         fields.push_back(field);
         auto* unit = new QLabel(this);
         unit->setProperty("secondary", true);
-        binding.bind(entry->unit, *unit);
+        unit->setObjectName(nameOf(entry->unit));
+        if (entry->unit.caption())
+            unit->setText(textOf(texts, *entry->unit.caption()));
+        binding.follow([&shown = entry->unit, unit] { unit->setVisible(shown.visible()); });
         units.push_back(unit);
     }
 }
@@ -76,8 +78,6 @@ void QuizRow::makeList(FormBinding& binding) {
 }
 
 void QuizRow::follow() {
-    for (std::size_t i = 0; i < units.size(); ++i)
-        units[i]->setText(textOf(texts, *answerRow.entries[i]->unit.caption()));
     // A lone question mark would look lost in a line of its own.
     prompt->setText(promptText().replace(QStringLiteral(" ?"), QStringLiteral("\u00A0?")));
     verdict->tell(answerRow.verdict(), revealed(), plain(answerRow.answer.text()), verdictWord());

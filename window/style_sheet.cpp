@@ -44,6 +44,8 @@ QPushButton[primary="true"] { background: $accent; color: white; border: 1px sol
 QPushButton[primary="true"]:hover { background: $accentLight; }
 QPushButton[primary="true"]:pressed { background: $accentDeep; }
 QPushButton[primary="true"]:focus { border: 2px solid $ink; }
+QPushButton[primary="true"]:disabled { background: $hairline; color: $secondaryInk;
+  border-color: $line; }
 QPushButton[segment] { background: $desktop; border-radius: 0; border-left-width: 0;
   padding: 0 {4}px; }
 QPushButton[segment]:hover { background: $paper; }

@@ -195,6 +195,7 @@ TEST_F(QuizPanelTest, WindIsTypedAndCommitted) {
     type("17");
     press(Qt::Key_Return);
     EXPECT_EQ(focus(), "Option47");
+    EXPECT_EQ(inQuiz<QLabel>("Label43").text(), "kt");
     press(Qt::Key_1);
     EXPECT_EQ(verdict("Label34"), "Head 17.3");
     EXPECT_FALSE(inQuiz("Text4").isVisible());
