@@ -35,7 +35,8 @@ constexpr double traceDiameter = 4.4;
 constexpr double aheadDiameter = 3.2;
 
 constexpr double windPadding = 3;
-constexpr double windGap = 6; ///< between the airplane and its wind label
+constexpr double windGap = 6;       ///< between the airplane and its wind label
+constexpr double cornerReach = 0.7; ///< of that gap, where the label stands off a corner
 constexpr double coveredCost = 10;
 constexpr double lineCost = 2;
 constexpr double dotCost = 0.5;
@@ -274,6 +275,17 @@ double ChartPainter::costOfWindLabel(const QRectF& place, const Areas& occupied)
     return cost;
 }
 
+QRectF ChartPainter::windLabelAt(std::size_t index, QSizeF size) const {
+    const QPointF way = windPlaces[index];
+    const QRectF airplane = airplaneArea(frame, sim.picture.airplane);
+    const double reach = std::max(airplane.width(), airplane.height()) / 2 + windGap;
+    const double aside = (way.y() == 0 ? reach : reach * cornerReach) + size.width() / 2;
+    const double along = (way.x() == 0 ? reach : reach * cornerReach) + size.height() / 2;
+    const QPointF centre =
+        frame.at(sim.aircraft.place.wide) + QPointF(way.x() * aside, way.y() * along);
+    return {centre - QPointF(size.width(), size.height()) / 2, size};
+}
+
 /// The wind stands beside the airplane, where it covers least; it stays there while that is about
 /// as good.
 void ChartPainter::paintWindLabel(QPainter& painter, const Areas& occupied) {
@@ -284,29 +296,19 @@ void ChartPainter::paintWindLabel(QPainter& painter, const Areas& occupied) {
         textOf(texts, Text::chartWindPrefix) + QString::fromStdString(label.caption);
     const QFontMetricsF metrics(frame.lineFont);
     const QSizeF size(metrics.horizontalAdvance(text) + 2 * windPadding, metrics.height() + 2);
-    const QPointF airplane = frame.at(sim.aircraft.place.wide);
-    const QRectF body = airplaneArea(frame, sim.picture.airplane);
-    const double reach = std::max(body.width(), body.height()) / 2 + windGap;
-    const auto placeAt = [&](std::size_t index) {
-        const QPointF way = windPlaces[index];
-        const double aside = way.y() == 0 ? reach : reach / 2;
-        const QPointF centre(airplane.x() + way.x() * (aside + size.width() / 2),
-                             airplane.y() +
-                                 way.y() * (reach + size.height() / 2) * (way.x() == 0 ? 1 : 0.8));
-        return QRectF(centre - QPointF(size.width(), size.height()) / 2, size);
-    };
     double best = std::numeric_limits<double>::infinity();
-    std::size_t chosen = windPlace;
+    QRectF place;
+    const std::size_t last = windPlace;
     for (std::size_t i = 0; i < std::size(windPlaces); ++i) {
-        const double cost = costOfWindLabel(placeAt(i), occupied) +
-                            placeCost * static_cast<double>(i) + (i == windPlace ? 0 : moveCost);
+        const QRectF tried = windLabelAt(i, size);
+        const double cost = costOfWindLabel(tried, occupied) + placeCost * static_cast<double>(i) +
+                            (i == last ? 0 : moveCost);
         if (cost >= best)
             continue;
         best = cost;
-        chosen = i;
+        place = tried;
+        windPlace = i;
     }
-    windPlace = chosen;
-    const QRectF place = placeAt(chosen);
     painter.fillRect(place, look::faded(look::paper, labelOpacity));
     painter.setFont(frame.lineFont);
     painter.setPen(look::fromSurface(chartColour::windVector));

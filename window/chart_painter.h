@@ -52,6 +52,7 @@ class ChartPainter {
     void paintName(QPainter& painter, const ChartLabel& label, std::size_t slot) const;
     void paintVectors(QPainter& painter, Areas& occupied) const;
     void paintWindLabel(QPainter& painter, const Areas& occupied);
+    [[nodiscard]] QRectF windLabelAt(std::size_t index, QSizeF size) const;
     [[nodiscard]] double costOfWindLabel(const QRectF& place, const Areas& occupied) const;
     void paintOverlays(QPainter& painter, const ScaleBar& scale) const;
 

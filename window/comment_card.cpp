@@ -21,7 +21,7 @@ namespace {
 constexpr int sectionGap = 6;
 constexpr int buttonGap = 4;
 constexpr int fewestLines = 2;
-constexpr int mostLines = 5;  ///< a longer comment scrolls
+constexpr int mostLines = 6;  ///< a longer comment scrolls
 constexpr int textSlack = 24; ///< of the width: the mark, its gap and the frame of the text
 
 void keepPlace(QWidget& widget) {

@@ -39,9 +39,9 @@ MainWindow::MainWindow(Form1& owner)
     pictures.onMissing = [this](const QString& name) {
         QTimer::singleShot(0, this, [this, name] { form.pictureMissing(name.toStdString()); });
     };
-    setStyleSheet(sheetFor(1));
     makeMenus();
     makeDesk();
+    setStyleSheet(sheetFor(1)); // once for all widgets
     resize(usualWindow);
 
     couplingTimer.setTimerType(Qt::PreciseTimer);

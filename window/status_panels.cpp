@@ -30,7 +30,6 @@ StatusPanels::StatusPanels(Form1& form, FormBinding& binding, QWidget* parent) :
         panels.push_back(label);
     }
     panels.back()->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    panels.back()->setContentsMargins(0, 0, 10, 0);
 }
 
 void StatusPanels::resizeEvent(QResizeEvent*) {

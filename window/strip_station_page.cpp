@@ -1,7 +1,6 @@
 #include "window/strip_station_page.h"
 
 #include "chart/chart_picture.h"
-#include "window/look.h"
 
 #include <QLabel>
 #include <QVBoxLayout>
@@ -13,9 +12,13 @@ namespace {
 constexpr int gapBetweenStations = 6;
 constexpr int gapAfterBar = 6;
 
-/// A station's controls beside a bar in its colour, like the names on the chart.
-const QString tileSheet = QStringLiteral("QWidget#Station { border-left: 2px solid %1; }"
-                                         "QLabel[readout=\"true\"] { color: %1; }");
+/// The name of a station's colour in the style sheet.
+QString colourName(std::size_t slot) {
+    const Colour colour = slotColour(slot);
+    return colour == chartColour::first    ? QStringLiteral("First")
+           : colour == chartColour::second ? QStringLiteral("Second")
+                                           : QStringLiteral("Localizer");
+}
 
 void showText(QLabel& label, const std::string& text) {
     if (const QString shown = QString::fromStdString(text); label.text() != shown)
@@ -47,12 +50,12 @@ QLabel* StripStationPage::addLabel(QLayout& column, const char* property) {
 QWidget* StripStationPage::makeStation(std::size_t index) {
     auto* tile = new QWidget(this);
     tile->setAttribute(Qt::WA_StyledBackground);
-    tile->setObjectName(QStringLiteral("Station"));
-    tile->setStyleSheet(tileSheet.arg(look::fromSurface(slotColour(index)).name()));
+    tile->setObjectName(QStringLiteral("Station") + colourName(index));
     auto* column = new QVBoxLayout(tile);
     column->setContentsMargins(gapAfterBar, 0, 0, 0);
     column->setSpacing(0);
     stations[index] = {addLabel(*column, "readout"), addLabel(*column, "secondary")};
+    stations[index].identifier->setObjectName(QStringLiteral("Name") + colourName(index));
     const StationPage::Switches switches = form.stationPage.switches()[index];
     for (CheckBox* control : {switches.station, switches.dme})
         if (control)

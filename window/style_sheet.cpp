@@ -1,5 +1,6 @@
 #include "window/style_sheet.h"
 
+#include "chart/chart_picture.h"
 #include "window/panel_look.h"
 
 #include <QHash>
@@ -34,6 +35,14 @@ QScrollArea#Frame3:focus { border-color: $accent; }
 QCheckBox { font-size: {12}px; }
 
 QPushButton { background: $paper; color: $ink; border: 1px solid $line; border-radius: {5}px; outline: none;
+QWidget#StationFirst { border-left: {2}px solid $first; }
+QWidget#StationSecond { border-left: {2}px solid $second; }
+QWidget#StationLocalizer { border-left: {2}px solid $localizer; }
+QLabel#NameFirst { color: $first; }
+QLabel#NameSecond { color: $second; }
+QLabel#NameLocalizer { color: $localizer; }
+
+QPushButton { background: $paper; color: $ink; border: 1px solid $line; border-radius: {5}px;
   padding: 0 {10}px; min-height: {24}px; max-height: {24}px; font-size: {12}px; }
 QPushButton:hover { border-color: $accent; }
 QPushButton:pressed { background: $hairline; }
@@ -119,6 +128,7 @@ QComboBox[quiz="true"] QAbstractItemView { background: $paper; color: $ink; bord
 
 QWidget#StatusPanels { background: $bar; border-top: 1px solid $line; }
 QWidget#StatusPanels QLabel { font-size: {12}px; padding-left: {10}px; }
+QWidget#StatusPanels QLabel#FlightTime { padding-right: {10}px; }
 )";
 
 const QHash<QString, QColor>& colours() {
@@ -136,6 +146,9 @@ const QHash<QString, QColor>& colours() {
         {QStringLiteral("accentDeep"), look::accent.darker(130)},
         {QStringLiteral("accentLight"), look::accent.lighter(115)},
         {QStringLiteral("wrong"), look::wrong},
+        {QStringLiteral("first"), look::fromSurface(chartColour::first)},
+        {QStringLiteral("second"), look::fromSurface(chartColour::second)},
+        {QStringLiteral("localizer"), look::localizer},
         {QStringLiteral("unit"), look::unit},
         {QStringLiteral("moduleTop"), look::moduleTop},
         {QStringLiteral("moduleBottom"), look::moduleBottom},

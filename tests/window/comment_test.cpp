@@ -89,9 +89,6 @@ TEST_F(CommentStudent, ShowsTheMarkOnlyWithACommentAndWhileItBlinks) {
     form->commentPanel.mark.setVisible(true);
     settle();
     EXPECT_FALSE(mark.isVisible());
-    form->UserControl11.startComment("Here");
-    settle();
-    form->commentPanel.comment.setVisible(true);
     form->UserControl11.c_CurrentComment = "Here";
     settle();
     EXPECT_TRUE(mark.isVisible());
