@@ -34,7 +34,6 @@ QScrollArea#Frame3 { background: transparent; border: 1px solid transparent; bor
 QScrollArea#Frame3:focus { border-color: $accent; }
 QCheckBox { font-size: {12}px; }
 
-QPushButton { background: $paper; color: $ink; border: 1px solid $line; border-radius: {5}px; outline: none;
 QWidget#StationFirst { border-left: {2}px solid $first; }
 QWidget#StationSecond { border-left: {2}px solid $second; }
 QWidget#StationLocalizer { border-left: {2}px solid $localizer; }
@@ -44,6 +43,7 @@ QLabel#NameLocalizer { color: $localizer; }
 
 QPushButton { background: $paper; color: $ink; border: 1px solid $line; border-radius: {5}px;
   padding: 0 {10}px; min-height: {24}px; max-height: {24}px; font-size: {12}px; }
+QPushButton { outline: none; }
 QPushButton:hover { border-color: $accent; }
 QPushButton:pressed { background: $hairline; }
 QPushButton:focus { border: 2px solid $accent; padding: 0 {9}px; }
