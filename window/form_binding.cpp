@@ -13,12 +13,12 @@
 
 namespace tarnel {
 
-namespace {
-
 QString nameOf(const FormControl& control) {
     const auto name = control.name();
     return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
 }
+
+namespace {
 
 /// A box shows the value 2 as partly ticked; another button has no such state.
 void showValue(QAbstractButton& button, int value) {

@@ -25,6 +25,9 @@ namespace tarnel {
 class QuizList;
 class ReplayBar;
 
+/// The name of `control` as Qt wants it.
+[[nodiscard]] QString nameOf(const FormControl& control);
+
 /// Keeps widgets equal to the controls of the form: clicks go to the form, and what the form
 /// changes is shown at the next `refresh`. A widget without an object name takes its control's.
 class FormBinding : public QObject {

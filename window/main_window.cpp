@@ -79,9 +79,9 @@ void MainWindow::makeDesk() {
     chartControls = new ChartControls(form, chart);
     strip = new ControlStrip(form, binding, desk);
     comment = new CommentCard(form, binding, desk);
-    quiz = new QuizPanel(form, binding, desk);
     panel = new InstrumentPanel(form, binding, pictures, guard, desk);
     status = new StatusPanels(form, binding, desk);
+    quiz = new QuizPanel(form, binding, desk);
     gyro = new additional_DG(form, pictures, this);
 }
 
@@ -174,6 +174,9 @@ void MainWindow::refresh() {
     binding.refresh();
     comment->refresh();
     quiz->refresh();
+    // Without a quiz the keyboard would be with whatever comes next in the window.
+    if (shownQuiz != 0 && !quiz->runs() && focusWidget())
+        focusWidget()->clearFocus();
     if (panelSizes() != shownSizes || comment->contents() != shownComments ||
         quiz->contents() != shownQuiz)
         layOut();

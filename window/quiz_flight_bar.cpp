@@ -78,7 +78,9 @@ void QuizFlightBar::addSign(QBoxLayout& row, FormBinding& binding, OptionButton&
 }
 
 void QuizFlightBar::follow() {
-    startButton->setIcon(signIcon(form.simulationRuns() ? Sign::stop : Sign::play, Qt::white));
+    const Sign sign = form.simulationRuns() ? Sign::stop : Sign::play;
+    const QColor ink = form.startButton.enabled() ? Qt::white : look::secondaryInk;
+    startButton->setIcon(signIcon(sign, ink));
 }
 
 QWidget* QuizFlightBar::firstControl() const {

@@ -31,6 +31,7 @@ constexpr double twoLineShare = 0.62;
 QuizFrame::QuizFrame(ExercisePanel& panel, const StringTable& texts, FormBinding& binding,
                      QWidget* parent)
     : QWidget(parent), asked(panel) {
+    setObjectName(nameOf(panel.frame));
     makeHeader(binding);
     makeRows(texts, binding);
     makeButtons(binding);
@@ -141,7 +142,6 @@ void QuizFrame::followFold() {
             told << row->summary();
     answers->setText(told.join(QStringLiteral("   ")));
     answers->setVisible(folded() && !told.isEmpty());
-    task->setVisible(!task->text().isEmpty());
     if (flightBar)
         flightBar->setVisible(folded());
     setNextPrimary(!folded());
@@ -156,12 +156,30 @@ void QuizFrame::setNextPrimary(bool primary) {
     next->style()->polish(next);
 }
 
-void QuizFrame::follow() {
-    setObjectName(QString::fromStdString(std::string(asked.frame.name())));
+QString QuizFrame::content() const {
+    QStringList parts{QString::number(asked.frame.height())};
+    for (const TextPanel* text : std::initializer_list<const TextPanel*>{
+             &asked.frame, &asked.statistic, &asked.notice, &asked.task})
+        parts << QString::fromStdString(text->text());
+    for (const QuizRow* row : questions)
+        parts << row->content();
+    return parts.join(QLatin1Char('\f'));
+}
+
+/// The form changes often while a solution is replayed; that costs little.
+bool QuizFrame::follow() {
+    task->setVisible(!task->text().isEmpty());
+    QString now = content();
+    if (now == shownContent)
+        return false;
+    shownContent = std::move(now);
+    for (QuizRow* row : questions)
+        row->follow();
     followTitle();
     followFold();
     arrange(size(), true);
     update();
+    return true;
 }
 
 int QuizFrame::scaled(int pixels) const {

@@ -37,8 +37,8 @@ class QuizFrame : public QWidget {
     void host(QuizFlightBar* bar);
     /// The height that all of it takes at a width.
     [[nodiscard]] int wantedHeight(int width) const;
-    /// Takes up what has changed, and lays out anew.
-    void follow();
+    /// Takes up what has changed, and lays out anew if it takes other room. True if it does.
+    bool follow();
 
     [[nodiscard]] const std::vector<QuizRow*>& rows() const { return questions; }
     /// The row of a widget, or else the first open one; null if none is open.
@@ -57,6 +57,7 @@ class QuizFrame : public QWidget {
     void makeHeader(FormBinding& binding);
     void makeRows(const StringTable& texts, FormBinding& binding);
     void makeButtons(FormBinding& binding);
+    [[nodiscard]] QString content() const;
     void followTitle();
     void followFold();
     void setNextPrimary(bool primary);
@@ -88,6 +89,7 @@ class QuizFrame : public QWidget {
     QPushButton* cancel = nullptr;
     QCheckBox* random = nullptr;
     QuizFlightBar* flightBar = nullptr;
+    QString shownContent;
     mutable int headerLine = 0; ///< where the line below the header stands
 };
 

@@ -13,6 +13,7 @@ constexpr double digitShare = 0.77; ///< of the text's height
 constexpr double brokenShare = 0.88;
 constexpr int digitGap = 6;
 constexpr int padding = 7;
+constexpr int sparedPadding = 6; ///< where room is short
 
 } // namespace
 
@@ -42,25 +43,29 @@ int QuizOption::lineWidth() const {
     return digitPart() + fontMetrics().horizontalAdvance(shownText());
 }
 
+int QuizOption::tightWidth() const {
+    return lineWidth() - qRound(sparedPadding * quiz::scaleOf(*this));
+}
+
 int QuizOption::brokenWidth() const {
     ensurePolished();
     const QFontMetrics metrics(smallFont(brokenShare));
     const QStringList words = shownText().split(QLatin1Char(' '));
-    int narrowest = metrics.horizontalAdvance(shownText());
+    int narrowest = tightWidth();
     for (qsizetype i = 1; i < words.size(); ++i) {
         const int first = metrics.horizontalAdvance(words.first(i).join(QLatin1Char(' ')));
         const int second = metrics.horizontalAdvance(words.sliced(i).join(QLatin1Char(' ')));
-        narrowest = qMin(narrowest, qMax(first, second));
+        narrowest = qMin(narrowest, digitPart() + qMax(first, second) + 1);
     }
-    return digitPart() + narrowest + 1;
+    return narrowest;
 }
 
 /// Digit and text stand in the middle as one.
 void QuizOption::paintText(QPainter& painter) const {
     const double scale = quiz::scaleOf(*this);
-    const bool oneLine = width() >= lineWidth();
+    const bool oneLine = width() >= tightWidth();
     const int wide = oneLine ? lineWidth() : brokenWidth();
-    const int left = qMax(2, (width() - wide) / 2 + qRound(padding * scale));
+    const int left = qMax(4, (width() - wide) / 2 + qRound(padding * scale));
     const QRect line = rect().adjusted(left, 0, 0, 0);
     painter.setPen(isEnabled() ? look::secondaryInk : look::unit);
     painter.setFont(smallFont(digitShare));

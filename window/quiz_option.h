@@ -14,7 +14,9 @@ class QuizOption : public QPushButton {
 
     /// The width in which the text has room in one line.
     [[nodiscard]] int lineWidth() const;
-    /// The width in which it has room in two lines, if it can be broken.
+    /// The same with less around it.
+    [[nodiscard]] int tightWidth() const;
+    /// The least width: in two lines if the text can be broken.
     [[nodiscard]] int brokenWidth() const;
 
   protected:

@@ -54,13 +54,19 @@ void QuizPanel::refresh() {
         show(running);
     if (!active)
         return;
-    active->follow();
+    const bool changed = active->follow();
     followQuestion();
-    if (!active->folded()) {
-        const int height = active->wantedHeight(width());
-        tallest = tallestWidth == width() ? std::max(tallest, height) : height;
-        tallestWidth = width();
-    }
+    if (changed || tallestWidth != width() || shownHeight == 0)
+        measure();
+}
+
+/// Keeps the height that the tallest question of the exercise wants.
+void QuizPanel::measure() {
+    if (tallestWidth != width())
+        tallest = 0;
+    tallestWidth = width();
+    if (!active->folded())
+        tallest = std::max(tallest, active->wantedHeight(width()));
     shownHeight = std::max(1, wantedHeight(width()));
 }
 
@@ -150,7 +156,7 @@ bool QuizPanel::enter() {
         button->click();
     else if (qobject_cast<QLineEdit*>(focus) && isAncestorOf(focus))
         active->rowOf(focus)->goOnFrom(focus);
-    else if (active->answered())
+    else if (active->answered() && !active->folded())
         active->nextButton()->click();
     else
         return false;

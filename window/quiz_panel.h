@@ -42,6 +42,7 @@ class QuizPanel : public QWidget {
   private:
     [[nodiscard]] QuizFrame* runningFrame() const;
     void show(QuizFrame* frame);
+    void measure();
     void followQuestion();
     void focusAnswer(const QuizRow* after);
     void focusFlight();

@@ -37,14 +37,12 @@ QuizRow::QuizRow(int number, AnswerRow& row, const StringTable& table, FormBindi
     prompt = new QLabel(this);
     prompt->setWordWrap(true);
     prompt->setTextFormat(Qt::PlainText);
-    const std::string_view name = row.prompt.name();
-    prompt->setObjectName(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())));
+    prompt->setObjectName(nameOf(row.prompt));
     makeEntries(binding);
     makeOptions(binding);
     makeList(binding);
     verdict = new QuizVerdict(this);
     binding.bind(row.answer, *verdict);
-    binding.follow([this] { follow(); });
 }
 
 void QuizRow::makeEntries(FormBinding& binding) {
@@ -56,7 +54,10 @@ void QuizRow::makeEntries(FormBinding& binding) {
         fields.push_back(field);
         auto* unit = new QLabel(this);
         unit->setProperty("secondary", true);
-        binding.bind(entry->unit, *unit);
+        unit->setObjectName(nameOf(entry->unit));
+        if (entry->unit.caption())
+            unit->setText(textOf(texts, *entry->unit.caption()));
+        binding.follow([&shown = entry->unit, unit] { unit->setVisible(shown.visible()); });
         units.push_back(unit);
     }
 }
@@ -77,8 +78,6 @@ void QuizRow::makeList(FormBinding& binding) {
 }
 
 void QuizRow::follow() {
-    for (std::size_t i = 0; i < units.size(); ++i)
-        units[i]->setText(textOf(texts, *answerRow.entries[i]->unit.caption()));
     // A lone question mark would look lost in a line of its own.
     prompt->setText(promptText().replace(QStringLiteral(" ?"), QStringLiteral("\u00A0?")));
     verdict->tell(answerRow.verdict(), revealed(), plain(answerRow.answer.text()), verdictWord());
@@ -105,6 +104,22 @@ QString QuizRow::verdictWord() const {
     const QString wrong = textOf(texts, Text::answerWrong);
     const bool toTell = answerRow.verdict() == Verdict::wrong;
     return toTell && plain(answerRow.answer.text()) != wrong ? wrong : QString();
+}
+
+QString QuizRow::content() const {
+    if (!asked())
+        return {};
+    QStringList parts{promptText()};
+    if (!open()) {
+        parts << plain(answerRow.answer.text()) << (revealed() ? QStringLiteral("!") : QString());
+        return parts.join(QLatin1Char('\n'));
+    }
+    for (const auto& option : answerRow.options)
+        parts << plain(option->text());
+    if (list)
+        for (const std::string& entry : answerRow.list->entries())
+            parts << plain(entry);
+    return parts.join(QLatin1Char('\n'));
 }
 
 QString QuizRow::summary() const {
@@ -170,7 +185,7 @@ int QuizRow::entriesWidth() const {
 int QuizRow::widestOption() const {
     int widest = 0;
     for (const QuizOption* option : options)
-        widest = std::max(widest, option->lineWidth());
+        widest = std::max(widest, option->tightWidth());
     return widest;
 }
 
@@ -236,25 +251,23 @@ void QuizRow::layOutAnswers(int left, int width) {
     layOutOptions(x, left + width - x);
 }
 
-/// All options have the same width if that can be; else as many as can stand in one line.
+/// All options have the same width if that can be; else each has what it needs, in two lines if
+/// one line is too long for all, and its share of what is left.
 void QuizRow::layOutOptions(int left, int width) {
     if (options.empty())
         return;
     const int count = static_cast<int>(options.size());
     const int gap = scaled(quiz::answerGap);
-    int free = width - gap * (count - 1);
-    const int each = std::min(free / count, scaled(widestChoice));
-    const bool alike = each >= widestOption();
-    for (const QuizOption* option : options)
-        free -= option->brokenWidth();
+    const int widest = widestOption();
+    const int each =
+        std::min((width - gap * (count - 1)) / count, std::max(scaled(widestChoice), widest));
+    const bool inLine = answersWidth() - entriesWidth() <= width;
+    const int needed = (inLine ? answersWidth() : brokenAnswersWidth()) - entriesWidth();
+    const int share = std::clamp((width - needed) / count, 0, gap);
     const int tall = scaled(quiz::answerHeight);
     for (QuizOption* option : options) {
-        const int more = option->lineWidth() - option->brokenWidth();
-        const bool inLine = more <= free;
-        if (inLine)
-            free -= more;
-        const int own = inLine ? option->lineWidth() : option->brokenWidth();
-        const int wide = alike ? each : own;
+        const int own = (inLine ? option->lineWidth() : option->brokenWidth()) + share;
+        const int wide = each >= widest ? each : own;
         option->setGeometry(left, (height() - tall) / 2, wide, tall);
         left += wide + gap;
     }

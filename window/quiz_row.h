@@ -36,6 +36,11 @@ class QuizRow : public QWidget {
     [[nodiscard]] QString summary() const;
     [[nodiscard]] QString promptText() const;
 
+    /// Everything that takes room in the row.
+    [[nodiscard]] QString content() const;
+    /// Takes up what has changed.
+    void follow();
+
     /// What is answered with first.
     [[nodiscard]] QWidget* firstAnswer() const;
     /// Answers with the option of that digit, or hands the character to the list.
@@ -58,7 +63,6 @@ class QuizRow : public QWidget {
     void makeEntries(FormBinding& binding);
     void makeOptions(FormBinding& binding);
     void makeList(FormBinding& binding);
-    void follow();
     void nameAnswers();
     [[nodiscard]] QString verdictWord() const;
     [[nodiscard]] QString spokenVerdict() const;

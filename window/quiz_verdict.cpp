@@ -107,7 +107,14 @@ void QuizVerdict::paintEvent(QPaintEvent*) {
     line.setLeft(sign.right() + partGap * scale);
     painter.setFont(answerFont());
     painter.setPen(solution ? look::ink : told);
-    painter.drawText(line, Qt::AlignVCenter | Qt::AlignLeft, text());
+    const bool whole = width() >= sizeHint().width();
+    const QString answer =
+        whole ? text()
+              : painter.fontMetrics().elidedText(text(), Qt::ElideRight,
+                                                 qRound(line.width() - inset * scale));
+    painter.drawText(line, Qt::AlignVCenter | Qt::AlignLeft, answer);
+    if (!whole)
+        return;
     line.setLeft(line.left() + painter.fontMetrics().horizontalAdvance(text()) + partGap * scale);
     painter.setFont(wordFont());
     painter.setPen(verdictColour());

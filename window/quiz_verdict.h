@@ -7,7 +7,8 @@
 namespace tarnel {
 
 /// `QuizVerdict`: what became of a row, in the place of its answers: the answer with a sign, a word
-/// and a colour. A solution stands in plain ink; the sign beside it still tells the verdict.
+/// and a colour. A solution stands in plain ink; the sign beside it still tells the verdict. Where
+/// room is short, the word goes and the answer is cut; the tool tip has all of it.
 class QuizVerdict : public QLabel {
     Q_OBJECT
 

@@ -41,8 +41,9 @@ QLabel#NameFirst { color: $first; }
 QLabel#NameSecond { color: $second; }
 QLabel#NameLocalizer { color: $localizer; }
 
-QPushButton { background: $paper; color: $ink; border: 1px solid $line; border-radius: {5}px; outline: none;
+QPushButton { background: $paper; color: $ink; border: 1px solid $line; border-radius: {5}px;
   padding: 0 {10}px; min-height: {24}px; max-height: {24}px; font-size: {12}px; }
+QPushButton { outline: none; }
 QPushButton:hover { border-color: $accent; }
 QPushButton:pressed { background: $hairline; }
 QPushButton:focus { border: 2px solid $accent; padding: 0 {9}px; }
@@ -52,6 +53,8 @@ QPushButton[primary="true"] { background: $accent; color: white; border: 1px sol
 QPushButton[primary="true"]:hover { background: $accentLight; }
 QPushButton[primary="true"]:pressed { background: $accentDeep; }
 QPushButton[primary="true"]:focus { border: 2px solid $ink; }
+QPushButton[primary="true"]:disabled { background: $hairline; color: $secondaryInk;
+  border-color: $line; }
 QPushButton[segment] { background: $desktop; border-radius: 0; border-left-width: 0;
   padding: 0 {4}px; }
 QPushButton[segment]:hover { background: $paper; }

@@ -3,8 +3,6 @@
 #include "window/quiz_panel.h"
 #include "window/student_fixture.h"
 
-#include <QLabel>
-
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -13,7 +11,19 @@
 namespace tarnel {
 
 /// The exercises in the order of the menu.
-enum class Item { adfPosition, qdm, qdr, hsiPosition, hsiLarge, hsiHolding, dmeArc, stdVor, wind, dgHolding, orientation };
+enum class Item {
+    adfPosition,
+    qdm,
+    qdr,
+    hsiPosition,
+    hsiLarge,
+    hsiHolding,
+    dmeArc,
+    stdVor,
+    wind,
+    dgHolding,
+    orientation
+};
 
 /// A student who has an exercise's study file and a recorded flight for its questions.
 class ExerciseStudent : public Student {
@@ -61,13 +71,16 @@ class ExerciseStudent : public Student {
         QTest::keyClicks(QApplication::focusWidget(), QString::fromLatin1(text));
         settle();
     }
-    /// The widget of that name in the quiz, shown or not.
+    /// The widget of that name in the quiz; the one that is shown, where frames share a name.
     template <class Widget = QWidget>
     Widget& inQuiz(const char* name) {
-        auto* found = quiz->findChild<Widget*>(QString::fromLatin1(name));
-        if (!found)
+        const auto found = quiz->findChildren<Widget*>(QString::fromLatin1(name));
+        if (found.isEmpty())
             throw std::runtime_error(std::string("no widget called ") + name);
-        return *found;
+        for (Widget* widget : found)
+            if (widget->isVisible())
+                return *widget;
+        return *found.front();
     }
     void choose(const char* name) {
         QTest::mouseClick(&inQuiz(name), Qt::LeftButton);

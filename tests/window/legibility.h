@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QFontMetrics>
+#include <QLabel>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace tarnel {
+
+inline bool isControl(const QWidget& widget) {
+    return widget.focusPolicy() != Qt::NoFocus || qobject_cast<const QLabel*>(&widget);
+}
+
+/// No visible control leaves its parents or lies over another.
+inline void expectRoomForAll(const QWidget& area, const std::string& where) {
+    std::vector<QWidget*> controls;
+    for (auto* widget : area.findChildren<QWidget*>())
+        if (widget->isVisible() && isControl(*widget) &&
+            widget->parentWidget()->focusPolicy() == Qt::NoFocus)
+            controls.push_back(widget);
+    const auto placeOf = [&](const QWidget* widget) {
+        return QRect(widget->mapTo(&area, QPoint()), widget->size());
+    };
+    for (std::size_t i = 0; i < controls.size(); ++i) {
+        const QRect place = placeOf(controls[i]);
+        const std::string name = controls[i]->objectName().toStdString() + " " + where;
+        for (const QWidget* parent = controls[i]->parentWidget(); parent != &area;
+             parent = parent->parentWidget())
+            EXPECT_TRUE(placeOf(parent).contains(place)) << name;
+        EXPECT_TRUE(area.rect().contains(place)) << name;
+        for (std::size_t k = i + 1; k < controls.size(); ++k)
+            EXPECT_FALSE(placeOf(controls[k]).intersects(place))
+                << name << " and " << controls[k]->objectName().toStdString();
+    }
+}
+
+inline void expectTextsInFull(const QWidget& area, const std::string& where) {
+    for (auto* button : area.findChildren<QAbstractButton*>()) {
+        if (!button->isVisible() || button->text().isEmpty() || button->inherits("QToolButton"))
+            continue;
+        const int needed = QFontMetrics(button->font()).horizontalAdvance(button->text());
+        EXPECT_GE(button->width(), needed) << qPrintable(button->text()) << where;
+    }
+    for (auto* label : area.findChildren<QLabel*>())
+        if (label->isVisible() && !label->wordWrap()) {
+            EXPECT_GE(label->width(), label->sizeHint().width())
+                << qPrintable(label->text()) << where;
+        }
+}
+
+} // namespace tarnel
