@@ -90,7 +90,7 @@ void Form1::hideForQuestion() {
     setHidden(true);
     instruments.setVisible(!askedOnChart);
     if (askedOnChart)
-        UserControl11.c_AirplaneEN = 1;
+        UserControl11.c_AirplaneEN.setIfChanged(1);
 }
 
 /// The flight begins at the first sample, with the settings that were recorded there; the next tick

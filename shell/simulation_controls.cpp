@@ -83,8 +83,8 @@ void Form1::setHidden(bool hidden) {
     replayPage.hide.show(hideOn);
     chartPage.hide.show(hideOn);
     hidePanel.setText(text(hidden ? Text::panelHideOn : Text::panelHideOff));
-    UserControl11.c_AirplaneEN = hidden ? 0 : 1;
-    UserControl11.c_TraceEN = hidden ? std::int16_t{0} : traceOn;
+    UserControl11.c_AirplaneEN.setIfChanged(hidden ? 0 : 1);
+    UserControl11.c_TraceEN.setIfChanged(hidden ? std::int16_t{0} : traceOn);
     applyVectors();
 }
 
@@ -104,8 +104,8 @@ void Form1::applyVectors() {
     static constexpr Text captions[] = {Text::panelVectorsOff, Text::panelVectorsType1,
                                         Text::panelVectorsType2};
     const std::int16_t shown = hideOn == 0 ? vectorMode : std::int16_t{0};
-    UserControl11.c_SpeedVectorEN = shown == 1 ? 1 : 0;
-    UserControl11.c_TraceAheadEN = shown == 2 ? 1 : 0;
+    UserControl11.c_SpeedVectorEN.setIfChanged(shown == 1 ? 1 : 0);
+    UserControl11.c_TraceAheadEN.setIfChanged(shown == 2 ? 1 : 0);
     vectorsPanel.setText(text(captions[shown]));
 }
 

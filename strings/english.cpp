@@ -623,6 +623,8 @@ constexpr StringEntry entries[] = {
     {765, "The study file has more than 301 questions; the others are left out: "},
     {766, "question"},
     {767, "line"},
+    {768, "Instrument covered"},
+    {769, "The chart is enough for this question"},
     // Wind, comments and reference.
     {801, "Draw"},
     {802, "All 101 comments are taken. Delete one, or step back and write one anew."},

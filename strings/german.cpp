@@ -627,6 +627,8 @@ constexpr StringEntry entries[] = {
     {765, "Die Übungsdatei hat mehr als 301 Fragen; die weiteren fehlen: "},
     {766, "Frage"},
     {767, "Zeile"},
+    {768, "Instrument abgedeckt"},
+    {769, "Die Karte genügt für diese Frage"},
     // Wind, comments and reference.
     {801, "Zeichnen"},
     {802, "Alle 101 Kommentare sind belegt. Löschen Sie einen, oder blättern Sie zurück und "

@@ -581,6 +581,10 @@ enum class Text : int {
     studyQuestion = 766,
     studyLine = 767,
 
+    // The cover plate on an instrument.
+    instrumentCovered = 768,
+    instrumentCoveredWhy = 769,
+
     // Wind, comments and reference.
     windDraw = 801,
     commentTableFull = 802,

@@ -1,5 +1,6 @@
 #include "window/form_binding.h"
 
+#include "window/quiz_list.h"
 #include "window/replay_bar.h"
 
 #include <QAbstractButton>
@@ -108,14 +109,27 @@ void FormBinding::bind(CheckBox& control, QAction& action) {
 }
 
 void FormBinding::bind(OptionButton& control, QAbstractButton& button) {
+    bindOption(control, button, [this, &control] { return captionOf(control); });
+}
+
+/// Its text comes from a file: an ampersand there is no mark of a key.
+void FormBinding::bind(TextOption& control, QAbstractButton& button) {
+    bindOption(control, button, [&control] {
+        return QString::fromStdString(control.text())
+            .replace(QLatin1Char('&'), QStringLiteral("&&"));
+    });
+}
+
+void FormBinding::bindOption(OptionButton& control, QAbstractButton& button,
+                             std::function<QString()> caption) {
     button.setCheckable(true);
     connect(&button, &QAbstractButton::clicked, this, [this, &control, &button] {
         form.guarded([&control] { control.click(); });
         button.setChecked(control.chosen());
     });
-    follow([this, &control, &button] {
+    follow([this, &control, &button, caption = std::move(caption)] {
         showCommon(control, button);
-        button.setText(captionOf(control));
+        button.setText(caption());
         button.setChecked(control.chosen());
     });
 }
@@ -129,6 +143,23 @@ void FormBinding::bind(SelectionList& control, QComboBox& list) {
         showCommon(control, list);
         if (control.tip())
             list.setAccessibleName(textOf(form.texts, *control.tip()));
+        list.setCurrentIndex(control.index());
+    });
+}
+
+void FormBinding::bind(TextList& control, QuizList& list) {
+    list.onBrowse = [this, &control](int index) {
+        form.guarded([&control, index] { control.select(index); });
+    };
+    list.onConfirm = [this, &control](int index) {
+        form.guarded([&control, index] { control.pick(index); });
+    };
+    follow([this, &control, &list] {
+        showCommon(control, list);
+        QStringList entries;
+        for (const std::string& entry : control.entries())
+            entries << QString::fromStdString(entry);
+        list.setEntries(entries);
         list.setCurrentIndex(control.index());
     });
 }

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "controls/form_controls.h"
+#include "controls/text_list.h"
+#include "controls/text_option.h"
 #include "shell/form_1.h"
 #include "window/text_of.h"
 
@@ -20,6 +22,7 @@ class QWidget;
 
 namespace tarnel {
 
+class QuizList;
 class ReplayBar;
 
 /// Keeps widgets equal to the controls of the form: clicks go to the form, and what the form
@@ -40,16 +43,21 @@ class FormBinding : public QObject {
     void bind(CheckBox& control, QAbstractButton& button, std::function<void()> click);
     void bind(CheckBox& control, QAction& action);
     void bind(OptionButton& control, QAbstractButton& button);
+    void bind(TextOption& control, QAbstractButton& button);
     void bind(SelectionList& control, QComboBox& list);
+    void bind(TextList& control, QuizList& list);
     void bind(TextPanel& control, QLabel& label);
     void bind(ScrollBar& control, ReplayBar& bar);
     void bind(TextField& control, QLineEdit& field);
 
+    /// Runs `update` now and whenever a control has changed.
+    void follow(std::function<void()> update);
     /// Brings the widgets up to date if a control has changed.
     void refresh();
 
   private:
-    void follow(std::function<void()> update);
+    void bindOption(OptionButton& control, QAbstractButton& button,
+                    std::function<QString()> caption);
     void showCommon(const FormControl& control, QWidget& widget) const;
     [[nodiscard]] QString captionOf(const FormControl& control) const;
     [[nodiscard]] QString tipOf(const FormControl& control) const;

@@ -1,6 +1,7 @@
 #include "window/instrument_panel.h"
 
 #include "window/autopilot_module.h"
+#include "window/cover_plate.h"
 #include "window/dme_module.h"
 #include "window/instrument_header.h"
 #include "window/instrument_view.h"
@@ -36,7 +37,9 @@ void InstrumentPanel::makeInstruments(FormBinding& binding, PictureStore& pictur
         channelButtons[i] = new QPushButton(this);
         channelButtons[i]->setProperty("channel", true);
         binding.bind(controls[i].links.channelButton, *channelButtons[i]);
+        plates[i] = new CoverPlate(form.texts, this);
     }
+    binding.follow([this] { coverInstruments(); });
 }
 
 void InstrumentPanel::makeModules(FormBinding& binding, PictureStore& pictures,
@@ -73,11 +76,23 @@ void InstrumentPanel::layOutChannelButton(std::size_t position, const QRect& bez
     channelButtons[position]->raise();
 }
 
+/// Under a plate nothing is to be reached by keyboard either.
+void InstrumentPanel::coverInstruments() {
+    const bool covered = !form.instruments.visible();
+    for (std::size_t i = 0; i < plates.size(); ++i) {
+        plates[i]->setVisible(covered);
+        instruments[i]->setVisible(!covered);
+        headers[i]->setEnabled(!covered);
+        channelButtons[i]->setVisible(!covered);
+    }
+}
+
 void InstrumentPanel::layOut(const WindowLayout& layout) {
     for (std::size_t i = 0; i < instruments.size(); ++i) {
         headers[i]->setGeometry(layout.headers[i]);
         instruments[i]->setGeometry(layout.instruments[i]);
         layOutChannelButton(i, layout.instruments[i]);
+        plates[i]->setGeometry(layout.instruments[i]);
     }
     const std::array<QRect, 6> places = {layout.nav1, layout.nav2,      layout.adf,
                                          layout.dme,  layout.stopwatch, layout.autopilot};

@@ -15,6 +15,7 @@ class QPushButton;
 namespace tarnel {
 
 class AutopilotModule;
+class CoverPlate;
 class DmeModule;
 class InstrumentHeader;
 class InstrumentView;
@@ -40,6 +41,7 @@ class InstrumentPanel : public QWidget {
   private:
     void makeInstruments(FormBinding& binding, PictureStore& pictures, const ModelGuard& guard);
     void makeModules(FormBinding& binding, PictureStore& pictures, const ModelGuard& guard);
+    void coverInstruments();
     void colourChannelButtons();
     void layOutChannelButton(std::size_t position, const QRect& bezel);
 
@@ -47,6 +49,7 @@ class InstrumentPanel : public QWidget {
     std::array<InstrumentHeader*, 2> headers{};
     std::array<InstrumentView*, 2> instruments{};
     std::array<QPushButton*, 2> channelButtons{};
+    std::array<CoverPlate*, 2> plates{};
     std::array<bool, 2> holdsObs{};
     NavModule* nav1 = nullptr;
     NavModule* nav2 = nullptr;

@@ -9,12 +9,14 @@
 #include "window/instrument_panel.h"
 #include "window/look.h"
 #include "window/menu_tree.h"
+#include "window/quiz_panel.h"
 #include "window/station_editing.h"
 #include "window/status_panels.h"
 #include "window/style_sheet.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>
+#include <QKeyEvent>
 #include <QMenuBar>
 
 namespace tarnel {
@@ -77,6 +79,7 @@ void MainWindow::makeDesk() {
     chartControls = new ChartControls(form, chart);
     strip = new ControlStrip(form, binding, desk);
     comment = new CommentCard(form, binding, desk);
+    quiz = new QuizPanel(form, binding, desk);
     panel = new InstrumentPanel(form, binding, pictures, guard, desk);
     status = new StatusPanels(form, binding, desk);
     gyro = new additional_DG(form, pictures, this);
@@ -96,12 +99,18 @@ PanelSizes MainWindow::panelSizes() const {
     return {form.inst2.instrument.c_Large == 1, form.inst3.instrument.c_Large == 1};
 }
 
+/// The quiz takes the places of strip and comment.
+ColumnWishes MainWindow::columnWishes() const {
+    if (quiz->runs())
+        return {[this](int width) { return quiz->wantedHeight(width); }, [](int) { return 0; }};
+    return {[this](int width) { return strip->wantedHeight(width); },
+            [this](int width) { return comment->wantedHeight(width); }};
+}
+
 void MainWindow::layOut() {
     const int barHeight = static_cast<int>(look::statusHeight * shownScale);
     const QSize body(desk->width(), desk->height() - barHeight);
-    const ColumnWishes wishes{[this](int width) { return strip->wantedHeight(width); },
-                              [this](int width) { return comment->wantedHeight(width); }};
-    const WindowLayout layout = layOutWindow(body, panelSizes(), wishes);
+    const WindowLayout layout = layOutWindow(body, panelSizes(), columnWishes());
     if (layout.uiScale != shownScale) {
         shownScale = layout.uiScale;
         setStyleSheet(sheetFor(shownScale));
@@ -109,11 +118,14 @@ void MainWindow::layOut() {
     }
     shownSizes = panelSizes();
     shownComments = comment->contents();
+    shownQuiz = quiz->contents();
     chart->setGeometry(layout.chart);
     const int inset = look::overlayInset;
     chartControls->setGeometry(inset, inset, layout.chart.width() - 2 * inset,
                                chartControls->sizeHint().height());
     strip->setGeometry(layout.strip);
+    strip->setVisible(!quiz->runs());
+    quiz->setGeometry(layout.strip);
     comment->setGeometry(layout.comment);
     comment->setVisible(!layout.comment.isEmpty());
     panel->setGeometry(layout.panel);
@@ -125,6 +137,12 @@ void MainWindow::layOut() {
 void MainWindow::resizeEvent(QResizeEvent* event) {
     QMainWindow::resizeEvent(event);
     layOut();
+}
+
+/// What nothing else takes may mean something to the exercise that runs.
+void MainWindow::keyPressEvent(QKeyEvent* event) {
+    if (!quiz->takeKey(*event))
+        QMainWindow::keyPressEvent(event);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
@@ -155,7 +173,9 @@ void MainWindow::couplingTick() {
 void MainWindow::refresh() {
     binding.refresh();
     comment->refresh();
-    if (panelSizes() != shownSizes || comment->contents() != shownComments)
+    quiz->refresh();
+    if (panelSizes() != shownSizes || comment->contents() != shownComments ||
+        quiz->contents() != shownQuiz)
         layOut();
     chart->refresh();
     chartControls->refresh();

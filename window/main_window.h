@@ -18,6 +18,7 @@ class CommentCard;
 class ControlStrip;
 class FileOpener;
 class InstrumentPanel;
+class QuizPanel;
 class StationEditing;
 class StatusPanels;
 class additional_DG;
@@ -41,12 +42,14 @@ class MainWindow : public QMainWindow {
 
   protected:
     void resizeEvent(QResizeEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
   private:
     void makeMenus();
     void makeDesk();
     void layOut();
+    [[nodiscard]] ColumnWishes columnWishes() const;
     void couplingTick();
     void followClocks();
     static void follow(QTimer& timer, bool runs, int interval);
@@ -62,6 +65,7 @@ class MainWindow : public QMainWindow {
     ChartControls* chartControls = nullptr;
     ControlStrip* strip = nullptr;
     CommentCard* comment = nullptr;
+    QuizPanel* quiz = nullptr;
     InstrumentPanel* panel = nullptr;
     StatusPanels* status = nullptr;
     additional_DG* gyro = nullptr;
@@ -71,6 +75,7 @@ class MainWindow : public QMainWindow {
     QTimer replayTimer;
     PanelSizes shownSizes;
     std::size_t shownComments = 0;
+    int shownQuiz = 0;
     double shownScale = 1;
 };
 

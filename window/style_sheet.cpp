@@ -41,7 +41,7 @@ QLabel#NameFirst { color: $first; }
 QLabel#NameSecond { color: $second; }
 QLabel#NameLocalizer { color: $localizer; }
 
-QPushButton { background: $paper; color: $ink; border: 1px solid $line; border-radius: {5}px;
+QPushButton { background: $paper; color: $ink; border: 1px solid $line; border-radius: {5}px; outline: none;
   padding: 0 {10}px; min-height: {24}px; max-height: {24}px; font-size: {12}px; }
 QPushButton:hover { border-color: $accent; }
 QPushButton:pressed { background: $hairline; }
@@ -114,6 +114,15 @@ QPushButton[channel="true"]:hover { border-color: $unit; }
 QPushButton[channel="true"]:pressed { background: $panelBottom; }
 QPushButton[channel="true"]:focus { border: 2px solid $panelFocus; padding: 0; }
 
+QLabel[quizTitle="true"] { font-size: {15}px; font-weight: bold; }
+QLabel[quizTask="true"] { font-weight: bold; }
+QLabel[notice="true"] { color: $wrong; }
+QPushButton[quiz="true"] { min-height: {26}px; max-height: {26}px; min-width: {56}px; }
+QPushButton[choice="true"] { min-height: {28}px; max-height: {28}px; font-size: {13}px; }
+QLineEdit[quiz="true"] { min-height: {28}px; max-height: {28}px; font-size: {13}px; }
+QComboBox[quiz="true"] QAbstractItemView { background: $paper; color: $ink; border: 1px solid $line;
+  selection-background-color: $accent; selection-color: white; outline: none; }
+
 QWidget#StatusPanels { background: $bar; border-top: 1px solid $line; }
 QWidget#StatusPanels QLabel { font-size: {12}px; padding-left: {10}px; }
 QWidget#StatusPanels QLabel#FlightTime { padding-right: {10}px; }
@@ -136,6 +145,7 @@ const QHash<QString, QColor>& colours() {
         {QStringLiteral("first"), look::fromSurface(chartColour::first)},
         {QStringLiteral("second"), look::fromSurface(chartColour::second)},
         {QStringLiteral("localizer"), look::localizer},
+        {QStringLiteral("wrong"), look::wrong},
         {QStringLiteral("unit"), look::unit},
         {QStringLiteral("moduleTop"), look::moduleTop},
         {QStringLiteral("moduleBottom"), look::moduleBottom},

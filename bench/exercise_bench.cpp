@@ -1,0 +1,65 @@
+#include "shell/application_folder.h"
+#include "shell/form_1.h"
+#include "strings/tables.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <ctime>
+#include <vector>
+
+namespace {
+
+using namespace tarnel;
+
+constexpr double most = 1.3; ///< times the load of the session alone
+constexpr int rounds = 400;
+constexpr std::size_t qdm = 1; ///< of the exercises in the menu
+
+struct SilentWorld : OutsideWorld {
+    void messageBox(BoxKind, const std::string&, const std::string& text) override {
+        std::fprintf(stderr, "%s\n", text.c_str());
+    }
+};
+
+double cpuSeconds() {
+    timespec now{};
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
+    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
+}
+
+double median(std::vector<double> values) {
+    std::sort(values.begin(), values.end());
+    return values[values.size() / 2];
+}
+
+} // namespace
+
+/// From "Weiter" to the next question with its session, a wrong answer counted on the way, against
+/// loading that session alone.
+int main() {
+    SilentWorld world;
+    Form1 form(germanTable(), world, applicationFolder());
+    form.exerciseMenu.exercises[qdm]->click();
+    form.Timer1();
+    ExercisePanel& panel = *form.QAform1.activePanel();
+    panel.randomBox.set(1);
+    std::vector<double> next;
+    std::vector<double> load;
+    for (int i = 0; i < rounds; ++i) {
+        panel.rows[0]->options[0]->click();
+        double start = cpuSeconds();
+        panel.nextButton.click();
+        form.Timer1();
+        next.push_back(cpuSeconds() - start);
+        start = cpuSeconds();
+        form.UserControl11.loadByName(form.UserControl11.c_SessionFileName);
+        load.push_back(cpuSeconds() - start);
+        form.Timer1();
+    }
+    const double ratio = median(next) / median(load);
+    std::printf("the next question, against loading its session of %d samples: %.3f ms, %.2f times"
+                " (at most %.1f) %s\n",
+                int{form.UserControl11.c_TraceBufferMax}, median(next) * 1e3, ratio, most,
+                ratio <= most ? "" : "MISSED");
+    return ratio <= most ? 0 : 1;
+}

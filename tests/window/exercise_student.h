@@ -1,0 +1,94 @@
+#pragma once
+
+#include "window/quiz_panel.h"
+#include "window/student_fixture.h"
+
+#include <QLabel>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <string>
+
+namespace tarnel {
+
+/// The exercises in the order of the menu.
+enum class Item { adfPosition, qdm, qdr, hsiPosition, hsiLarge, hsiHolding, dmeArc, stdVor, wind, dgHolding, orientation };
+
+/// A student who has an exercise's study file and a recorded flight for its questions.
+class ExerciseStudent : public Student {
+  protected:
+    void SetUp() override {
+        std::string name = (std::filesystem::temp_directory_path() / "tarnel-XXXXXX").string();
+        folder = mkdtemp(name.data());
+        for (const auto& entry : std::filesystem::directory_iterator(TARNEL_APPLICATION_FOLDER))
+            if (entry.path().filename() != "default")
+                std::filesystem::create_symlink(entry.path(), folder / entry.path().filename());
+        std::filesystem::create_directories(folder / "default/study");
+        std::filesystem::create_directories(folder / "default/sessions");
+    }
+    void TearDown() override {
+        window.reset();
+        form.reset();
+        std::filesystem::remove_all(folder);
+    }
+
+    void writeStudy(const std::string& name, const std::string& text) {
+        std::ofstream(folder / "default/study" / name) << text;
+    }
+
+    /// Opens the window and starts an exercise whose questions stand in "flight.ts".
+    void begin(Item item, const StringTable& texts = englishTable(), QSize size = {1280, 800}) {
+        window.reset();
+        dressApplication(texts, QString::fromStdString(folder.string()));
+        form = std::make_unique<Form1>(texts, world, folder.string());
+        window = std::make_unique<MainWindow>(*form);
+        window->resize(size);
+        window->show();
+        window->activateWindow();
+        settle();
+        recordFlight();
+        form->exerciseMenu.exercises[static_cast<std::size_t>(item)]->click();
+        settle();
+        quiz = window->findChild<QuizPanel*>();
+    }
+
+    void press(Qt::Key key) {
+        QTest::keyClick(QApplication::focusWidget(), key);
+        settle();
+    }
+    void type(const char* text) {
+        QTest::keyClicks(QApplication::focusWidget(), QString::fromLatin1(text));
+        settle();
+    }
+    /// The widget of that name in the quiz, shown or not.
+    template <class Widget = QWidget>
+    Widget& inQuiz(const char* name) {
+        auto* found = quiz->findChild<Widget*>(QString::fromLatin1(name));
+        if (!found)
+            throw std::runtime_error(std::string("no widget called ") + name);
+        return *found;
+    }
+    void choose(const char* name) {
+        QTest::mouseClick(&inQuiz(name), Qt::LeftButton);
+        settle();
+    }
+    std::string focus() {
+        const QWidget* widget = QApplication::focusWidget();
+        return widget ? widget->objectName().toStdString() : "nothing";
+    }
+
+    std::filesystem::path folder;
+    QuizPanel* quiz = nullptr;
+
+  private:
+    void recordFlight() {
+        form->startButton.click();
+        fly(60);
+        form->startButton.click();
+        settle();
+        form->UserControl11.saveSessionTo((folder / "default/sessions/flight.ts").string());
+    }
+};
+
+} // namespace tarnel

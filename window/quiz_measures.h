@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QFontInfo>
+#include <QWidget>
+
+/// The measures of the quiz, in pixels at text scale 1.
+namespace tarnel::quiz {
+
+inline constexpr int answerHeight = 30;
+inline constexpr int answerGap = 5; ///< between the answers of a row, and between rows
+
+/// The text scale of a widget that the style sheet has dressed.
+inline double scaleOf(const QWidget& widget) {
+    constexpr double bodyType = 13;
+    return QFontInfo(widget.font()).pixelSize() / bodyType;
+}
+
+} // namespace tarnel::quiz
