@@ -1,3 +1,4 @@
+#include "window/document_reader.h"
 #include "window/file_settings.h"
 #include "window/qt_outside_world.h"
 #include "window/single_instance.h"
@@ -165,6 +166,22 @@ TEST(FileSettingsTest, WhatWasEditedByHandComesBackAndNothingElseIsLost) {
     EXPECT_EQ(again.value("app", "stats", "a", "-"), "one,two");
     EXPECT_EQ(again.value("app", "stats", "d", "-"), "8");
     EXPECT_EQ(again.value("other", "x", "y", "-"), "3");
+}
+
+TEST(DocumentReaderTest, APdfReaderIsToldThePage) {
+    const QTemporaryDir folder;
+    const QString reader = folder.filePath(QStringLiteral("evince"));
+    const QString told = folder.filePath(QStringLiteral("told"));
+    write(reader, "#!/bin/sh\nprintf '%s|' \"$@\" >" + told.toUtf8() + ".new\n/bin/mv " +
+                      told.toUtf8() + ".new " + told.toUtf8() + "\n");
+    QFile::setPermissions(reader, QFile::ReadOwner | QFile::ExeOwner);
+    const QByteArray path = qgetenv("PATH");
+    qputenv("PATH", folder.path().toUtf8());
+    const bool opened = openInReader(QStringLiteral("/books/my book.pdf"), 26);
+    qputenv("PATH", path);
+    EXPECT_TRUE(opened);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return QFile::exists(told); }));
+    EXPECT_EQ(read(told), "--page-index=26|/books/my book.pdf|");
 }
 
 /// The window with boxes and dialogs of its own.
