@@ -38,7 +38,7 @@ BufferWarning Recording::advance() {
     ++newest;
     if (newest == almostFullAt)
         return BufferWarning::almostFull;
-    if (newest != fullAt)
+    if (newest < fullAt)
         return BufferWarning::none;
     newest = 1;
     return BufferWarning::full;

@@ -68,7 +68,7 @@ class Recording {
     /// Counts a simulation tick; true on ticks 3, 7, 11 and so on, which are recorded.
     bool tickIsSample();
 
-    /// Moves on to the next sample. At 5980 it starts over at 1; old samples stay until
+    /// Moves on to the next sample. From 5980 on it starts over at 1; old samples stay until
     /// overwritten.
     BufferWarning advance();
 

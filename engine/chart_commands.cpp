@@ -74,6 +74,16 @@ void UserControl2::centreOn(const SplitPosition& centre) {
     refresh();
 }
 
+void UserControl2::centreOnStations() {
+    GeoPosition middle;
+    for (const Station& station : stations) {
+        const GeoPosition position = toPlain(station.position);
+        middle.latitude += position.latitude / slotCount;
+        middle.longitude += position.longitude / slotCount;
+    }
+    centreOn(toSplit(middle));
+}
+
 void UserControl2::resetView() {
     c_MAPnorthUP = 1;
     c_MAPscale = home.scale;
@@ -92,7 +102,11 @@ void UserControl2::switchEditing() {
 }
 
 void UserControl2::placeStation(Slot which, ChartPoint point) {
-    inSlot(stations, which).position = view.plot.MapToGeo(point).split;
+    moveStation(which, view.plot.MapToGeo(point).split);
+}
+
+void UserControl2::moveStation(Slot which, const SplitPosition& position) {
+    inSlot(stations, which).position = position;
     redrawChart();
     refresh();
     renewFirstSample();
@@ -108,6 +122,7 @@ void UserControl2::switchStation(Slot which, bool stationOn, bool dmeOn) {
 }
 
 void UserControl2::switchView() {
+    mouse.cancel();
     view.northUpMode = c_MAPnorthUP == 1;
     airplaneOutline = RotateAirplaneSymbol(view.northUpMode ? aircraft.trueHeading : 0);
     view.centreOn(toSplit(aircraft.published()));
@@ -123,6 +138,10 @@ void UserControl2::placeAircraft(ChartPoint point) {
     aircraft.placeAt(view.plot.MapToGeo(point));
     picture.trace.clear();
     resumeMode = ResumeMode::clear;
+    referenceReading = {};
+    c_CurrentComment.setIfChanged({});
+    if (placedByHand)
+        placedByHand();
     refresh();
 }
 

@@ -34,8 +34,10 @@ void UserControl2::loadChartFrom(const std::string& path) {
         comeToRest();
         applyChart(chart);
         c_ChartFileName.setIfChanged(path);
-        if (chart.problem)
+        if (chart.problem) {
+            chartNamedByUser.clear();
             messages.fileWrong(FileRequest::loadChart, path, *chart.problem);
+        }
     } catch (const RunTimeError& error) {
         messages.fileFailed(FileRequest::loadChart, path, error);
     }
@@ -73,6 +75,10 @@ void UserControl2::applyStations(const StationBlock& block) {
 
 void UserControl2::applyChart(const ChartFile& chart) {
     forgetComments();
+    sessionNamedByUser.clear();
+    clock = FlightClock{};
+    publishStopwatch();
+    publishFlightTime();
     reference.clear();
     referenceReading = {};
     applyStations(chart);

@@ -25,7 +25,7 @@ ChartPoint rounded(Point at, double size) {
 } // namespace
 
 bool ChartMouse::allowed() const {
-    return sim.view.northUpMode && (sim.stopped() || tool == Tool::wind);
+    return !locked && sim.view.northUpMode && (sim.stopped() || tool == Tool::wind);
 }
 
 void ChartMouse::decodeRightButton() {
@@ -75,6 +75,12 @@ void ChartMouse::up() {
     sim.windLabelOn = true;
 }
 
+void ChartMouse::setLocked(bool lock) {
+    if (lock && !locked)
+        cancel();
+    locked = lock;
+}
+
 void ChartMouse::pickWindTool() {
     cancel();
     tool = Tool::wind;
@@ -119,8 +125,7 @@ void ChartMouse::takeBackDrag() {
     cancel();
     if (!beforeDrag)
         return;
-    inSlot(sim.stations, beforeDrag->first).position = beforeDrag->second;
-    sim.MapScale();
+    sim.moveStation(beforeDrag->first, beforeDrag->second);
 }
 
 /// The symbol's centre follows the pointer. The bearings are those of the dragged station from each

@@ -39,6 +39,9 @@ class ChartMouse {
     /// kt.
     void pickWindTool();
 
+    /// A locked mouse does nothing.
+    void setLocked(bool lock);
+
     [[nodiscard]] bool headingTool() const { return tool == Tool::heading; }
     [[nodiscard]] bool windTool() const { return tool == Tool::wind; }
 
@@ -61,6 +64,7 @@ class ChartMouse {
 
     UserControl2& sim;
     Tool tool = Tool::standard;
+    bool locked = false;
     bool airplaneDragging = false;
     bool headingDragging = false;
     bool windDragging = false;

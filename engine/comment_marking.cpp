@@ -22,6 +22,8 @@ void UserControl2::startComment(const std::string& text) {
 }
 
 void UserControl2::stopComment() {
+    if (comments.selectedCommentIndex == noComment)
+        return;
     ++comments.commentCount;
     if (!stopped()) {
         comments.currentCommentIndex = comments.selectedCommentIndex = noComment;

@@ -100,7 +100,7 @@ void UserControl2::markFreshStart() {
 
 /// A recording that has not begun shows the chart as it stands now.
 void UserControl2::renewFirstSample() {
-    if (resumeMode == ResumeMode::clear)
+    if (resumeMode == ResumeMode::clear && recording.sampleIndex() <= 1)
         markFreshStart();
 }
 
@@ -110,6 +110,10 @@ void UserControl2::freshRecording() {
     referenceReading = {};
     c_PractiseStopFly.publish(0);
     resumeMode = ResumeMode::goOn;
+    publishStopwatch();
+    publishFlightTime();
+    recording.at(1) = presentSample();
+    c_TraceBufferMax.publish(1);
 }
 
 void UserControl2::redrawTrace() {

@@ -37,9 +37,11 @@ void UserControl2::restoreAll(std::int16_t index) {
 
 void UserControl2::goToSample() {
     const std::int16_t index = c_RepeatValue;
-    if (index < 1 || index > Recording::lastSample || !stopped())
+    const bool ignored =
+        index < 1 || !stopped() || (index > c_TraceBufferMax && index <= Recording::lastSample);
+    if (ignored || index > Recording::lastSample)
         c_RepeatValue.publish(replaySample);
-    if (index < 1 || !stopped())
+    if (ignored)
         return;
     Sample& sample = recording.at(index);
     resumeMode = ResumeMode::cut;
@@ -62,8 +64,10 @@ void UserControl2::goToSample() {
 /// Clocks, speed, turn and wind; the heading too unless the aircraft flies on between samples.
 void UserControl2::restoreMotion(const Sample& sample) {
     if (c_ReplayInterpolation == showSample) {
+        const double turned = intoCircle(sample.traceHeading) - aircraft.trueHeading;
         aircraft.trueHeading = intoCircle(sample.traceHeading);
         c_HDG.publish(aircraft.trueHeading);
+        keepCoursesNorth(turned);
     }
     c_ApMinutes.publish(sample.traceStopMinutes);
     c_ApSeconds.publish(sample.traceStopSeconds);
@@ -79,6 +83,15 @@ void UserControl2::restoreMotion(const Sample& sample) {
     c_APhdg.publish(sample.traceAPhdg);
     c_APtas.publish(sample.traceAPtas);
     c_APalt.publish(sample.traceAPalt);
+}
+
+/// Under a turned chart the courses count from the heading: they stay where they are on the earth
+/// when it turns by `turned` degrees. A locked replay brings its own.
+void UserControl2::keepCoursesNorth(double turned) {
+    if (view.northUpMode || c_replayInstLock == 1)
+        return;
+    c_obsI2.publish(c_obsI2 - turned);
+    c_obsI3.publish(c_obsI3 - turned);
 }
 
 void UserControl2::restoreSettings(const Sample& sample) {
@@ -98,6 +111,7 @@ void UserControl2::restoreSettings(const Sample& sample) {
 }
 
 void UserControl2::restorePlace(const Sample& sample) {
+    flownBetween = false;
     aircraft.placeAt(placeOf(sample));
     airplaneOutline = RotateAirplaneSymbol(view.northUpMode ? aircraft.trueHeading : 0);
     for (std::size_t i = 0; i < slotCount; ++i)
@@ -113,6 +127,7 @@ void UserControl2::flyBetweenSamples() {
     aircraft.turnRateUsed = Turn_Rate;
     aircraft.fly(wind);
     turnByTick();
+    flownBetween = true;
 }
 
 void UserControl2::restoreWind() {
@@ -139,7 +154,11 @@ void UserControl2::resumeFromReplay() {
     const Sample& sample = recording.at(replaySample);
     aircraft.placeAt(placeOf(sample));
     view.placeAircraft(aircraft);
-    turnAircraft(sample.traceHeading);
+    if (flownBetween)
+        turnAircraft(intoCircle(sample.traceHeading));
+    if (comments.selectedCommentIndex != noComment)
+        recording.markComment(comments.commentStartSample, replaySample,
+                              comments.selectedCommentIndex);
     clock.stopwatchMinutes = c_ApMinutes;
     clock.stopwatchSeconds = c_ApSeconds;
     clock.flightHours = c_ApHours2;
@@ -165,6 +184,7 @@ void UserControl2::startSession() {
     c_WindSetEN.publish(0);
     publishWind();
     turnAircraft(0);
+    resetView();
     placeAircraft(toPlain(view.plot.MapToGeo(start).split));
     replaySample = 1;
     c_RepeatValue.publish(1);

@@ -48,8 +48,31 @@ void UserControl2::loadByName(const std::string& path) {
 /// Whoever owns the strip brings it to rest; without one the clock alone stops.
 void UserControl2::comeToRest() {
     messages.stopForLoading();
+    mouse.cancel();
     if (!stopped())
         c_TimerEN = 0;
+}
+
+bool UserControl2::keepTemporary() {
+    const std::string path = inFolder(c_ScratchPath, temporaryName);
+    try {
+        saveSessionTo(path);
+        return true;
+    } catch (const RunTimeError& error) {
+        messages.fileFailed(FileRequest::saveSession, path, error);
+        return false;
+    }
+}
+
+void UserControl2::dropRecording() {
+    forgetComments();
+    reference.clear();
+    referenceReading = {};
+    recording.clear();
+    c_TraceBufferMax.publish(0);
+    c_FlyEN.publish(0);
+    resumeMode = ResumeMode::clear;
+    redrawTrace();
 }
 
 void UserControl2::openSession(const std::string& path) {
@@ -96,6 +119,9 @@ void UserControl2::loadSessionFrom(FileRequest request, const std::string& path,
         applySession(session);
         if (!session.samples.empty())
             c_HscrollRepeatValue = how == fileRequest::byName ? std::int16_t{1} : c_TraceBufferMax;
+        // Saving under this name would lose what is left of the file, or its older form.
+        if (session.problem || request == FileRequest::loadOldSession)
+            sessionNamedByUser.clear();
         if (session.problem)
             messages.fileWrong(request, path, *session.problem);
     } catch (const RunTimeError& error) {
@@ -111,6 +137,7 @@ void UserControl2::takeReference(const SessionFile& session) {
 
 void UserControl2::applySession(const SessionFile& session) {
     forgetComments();
+    referenceReading = {};
     for (std::size_t i = 0; i < session.comments.size(); ++i)
         comments.setText(static_cast<int>(i), session.comments[i]);
     comments.commentCount = static_cast<std::int16_t>(session.comments.size());

@@ -69,10 +69,17 @@ class UserControl2 {
     void loadByName(const std::string& path);
     /// The bytes of a session file with the flight as it was recorded.
     [[nodiscard]] std::string sessionBytes();
+    /// Saves the flight aside, as a `c_saveSession` of 3 does. False, with a box, if that failed.
+    bool keepTemporary();
+    /// Forgets the flight and its reference; the aircraft stays.
+    void dropRecording();
     /// Saves the flight as it was recorded. Throws what `saveFileBytes` throws.
     void saveSessionTo(const std::string& path);
-    /// Moves a station to a chart position; its label and radials follow.
+    /// Moves a station; its label and radials follow.
     void placeStation(Slot which, ChartPoint point);
+    void moveStation(Slot which, const SplitPosition& position);
+    /// Centres the chart on the middle of the stations.
+    void centreOnStations();
     /// Switches a station and its DME; with both off its button comes up.
     void switchStation(Slot which, bool stationOn, bool dmeOn);
     /// Sets the wind of the whole chart by hand; a switched-on wind is this one from now on.
@@ -89,7 +96,8 @@ class UserControl2 {
     /// Writes `text` into the entry being written and marks from the present sample on. Throws the
     /// subscript error behind entry 100.
     void startComment(const std::string& text);
-    /// Ends the mark. At rest it is laid on the samples from where it began to the present one.
+    /// Ends the mark, if there is one. At rest it is laid on the samples from where it began to the
+    /// present one.
     void stopComment();
     /// Takes the present sample's comment off all samples that touch it and carry it too.
     void deleteComment();
@@ -227,6 +235,8 @@ class UserControl2 {
 
     /// Where a draw by chance starts from. Without it, from where the last one ended.
     std::function<std::optional<std::uint32_t>()> clockSeed;
+    /// Called when the aircraft was placed on the chart.
+    std::function<void()> placedByHand;
     /// Called with the state that the practice panel takes.
     std::function<void(std::int16_t)> practicePanelSet;
 
@@ -268,6 +278,7 @@ class UserControl2 {
     void restoreMotion(const Sample& sample);
     void restoreSettings(const Sample& sample);
     void restorePlace(const Sample& sample);
+    void keepCoursesNorth(double turned);
     void flyBetweenSamples();
     void restoreWind();
     void redrawReplay();
@@ -319,6 +330,7 @@ class UserControl2 {
     } home;
     Wind lastWind;
     std::int16_t replaySample = 1; ///< the last sample gone to
+    bool flownBetween = false;     ///< the aircraft has flown on from it
     /// What the next start does with the recording: nothing, clear it, or cut it at `replaySample`.
     enum class ResumeMode { goOn, clear, cut } resumeMode = ResumeMode::goOn;
 };

@@ -16,6 +16,8 @@ constexpr int step = 5; ///< degrees and knots of a wind by chance
 } // namespace
 
 void UserControl2::switchWind() {
+    if (c_WindSetEN != drawnWind && mouse.windTool())
+        mouse.cancel();
     if (c_WindSetEN == noWind)
         wind = {};
     else if (c_WindSetEN == lastWindAgain)

@@ -33,7 +33,10 @@ void Form1::setScale(std::int16_t twipsPerMile) {
     UserControl11.c_MAPscale.setIfChanged(twipsPerMile);
 }
 
+/// A chart under the heading would tell where a hidden aircraft is.
 void Form1::setNorthUp(bool northUp) {
+    if (!northUp && questionOpen())
+        return;
     UserControl11.c_MAPnorthUP.setIfChanged(northUp ? 1 : 0);
 }
 
@@ -42,10 +45,8 @@ void Form1::setEditing(bool editing) {
     if (editing) {
         StopReplay();
         setNorthUp(true);
-        commentPanel.startStop.setCaption(Text::commentStart);
     }
     UserControl11.c_mapedit = editing ? 1 : 0;
-    showCommentNumber();
 }
 
 void Form1::switchStation(std::size_t index) {

@@ -13,30 +13,25 @@ constexpr std::int16_t ticksPerBlink = 500;
 void Form1::connectComments() {
     commentPanel.startStop.onClick = [this] { startOrStopComment(); };
     commentPanel.deleteOne.onClick = [this] { UserControl11.deleteComment(); };
-    commentPanel.deleteAll.onClick = [this] {
-        commentPanel.startStop.setCaption(Text::commentStart);
-        UserControl11.deleteAllComments();
-        showCommentNumber();
-    };
+    commentPanel.deleteAll.onClick = [this] { UserControl11.deleteAllComments(); };
     commentPanel.previous.onClick = [this] { stepComment(-1); };
     commentPanel.next.onClick = [this] { stepComment(1); };
     UserControl11.clockSeed = [this] { return outside.clockSeed(); };
+    UserControl11.placedByHand = [this] { StopReplay(); };
     UserControl11.practicePanelSet = [this](std::int16_t panel) { showPracticePanel(panel); };
 }
 
 /// A full table is told in a box; the flight goes on, and the text stays in its field.
 void Form1::startOrStopComment() {
-    if (commentPanel.startStop.caption() == Text::commentStop) {
-        commentPanel.startStop.setCaption(Text::commentStart);
+    if (UserControl11.comments.selectedCommentIndex != noComment) {
         commentPanel.text.setText({});
         UserControl11.stopComment();
-        showCommentNumber();
     } else if (UserControl11.comments.commentCount >= Comments::count) {
         showBox(text(Text::errorTitle), text(Text::commentTableFull));
     } else {
         UserControl11.startComment(commentPanel.text.text());
-        commentPanel.startStop.setCaption(Text::commentStop);
     }
+    followCommentStrip();
 }
 
 void Form1::stepComment(int step) {
@@ -46,12 +41,18 @@ void Form1::stepComment(int step) {
         return;
     }
     UserControl11.stepComment(step);
-    showCommentNumber();
+    followCommentStrip();
     commentPanel.text.setText(comments.text(comments.commentCount));
 }
 
-void Form1::showCommentNumber() {
-    commentPanel.number.setText(numberText(std::int64_t{UserControl11.comments.commentCount} + 1));
+/// Brings the author's strip to what is being marked, whatever changed it.
+void Form1::followCommentStrip() {
+    const Comments& comments = UserControl11.comments;
+    const bool marking = comments.selectedCommentIndex != noComment;
+    commentPanel.startStop.setCaption(marking ? Text::commentStop : Text::commentStart);
+    commentPanel.previous.setEnabled(!marking);
+    commentPanel.next.setEnabled(!marking);
+    commentPanel.number.setText(numberText(std::int64_t{comments.commentCount} + 1));
 }
 
 void Form1::showComment() {

@@ -42,12 +42,12 @@ void Form1::followExercise() {
         endExerciseFlight();
     const std::int16_t wanted = QAform1.c_showResult;
     QAform1.c_showResult = 0;
-    if (wanted == replaySolution || wanted == replayArmed)
-        showSolution(wanted == replayArmed);
-    else if (wanted == nextQuestion)
+    if (wanted == nextQuestion)
         showNextQuestion();
     if (!QAform1.c_QASessionFileName.get().empty())
         loadQuestionSession();
+    if (wanted == replaySolution || wanted == replayArmed)
+        showSolution(wanted == replayArmed);
     if (wanted == fly)
         letStudentFly();
     enableControls();
@@ -66,6 +66,8 @@ void Form1::showSolution(bool armed) {
     }
     replayPage.lock.set(1);
     backButton.setVisible(armed);
+    replayPage.loop.set(0);
+    UserControl11.c_HscrollRepeatValue = 0;
     replayIndex = 0;
     replayPage.play.choose();
 }
@@ -86,7 +88,7 @@ void Form1::showNextQuestion() {
 /// is asked about.
 void Form1::hideForQuestion() {
     const bool askedOnChart = QAform1.c_QAtype == orientation;
-    solutionSeen = false;
+    solutionSeen = questionFlown = false;
     setHidden(true);
     instruments.setVisible(!askedOnChart);
     if (askedOnChart)
@@ -98,6 +100,7 @@ void Form1::hideForQuestion() {
 void Form1::letStudentFly() {
     StopReplay();
     setHidden(true);
+    solutionSeen = questionFlown = false;
     switchFaces(true);
     instruments.setVisible(true);
     replayPage.lock.set(1);
@@ -108,7 +111,7 @@ void Form1::letStudentFly() {
 void Form1::loadQuestionSession() {
     const std::string path = QAform1.c_QASessionFileName;
     QAform1.c_QASessionFileName = std::string();
-    UserControl11.loadByName(path);
+    loadPractised(path);
     if (!solutionSeen)
         hideForQuestion();
 }

@@ -63,10 +63,27 @@ std::string Form1::shippedSession(const std::string& name, bool ownLanguage) con
 }
 
 void Form1::openPractice(const std::string& name, bool practised) {
-    practising = practised;
+    const std::string path = shippedSession(name, practised);
     chartPage.trace.set(1);
-    UserControl11.loadByName(shippedSession(name, practised));
-    UserControl11.c_TrackDelta = practised ? 1 : 0;
+    loadPractised(path);
+    practising = practised && UserControl11.c_SessionFileName.get() == path;
+    UserControl11.c_TrackDelta = practising ? 1 : 0;
+}
+
+/// Loads a session of the program's own. In an exercise the chart is centred on the stations, which
+/// tell nothing of where the aircraft is; a session that can't be read leaves no other flight
+/// behind.
+void Form1::loadPractised(const std::string& path) {
+    practisedPath = path;
+    UserControl11.c_SessionFileName.publish({});
+    UserControl11.loadByName(path);
+    const bool loaded = UserControl11.c_SessionFileName.get() == path;
+    if (exerciseUp && loaded)
+        UserControl11.centreOnStations();
+    else if (exerciseUp)
+        UserControl11.dropRecording();
+    if (!loaded)
+        UserControl11.c_SessionFileName = text(Text::newSessionFile);
 }
 
 void Form1::startExercise(const ExerciseItem& item) {
@@ -76,6 +93,7 @@ void Form1::startExercise(const ExerciseItem& item) {
     rememberShell();
     exerciseUp = true;
     practising = false;
+    chartPage.trace.set(1);
     rateQuadruple.choose();
     replayPage.lock.set(1);
     if (item.inst2Kind >= 0)
@@ -113,7 +131,7 @@ void Form1::leaveExercise() {
         return;
     StopReplay();
     StopFly();
-    exerciseUp = solutionSeen = false;
+    exerciseUp = solutionSeen = questionFlown = false;
     backButton.setVisible(false);
     switchFaces(true);
     instruments.setVisible(true);
@@ -125,8 +143,8 @@ void Form1::leaveExercise() {
     UserControl11.c_TrackDelta = 0;
     UserControl11.c_SessionFileName = text(Text::newSessionFile);
     inst3RadialBox.set(beforeExercise.radialShown);
-    inst2TypeList.select(beforeExercise.inst2Type);
-    inst3TypeList.select(beforeExercise.inst3Type);
+    inst2TypeList.pick(beforeExercise.inst2Type);
+    inst3TypeList.pick(beforeExercise.inst3Type);
     (beforeExercise.inst2Large ? inst2Large : inst2Small).choose();
     beforeExercise.rate->choose();
     chartPage.trace.set(beforeExercise.trace);

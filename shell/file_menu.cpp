@@ -39,9 +39,8 @@ void Form1::newSession() {
     setHeadingBug(0);
     UserControl11.c_NewSession = 1;
     UserControl11.c_SessionFileName = text(Text::newSessionFile);
-    commentPanel.startStop.setCaption(Text::commentStart);
     commentPanel.text.setText({});
-    showCommentNumber();
+    replayClockShown = {-1, -1};
     replayIndex = 1;
     replayPage.bar.setValue(1);
 }
@@ -81,13 +80,23 @@ void Form1::openFile(const std::string& path) {
 void Form1::keepPracticeFlight() {
     if (!UserControl11.stopped() || UserControl11.c_TrackDelta != 0)
         return;
-    UserControl11.c_saveSession = fileRequest::temporary;
-    UserControl11.c_loadSession = fileRequest::byName;
+    if (!UserControl11.keepTemporary()) {
+        practicePanel.recall.show();
+        return;
+    }
+    const bool practised = practising;
+    loadPractised(practisedPath);
+    practising = practised;
+    UserControl11.c_TrackDelta = 2;
 }
 
 void Form1::recallPracticeFlight() {
-    if (UserControl11.stopped() && UserControl11.c_TrackDelta == 0)
-        UserControl11.c_loadSession = fileRequest::temporary;
+    if (!UserControl11.stopped() || UserControl11.c_TrackDelta != 0)
+        return;
+    const bool practised = practising;
+    UserControl11.c_loadSession = fileRequest::temporary;
+    practising = practised;
+    UserControl11.c_TrackDelta = 3;
 }
 
 } // namespace tarnel

@@ -67,6 +67,10 @@ bool Form1::isShipped(const std::string& path) const {
 void Form1::stopForLoading() {
     StopReplay();
     StopFly();
+    practising = false;
+    UserControl11.c_TrackDelta = 0;
+    commentPanel.text.setText({});
+    replayClockShown = {-1, -1};
 }
 
 } // namespace tarnel

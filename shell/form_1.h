@@ -101,7 +101,7 @@ class Form1 : private SimulationMessages {
     [[nodiscard]] bool exerciseRuns() const { return exerciseUp; }
     /// While a question stands open: its answer must not be found by other means.
     [[nodiscard]] bool questionOpen() const {
-        return exerciseUp && !solutionSeen && QAform1.c_QAFly <= 0;
+        return exerciseUp && !solutionSeen && !questionFlown;
     }
     [[nodiscard]] const PositionLinks& links2() const { return inst2Links; }
     [[nodiscard]] const PositionLinks& links3() const { return inst3Links; }
@@ -286,7 +286,8 @@ class Form1 : private SimulationMessages {
     void stepReplay();
     void startOrStopComment();
     void stepComment(int step);
-    void showCommentNumber();
+    void followCommentStrip();
+    void loadPractised(const std::string& path);
     void showPracticePanel(std::int16_t panel);
     void newSession();
     void askForSession(Property<std::int16_t>& request);
@@ -336,7 +337,10 @@ class Form1 : private SimulationMessages {
         bool inst2Large = false;
         int radialShown = 0;
     } beforeExercise;
-    bool solutionSeen = false; ///< of the question that is up
+    bool solutionSeen = false;  ///< of the question that is up
+    bool questionFlown = false; ///< the recording is the student's own
+    std::string practisedPath;  ///< the session that a practice flight is compared with
+    std::string windTold;       ///< the wind whose source is shown
     bool boxUp = false;
     std::string sessionShown; ///< the path whose name the status panel shows
     std::string errorTold;    ///< the run-time error that was last told and still lasts

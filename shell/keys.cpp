@@ -4,7 +4,7 @@ namespace tarnel {
 
 /// The letters in brackets on the status panels.
 bool Form1::pressKey(char letter) {
-    if (questionOpen())
+    if (questionOpen() && letter != 'M')
         return false;
     switch (letter) {
     case 'M':

@@ -47,6 +47,7 @@ void Form1::tick() {
     echoChannelButtons();
     takeMouseObs(inst1);
     showComment();
+    followCommentStrip();
     if (UserControl11.c_replayActive == 1)
         pushPanelState();
     else

@@ -33,6 +33,10 @@ void Form1::connectReplay() {
 }
 
 void Form1::startReplay() {
+    if (UserControl11.c_TraceBufferMax < 1) {
+        StopReplay();
+        return;
+    }
     replaySubStep = 0;
     UserControl11.c_ReplayInterpolation = 0;
     if (replayIndex >= UserControl11.c_TraceBufferMax)
@@ -65,7 +69,8 @@ void Form1::pumpReplay() {
     replaySubStep = static_cast<std::int16_t>((replaySubStep + 1) % quarterSteps);
     if (replaySubStep == 1) {
         stepReplay();
-    } else if (replayPage.interpolate.value() == 1 && replayIndex > 0) {
+    } else if (replayPage.interpolate.value() == 1 && replayIndex > 0 &&
+               replayIndex < UserControl11.c_TraceBufferMax) {
         UserControl11.c_ReplayInterpolation = replaySubStep == 2 ? 2 : 3;
         UserControl11.c_RepeatValue = replayIndex;
     }

@@ -14,6 +14,7 @@ void Form1::startOrStop() {
 void Form1::startFlight() {
     StopReplay();
     simStopped = 0;
+    questionFlown = exerciseUp;
     replayPage.lock.set(0);
     stationPage.edit.set(0);
     startButton.setCaption(Text::stopSim);
@@ -56,8 +57,15 @@ void Form1::enableControls() {
                                              &replayPage.lock, &replayPage.bar})
         control->setEnabled(resting && !open);
     for (FormControl* control : std::initializer_list<FormControl*>{
-             &replayPage.hide, &chartPage.hide, &chartPage.trace, &chartPage.vectors})
+             &replayPage.hide, &chartPage.hide, &chartPage.trace, &chartPage.vectors,
+             &chartPage.centre, &chartPage.reset})
         control->setEnabled(!open);
+    UserControl11.mouse.setLocked(open);
+    const bool fixed = open && QAform1.c_QAFly <= 0;
+    for (const PositionLinks* links : {&inst2Links, &inst3Links})
+        for (FormControl* control : std::initializer_list<FormControl*>{
+                 &links->typeList, &links->channelButton, &links->overlayBox, &links->radialBox})
+            control->setEnabled(!fixed);
     const bool free = resting && !exerciseUp;
     stationPage.edit.setEnabled(free);
     for (CommandButton* item : fileMenu.items())

@@ -67,7 +67,6 @@ void Form1::setPanelDefaults() {
     windPage.none.show();
     practicePanel.frame.setVisible(false);
     commentPanel.comment.setVisible(false);
-    showCommentNumber();
     backButton.setVisible(false);
     enableControls();
 }

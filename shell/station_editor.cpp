@@ -63,7 +63,7 @@ bool Form1::applyStationEdit(const StationEdit& edit) {
     properties.name = edit.name;
     properties.frequency = edit.frequency;
     UserControl11.switchStation(edit.slot, edit.stationOn, edit.dmeOn);
-    UserControl11.MapScale();
+    UserControl11.moveStation(edit.slot, station.position);
     return true;
 }
 

@@ -41,6 +41,10 @@ void Form1::showWind() {
     const UserControl2& sim = UserControl11;
     windPage.readout.setText(windPage.show.value() == 1 ? sim.c_wind.get()
                                                         : text(Text::windHidden));
+    // A tool that was picked tells nothing until it has drawn.
+    if (sim.c_WindSetEN == windDrawn && sim.c_wind.get() == windTold)
+        return;
+    windTold = sim.c_wind;
     const bool calm = sim.wind.speed == 0;
     const std::int16_t mode = sim.c_WindSetEN;
     if (mode == windByChance) {

@@ -70,7 +70,9 @@ void WindEntry::take() {
 }
 
 bool WindEntry::tells() const {
-    return !form.windPage.random.chosen() || form.windPage.show.value() == 1;
+    const std::int16_t source = form.UserControl11.c_WindSetEN;
+    const bool ownWind = source == 0 || source == 1 || source == 3;
+    return ownWind || form.windPage.show.value() == 1;
 }
 
 void WindEntry::refresh() {

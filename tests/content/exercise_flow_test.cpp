@@ -100,6 +100,17 @@ class ExerciseFlow : public testing::TestWithParam<std::size_t> {
         EXPECT_FALSE(form.startButton.enabled());
         EXPECT_FALSE(form.replayPage.play.enabled());
         EXPECT_FALSE(form.pressKey('H'));
+        form.setNorthUp(false);
+        EXPECT_EQ(sim.c_MAPnorthUP, 1);
+        EXPECT_FALSE(form.chartPage.centre.enabled());
+        EXPECT_FALSE(form.inst3TypeList.enabled());
+        const GeoPosition before = sim.aircraft.published();
+        for (const ChartButton button : {ChartButton::left, ChartButton::right}) {
+            form.UserControl11.mouse.down(button, {1000, 1000});
+            form.UserControl11.mouse.up();
+        }
+        EXPECT_EQ(sim.aircraft.published(), before);
+        EXPECT_FALSE(sim.picture.heading.line.visible);
         EXPECT_EQ(sim.presentSampleIndex(), 1);
         EXPECT_GT(sim.c_TraceBufferMax, 40);
     }
@@ -176,6 +187,8 @@ TEST_P(FlownExercise, IsFlownByTheStudentAndComesBack) {
     EXPECT_EQ(form.replayPage.lock.value(), 0);
     EXPECT_EQ(form.inst3.type, first.traceInst3);
     EXPECT_EQ(form.NAVControlFace1.c_OnOff, 1);
+    EXPECT_FALSE(form.replayPage.play.enabled()); // the solution is still recorded
+    EXPECT_FALSE(form.replayPage.hide.enabled());
     form.startButton.click();
     fly(20);
     EXPECT_TRUE(form.simulationRuns());
@@ -188,6 +201,14 @@ TEST_P(FlownExercise, IsFlownByTheStudentAndComesBack) {
     EXPECT_EQ(form.UserControl11.c_TraceBufferMax, samples); // the solution is there again
     expectHidden();
 
+    click(panel().flyButton);
+    form.startButton.click();
+    fly(5);
+    click(panel().solutionButton);
+    EXPECT_FALSE(form.simulationRuns());
+    EXPECT_TRUE(form.replayRuns());
+    EXPECT_EQ(form.UserControl11.c_TraceBufferMax, samples);
+    watch();
     click(panel().flyButton);
     form.startButton.click();
     fly(5);
@@ -297,6 +318,9 @@ TEST_F(ExerciseShell, AMissingSessionIsToldAndTheQuestionCanBePassed) {
     start(1);
     ASSERT_EQ(world.boxes.size(), 1U);
     EXPECT_THAT(world.boxes[0].text, testing::HasSubstr("qdm01.ts"));
+    EXPECT_EQ(form.UserControl11.c_FlyEN, 0); // no other flight in its place
+    click(panel().solutionButton);
+    EXPECT_FALSE(form.replayRuns());
     click(panel().nextButton);
     EXPECT_EQ(world.boxes.size(), 2U);
     EXPECT_TRUE(form.questionOpen());

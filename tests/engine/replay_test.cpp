@@ -267,6 +267,56 @@ TEST_F(ReplayTest, ANewSessionIsEmptyAndInSight) {
     EXPECT_EQ(sim.c_TraceBufferMax, 2);
 }
 
+TEST_F(ReplayTest, NewSessionsStandAtTheSamePlaceOfTheChart) {
+    sim.c_NewSession = 1;
+    const GeoPosition first = place();
+    sim.c_MAPnorthUP = 0;
+    sim.c_NewSession = 1;
+    EXPECT_LT(milesBetween(first, place()), 0.1);
+}
+
+TEST_F(ReplayTest, AFlightStoppedBeforeItsFirstSampleHasOne) {
+    fly(30);
+    sim.placeAircraft(ChartPoint{3000, 3000});
+    const GeoPosition there = place();
+    sim.c_TimerEN = 1;
+    tick(1);
+    sim.c_TimerEN = 0;
+    EXPECT_EQ(sim.c_TraceBufferMax, 1);
+    sim.c_RepeatValue = 1;
+    EXPECT_LT(milesBetween(there, place()), 0.1);
+    sim.c_RepeatValue = 10; // beyond the flight
+    EXPECT_LT(milesBetween(there, place()), 0.1);
+}
+
+TEST_F(ReplayTest, AHeadingDrawnOnASampleIsFlown) {
+    fly(30);
+    sim.c_RepeatValue = 20;
+    sim.turnAircraft(90);
+    sim.c_TimerEN = 1;
+    EXPECT_EQ(sim.c_HDG, 90);
+}
+
+TEST_F(ReplayTest, BeyondTheWarningItStartsOverOnceMore) {
+    fly(3);
+    sim.recording.setNewest(5995); // as a loaded session of 6,000 samples resumed there
+    sim.c_TimerEN = 1;
+    tick(8);
+    EXPECT_EQ(messages.warnings.size(), 1U);
+    EXPECT_LT(sim.c_TraceBufferMax, 4);
+}
+
+TEST_F(ReplayTest, CoursesStayOnTheEarthUnderATurnedChart) {
+    fly(40);
+    sim.c_MAPnorthUP = 0;
+    sim.c_RepeatValue = 2;
+    const double course = sim.c_HDG + sim.c_obsI3;
+    sim.c_RepeatValue = 30;
+    sim.c_RepeatValue = 12;
+    EXPECT_NEAR(sim.c_HDG + sim.c_obsI3, course, 1e-9);
+    EXPECT_NEAR(sim.recording.at(30).traceObsI3, course, 1e-9);
+}
+
 class ReferenceTest : public SimulationTest {};
 
 TEST_F(ReferenceTest, LampsFollowTheDistance) {

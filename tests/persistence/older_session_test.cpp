@@ -97,7 +97,7 @@ TEST(OlderSession, StopsAtTheLineThatIsWrong) {
 
 TEST(OlderSession, ATrackOverThePoleEndsBeforeIt) {
     auto lines = olderLines(2000);
-    lines[7] = "89.9";
+    lines[7] = "88.9";
     for (std::size_t i = 7; i < lines.size(); i += 41) {
         lines[i + 2] = "0";
         lines[i + 5] = "1000";

@@ -262,7 +262,7 @@ double anyDegrees(double limit) {
 Sample anySample() {
     Sample sample = sampleOfLines();
     const auto any16 = [] { return *rc::gen::arbitrary<std::int16_t>(); };
-    sample.traceLat = anyDegrees(90);
+    sample.traceLat = anyDegrees(89);
     sample.traceLon = anyDegrees(360);
     sample.traceHeading = anyDegrees(360);
     sample.traceObsI2 = anyDegrees(720);
@@ -271,7 +271,7 @@ Sample anySample() {
     sample.traceHDGbug = any16();
     sample.traceComment = *rc::gen::inRange<std::int16_t>(-1, 101);
     for (GeoPosition& station : sample.traceStations)
-        station = {anyDegrees(90), anyDegrees(360)};
+        station = {anyDegrees(89), anyDegrees(360)};
     return sample;
 }
 

@@ -192,6 +192,54 @@ TEST_F(FilesTest, ASessionWithoutSamplesRestoresNothing) {
     EXPECT_EQ(sim().c_TraceBufferMax, 6);
 }
 
+TEST_F(FilesTest, ALoadLeavesNoHalfWrittenComment) {
+    form->commentPanel.startStop.click();
+    form->commentPanel.startStop.click();
+    form->startButton.click();
+    form->commentPanel.startStop.click();
+    form->startButton.click();
+    fly(20);
+    saveAs("commented.ts");
+    form->commentPanel.startStop.click();
+    form->commentPanel.text.type("half");
+    form->commentPanel.startStop.click();
+    load("commented.ts");
+    EXPECT_EQ(form->commentPanel.startStop.caption(), Text::commentStart);
+    EXPECT_EQ(form->commentPanel.text.text(), "");
+    const std::int16_t mark = sim().recording.at(5).traceComment;
+    sim().stopComment();
+    EXPECT_EQ(sim().recording.at(5).traceComment, mark);
+}
+
+TEST_F(FilesTest, ADamagedFileIsNotOverwrittenUnasked) {
+    fly(20);
+    saveAs("whole.ts");
+    write("half.ts", bytes("whole.ts").substr(0, 2000));
+    load("half.ts");
+    world.chosen.reset();
+    form->fileMenu.saveSession.click();
+    EXPECT_EQ(world.questions.size(), 3U);
+    EXPECT_EQ(bytes("half.ts").size(), 2000U);
+    load("whole.ts");
+    world.chosen = folder.path + "/default.map";
+    form->fileMenu.loadChart.click();
+    world.chosen.reset();
+    form->fileMenu.saveSession.click(); // a chart begins something new
+    EXPECT_EQ(world.questions.size(), 6U);
+}
+
+TEST_F(FilesTest, AFlightThatCanNotBeKeptStays) {
+    fly(20);
+    saveAs("own.ts");
+    sim().c_ScratchPath = folder.path + "/nowhere";
+    sim().c_TrackDelta = 3;
+    fly(20);
+    const std::int16_t samples = sim().c_TraceBufferMax;
+    form->practicePanel.keep.click();
+    EXPECT_EQ(world.boxes.size(), 1U);
+    EXPECT_EQ(sim().c_TraceBufferMax, samples);
+}
+
 TEST_F(FilesTest, NonsenseInTheSettingsOfASampleDoesNoHarm) {
     fly(8);
     for (int i = 1; i <= sim().c_TraceBufferMax; ++i) {
@@ -203,7 +251,7 @@ TEST_F(FilesTest, NonsenseInTheSettingsOfASampleDoesNoHarm) {
         sample.traceDMEfreq = -1;
         sample.traceHDGbug = -400;
         sample.traceAPhdg = 9999;
-        sample.traceAPtas = -3;
+        sample.traceAPtas = 1000;
         sample.traceAPalt = -32768;
         sample.traceComment = 100;
         sample.traceTAS = 1000;
