@@ -99,12 +99,12 @@ PanelSizes MainWindow::panelSizes() const {
     return {form.inst2.instrument.c_Large == 1, form.inst3.instrument.c_Large == 1};
 }
 
-/// The quiz takes the places of strip and comment.
+/// The quiz takes the strip's place, and while a question stands open the comment's too.
 ColumnWishes MainWindow::columnWishes() const {
-    if (quiz->runs())
-        return {[this](int width) { return quiz->wantedHeight(width); }, [](int) { return 0; }};
-    return {[this](int width) { return strip->wantedHeight(width); },
-            [this](int width) { return comment->wantedHeight(width); }};
+    return {[this](int width) {
+                return quiz->runs() ? quiz->wantedHeight(width) : strip->wantedHeight(width);
+            },
+            [this](int width) { return form.questionOpen() ? 0 : comment->wantedHeight(width); }};
 }
 
 void MainWindow::layOut() {
@@ -119,6 +119,7 @@ void MainWindow::layOut() {
     shownSizes = panelSizes();
     shownComments = comment->contents();
     shownQuiz = quiz->contents();
+    shownOpen = form.questionOpen();
     chart->setGeometry(layout.chart);
     const int inset = look::overlayInset;
     chartControls->setGeometry(inset, inset, layout.chart.width() - 2 * inset,
@@ -177,8 +178,8 @@ void MainWindow::refresh() {
     // Without a quiz the keyboard would be with whatever comes next in the window.
     if (shownQuiz != 0 && !quiz->runs() && focusWidget())
         focusWidget()->clearFocus();
-    if (panelSizes() != shownSizes || comment->contents() != shownComments ||
-        quiz->contents() != shownQuiz)
+    if (panelSizes() != shownSizes || form.questionOpen() != shownOpen ||
+        comment->contents() != shownComments || quiz->contents() != shownQuiz)
         layOut();
     chart->refresh();
     chartControls->refresh();

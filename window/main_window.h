@@ -76,6 +76,7 @@ class MainWindow : public QMainWindow {
     PanelSizes shownSizes;
     std::size_t shownComments = 0;
     int shownQuiz = 0;
+    bool shownOpen = false; ///< whether a question stood open
     double shownScale = 1;
 };
 
