@@ -25,24 +25,27 @@ void announce(QWidget& widget) {
 
 } // namespace
 
-QuizPanel::QuizPanel(Form1& owner, FormBinding& binding, QWidget* parent)
-    : QWidget(parent), form(owner) {
+QuizPanel::QuizPanel(Form1& owner, FormBinding& links, QWidget* parent)
+    : QWidget(parent), form(owner), binding(links) {
     setObjectName(QStringLiteral("QAform1"));
-    for (std::size_t i = 0; i < panelCount; ++i) {
-        ExercisePanel& panel = form.QAform1.panel(static_cast<PanelId>(i));
-        frames.push_back(new QuizFrame(panel, form.texts, binding, this));
-        frames.back()->hide();
-    }
     flightBar = new QuizFlightBar(form, binding, this);
     flightBar->hide();
     hide();
 }
 
-QuizFrame* QuizPanel::runningFrame() const {
+/// A frame is made when its first exercise starts: the window comes up sooner.
+QuizFrame* QuizPanel::runningFrame() {
     ExercisePanel* panel = form.exerciseRuns() ? form.QAform1.activePanel() : nullptr;
+    if (!panel)
+        return nullptr;
     const auto found =
         std::ranges::find_if(frames, [panel](QuizFrame* each) { return &each->panel() == panel; });
-    return found == frames.end() ? nullptr : *found;
+    if (found != frames.end())
+        return *found;
+    frames.push_back(new QuizFrame(*panel, form.texts, binding, this));
+    frames.back()->hide();
+    frames.back()->setGeometry(rect());
+    return frames.back();
 }
 
 void QuizPanel::refresh() {

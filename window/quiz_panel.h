@@ -40,7 +40,7 @@ class QuizPanel : public QWidget {
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
-    [[nodiscard]] QuizFrame* runningFrame() const;
+    QuizFrame* runningFrame();
     void show(QuizFrame* frame);
     void measure();
     void followQuestion();
@@ -49,6 +49,7 @@ class QuizPanel : public QWidget {
     bool enter();
 
     Form1& form;
+    FormBinding& binding;
     std::vector<QuizFrame*> frames;
     QuizFlightBar* flightBar = nullptr;
     QuizFrame* active = nullptr;
