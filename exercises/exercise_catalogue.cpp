@@ -44,7 +44,7 @@ Made dmeArc(const StringTable& texts, QuestionDraw& draw) {
 using enum PanelId;
 
 // Orientation counts as HSI position does.
-constexpr ExerciseSpec catalogue[] = {
+constexpr ExerciseKind catalogue[] = {
     {1, frame1, "hsi.sty", false, Text::titleHsiPosition, "hsipos", 6, 1, false,
      position<hsiLists>},
     {2, frame1, "stdvor.sty", false, Text::titleStdVorPosition, "stdvor", 1, 1, false,
@@ -62,23 +62,23 @@ constexpr ExerciseSpec catalogue[] = {
 
 } // namespace
 
-std::span<const ExerciseSpec> exerciseCatalogue() {
+std::span<const ExerciseKind> exerciseCatalogue() {
     return catalogue;
 }
 
-const ExerciseSpec* exerciseOf(int type) {
-    for (const ExerciseSpec& exercise : catalogue)
+const ExerciseKind* exerciseOf(int type) {
+    for (const ExerciseKind& exercise : catalogue)
         if (exercise.type == type)
             return &exercise;
     return nullptr;
 }
 
 bool asksForPosition(int type) {
-    const ExerciseSpec* exercise = exerciseOf(type);
+    const ExerciseKind* exercise = exerciseOf(type);
     return exercise && (exercise->panel == PanelId::frame1 || exercise->panel == PanelId::frame11);
 }
 
-std::vector<std::string> studyFileNames(const ExerciseSpec& exercise, bool german) {
+std::vector<std::string> studyFileNames(const ExerciseKind& exercise, bool german) {
     const std::string name(exercise.studyFile);
     if (german)
         return {name};

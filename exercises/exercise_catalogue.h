@@ -12,7 +12,7 @@
 namespace tarnel {
 
 /// What stands for an exercise outside its questions.
-struct ExerciseSpec {
+struct ExerciseKind {
     std::int16_t type; ///< the value of `c_QAtype`
     PanelId panel;
     std::string_view studyFile; ///< the German one; others have "e-" before the name
@@ -26,10 +26,10 @@ struct ExerciseSpec {
 };
 
 /// The exercises, types 1 to 10.
-[[nodiscard]] std::span<const ExerciseSpec> exerciseCatalogue();
+[[nodiscard]] std::span<const ExerciseKind> exerciseCatalogue();
 
 /// The exercise of `type`, or null.
-[[nodiscard]] const ExerciseSpec* exerciseOf(int type);
+[[nodiscard]] const ExerciseKind* exerciseOf(int type);
 
 /// Whether the exercise asks for a position: the radio faces would tell it.
 [[nodiscard]] bool asksForPosition(int type);
@@ -39,6 +39,6 @@ constexpr std::int16_t exerciseLeft = 0;
 constexpr std::int16_t exerciseClosed = -1;
 
 /// The names of its study file, the one to be preferred first.
-[[nodiscard]] std::vector<std::string> studyFileNames(const ExerciseSpec& exercise, bool german);
+[[nodiscard]] std::vector<std::string> studyFileNames(const ExerciseKind& exercise, bool german);
 
 } // namespace tarnel

@@ -44,13 +44,13 @@ void QAform::connect(ExercisePanel& panel) {
         };
 }
 
-const ExerciseSpec* QAform::running() const {
+const ExerciseKind* QAform::running() const {
     return exercise ? exerciseOf(c_QAtype) : nullptr;
 }
 
 ExercisePanel* QAform::activePanel() {
-    const ExerciseSpec* spec = running();
-    return spec ? &panel(spec->panel) : nullptr;
+    const ExerciseKind* kind = running();
+    return kind ? &panel(kind->panel) : nullptr;
 }
 
 FormControl* QAform::find(std::string_view name) {
@@ -69,31 +69,31 @@ std::string QAform::inApplicationFolder(std::string_view path) const {
 }
 
 void QAform::New_c_QAtype() {
-    if (const ExerciseSpec* spec = exerciseOf(c_QAtype))
-        start(*spec);
+    if (const ExerciseKind* kind = exerciseOf(c_QAtype))
+        start(*kind);
     else if (c_QAtype != -1)
         DisplayQuestion();
 }
 
-void QAform::start(const ExerciseSpec& spec) {
+void QAform::start(const ExerciseKind& kind) {
     endFlight();
-    exercise = spec.make(texts, draw);
+    exercise = kind.make(texts, draw);
     for (const auto& other : panels)
         other->frame.setVisible(false);
-    ExercisePanel& shown = panel(spec.panel);
+    ExercisePanel& shown = panel(kind.panel);
     unfold(shown);
     c_smallFrame = false;
-    if (spec.startsAtRandom)
+    if (kind.startsAtRandom)
         shown.randomBox.set(1);
-    loadStudyFileOf(spec);
+    loadStudyFileOf(kind);
     draw.shuffle(lastQuestion);
     questionIndex = -1;
     shuffleCursor = 0;
     DisplayQuestion();
 }
 
-void QAform::loadStudyFileOf(const ExerciseSpec& spec) {
-    for (const std::string& name : studyFileNames(spec, texts.isGerman())) {
+void QAform::loadStudyFileOf(const ExerciseKind& kind) {
+    for (const std::string& name : studyFileNames(kind, texts.isGerman())) {
         LoadStudyFile(name);
         if (study.end != StudyEnd::unreadable)
             return;
@@ -128,26 +128,26 @@ std::string QAform::studyRemark(const std::string& name) const {
 void QAform::DisplayQuestion() {
     answerRight.fill(0);
     answerGiven.fill(0);
-    const ExerciseSpec* spec = running();
-    if (!spec)
+    const ExerciseKind* kind = running();
+    if (!kind)
         return;
     questionLive = false;
-    exerciseTitle = texts[spec->title];
-    ExercisePanel& shown = panel(spec->panel);
+    exerciseTitle = texts[kind->title];
+    ExercisePanel& shown = panel(kind->panel);
     shown.clear();
     shown.frame.setText(exerciseTitle);
     shown.setNotice(remark);
     c_QASessionFileName.publish({});
     if (!study.records.empty())
-        poseQuestion(*spec, shown);
+        poseQuestion(*kind, shown);
 }
 
-void QAform::poseQuestion(const ExerciseSpec& spec, ExercisePanel& shown) {
+void QAform::poseQuestion(const ExerciseKind& kind, ExercisePanel& shown) {
     stepQuestion(shown.randomBox.value() == 1);
     shown.frame.setText(exerciseTitle + " (" + Str(questionIndex + 1) + " " +
                         std::string(texts[Text::of]) + " " +
                         numberText(std::int64_t{lastQuestion + 1}) + ")");
-    shown.statistic.setText(statisticLine(statistics.of(spec.statisticStem), texts));
+    shown.statistic.setText(statisticLine(statistics.of(kind.statisticStem), texts));
     exercise->take(currentRecord());
     shown.ask(*exercise);
     requestSession();
@@ -236,11 +236,11 @@ void QAform::fold(bool small) {
 
 void QAform::next() {
     constexpr std::int16_t nextQuestion = 2;
-    const ExerciseSpec* spec = running();
-    if (!spec)
+    const ExerciseKind* kind = running();
+    if (!kind)
         return;
     endFlight();
-    countAnswer(*spec);
+    countAnswer(*kind);
     c_showResult.publish(nextQuestion);
     c_smallFrame = false;
     DisplayQuestion();
@@ -248,11 +248,11 @@ void QAform::next() {
 
 /// Counts the question if anything was answered. One that was not all right comes again, unless the
 /// order is random.
-void QAform::countAnswer(const ExerciseSpec& spec) {
+void QAform::countAnswer(const ExerciseKind& kind) {
     if (std::ranges::all_of(answerGiven, [](std::int16_t flag) { return flag == 0; }))
         return;
     const bool right = allRight();
-    statistics.count(spec.statisticStem, questionIndex, lastQuestion, right);
+    statistics.count(kind.statisticStem, questionIndex, lastQuestion, right);
     if (!right)
         --questionIndex;
 }

@@ -69,7 +69,7 @@ class QAform {
     [[nodiscard]] FormControl* find(std::string_view name);
 
   private:
-    [[nodiscard]] const ExerciseSpec* running() const;
+    [[nodiscard]] const ExerciseKind* running() const;
     [[nodiscard]] std::string inApplicationFolder(std::string_view path) const;
 
     void New_c_QAtype();
@@ -77,10 +77,10 @@ class QAform {
     void fold(bool small);
     void connect(ExercisePanel& panel);
 
-    void start(const ExerciseSpec& spec);
-    void loadStudyFileOf(const ExerciseSpec& spec);
+    void start(const ExerciseKind& kind);
+    void loadStudyFileOf(const ExerciseKind& kind);
     [[nodiscard]] std::string studyRemark(const std::string& name) const;
-    void poseQuestion(const ExerciseSpec& spec, ExercisePanel& shown);
+    void poseQuestion(const ExerciseKind& kind, ExercisePanel& shown);
     void stepQuestion(bool atRandom);
     void requestSession();
     [[nodiscard]] const StudyRecord& currentRecord() const {
@@ -93,7 +93,7 @@ class QAform {
     void flyQuestion(ExercisePanel& panel);
     void endFlight();
     void next();
-    void countAnswer(const ExerciseSpec& spec);
+    void countAnswer(const ExerciseKind& kind);
     void cancel();
 
     const StringTable& texts;
