@@ -1,10 +1,11 @@
+#include "cpu_seconds.h"
 #include "shell/application_folder.h"
 #include "shell/form_1.h"
+#include "silent_world.h"
 #include "strings/tables.h"
 
 #include <algorithm>
 #include <cstdio>
-#include <ctime>
 #include <vector>
 
 namespace {
@@ -14,18 +15,6 @@ using namespace tarnel;
 constexpr double most = 1.3; ///< times the load of the session alone
 constexpr int rounds = 400;
 constexpr std::size_t qdm = 1; ///< of the exercises in the menu
-
-struct SilentWorld : OutsideWorld {
-    void messageBox(BoxKind, const std::string&, const std::string& text) override {
-        std::fprintf(stderr, "%s\n", text.c_str());
-    }
-};
-
-double cpuSeconds() {
-    timespec now{};
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
-    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
-}
 
 double median(std::vector<double> values) {
     std::sort(values.begin(), values.end());

@@ -1,3 +1,4 @@
+#include "cpu_seconds.h"
 #include "persistence/file_bytes.h"
 #include "persistence/sample_fields.h"
 #include "persistence/save_file.h"
@@ -7,7 +8,6 @@
 #include <charconv>
 #include <cmath>
 #include <cstdio>
-#include <ctime>
 #include <filesystem>
 #include <fstream>
 #include <functional>
@@ -20,12 +20,6 @@ using namespace tarnel;
 
 constexpr int runs = 15;
 constexpr int key = 7;
-
-double cpuSeconds() {
-    timespec now{};
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
-    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
-}
 
 /// An hour's turning flight with the digits that a real one has.
 SessionFile fullSession() {

@@ -1,10 +1,11 @@
+#include "cpu_seconds.h"
 #include "shell/application_folder.h"
 #include "shell/form_1.h"
+#include "silent_world.h"
 #include "strings/tables.h"
 
 #include <algorithm>
 #include <cstdio>
-#include <ctime>
 #include <vector>
 
 namespace {
@@ -16,18 +17,6 @@ constexpr int ticksPerSecond = 3;
 constexpr int couplingTicks = 3;
 constexpr int runs = 7;
 constexpr double leastTimesRealTime = 10000;
-
-struct SilentWorld : OutsideWorld {
-    void messageBox(BoxKind, const std::string&, const std::string& text) override {
-        std::fprintf(stderr, "%s\n", text.c_str());
-    }
-};
-
-double cpuSeconds() {
-    timespec now{};
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
-    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
-}
 
 /// An hour of turns about the stations with both instruments fed. Returns its CPU seconds.
 double flyAnHour() {

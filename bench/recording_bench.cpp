@@ -1,9 +1,10 @@
+#include "cpu_seconds.h"
 #include "shell/application_folder.h"
 #include "shell/form_1.h"
+#include "silent_world.h"
 #include "strings/tables.h"
 
 #include <cstdio>
-#include <ctime>
 
 namespace {
 
@@ -15,16 +16,6 @@ constexpr double most = 20;         ///< times one step
 constexpr double mostOfACore = 0.2; ///< at `goesPerSecond`
 constexpr double goesPerSecond = 60;
 constexpr double leastTimesRealTime = 5000;
-
-struct SilentWorld : OutsideWorld {
-    void messageBox(BoxKind, const std::string&, const std::string&) override {}
-};
-
-double cpuSeconds() {
-    timespec now{};
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
-    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
-}
 
 template <class Action>
 double secondsOf(int times, Action action) {

@@ -1,5 +1,7 @@
+#include "cpu_seconds.h"
 #include "shell/application_folder.h"
 #include "shell/form_1.h"
+#include "silent_world.h"
 #include "strings/tables.h"
 #include "window/application.h"
 #include "window/main_window.h"
@@ -15,7 +17,6 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstdio>
-#include <ctime>
 #include <functional>
 #include <string>
 #include <vector>
@@ -33,12 +34,6 @@ constexpr int pairs = 5;
 /// Twips per NM.
 constexpr std::int16_t usualScale = 250;
 constexpr std::int16_t largestScale = 1000;
-
-double cpuSeconds() {
-    timespec now{};
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
-    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
-}
 
 /// Runs the event loop and prints the share of a core that it takes once it has settled.
 int printCpuShare() {
@@ -87,11 +82,6 @@ void flyHeadingUp(Form1& form) {
     form.startButton.click();
     form.setHeadingBug(170);
 }
-
-/// No box stops a measurement.
-struct SilentWorld : OutsideWorld {
-    void messageBox(BoxKind, const std::string&, const std::string&) override {}
-};
 
 /// Records a long flight in circles, nearly as many samples as there is room for.
 void recordLongFlight(Form1& form) {

@@ -1,7 +1,4 @@
-#include "chart/trace_dots.h"
-#include "core/number_text.h"
 #include "core/rounding.h"
-#include "core/run_time_error.h"
 #include "engine/user_control_2.h"
 
 #include <algorithm>
@@ -133,7 +130,7 @@ void UserControl2::flyBetweenSamples() {
 void UserControl2::restoreWind() {
     const bool blows = wind.direction > 0 && wind.speed > 0;
     c_WindSetEN.publish(blows ? recordedWind : windWithZero);
-    c_wind.publish(numberText(wind.direction) + "/" + numberText(std::int64_t{wind.speed}));
+    tellWind();
 }
 
 /// The recorded courses count from north: a turned chart takes the heading off them.
@@ -166,35 +163,6 @@ void UserControl2::resumeFromReplay() {
     clock.flightSeconds = c_ApSeconds2;
     c_TraceBufferMax.publish(replaySample);
     resumeMode = ResumeMode::goOn;
-}
-
-void UserControl2::startSession() {
-    constexpr ChartPoint start{3500, 7500};
-    if (!stopped())
-        return;
-    mouse.cancel();
-    forgetComments();
-    reference.clear();
-    referenceReading = {};
-    recording.clear();
-    clock = FlightClock{};
-    publishStopwatch();
-    publishFlightTime();
-    wind = {};
-    c_WindSetEN.publish(0);
-    publishWind();
-    turnAircraft(0);
-    resetView();
-    placeAircraft(toPlain(view.plot.MapToGeo(start).split));
-    replaySample = 1;
-    c_RepeatValue.publish(1);
-    sessionNamedByUser.clear();
-}
-
-void UserControl2::showPracticePanel() {
-    if (practicePanelSet && c_TrackDelta >= 0 && c_TrackDelta <= 3)
-        practicePanelSet(c_TrackDelta);
-    c_TrackDelta.publish(0);
 }
 
 } // namespace tarnel

@@ -64,15 +64,10 @@ bool UserControl2::keepTemporary() {
     }
 }
 
-void UserControl2::dropRecording() {
-    forgetComments();
-    reference.clear();
-    referenceReading = {};
-    recording.clear();
-    c_TraceBufferMax.publish(0);
-    c_FlyEN.publish(0);
-    resumeMode = ResumeMode::clear;
-    redrawTrace();
+void UserControl2::showPracticePanel() {
+    if (practicePanelSet && c_TrackDelta >= 0 && c_TrackDelta <= 3)
+        practicePanelSet(c_TrackDelta);
+    c_TrackDelta.publish(0);
 }
 
 void UserControl2::openSession(const std::string& path) {

@@ -288,6 +288,7 @@ class UserControl2 {
 
     void switchWind();
     void drawWindByChance();
+    void tellWind();
     void publishWind();
     void showWindLabel();
     void showTurnsAhead();

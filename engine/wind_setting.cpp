@@ -53,8 +53,12 @@ void UserControl2::drawWind(const Wind& next) {
     publishWind();
 }
 
-void UserControl2::publishWind() {
+void UserControl2::tellWind() {
     c_wind.publish(numberText(wind.direction) + "/" + numberText(std::int64_t{wind.speed}));
+}
+
+void UserControl2::publishWind() {
+    tellWind();
     refresh();
 }
 

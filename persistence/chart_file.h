@@ -8,10 +8,6 @@
 
 namespace tarnel {
 
-/// What the owners of a chart call the problems of its file.
-using ChartField = FileField;
-using ChartProblem = FileProblem;
-
 /// A chart as far as its file could be read.
 struct ChartFile : StationBlock {
     std::optional<GeoPosition> aircraft;

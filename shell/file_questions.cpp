@@ -1,3 +1,4 @@
+#include "persistence/file_path.h"
 #include "shell/form_1.h"
 
 #include <algorithm>
@@ -30,11 +31,6 @@ Text titleOf(FileRequest request) {
     return Text::loadOldSessionTitle;
 }
 
-fs::path pathOf(std::string text) {
-    std::replace(text.begin(), text.end(), '\\', '/');
-    return fs::path(text);
-}
-
 bool liesBelow(const fs::path& path, const fs::path& folder) {
     const auto end = std::mismatch(folder.begin(), folder.end(), path.begin(), path.end());
     return end.first == folder.end();
@@ -59,8 +55,9 @@ std::optional<std::string> Form1::chooseFile(FileRequest request, const std::str
 /// What lies in the application's `default` folder, and the default chart.
 bool Form1::isShipped(const std::string& path) const {
     std::error_code ignored;
-    const fs::path application = fs::weakly_canonical(pathOf(UserControl11.c_MainAppPath), ignored);
-    const fs::path file = fs::weakly_canonical(pathOf(path), ignored);
+    const fs::path application =
+        fs::weakly_canonical(portablePath(UserControl11.c_MainAppPath), ignored);
+    const fs::path file = fs::weakly_canonical(portablePath(path), ignored);
     return liesBelow(file, application / "default") || file == application / "default.map";
 }
 

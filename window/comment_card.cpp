@@ -1,5 +1,6 @@
 #include "window/comment_card.h"
 
+#include "window/card.h"
 #include "window/look.h"
 #include "window/segment_row.h"
 #include "window/text_of.h"
@@ -185,11 +186,7 @@ int CommentCard::wantedHeight(int width) const {
 
 void CommentCard::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(look::line);
-    painter.setBrush(look::card);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), look::controlRadius,
-                            look::controlRadius);
+    paintCard(painter, rect());
 }
 
 } // namespace tarnel

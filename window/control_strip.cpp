@@ -1,6 +1,7 @@
 #include "window/control_strip.h"
 
 #include "window/bold_text.h"
+#include "window/card.h"
 #include "window/icons.h"
 #include "window/look.h"
 #include "window/segment_row.h"
@@ -160,11 +161,7 @@ void ControlStrip::resizeEvent(QResizeEvent*) {
 
 void ControlStrip::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(look::line);
-    painter.setBrush(look::card);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), look::controlRadius,
-                            look::controlRadius);
+    paintCard(painter, rect());
     painter.setPen(look::hairline);
     const int line = stack->y() - rowGap;
     painter.drawLine(look::cardInset, line, width() - look::cardInset, line);

@@ -79,7 +79,7 @@ TEST_F(ChartLoadingTest, UnreadableFilesLeaveTheFlight) {
     EXPECT_TRUE(messages.problems.empty());
     load(std::string(54, '*') + "\r\n");
     ASSERT_EQ(messages.problems.size(), 1U);
-    EXPECT_EQ(messages.problems[0].expected, ChartField::key);
+    EXPECT_EQ(messages.problems[0].expected, FileField::key);
     sim.c_ChartFileName = path + ".none";
     sim.c_loadChart = 2;
     EXPECT_EQ(sim.c_loadChart, 0);

@@ -149,12 +149,12 @@ TEST(ChartReader, EmptyFileIsAnEmptyChart) {
 }
 
 TEST(ChartReader, NamesTheLineWhereAFileIsTruncated) {
-    constexpr auto id = ChartField::identifier;
-    constexpr auto freq = ChartField::frequency;
-    constexpr auto lat = ChartField::latitude;
-    constexpr auto lon = ChartField::longitude;
+    constexpr auto id = FileField::identifier;
+    constexpr auto freq = FileField::frequency;
+    constexpr auto lat = FileField::latitude;
+    constexpr auto lon = FileField::longitude;
     // What line 17 holds is told by its tag, so without it the latitude is missed.
-    constexpr ChartField missed[lineCount] = {
+    constexpr FileField missed[lineCount] = {
         id,
         freq,
         id,
@@ -165,18 +165,16 @@ TEST(ChartReader, NamesTheLineWhereAFileIsTruncated) {
         freq,
         id,
         freq,
-        ChartField::stationState,
-        ChartField::stationState,
-        ChartField::ndbState,
-        ChartField::ndbState,
-        ChartField::stationState,
-        ChartField::mapCentre,
+        FileField::stationState,
+        FileField::stationState,
+        FileField::ndbState,
+        FileField::ndbState,
+        FileField::stationState,
+        FileField::mapCentre,
         lat,
         lat,
         lon,
-        ChartField::heading,
-        lon,
-        lat,
+        FileField::heading,
         lon,
         lat,
         lon,
@@ -185,12 +183,14 @@ TEST(ChartReader, NamesTheLineWhereAFileIsTruncated) {
         lat,
         lon,
         lat,
-        ChartField::localizerCourse,
+        lon,
+        lat,
+        FileField::localizerCourse,
     };
     const auto lines = sampleChartLines();
     for (std::size_t kept = 1; kept < lineCount; ++kept) {
         const ChartFile chart = readChart(joinLines(lines, kept));
-        const ChartProblem expected{static_cast<int>(kept) + 1, missed[kept], true};
+        const FileProblem expected{static_cast<int>(kept) + 1, missed[kept], true};
         EXPECT_EQ(chart.problem, expected) << kept;
         EXPECT_EQ(chart.stations[0].identifier, "ALB");
         EXPECT_EQ(chart.aircraft.has_value(), kept >= 19) << kept;
@@ -202,23 +202,23 @@ TEST(ChartReader, NamesTheLineThatIsWrong) {
     struct Case {
         std::size_t line;
         const char* text;
-        ChartField expected;
+        FileField expected;
     };
     constexpr Case cases[] = {
-        {2, ":v1fr", ChartField::frequency},        {3, "", ChartField::identifier},
-        {11, ":n1:,7", ChartField::stationState},   {12, ":n2:,-1", ChartField::stationState},
-        {15, ":n1:,1.5", ChartField::stationState}, {15, ":n1:,", ChartField::stationState},
-        {13, ":n3:,3", ChartField::ndbState},       {14, "n4", ChartField::ndbState},
-        {16, ":mc:,32768", ChartField::mapCentre},  {16, ":mc:,one", ChartField::mapCentre},
-        {17, ":ms:,wide", ChartField::mapScale},    {18, "90", ChartField::latitude},
-        {18, "48,25", ChartField::latitude},        {19, "360.1", ChartField::longitude},
-        {19, "nan", ChartField::longitude},         {20, "east", ChartField::heading},
-        {20, "-361", ChartField::heading},          {21, "1e999", ChartField::longitude},
-        {22, "-89.5", ChartField::latitude},        {31, "", ChartField::localizerCourse},
+        {2, ":v1fr", FileField::frequency},        {3, "", FileField::identifier},
+        {11, ":n1:,7", FileField::stationState},   {12, ":n2:,-1", FileField::stationState},
+        {15, ":n1:,1.5", FileField::stationState}, {15, ":n1:,", FileField::stationState},
+        {13, ":n3:,3", FileField::ndbState},       {14, "n4", FileField::ndbState},
+        {16, ":mc:,32768", FileField::mapCentre},  {16, ":mc:,one", FileField::mapCentre},
+        {17, ":ms:,wide", FileField::mapScale},    {18, "90", FileField::latitude},
+        {18, "48,25", FileField::latitude},        {19, "360.1", FileField::longitude},
+        {19, "nan", FileField::longitude},         {20, "east", FileField::heading},
+        {20, "-361", FileField::heading},          {21, "1e999", FileField::longitude},
+        {22, "-89.5", FileField::latitude},        {31, "", FileField::localizerCourse},
     };
     for (const Case& c : cases) {
         const ChartFile chart = readChart(chartWith(c.line, c.text));
-        const ChartProblem expected{static_cast<int>(c.line), c.expected, false};
+        const FileProblem expected{static_cast<int>(c.line), c.expected, false};
         EXPECT_EQ(chart.problem, expected) << c.line << ' ' << c.text;
     }
 }
@@ -231,9 +231,9 @@ TEST(ChartReader, EncipheredFileReadsAsThePlainOne) {
     EXPECT_EQ(writeChart(chart, {}), writeChart(readChart(plain), {}));
     EXPECT_EQ(chart.stations[4].identifier, "ILS EAST");
     EXPECT_EQ(readChart(std::string(54, '*') + "\r\n\r\n\r\n100\r\n").problem,
-              (ChartProblem{4, ChartField::key, false}));
+              (FileProblem{4, FileField::key, false}));
     EXPECT_EQ(readChart(encipheredChart(chartWith(19, "east"))).problem,
-              (ChartProblem{23, ChartField::longitude, false}));
+              (FileProblem{23, FileField::longitude, false}));
 }
 
 TEST(ChartReader, TextsAreReadInEitherEncoding) {

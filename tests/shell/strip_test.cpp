@@ -27,6 +27,13 @@ class StripTest : public testing::Test, protected Trainer {
         form.replayPage.bar.scrollTo(sample);
         couple();
     }
+    /// What acts only on a flight at rest.
+    void expectRestingControls(bool enabled) {
+        for (FormControl* control :
+             std::initializer_list<FormControl*>{&form.replayPage.play, &form.replayPage.bar,
+                                                 &form.replayPage.lock, &form.fileMenu.newSession})
+            EXPECT_EQ(control->enabled(), enabled) << control->name();
+    }
     [[nodiscard]] int newest() { return sim().c_TraceBufferMax; }
 };
 
@@ -38,19 +45,13 @@ TEST_F(StripTest, TwoClicksOnStartComeBack) {
     EXPECT_TRUE(form.simulationRuns());
     EXPECT_TRUE(form.pages.replay.chosen());
     EXPECT_EQ(form.modePanel.text(), "Training [M]ode");
-    for (FormControl* control :
-         std::initializer_list<FormControl*>{&form.replayPage.play, &form.replayPage.bar,
-                                             &form.replayPage.lock, &form.fileMenu.newSession})
-        EXPECT_FALSE(control->enabled()) << control->name();
+    expectRestingControls(false);
     form.pages.chart.click();
     start();
     EXPECT_FALSE(form.simulationRuns());
     EXPECT_TRUE(form.pages.replay.chosen());
     EXPECT_EQ(form.modePanel.text(), "Pause [M]ode");
-    for (FormControl* control :
-         std::initializer_list<FormControl*>{&form.replayPage.play, &form.replayPage.bar,
-                                             &form.replayPage.lock, &form.fileMenu.newSession})
-        EXPECT_TRUE(control->enabled()) << control->name();
+    expectRestingControls(true);
 }
 
 TEST_F(StripTest, APauseShowsTheNewestSampleAndGoesOnFromThere) {
