@@ -17,27 +17,29 @@ std::int16_t toBoolean(bool value) {
 } // namespace
 
 void UserControl2::loadChart() {
-    const auto path = nameFor(FileRequest::loadChart, c_loadChart, c_ChartFileName);
+    const std::int16_t how = c_loadChart;
+    const auto path = nameFor(FileRequest::loadChart, how, c_ChartFileName);
     c_loadChart.publish(0);
     if (path)
-        loadChartFrom(*path);
+        loadChartFrom(*path, how);
 }
 
 void UserControl2::openChart(const std::string& path) {
-    chartNamedByUser = messages.isShipped(path) ? std::string() : path;
-    loadChartFrom(path);
+    loadChartFrom(path, fileRequest::ask);
 }
 
-void UserControl2::loadChartFrom(const std::string& path) {
+/// Reads and checks first: a file with a wrong line changes nothing.
+void UserControl2::loadChartFrom(const std::string& path, std::int16_t how) {
     try {
         const ChartFile chart = readChart(readFileBytes(path, largestChart));
-        comeToRest();
+        if (chart.problem) {
+            messages.fileWrong(FileRequest::loadChart, path, *chart.problem, false);
+            return;
+        }
+        makeWayFor(FileRequest::loadChart, how);
         applyChart(chart);
         c_ChartFileName.setIfChanged(path);
-        if (chart.problem) {
-            chartNamedByUser.clear();
-            messages.fileWrong(FileRequest::loadChart, path, *chart.problem);
-        }
+        chartNamedByUser = how == fileRequest::ask ? namedByUser(path) : std::string();
     } catch (const RunTimeError& error) {
         messages.fileFailed(FileRequest::loadChart, path, error);
     }
@@ -124,6 +126,7 @@ void UserControl2::saveChart() {
     try {
         saveFileBytes(*path, writeChart(chart, keyToSave()));
         c_ChartFileName.setIfChanged(*path);
+        chartNamedByUser = namedByUser(*path);
     } catch (const RunTimeError& error) {
         messages.fileFailed(FileRequest::saveChart, *path, error);
     }

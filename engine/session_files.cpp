@@ -24,30 +24,33 @@ std::string inFolder(const std::string& folder, const std::string& name) {
 /// The path that a request means: asked for, the temporary one, or `present`. A save asks too if
 /// the user never named `present` himself.
 std::optional<std::string> UserControl2::nameFor(FileRequest request, std::int16_t how,
-                                                 const std::string& present) {
+                                                 const std::string& present) const {
     const bool saves = request == FileRequest::saveChart || request == FileRequest::saveSession;
-    std::string& named = request == FileRequest::loadChart || request == FileRequest::saveChart
-                             ? chartNamedByUser
-                             : sessionNamedByUser;
+    const std::string& named =
+        request == FileRequest::saveChart ? chartNamedByUser : sessionNamedByUser;
     if (how == fileRequest::temporary)
         return inFolder(c_ScratchPath, temporaryName);
     if (how == fileRequest::byName && (!saves || present == named))
         return present;
     if (how != fileRequest::ask && how != fileRequest::byName)
         return {};
-    auto chosen = messages.chooseFile(request, present);
-    if (chosen)
-        named = messages.isShipped(*chosen) ? std::string() : *chosen;
-    return chosen;
+    return messages.chooseFile(request, present);
 }
 
-void UserControl2::loadByName(const std::string& path) {
-    loadSessionFrom(FileRequest::loadSession, path, fileRequest::byName);
+/// What a save may overwrite unasked when the user has named `path`.
+std::string UserControl2::namedByUser(const std::string& path) const {
+    return messages.isShipped(path) ? std::string() : path;
 }
 
-/// Whoever owns the strip brings it to rest; without one the clock alone stops.
-void UserControl2::comeToRest() {
-    messages.stopForLoading();
+bool UserControl2::loadByName(const std::string& path) {
+    return loadSessionFrom(FileRequest::loadSession, path, fileRequest::byName);
+}
+
+/// The one place between a file that was read and found good and the first change that it makes:
+/// what has to be done about the flight in memory is done here. Whoever owns the strip brings it to
+/// rest; without one the clock alone stops.
+void UserControl2::makeWayFor(FileRequest request, std::int16_t how) {
+    messages.stopForLoading(request, how == fileRequest::ask);
     mouse.cancel();
     if (!stopped())
         c_TimerEN = 0;
@@ -64,6 +67,11 @@ bool UserControl2::keepTemporary() {
     }
 }
 
+bool UserControl2::recallTemporary() {
+    return loadSessionFrom(FileRequest::loadSession, inFolder(c_ScratchPath, temporaryName),
+                           fileRequest::temporary);
+}
+
 void UserControl2::showPracticePanel() {
     if (practicePanelSet && c_TrackDelta >= 0 && c_TrackDelta <= 3)
         practicePanelSet(c_TrackDelta);
@@ -71,7 +79,6 @@ void UserControl2::showPracticePanel() {
 }
 
 void UserControl2::openSession(const std::string& path) {
-    sessionNamedByUser = messages.isShipped(path) ? std::string() : path;
     loadSessionFrom(FileRequest::loadSession, path, fileRequest::ask);
 }
 
@@ -99,29 +106,40 @@ void UserControl2::loadOldSession() {
         loadSessionFrom(FileRequest::loadOldSession, *path, how);
 }
 
-/// A session that the user opened rests on its last sample; one loaded by name on its first.
-void UserControl2::loadSessionFrom(FileRequest request, const std::string& path, std::int16_t how) {
+/// Reads and checks first: a file without a whole sample changes nothing, one with a wrong line
+/// behind gives the samples before it. A session that the user opened rests on its last sample; one
+/// loaded by name on its first.
+bool UserControl2::loadSessionFrom(FileRequest request, const std::string& path, std::int16_t how) {
     try {
         std::string bytes = readFileBytes(path, largestSession);
         const SessionFile session = request == FileRequest::loadOldSession
                                         ? readOlderSession(std::move(bytes))
                                         : readSession(std::move(bytes));
-        comeToRest();
-        if (how != fileRequest::temporary) {
-            c_SessionFileName.setIfChanged(path);
-            takeReference(session);
-        }
-        applySession(session);
-        if (!session.samples.empty())
-            c_HscrollRepeatValue = how == fileRequest::byName ? std::int16_t{1} : c_TraceBufferMax;
-        // Saving under this name would lose what is left of the file, or its older form.
-        if (session.problem || request == FileRequest::loadOldSession)
-            sessionNamedByUser.clear();
+        const bool usable = !session.samples.empty();
+        if (usable)
+            takeSession(session, request, path, how);
         if (session.problem)
-            messages.fileWrong(request, path, *session.problem);
+            messages.fileWrong(request, path, *session.problem, usable);
+        return usable;
     } catch (const RunTimeError& error) {
         messages.fileFailed(request, path, error);
+        return false;
     }
+}
+
+/// A name that a save would overwrite goes only with a file that was opened whole, in today's form.
+void UserControl2::takeSession(const SessionFile& session, FileRequest request,
+                               const std::string& path, std::int16_t how) {
+    makeWayFor(request, how);
+    if (how != fileRequest::temporary) {
+        c_SessionFileName.setIfChanged(path);
+        takeReference(session);
+        const bool overwritable =
+            how == fileRequest::ask && !session.problem && request != FileRequest::loadOldSession;
+        sessionNamedByUser = overwritable ? namedByUser(path) : std::string();
+    }
+    applySession(session);
+    c_HscrollRepeatValue = how == fileRequest::byName ? std::int16_t{1} : c_TraceBufferMax;
 }
 
 void UserControl2::takeReference(const SessionFile& session) {
@@ -143,11 +161,8 @@ void UserControl2::applySession(const SessionFile& session) {
         recording.at(i) = session.samples[static_cast<std::size_t>(i) - 1];
     recording.setNewest(count);
     c_TraceBufferMax.publish(count);
-    c_FlyEN.publish(count > 0 ? 1 : 0);
-    if (count > 0)
-        restoreAll(count);
-    else
-        resumeMode = ResumeMode::clear;
+    c_FlyEN.publish(1);
+    restoreAll(count);
     c_MAPscale = session.mapScaleTwips.value_or(c_MAPscale.get());
     home = {view.mapCenter, c_MAPscale};
 }
@@ -160,8 +175,10 @@ void UserControl2::saveSession() {
         return;
     try {
         saveSessionTo(*path);
-        if (how != fileRequest::temporary)
-            c_SessionFileName.setIfChanged(*path);
+        if (how == fileRequest::temporary)
+            return;
+        c_SessionFileName.setIfChanged(*path);
+        sessionNamedByUser = namedByUser(*path);
     } catch (const RunTimeError& error) {
         messages.fileFailed(FileRequest::saveSession, *path, error);
     }

@@ -23,14 +23,15 @@ class SimulationMessages {
                                                   const std::string& present) = 0;
     /// Whether a file came with the program and must not be overwritten unasked.
     [[nodiscard]] virtual bool isShipped(const std::string& path) const = 0;
-    /// Brings flight and replay to rest before something is loaded over them.
-    virtual void stopForLoading() = 0;
+    /// Brings flight and replay to rest before something is loaded over them: a file that was read
+    /// and found good. `picked` if the user picked it himself.
+    virtual void stopForLoading(FileRequest request, bool picked) = 0;
     /// A file could not be read or written at all.
     virtual void fileFailed(FileRequest request, const std::string& path,
                             const RunTimeError& error) = 0;
-    /// A file was taken up to its first wrong line.
-    virtual void fileWrong(FileRequest request, const std::string& path,
-                           const FileProblem& problem) = 0;
+    /// A file has a wrong line. It was `taken` up to there, or nothing was changed.
+    virtual void fileWrong(FileRequest request, const std::string& path, const FileProblem& problem,
+                           bool taken) = 0;
 };
 
 } // namespace tarnel

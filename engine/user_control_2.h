@@ -65,12 +65,15 @@ class UserControl2 {
     void openSession(const std::string& path);
     /// Loads a chart that the user picked elsewhere, as his pick in the dialog does.
     void openChart(const std::string& path);
-    /// Loads a session of the program's own: its first sample comes up.
-    void loadByName(const std::string& path);
+    /// Loads a session of the program's own: its first sample comes up. False, with a box and
+    /// nothing changed, if the file has no whole sample.
+    bool loadByName(const std::string& path);
     /// The bytes of a session file with the flight as it was recorded.
     [[nodiscard]] std::string sessionBytes();
     /// Saves the flight aside, as a `c_saveSession` of 3 does. False, with a box, if that failed.
     bool keepTemporary();
+    /// Loads that flight again. False, with a box and nothing changed, if that failed.
+    bool recallTemporary();
     /// Forgets the flight and its reference; the aircraft stays.
     void dropRecording();
     /// Saves the flight as it was recorded. Throws what `saveFileBytes` throws.
@@ -298,12 +301,13 @@ class UserControl2 {
     void followHeadingUp(bool moved);
 
     std::optional<std::string> nameFor(FileRequest request, std::int16_t how,
-                                       const std::string& present);
+                                       const std::string& present) const;
+    [[nodiscard]] std::string namedByUser(const std::string& path) const;
     std::optional<int> keyToSave();
     void randomize();
-    void comeToRest();
+    void makeWayFor(FileRequest request, std::int16_t how);
     void loadChart();
-    void loadChartFrom(const std::string& path);
+    void loadChartFrom(const std::string& path, std::int16_t how);
     void saveChart();
     void applyChart(const ChartFile& chart);
     void applyStations(const StationBlock& block);
@@ -312,7 +316,9 @@ class UserControl2 {
     void loadSession();
     void loadOldSession();
     void saveSession();
-    void loadSessionFrom(FileRequest request, const std::string& path, std::int16_t how);
+    bool loadSessionFrom(FileRequest request, const std::string& path, std::int16_t how);
+    void takeSession(const SessionFile& session, FileRequest request, const std::string& path,
+                     std::int16_t how);
     void takeReference(const SessionFile& session);
     void applySession(const SessionFile& session);
     void restoreAll(std::int16_t index);

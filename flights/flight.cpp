@@ -15,13 +15,10 @@ constexpr std::int16_t loadNamedChart = 2;
 constexpr int couplingsPerTick = 3;
 
 /// What a box about a chart says on its lines but the first, which names the procedure, and the
-/// last if it is `hint`. All on one line.
-std::string detailsOf(std::string text, std::string_view hint) {
+/// last, which says what is flown on. All on one line.
+std::string detailsOf(std::string text) {
     text.erase(0, text.find('\n') + 1);
-    if (text.ends_with(hint))
-        text.erase(text.size() - hint.size());
-    while (text.ends_with('\n'))
-        text.pop_back();
+    text.erase(text.rfind('\n'));
     std::string details;
     for (const char c : text)
         details += c == '\n' ? std::string(", ") : std::string(1, c);
@@ -54,8 +51,7 @@ void ScriptedFlight::checkChart() const {
     if (world.boxes.empty())
         return;
     throw PlanError(flightPlan.file, flightPlan.chartLine,
-                    "a chart that can be read: " +
-                        detailsOf(world.boxes.front().text, trainer.texts[Text::builtInChart]));
+                    "a chart that can be read: " + detailsOf(world.boxes.front().text));
 }
 
 void ScriptedFlight::prepare() {

@@ -12,7 +12,7 @@ inline void requireThatItCanBeSaved(const SessionFile& session) {
     require(session.comments.size() <= Comments::count);
     const std::string saved = writeSession(session, {});
     const SessionFile again = readSession(saved);
-    require(!again.problem);
+    require(again.problem.has_value() == session.samples.empty());
     require(again.samples.size() == session.samples.size());
     require(writeSession(again, {}) == saved);
     require(writeSession(readSession(writeSession(session, key)), {}) == saved);

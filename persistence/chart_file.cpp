@@ -31,8 +31,6 @@ void readPositions(LineSource& lines, ChartFile& chart) {
 
 void readAll(LineSource& lines, ChartFile& chart) {
     lines.openEitherForm();
-    if (lines.atEnd())
-        return;
     readStations(lines, chart);
     chart.mapCenterSelect = readMapCentre(lines);
     readMapScale(lines, chart);

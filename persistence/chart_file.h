@@ -16,10 +16,9 @@ struct ChartFile : StationBlock {
 };
 
 /// Reads the bytes of a `.map` file, plain or enciphered: one value a line, by position, lines
-/// ended by CR LF or LF. An empty file is an empty chart. A file that does not begin with ":v1"
-/// starts at the station states. A map scale outside 0.5 to 4 is left out. Longitudes go to 360, as
-/// those of a flight over the date line run on. Never throws on bad content: what stood before the
-/// first wrong line is kept.
+/// ended by CR LF or LF. A file that does not begin with ":v1" starts at the station states. A map
+/// scale outside 0.5 to 4 is left out. Longitudes go to 360, as those of a flight over the date
+/// line run on. Never throws on bad content: what stood before the first wrong line is kept.
 [[nodiscard]] ChartFile readChart(std::string bytes);
 
 /// The bytes of a `.map` file, enciphered if there is a `key` (1 to 99). What `chart` does not give

@@ -67,8 +67,6 @@ void readFields(LineSource& lines, const SessionFile& session, Sample& sample) {
 
 void readAll(LineSource& lines, SessionFile& session) {
     lines.openPlain();
-    if (lines.atEnd())
-        return;
     readComments(lines, session);
     for (std::size_t slot = 0; slot < slotCount; ++slot)
         readStationOn(lines, slot, session.stations[slot]);

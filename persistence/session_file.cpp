@@ -21,8 +21,6 @@ void readFields(LineSource& lines, Sample& sample) {
 
 void readAll(LineSource& lines, SessionFile& session) {
     lines.openEitherForm();
-    if (lines.atEnd())
-        return;
     readComments(lines, session);
     readStations(lines, session);
     if (const std::int16_t centre = readMapCentre(lines); centre > 0)

@@ -21,9 +21,9 @@ struct SessionFile : StationBlock {
 constexpr std::size_t largestSession = std::size_t{8} << 20;
 
 /// Reads the bytes of a `.ts` file, plain or enciphered: comments, stations and map, then 40 lines
-/// and one line of separation for each sample, ended by CR LF or LF. An empty file is an empty
-/// session. Never throws on bad content: what stood before the first wrong line is kept, of the
-/// samples the whole ones. Of more than 6,000 samples the first 6,000 are read.
+/// and one line of separation for each sample, ended by CR LF or LF. Never throws on bad content:
+/// what stood before the first wrong line is kept, of the samples the whole ones. A file that ends
+/// before its first sample is wrong there. Of more than 6,000 samples the first 6,000 are read.
 ///
 /// The number of a sample's comment is -1 to 100, whether or not the file has such a comment.
 [[nodiscard]] SessionFile readSession(std::string bytes);

@@ -10,18 +10,18 @@ namespace tarnel {
 /// Takes the comments that the rest of `lines` begins with.
 void readComments(LineSource& lines, SessionFile& session);
 
-/// Takes samples up to the end. `readFields` takes the lines of one but for the line of separation
-/// behind it. A sample that is not whole is not kept.
+/// Takes samples up to the end, one at least. `readFields` takes the lines of one but for the line
+/// of separation behind it. A sample that is not whole is not kept.
 template <class ReadFields>
 void readSamples(LineSource& lines, SessionFile& session, ReadFields readFields) {
-    while (!lines.atEnd()) {
+    do {
         if (session.samples.size() == Recording::lastSample)
             lines.failBeyond(FileField::noFurtherSample);
         Sample sample;
         readFields(sample);
         lines.next(FileField::sampleEnd);
         session.samples.push_back(sample);
-    }
+    } while (!lines.atEnd());
 }
 
 /// Reads with `readAll(lines, session)` until a line is wrong.

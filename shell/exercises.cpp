@@ -63,27 +63,27 @@ std::string Form1::shippedSession(const std::string& name, bool ownLanguage) con
 }
 
 void Form1::openPractice(const std::string& name, bool practised) {
-    const std::string path = shippedSession(name, practised);
+    if (!loadPractised(shippedSession(name, practised)))
+        return;
     chartPage.trace.set(1);
-    loadPractised(path);
-    practising = practised && UserControl11.c_SessionFileName.get() == path;
+    practising = practised;
     UserControl11.c_TrackDelta = practising ? 1 : 0;
 }
 
 /// Loads a session of the program's own. In an exercise the chart is centred on the stations, which
-/// tell nothing of where the aircraft is; a session that can't be read leaves no other flight
-/// behind.
-void Form1::loadPractised(const std::string& path) {
-    practisedPath = path;
-    UserControl11.c_SessionFileName.publish({});
-    UserControl11.loadByName(path);
-    const bool loaded = UserControl11.c_SessionFileName.get() == path;
-    if (exerciseUp && loaded)
+/// tell nothing of where the aircraft is, and a session that can't be read leaves no other flight
+/// behind. False if it can't.
+bool Form1::loadPractised(const std::string& path) {
+    const bool loaded = UserControl11.loadByName(path);
+    if (loaded || exerciseUp)
+        practisedPath = path;
+    if (exerciseUp && loaded) {
         UserControl11.centreOnStations();
-    else if (exerciseUp)
+    } else if (exerciseUp) {
         UserControl11.dropRecording();
-    if (!loaded)
         UserControl11.c_SessionFileName = text(Text::newSessionFile);
+    }
+    return loaded;
 }
 
 void Form1::startExercise(const ExerciseItem& item) {

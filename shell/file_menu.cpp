@@ -15,8 +15,8 @@ void Form1::connectFiles() {
         return [&request, how] { request = how; };
     };
     fileMenu.newSession.onClick = [this] { newSession(); };
-    fileMenu.loadSession.onClick = [this] { askForSession(UserControl11.c_loadSession); };
-    fileMenu.loadOldSession.onClick = [this] { askForSession(UserControl11.c_LoadOLDSession); };
+    fileMenu.loadSession.onClick = ask(sim.c_loadSession, fileRequest::ask);
+    fileMenu.loadOldSession.onClick = ask(sim.c_LoadOLDSession, fileRequest::ask);
     fileMenu.saveSession.onClick = ask(sim.c_saveSession, fileRequest::byName);
     fileMenu.saveSessionAs.onClick = ask(sim.c_saveSession, fileRequest::ask);
     fileMenu.loadChart.onClick = ask(sim.c_loadChart, fileRequest::ask);
@@ -45,19 +45,9 @@ void Form1::newSession() {
     replayPage.bar.setValue(1);
 }
 
-/// A session that the user opens shows its trace.
-void Form1::askForSession(Property<std::int16_t>& request) {
-    replayPage.lock.set(0);
-    chartPage.trace.set(1);
-    request = fileRequest::ask;
-}
-
 void Form1::openSession(const std::string& path) {
-    if (!fileMenu.loadSession.enabled())
-        return;
-    replayPage.lock.set(0);
-    chartPage.trace.set(1);
-    UserControl11.openSession(path);
+    if (fileMenu.loadSession.enabled())
+        UserControl11.openSession(path);
 }
 
 void Form1::openFile(const std::string& path) {
@@ -85,7 +75,10 @@ void Form1::keepPracticeFlight() {
         return;
     }
     const bool practised = practising;
-    loadPractised(practisedPath);
+    if (!loadPractised(practisedPath)) {
+        practicePanel.recall.show();
+        return;
+    }
     practising = practised;
     UserControl11.c_TrackDelta = 2;
 }
@@ -94,7 +87,10 @@ void Form1::recallPracticeFlight() {
     if (!UserControl11.stopped() || UserControl11.c_TrackDelta != 0)
         return;
     const bool practised = practising;
-    UserControl11.c_loadSession = fileRequest::temporary;
+    if (!UserControl11.recallTemporary()) {
+        practicePanel.keep.show();
+        return;
+    }
     practising = practised;
     UserControl11.c_TrackDelta = 3;
 }

@@ -61,9 +61,14 @@ bool Form1::isShipped(const std::string& path) const {
     return liesBelow(file, application / "default") || file == application / "default.map";
 }
 
-void Form1::stopForLoading() {
+/// A session that the user picked shows its trace.
+void Form1::stopForLoading(FileRequest request, bool picked) {
     StopReplay();
     StopFly();
+    if (picked && !isChart(request)) {
+        replayPage.lock.set(0);
+        chartPage.trace.set(1);
+    }
     practising = false;
     UserControl11.c_TrackDelta = 0;
     commentPanel.text.setText({});

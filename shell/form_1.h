@@ -287,10 +287,9 @@ class Form1 : private SimulationMessages {
     void startOrStopComment();
     void stepComment(int step);
     void followCommentStrip();
-    void loadPractised(const std::string& path);
+    bool loadPractised(const std::string& path);
     void showPracticePanel(std::int16_t panel);
     void newSession();
-    void askForSession(Property<std::int16_t>& request);
     void keepPracticeFlight();
     void recallPracticeFlight();
     void restOrFly(bool resting);
@@ -306,14 +305,16 @@ class Form1 : private SimulationMessages {
     bool openDocument(const std::string& path, int page);
     bool openShipped(const std::string& german, const std::string& other);
     void reportRunTimeError(const RunTimeError& error);
+    [[nodiscard]] std::string problemText(const FileProblem& problem) const;
+    [[nodiscard]] std::string afterFailedLoad() const;
     void bufferWarning(BufferWarning warning) override;
     std::optional<std::string> chooseFile(FileRequest request, const std::string& present) override;
     [[nodiscard]] bool isShipped(const std::string& path) const override;
-    void stopForLoading() override;
+    void stopForLoading(FileRequest request, bool picked) override;
     void fileFailed(FileRequest request, const std::string& path,
                     const RunTimeError& error) override;
-    void fileWrong(FileRequest request, const std::string& path,
-                   const FileProblem& problem) override;
+    void fileWrong(FileRequest request, const std::string& path, const FileProblem& problem,
+                   bool taken) override;
 
     PositionLinks inst2Links;
     PositionLinks inst3Links;

@@ -115,21 +115,35 @@ void Form1::bufferWarning(BufferWarning warning) {
     showBox(text(Text::replayBufferTitle), message);
 }
 
+/// What a load that failed has left: at the start, the chart that is built in.
+std::string Form1::afterFailedLoad() const {
+    if (UserControl11.c_SessionFileName.get().empty())
+        return "\n" + text(Text::builtInChart);
+    return exerciseUp ? std::string() : "\n" + text(Text::nothingChanged);
+}
+
 void Form1::fileFailed(FileRequest request, const std::string& path, const RunTimeError& error) {
     std::string description = path + "\n" + error.what();
-    const bool startsUp = UserControl11.c_SessionFileName.get().empty();
-    if (request == FileRequest::loadChart && startsUp)
-        description += "\n" + text(Text::builtInChart);
+    if (request != FileRequest::saveChart && request != FileRequest::saveSession)
+        description += afterFailedLoad();
     showBox(text(Text::errorTitle), fileError(texts, request, error, error.source(), description));
 }
 
-void Form1::fileWrong(FileRequest request, const std::string& path, const FileProblem& problem) {
+std::string Form1::problemText(const FileProblem& problem) const {
+    if (problem.endOfFile && problem.line == 1)
+        return text(Text::fileEmpty);
     const std::string line = numberText(std::int64_t{problem.line});
+    const std::string ends =
+        problem.endOfFile ? filledIn(texts[Text::fileEndsBefore], {line}) + "\n" : std::string();
     const std::string expected(texts[expectedName(problem.expected)]);
-    std::string description = path + "\n";
-    if (problem.endOfFile)
-        description += filledIn(texts[Text::fileEndsBefore], {line}) + "\n";
-    description += filledIn(texts[Text::lineExpected], {line, expected});
+    return ends + filledIn(texts[Text::lineExpected], {line, expected});
+}
+
+void Form1::fileWrong(FileRequest request, const std::string& path, const FileProblem& problem,
+                      bool taken) {
+    const std::string description =
+        path + "\n" + problemText(problem) +
+        (taken ? "\n" + text(Text::flightTakenUpTo) : afterFailedLoad());
     showBox(text(Text::errorTitle), fileError(texts, request, toRunTimeError(problem),
                                               text(Text::windowTitle), description));
 }

@@ -566,6 +566,9 @@ constexpr StringEntry entries[] = {
     {690, "heading"},
     {691, "localizer course"},
     {692, "the file ends before line %1"},
+    {738, "The file is empty."},
+    {739, "Nothing was changed."},
+    {740, "The flight was loaded up to there."},
     // Spoken names and values.
     {693, "ADF"},
     {694, "Radio magnetic indicator"},

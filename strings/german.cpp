@@ -570,6 +570,9 @@ constexpr StringEntry entries[] = {
     {690, "Heading"},
     {691, "Localizer-Kurs"},
     {692, "die Datei endet vor Zeile %1"},
+    {738, "Die Datei ist leer."},
+    {739, "Es wurde nichts geändert."},
+    {740, "Der Flug wurde bis dorthin geladen."},
     // Spoken names and values.
     {693, "ADF"},
     {694, "Radio Magnetic Indicator"},

@@ -520,6 +520,9 @@ enum class Text : int {
     expectedHeading = 690,
     expectedLocalizerCourse = 691,
     fileEndsBefore = 692,
+    fileEmpty = 738,
+    nothingChanged = 739,
+    flightTakenUpTo = 740,
 
     // Spoken names and values.
     spokenAdf = 693,

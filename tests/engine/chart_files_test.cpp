@@ -70,44 +70,6 @@ TEST_F(ChartLoadingTest, RecordingStartsOver) {
     EXPECT_EQ(sim.c_ApSeconds2, 1);
 }
 
-TEST_F(ChartLoadingTest, UnreadableFilesLeaveTheFlight) {
-    start(120);
-    tick(11);
-    sim.c_TimerEN = 0;
-    const GeoPosition before = place();
-    load(""); // says nothing and does nothing
-    EXPECT_TRUE(messages.problems.empty());
-    load(std::string(54, '*') + "\r\n");
-    ASSERT_EQ(messages.problems.size(), 1U);
-    EXPECT_EQ(messages.problems[0].expected, FileField::key);
-    sim.c_ChartFileName = path + ".none";
-    sim.c_loadChart = 2;
-    EXPECT_EQ(sim.c_loadChart, 0);
-    EXPECT_EQ(messages.failures, std::vector<int>{53});
-    EXPECT_EQ(place(), before);
-    EXPECT_EQ(sim.c_TraceBufferMax, 4);
-    sim.c_TimerEN = 1;
-    tick(4);
-    EXPECT_EQ(sim.c_TraceBufferMax, 5);
-}
-
-TEST_F(ChartLoadingTest, TruncatedFileKeepsWhatStoodBefore) {
-    sim.c_LocCrs1 = 44;
-    for (std::size_t lines = 1; lines < 31; ++lines) {
-        loadLines(lines);
-        ASSERT_EQ(messages.problems.size(), lines);
-        EXPECT_EQ(messages.problems.back().line, static_cast<int>(lines) + 1);
-        EXPECT_EQ(sim.c_LocCrs1, 44);
-        EXPECT_EQ(place().latitude, lines >= 19 ? 48.25 : 49) << lines;
-        start(120);
-        tick(8); // it flies
-        sim.c_TimerEN = 0;
-        sim.aircraft.placeAt(GeoPosition{49, 11});
-    }
-    EXPECT_EQ(station(Slot::vor1).name.get(), "ALB");
-    EXPECT_TRUE(messages.failures.empty());
-}
-
 TEST_F(ChartLoadingTest, ScaleOutOfRangeStays) {
     sim.c_MAPscale = 500;
     load(chartWith(17, ":ms:,4.1"));

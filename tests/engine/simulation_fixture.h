@@ -25,11 +25,11 @@ struct RecordedMessages : SimulationMessages {
     bool isShipped(const std::string& path) const override {
         return path.find("/default/") != std::string::npos;
     }
-    void stopForLoading() override { ++stops; }
+    void stopForLoading(FileRequest, bool) override { ++stops; }
     void fileFailed(FileRequest, const std::string&, const RunTimeError& error) override {
         failures.push_back(error.number());
     }
-    void fileWrong(FileRequest, const std::string&, const FileProblem& problem) override {
+    void fileWrong(FileRequest, const std::string&, const FileProblem& problem, bool) override {
         problems.push_back(problem);
     }
 

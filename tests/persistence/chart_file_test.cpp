@@ -141,13 +141,6 @@ TEST(ChartReader, LabelCodesThatMeanNothingStandAbove) {
     EXPECT_EQ(readChart(chartWith(3, ":v2id:,")).stations[1].identifier, "");
 }
 
-TEST(ChartReader, EmptyFileIsAnEmptyChart) {
-    const ChartFile chart = readChart("");
-    EXPECT_FALSE(chart.problem);
-    EXPECT_FALSE(chart.aircraft);
-    EXPECT_FALSE(chart.stations[0].state);
-}
-
 TEST(ChartReader, NamesTheLineWhereAFileIsTruncated) {
     constexpr auto id = FileField::identifier;
     constexpr auto freq = FileField::frequency;

@@ -170,26 +170,39 @@ TEST_F(FilesTest, AWrongLineIsNamedAndTheWholeSamplesCount) {
     world.chosen = folder.path + "/nofolder/x.ts";
     form->fileMenu.saveSessionAs.click();
     EXPECT_THAT(world.boxes[2], HasSubstr("SaveSession ERROR # 76"));
-    write("wrong.map", ":v1id:,A@u\r\n:v1fr:,112.30\r\n");
-    world.chosen = folder.path + "/wrong.map";
-    form->fileMenu.loadChart.click();
-    EXPECT_THAT(world.boxes[3], HasSubstr("c_loadChart ERROR # 62"));
-    EXPECT_EQ(sim().slot(Slot::vor1).name.get(), "A");
 }
 
-TEST_F(FilesTest, ASessionWithoutSamplesRestoresNothing) {
+TEST_F(FilesTest, AFileWithoutWhatItShouldHoldChangesNothing) {
     fly(20);
-    const GeoPosition before = sim().aircraft.published();
-    std::string text = bytes("default.map");
-    write("empty.ts", text.substr(0, text.find(":ms:,")) + ":ms:,2\r\n");
-    load("empty.ts");
-    EXPECT_TRUE(world.boxes.empty());
-    EXPECT_EQ(sim().c_TraceBufferMax, 0);
-    EXPECT_EQ(sim().aircraft.published(), before);
-    EXPECT_FALSE(sim().referenceReading.known);
-    couple();
-    fly(8);
-    EXPECT_EQ(sim().c_TraceBufferMax, 6);
+    saveAs("mine.ts");
+    const std::string session = bytes("mine.ts");
+    const std::string chart = bytes("default.map");
+    const std::size_t firstSample = session.find("\r\n", session.find(":ms:,")) + 2;
+    load("mine.ts"); // locked, which a load that the user asks for would end
+    form->chartPage.trace.set(0);
+    const auto state = [this] {
+        couple();
+        return sim().sessionBytes() + form->sessionPanel.text() + form->tracePanel.text() +
+               std::to_string(form->replayPage.lock.value()) + sim().c_ChartFileName.get() +
+               std::to_string(sim().referenceReading.known);
+    };
+    const std::string before = state();
+    const auto expectUnchanged = [&](const std::string& name, const std::string& text) {
+        write(name, text);
+        world.boxes.clear();
+        form->openFile(folder.path + "/" + name);
+        ASSERT_EQ(world.boxes.size(), 1U) << text;
+        EXPECT_THAT(world.boxes[0], HasSubstr("\nNothing was changed.")) << text;
+        EXPECT_TRUE(state() == before) << text;
+    };
+    for (std::size_t end = 0; end + 2 < chart.size(); end = chart.find('\n', end + 1))
+        expectUnchanged("bad.map", chart.substr(0, end));
+    for (const std::size_t size : {std::size_t{0}, std::size_t{100}, firstSample, firstSample + 50})
+        expectUnchanged("bad.ts", session.substr(0, size));
+    write("default/sessions/introduction 1.ts", "");
+    form->exerciseMenu.introduction1.click();
+    EXPECT_EQ(world.boxes.size(), 2U);
+    EXPECT_TRUE(state() == before);
 }
 
 TEST_F(FilesTest, ALoadLeavesNoHalfWrittenComment) {

@@ -64,14 +64,14 @@ TEST(StartUp, MissingChartIsToldAndTheBuiltInOneFlies) {
     EXPECT_GT(trainer.sim().aircraft.aircraftLat, 49.03);
 }
 
-TEST(StartUp, WrongChartNamesTheLineAndKeepsWhatStoodBefore) {
+TEST(StartUp, WrongChartNamesTheLineAndTheBuiltInOneFlies) {
     const ApplicationFolder folder;
     folder.writeChart(":v1id:,ABC\r\n:v1fr:,113.00\r\n:v2id:,DEF\n");
     Trainer trainer(folder.path);
     ASSERT_EQ(trainer.world.boxes.size(), 1);
     EXPECT_THAT(trainer.world.boxes[0], HasSubstr("line 4"));
-    EXPECT_EQ(trainer.sim().slot(Slot::vor1).name.get(), "ABC");
-    EXPECT_EQ(trainer.form.NAVControlFace1.c_Freq1.get(), "113.00");
+    EXPECT_THAT(trainer.world.boxes[0], HasSubstr("built-in chart"));
+    EXPECT_EQ(trainer.sim().slot(Slot::vor1).name.get(), "VOR1");
 }
 
 } // namespace
