@@ -17,6 +17,7 @@ constexpr double simTimeFactor = 1.0;
 struct Wind {
     double direction = 0;   ///< degrees that it comes from
     std::int16_t speed = 0; ///< knots
+    bool operator==(const Wind&) const = default;
 };
 
 /// The aircraft: a point that is carried along its heading, without lift, drag or inertia.

@@ -2,6 +2,7 @@
 
 #include "core/run_time_error.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace tarnel {
@@ -14,6 +15,12 @@ const std::string& Comments::text(int index) const {
 
 void Comments::setText(int index, std::string text_) {
     const_cast<std::string&>(text(index)) = std::move(text_);
+    free = std::max(free, static_cast<std::int16_t>(index + 1));
+}
+
+void Comments::reuse() {
+    free = commentCount = 0;
+    currentCommentIndex = selectedCommentIndex = noComment;
 }
 
 std::string Comments::shownText(std::int16_t index) const {

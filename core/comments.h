@@ -17,12 +17,16 @@ class Comments {
     /// The text of entry `index`, 0 to 100. Throws the subscript error outside.
     [[nodiscard]] const std::string& text(int index) const;
     void setText(int index, std::string text);
+    /// The entry behind the last that was written since the table was clear or reused.
+    [[nodiscard]] std::int16_t firstFree() const { return free; }
     /// The text that a sample with comment `index` shows: none for `noComment` and for an index
     /// beyond the table.
     [[nodiscard]] std::string shownText(std::int16_t index) const;
 
     /// Forgets texts and marks.
     void clear() { *this = Comments{}; }
+    /// Takes the marking back to the first entry: all are free again, and keep their texts.
+    void reuse();
 
     std::int16_t commentCount = 0;                 ///< the entry being written: the next free one
     std::int16_t currentCommentIndex = noComment;  ///< the comment of the present sample
@@ -31,6 +35,7 @@ class Comments {
 
   private:
     std::array<std::string, count> texts;
+    std::int16_t free = 0;
 };
 
 } // namespace tarnel

@@ -93,11 +93,10 @@ void UserControl2::resetView() {
 void UserControl2::switchEditing() {
     c_EditChart = c_mapedit;
     mouse.cancel();
-    if (c_mapedit != 1)
+    if (c_mapedit != 1 || !hasCommentMarks())
         return;
     recording.markComment(0, Recording::lastSample, noComment);
-    comments.commentCount = 0;
-    comments.currentCommentIndex = comments.selectedCommentIndex = noComment;
+    comments.reuse();
     c_CurrentComment.setIfChanged({});
 }
 
@@ -136,6 +135,17 @@ void UserControl2::switchView() {
 void UserControl2::placeAircraft(ChartPoint point) {
     aircraft.place = {point, {static_cast<double>(point.x), static_cast<double>(point.y)}};
     aircraft.placeAt(view.plot.MapToGeo(point));
+    aircraftPlaced();
+}
+
+/// As a hand's place of the aircraft, which need not lie on the paper.
+void UserControl2::putAircraft(const SplitPosition& position) {
+    aircraft.placeAt(position);
+    view.placeAircraft(aircraft);
+    aircraftPlaced();
+}
+
+void UserControl2::aircraftPlaced() {
     picture.trace.clear();
     resumeMode = ResumeMode::clear;
     referenceReading = {};

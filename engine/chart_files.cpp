@@ -76,6 +76,7 @@ void UserControl2::applyStations(const StationBlock& block) {
 }
 
 void UserControl2::applyChart(const ChartFile& chart) {
+    history.clear();
     forgetComments();
     sessionNamedByUser.clear();
     clock = FlightClock{};
@@ -90,6 +91,8 @@ void UserControl2::applyChart(const ChartFile& chart) {
     home.scale = c_MAPscale;
     if (!chart.aircraft)
         return;
+    becomeNewSession();
+    c_replayInstLock = 0;
     placeAircraft(*chart.aircraft);
     home.centre = view.mapCenter;
     if (chart.heading)

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace tarnel {
 
@@ -34,25 +35,41 @@ void ChartMouse::decodeRightButton() {
 }
 
 void ChartMouse::down(ChartButton button, Point at) {
-    beforeDrag.reset();
+    finish();
+    stationMoved = false;
     if (!allowed())
         return;
     if (button == ChartButton::right && sim.stopped())
         decodeRightButton();
     if (tool == Tool::wind) {
+        begin(Deed::setWind);
         windDragging = true;
         windStart = at;
     } else if (tool == Tool::heading) {
+        begin(Deed::turnAircraft);
         headingDragging = true;
         showHeadingLine(at);
     } else if (button == ChartButton::left && stationAt(at)) {
         draggedStation = stationAt(at);
-        beforeDrag.emplace(*draggedStation, inSlot(sim.stations, *draggedStation).position);
+        begin(Deed::moveStation, *draggedStation);
         dragStation(at);
     } else if (button == ChartButton::left) {
+        begin(Deed::placeAircraft);
         airplaneDragging = true;
         place(at);
     }
+}
+
+void ChartMouse::begin(Deed deed, Slot slot) {
+    held = sim.beginStep(deed, slot);
+}
+
+void ChartMouse::finish() {
+    if (!held)
+        return;
+    const bool station = held->deed == Deed::moveStation;
+    const bool changed = sim.finishStep(*std::exchange(held, std::nullopt));
+    stationMoved = station && changed;
 }
 
 void ChartMouse::move(Point at) {
@@ -71,6 +88,7 @@ void ChartMouse::move(Point at) {
 void ChartMouse::up() {
     if (headingDragging || windDragging || draggedStation)
         cancel();
+    finish();
     airplaneDragging = false;
     sim.windLabelOn = true;
 }
@@ -88,6 +106,11 @@ void ChartMouse::pickWindTool() {
 }
 
 void ChartMouse::cancel() {
+    finish();
+    letGo();
+}
+
+void ChartMouse::letGo() {
     tool = Tool::standard;
     airplaneDragging = headingDragging = windDragging = false;
     draggedStation.reset();
@@ -121,11 +144,21 @@ std::optional<Slot> ChartMouse::stationAt(Point at) const {
     return {};
 }
 
+bool ChartMouse::takeBack() {
+    if (!held)
+        return false;
+    const HandStep step = *std::exchange(held, std::nullopt);
+    letGo();
+    sim.windLabelOn = true;
+    sim.putBack(step);
+    return true;
+}
+
 void ChartMouse::takeBackDrag() {
-    cancel();
-    if (!beforeDrag)
+    if (takeBack() || !std::exchange(stationMoved, false))
         return;
-    sim.moveStation(beforeDrag->first, beforeDrag->second);
+    sim.undo();
+    sim.history.forgetUndone();
 }
 
 /// The symbol's centre follows the pointer. The bearings are those of the dragged station from each

@@ -2,11 +2,11 @@
 
 #include "core/drawing_surface.h"
 #include "core/stations.h"
+#include "engine/hand_history.h"
 
 #include <cstdint>
 #include <functional>
 #include <optional>
-#include <utility>
 
 namespace tarnel {
 
@@ -26,10 +26,14 @@ class ChartMouse {
     void down(ChartButton button, Point at);
     void move(Point at);
     void up();
+    /// True between a press and its release, if it took hold of anything.
+    [[nodiscard]] bool holds() const { return held.has_value(); }
+    /// Puts back what the hand holds, as if it had not been touched. False if it holds nothing.
+    bool takeBack();
     /// Puts the station that the last press took hold of back to where it stood: a double click is
     /// no drag.
     void takeBackDrag();
-    /// Puts every tool away and hides what they show.
+    /// Ends a drag as the release does, puts every tool away and hides what they show.
     void cancel();
 
     /// The station whose symbol lies at a chart position, while charts are edited.
@@ -45,7 +49,8 @@ class ChartMouse {
     [[nodiscard]] bool headingTool() const { return tool == Tool::heading; }
     [[nodiscard]] bool windTool() const { return tool == Tool::wind; }
 
-    /// Called with the heading that was just drawn, whole degrees 0 to 359.
+    /// Called with the heading that the bug takes: the one that was just drawn, whole degrees 0 to
+    /// 359, or the bug's before it if that is taken back.
     std::function<void(std::int16_t)> headingDrawn;
 
   private:
@@ -59,6 +64,9 @@ class ChartMouse {
     void showWindLine(Point at);
     void drawWind(Point at);
     void dragStation(Point at);
+    void begin(Deed deed, Slot slot = Slot::vor1);
+    void finish();
+    void letGo();
     void hideHeadingLine();
     void hideWindLine();
 
@@ -70,8 +78,8 @@ class ChartMouse {
     bool windDragging = false;
     Point windStart;
     std::optional<Slot> draggedStation;
-    /// Where the station stood that the last press took hold of.
-    std::optional<std::pair<Slot, SplitPosition>> beforeDrag;
+    std::optional<HandStep> held; ///< what the hand is doing
+    bool stationMoved = false;    ///< the last press has moved a station
 };
 
 } // namespace tarnel

@@ -24,7 +24,7 @@ void UserControl2::startComment(const std::string& text) {
 void UserControl2::stopComment() {
     if (comments.selectedCommentIndex == noComment)
         return;
-    ++comments.commentCount;
+    comments.commentCount = comments.firstFree();
     if (!stopped()) {
         comments.currentCommentIndex = comments.selectedCommentIndex = noComment;
         return;
@@ -50,10 +50,18 @@ void UserControl2::deleteComment() {
 
 void UserControl2::deleteAllComments() {
     recording.markComment(1, c_TraceBufferMax, noComment);
-    comments.commentCount = 0;
-    comments.selectedCommentIndex = noComment;
+    comments.reuse();
     showComment(presentSampleIndex());
     comments.currentCommentIndex = 0;
+}
+
+bool UserControl2::hasCommentMarks() const {
+    if (comments.selectedCommentIndex != noComment)
+        return true;
+    for (int i = 1; i <= c_TraceBufferMax; ++i)
+        if (recording.at(i).traceComment != noComment)
+            return true;
+    return false;
 }
 
 void UserControl2::stepComment(int step) {

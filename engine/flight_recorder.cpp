@@ -57,10 +57,12 @@ void UserControl2::copySettings(Sample& sample) const {
 void UserControl2::recordSample() {
     if (c_TAS > 0) {
         const BufferWarning warning = recording.advance();
+        if (warning == BufferWarning::full) {
+            clock.resetFlightTime();
+            publishFlightTime();
+        }
         if (warning != BufferWarning::none)
             messages.bufferWarning(warning);
-        if (warning == BufferWarning::full)
-            clock.resetFlightTime();
     }
     if (recording.sampleIndex() == 0)
         recording.setNewest(1);

@@ -7,6 +7,8 @@ void UserControl2::startSession() {
     if (!stopped())
         return;
     mouse.cancel();
+    history.clear();
+    chanceWinds.clear();
     forgetComments();
     reference.clear();
     referenceReading = {};
@@ -14,7 +16,7 @@ void UserControl2::startSession() {
     clock = FlightClock{};
     publishStopwatch();
     publishFlightTime();
-    wind = {};
+    takeWind({}, WindSource::none);
     c_WindSetEN.publish(0);
     publishWind();
     turnAircraft(0);
@@ -22,10 +24,18 @@ void UserControl2::startSession() {
     placeAircraft(toPlain(view.plot.MapToGeo(start).split));
     replaySample = 1;
     c_RepeatValue.publish(1);
+    becomeNewSession();
+}
+
+/// It has no name of its own, and a save asks for one.
+void UserControl2::becomeNewSession() {
+    c_SessionFileName.setIfChanged(newSessionName);
     sessionNamedByUser.clear();
 }
 
 void UserControl2::dropRecording() {
+    history.clear();
+    becomeNewSession();
     forgetComments();
     reference.clear();
     referenceReading = {};

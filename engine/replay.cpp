@@ -41,6 +41,7 @@ void UserControl2::goToSample() {
     if (ignored)
         return;
     Sample& sample = recording.at(index);
+    history.keepStations();
     resumeMode = ResumeMode::cut;
     replaySample = index;
     if (c_replayInstLock == 1)
@@ -127,9 +128,14 @@ void UserControl2::flyBetweenSamples() {
     flownBetween = true;
 }
 
+/// A wind that came by chance stays one; any that blows is the one to come back to.
 void UserControl2::restoreWind() {
-    const bool blows = wind.direction > 0 && wind.speed > 0;
-    c_WindSetEN.publish(blows ? recordedWind : windWithZero);
+    const bool calm = wind.speed == 0;
+    c_WindSetEN.publish(wind.direction > 0 && !calm ? recordedWind : windWithZero);
+    if (!calm)
+        lastWind = wind;
+    const bool byChance = std::ranges::find(chanceWinds, wind) != chanceWinds.end();
+    windSource = calm ? WindSource::none : byChance ? WindSource::byChance : WindSource::recorded;
     tellWind();
 }
 

@@ -149,6 +149,9 @@ void UserControl2::takeReference(const SessionFile& session) {
 }
 
 void UserControl2::applySession(const SessionFile& session) {
+    history.clear();
+    chanceWinds.clear();
+    c_mapedit.setIfChanged(0);
     forgetComments();
     referenceReading = {};
     for (std::size_t i = 0; i < session.comments.size(); ++i)

@@ -48,7 +48,8 @@ void UserControl2::followHeadingUp(bool moved) {
 /// The wind stands beside the airplane with the vectors or the turns ahead.
 void UserControl2::showWindLabel() {
     constexpr double gap = 300;
-    const bool visible = (c_SpeedVectorEN == 1 && windLabelOn) || c_TraceAheadEN == 1;
+    const bool told = windSource != WindSource::byChance || chanceWindTold;
+    const bool visible = told && ((c_SpeedVectorEN == 1 && windLabelOn) || c_TraceAheadEN == 1);
     picture.surface.show(picture.windLabel, visible);
     if (!visible)
         return;

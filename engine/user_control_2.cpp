@@ -62,6 +62,8 @@ void UserControl2::refresh() {
 void UserControl2::switchClock() {
     mouse.cancel();
     picture.trace.clear();
+    if (c_TimerEN == 1)
+        history.clear();
     if (c_TimerEN == 1 && resumeMode == ResumeMode::clear)
         freshRecording();
     else if (c_TimerEN == 1 && resumeMode == ResumeMode::cut)

@@ -13,6 +13,8 @@
 #include "core/speed_vectors.h"
 #include "core/stations.h"
 #include "engine/chart_mouse.h"
+#include "engine/flight_in_memory.h"
+#include "engine/hand_history.h"
 #include "engine/simulation_messages.h"
 #include "engine/station_properties.h"
 #include "persistence/chart_file.h"
@@ -22,6 +24,8 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace tarnel {
 
@@ -87,8 +91,23 @@ class UserControl2 {
     void switchStation(Slot which, bool stationOn, bool dmeOn);
     /// Sets the wind of the whole chart by hand; a switched-on wind is this one from now on.
     void setWind(const Wind& next);
+    /// Whether the figures of a wind by chance may stand on the chart.
+    void tellChanceWind(bool told);
     /// The wind as the mouse draws it: as `setWind`, while the drawing goes on.
     void drawWind(const Wind& next);
+
+    // What the hand did at rest and can be taken back. A start, a load and a new session forget it;
+    // a replay forgets all but the moves of stations.
+    /// What a thing done by hand begins with, to be finished once it is done.
+    [[nodiscard]] HandStep beginStep(Deed deed, Slot slot = Slot::vor1) const;
+    /// Remembers a step, and writes a moved station into the samples from the present one on. False
+    /// if nothing has changed or the aircraft flies.
+    bool finishStep(HandStep step);
+    /// Brings back what stood before a step.
+    void putBack(const HandStep& step);
+    /// Takes the last step back, or what the mouse is just doing. False if there is none.
+    bool undo();
+    bool redo();
 
     /// The sample that the user looks at: the one gone to in a replay, else the newest.
     [[nodiscard]] std::int16_t presentSampleIndex() const;
@@ -105,6 +124,8 @@ class UserControl2 {
     /// Takes the present sample's comment off all samples that touch it and carry it too.
     void deleteComment();
     void deleteAllComments();
+    /// True if a sample carries a comment or one is being marked.
+    [[nodiscard]] bool hasCommentMarks() const;
     /// Moves the entry being written by `step`, never below 0. Throws the subscript error, and
     /// stays, beyond entry 100.
     void stepComment(int step);
@@ -202,7 +223,7 @@ class UserControl2 {
     Property<std::int16_t> c_TrackDelta{properties, "c_TrackDelta", 0,
                                         [this] { showPracticePanel(); }};
 
-    // Chart editing: 1 lets the mouse drag stations; comments lose their marks.
+    // Chart editing: 1 lets the mouse drag stations; samples lose the marks of their comments.
     Property<std::int16_t> c_mapedit{properties, "c_mapedit", 0, [this] { switchEditing(); }};
     Property<std::int16_t> c_EditChart{properties, "c_EditChart"};
 
@@ -223,6 +244,7 @@ class UserControl2 {
 
     Aircraft aircraft;
     Wind wind;
+    WindSource windSource = WindSource::none;
     bool windLabelOn = true; ///< false while the aircraft is placed with the mouse
     RuntimeRandom random;
     FlightClock clock;
@@ -235,6 +257,9 @@ class UserControl2 {
     ChartPicture picture;
     SpeedVectors speedVectors;
     ChartMouse mouse{*this};
+    HandHistory history;
+    /// The name of a session that has none.
+    std::string newSessionName;
 
     /// Where a draw by chance starts from. Without it, from where the last one ended.
     std::function<std::optional<std::uint32_t>()> clockSeed;
@@ -260,6 +285,8 @@ class UserControl2 {
     void resizeChart();
     void switchEditing();
     void centreOn(const SplitPosition& centre);
+    void putAircraft(const SplitPosition& position);
+    void aircraftPlaced();
     void resetStopwatch();
     void publishStopwatch();
     void publishFlightTime();
@@ -287,14 +314,23 @@ class UserControl2 {
     void redrawReplay();
     void resumeFromReplay();
     void startSession();
+    void becomeNewSession();
     void showPracticePanel();
 
     void switchWind();
+    void takeWind(const Wind& next, WindSource source);
     void drawWindByChance();
     void tellWind();
     void publishWind();
     void showWindLabel();
     void showTurnsAhead();
+
+    [[nodiscard]] HandState handState() const;
+    void bringAbout(const HandStep& step, const HandState& state);
+    std::vector<std::pair<std::int16_t, GeoPosition>> recordStation(Slot slot);
+    void putBackStation(const HandStep& step);
+    [[nodiscard]] FlightInMemory flightInMemory() const;
+    void putBackFlight(const FlightInMemory& flight, const SplitPosition& place);
 
     void moveAircraft();
     void measure();
@@ -336,10 +372,11 @@ class UserControl2 {
         std::int16_t scale = 250;
     } home;
     Wind lastWind;
+    bool chanceWindTold = true;
+    std::vector<Wind> chanceWinds; ///< drawn since the session began
     std::int16_t replaySample = 1; ///< the last sample gone to
     bool flownBetween = false;     ///< the aircraft has flown on from it
-    /// What the next start does with the recording: nothing, clear it, or cut it at `replaySample`.
-    enum class ResumeMode { goOn, clear, cut } resumeMode = ResumeMode::goOn;
+    ResumeMode resumeMode = ResumeMode::goOn;
 };
 
 } // namespace tarnel

@@ -40,13 +40,20 @@ void Form1::setNorthUp(bool northUp) {
     UserControl11.c_MAPnorthUP.setIfChanged(northUp ? 1 : 0);
 }
 
-/// Editing happens at rest, with north at the top.
+/// Editing happens at rest, with north at the top. It takes the marks of comments, if there are
+/// any, and asks before.
 void Form1::setEditing(bool editing) {
     if (editing) {
         StopReplay();
+        if (UserControl11.hasCommentMarks() &&
+            !confirm(text(Text::editChart), text(Text::editChartQuestion))) {
+            stationPage.edit.show(0);
+            return;
+        }
         setNorthUp(true);
     }
     UserControl11.c_mapedit = editing ? 1 : 0;
+    enableControls();
 }
 
 void Form1::switchStation(std::size_t index) {
@@ -55,8 +62,13 @@ void Form1::switchStation(std::size_t index) {
                                 switches.dme && switches.dme->value() == 1);
 }
 
-/// Brings the switches to what a chart or a session has set.
+/// Brings the switches to what a chart or a session has set; a session ends the editing.
 void Form1::followStations() {
+    if (const int editing = UserControl11.c_mapedit == 1 ? 1 : 0;
+        editing != stationPage.edit.value()) {
+        stationPage.edit.show(editing);
+        enableControls();
+    }
     for (std::size_t i = 0; i < slotCount; ++i) {
         const StationPage::Switches switches = stationPage.switches()[i];
         const StationProperties& station = UserControl11.slot(static_cast<Slot>(i));

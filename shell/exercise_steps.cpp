@@ -19,11 +19,13 @@ bool showsRadial(std::int16_t type) {
 
 } // namespace
 
-/// A question that the student flies himself: the panel is free, and the way back is open.
+/// A question that the student flies himself: the panel is free until he looks at his own flight,
+/// and the way back is open.
 void Form1::followExerciseFlight() {
     if (QAform1.c_QAFly <= 0)
         return;
-    replayPage.lock.set(0);
+    if (simStopped == 0 || !questionFlown)
+        replayPage.lock.set(0);
     inst3RadialBox.set(0);
     backButton.setVisible(true);
     if (QAform1.c_TrackDelta > 0) {

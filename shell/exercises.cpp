@@ -77,12 +77,10 @@ bool Form1::loadPractised(const std::string& path) {
     const bool loaded = UserControl11.loadByName(path);
     if (loaded || exerciseUp)
         practisedPath = path;
-    if (exerciseUp && loaded) {
+    if (exerciseUp && loaded)
         UserControl11.centreOnStations();
-    } else if (exerciseUp) {
+    else if (exerciseUp)
         UserControl11.dropRecording();
-        UserControl11.c_SessionFileName = text(Text::newSessionFile);
-    }
     return loaded;
 }
 
@@ -91,6 +89,7 @@ void Form1::startExercise(const ExerciseItem& item) {
     StopFly();
     stationPage.edit.set(0);
     rememberShell();
+    UserControl11.history.clear();
     exerciseUp = true;
     practising = false;
     chartPage.trace.set(1);
@@ -141,7 +140,7 @@ void Form1::leaveExercise() {
     pushPanelState();
     replayPage.lock.set(0);
     UserControl11.c_TrackDelta = 0;
-    UserControl11.c_SessionFileName = text(Text::newSessionFile);
+    UserControl11.c_SessionFileName = UserControl11.newSessionName;
     inst3RadialBox.set(beforeExercise.radialShown);
     inst2TypeList.pick(beforeExercise.inst2Type);
     inst3TypeList.pick(beforeExercise.inst3Type);

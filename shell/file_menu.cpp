@@ -38,7 +38,6 @@ void Form1::newSession() {
     replayPage.hide.set(0);
     setHeadingBug(0);
     UserControl11.c_NewSession = 1;
-    UserControl11.c_SessionFileName = text(Text::newSessionFile);
     commentPanel.text.setText({});
     replayClockShown = {-1, -1};
     replayIndex = 1;

@@ -46,6 +46,7 @@ std::optional<std::string> Form1::chooseFile(FileRequest request, const std::str
     question.folder = UserControl11.c_MainAppPath;
     question.filter = text(isChart(request) ? Text::chartFilter : Text::sessionFilter);
     question.extension = isChart(request) ? "map" : "ts";
+    showBehindBox();
     const bool wasUp = std::exchange(boxUp, true);
     auto chosen = outside.chooseFile(question);
     boxUp = wasUp;

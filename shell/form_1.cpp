@@ -59,6 +59,7 @@ void Form1::connectStrip() {
     connectChartPage();
     connectReplay();
     connectWind();
+    connectHistory();
     connectComments();
 }
 

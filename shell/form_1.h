@@ -20,6 +20,7 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <string>
 
 namespace tarnel {
@@ -106,6 +107,12 @@ class Form1 : private SimulationMessages {
     [[nodiscard]] const PositionLinks& links2() const { return inst2Links; }
     [[nodiscard]] const PositionLinks& links3() const { return inst3Links; }
     [[nodiscard]] bool anyInstrumentLarge() const;
+    /// Whether the figures of the wind may be shown: one by chance or of a recording is told only
+    /// to who asks for it.
+    [[nodiscard]] bool windIsTold() const;
+
+    /// Called before a box opens: what shows the form is to be brought up to date.
+    std::function<void()> beforeBox;
 
     const StringTable& texts;
     FormState state;
@@ -154,6 +161,7 @@ class Form1 : private SimulationMessages {
     CheckBox floatingGyroBox{state, "FloatingGyro", Text::floatingGyro, Text::floatingGyroTip};
 
     FileMenu fileMenu{state};
+    EditMenu editMenu{state};
     ExerciseMenu exerciseMenu{state};
 
     // The instrument panel.
@@ -201,6 +209,7 @@ class Form1 : private SimulationMessages {
     void connectChartPage();
     void connectReplay();
     void connectWind();
+    void connectHistory();
     void connectComments();
     void connectFiles();
     void startUp(const std::string& applicationPath);
@@ -239,7 +248,6 @@ class Form1 : private SimulationMessages {
     void coupleHeadingBug();
     void showDme();
     void pinAltitude();
-    void showWind();
     void blinkCommentMark();
     void followReplayBar();
     void echoChannelButtons();
@@ -249,11 +257,15 @@ class Form1 : private SimulationMessages {
     void pushPosition(const PositionLinks& links);
     void pullPanelState();
     void turnFloatingGyro();
+    void showState();
+    void showWind();
     void showStopwatch();
     void showFlightTime();
     void showReadouts();
     void showReplayClock();
     void followStations();
+    void followHistory();
+    void showPresentSample();
 
     void writeHeadingBug(std::int16_t heading);
 
@@ -281,6 +293,8 @@ class Form1 : private SimulationMessages {
     void cycleWind();
     void startReplay();
     void stopReplay();
+    void moveReplayBar();
+    void lockReplay();
     void scrollReplay();
     void pumpReplay();
     void stepReplay();
@@ -299,6 +313,7 @@ class Form1 : private SimulationMessages {
     void resetStopwatch();
 
     // Boxes.
+    void showBehindBox();
     void showBox(const std::string& title, const std::string& message,
                  BoxKind kind = BoxKind::warning);
     bool confirm(const std::string& title, const std::string& question);
@@ -341,7 +356,6 @@ class Form1 : private SimulationMessages {
     bool solutionSeen = false;  ///< of the question that is up
     bool questionFlown = false; ///< the recording is the student's own
     std::string practisedPath;  ///< the session that a practice flight is compared with
-    std::string windTold;       ///< the wind whose source is shown
     bool boxUp = false;
     std::string sessionShown; ///< the path whose name the status panel shows
     std::string errorTold;    ///< the run-time error that was last told and still lasts

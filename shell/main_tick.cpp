@@ -33,7 +33,6 @@ void Form1::tick() {
     UserControl11.c_HDGchanged.setIfChanged(0);
     echoSelectors();
     copyReceiverSelections();
-    showWind();
     followExercise();
     followInstrumentSelectors();
     coupleAutopilot();
@@ -41,13 +40,9 @@ void Form1::tick() {
     showDme();
     locCourse = toInt16(UserControl11.c_LocCrs1);
     pinAltitude();
-    showSessionName();
     blinkCommentMark();
     followReplayBar();
-    echoChannelButtons();
     takeMouseObs(inst1);
-    showComment();
-    followCommentStrip();
     if (UserControl11.c_replayActive == 1)
         pushPanelState();
     else
@@ -56,12 +51,23 @@ void Form1::tick() {
     const FeedSources sources = feedSources();
     feedInstrument(inst2Links, sources);
     feedInstrument(inst3Links, sources);
+    showState();
+    errorTold.clear();
+}
+
+/// What the strip, the buttons and the status bar tell of the state.
+void Form1::showState() {
+    showWind();
+    showSessionName();
+    echoChannelButtons();
+    showComment();
+    followCommentStrip();
     showStopwatch();
     showFlightTime();
     showReadouts();
     showReplayClock();
     followStations();
-    errorTold.clear();
+    followHistory();
 }
 
 /// The file's name; its folders stand in the tool tip.

@@ -79,13 +79,28 @@ std::string fileError(const StringTable& texts, FileRequest request, const RunTi
 
 } // namespace
 
+/// What a box tells stands behind it, and nothing is in the hand any more: the box gets its
+/// release.
+void Form1::showBehindBox() {
+    try {
+        UserControl11.mouse.up();
+        showState();
+    } catch (const RunTimeError&) {
+        // It hinders the picture; the next tick tells it.
+    }
+    if (beforeBox)
+        beforeBox();
+}
+
 void Form1::showBox(const std::string& title, const std::string& message, BoxKind kind) {
+    showBehindBox();
     const bool wasUp = std::exchange(boxUp, true);
     outside.messageBox(kind, title, message);
     boxUp = wasUp;
 }
 
 bool Form1::confirm(const std::string& title, const std::string& question) {
+    showBehindBox();
     const bool wasUp = std::exchange(boxUp, true);
     const bool confirmed = outside.ask(title, question);
     boxUp = wasUp;

@@ -27,7 +27,7 @@ std::string timeOf(const Sample& sample) {
 void Form1::connectReplay() {
     replayPage.play.onClick = [this] { startReplay(); };
     replayPage.stop.onClick = [this] { stopReplay(); };
-    replayPage.bar.onScroll = [this] { scrollReplay(); };
+    replayPage.bar.onScroll = [this] { moveReplayBar(); };
     replayPage.hide.onClick = [this] { setHidden(replayPage.hide.value() == 1); };
     replayPage.lock.onClick = [this] { setLocked(replayPage.lock.value() == 1); };
 }
@@ -37,6 +37,7 @@ void Form1::startReplay() {
         StopReplay();
         return;
     }
+    lockReplay();
     replaySubStep = 0;
     UserControl11.c_ReplayInterpolation = 0;
     if (replayIndex >= UserControl11.c_TraceBufferMax)
@@ -55,6 +56,19 @@ void Form1::stopReplay() {
 void Form1::StopReplay() {
     replayPage.stop.show();
     stopReplay();
+}
+
+/// The user's hand on the bar.
+void Form1::moveReplayBar() {
+    lockReplay();
+    scrollReplay();
+}
+
+/// A flight that begins to be looked at is locked, so that looking changes nothing in it. Who wants
+/// to write over it unlocks it then.
+void Form1::lockReplay() {
+    if (!UserControl11.inReplay())
+        replayPage.lock.set(1);
 }
 
 void Form1::scrollReplay() {

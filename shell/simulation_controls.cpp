@@ -52,10 +52,12 @@ void Form1::restOrFly(bool resting) {
 void Form1::enableControls() {
     const bool resting = simStopped == 1;
     const bool open = questionOpen();
+    // Going to a sample would put back the station that the author moves.
+    const bool mayReplay = resting && !open && UserControl11.c_mapedit != 1;
     for (FormControl* control :
          std::initializer_list<FormControl*>{&replayPage.play, &replayPage.stop, &replayPage.loop,
                                              &replayPage.lock, &replayPage.bar})
-        control->setEnabled(resting && !open);
+        control->setEnabled(mayReplay);
     for (FormControl* control : std::initializer_list<FormControl*>{
              &replayPage.hide, &chartPage.hide, &chartPage.trace, &chartPage.vectors,
              &chartPage.centre, &chartPage.reset})

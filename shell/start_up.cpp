@@ -101,9 +101,10 @@ void Form1::startUp(const std::string& applicationPath) {
     UserControl11.c_NAVRadCenter = on;
     setPanelDefaults();
 
+    UserControl11.newSessionName = text(Text::newSessionFile);
     UserControl11.c_ChartFileName = applicationPath + "/default.map";
     UserControl11.c_loadChart = 2;
-    UserControl11.c_SessionFileName = text(Text::newSessionFile);
+    UserControl11.c_SessionFileName = UserControl11.newSessionName;
     tick();
     UserControl11.markFreshStart();
 }

@@ -132,4 +132,12 @@ struct FileMenu {
     }
 };
 
+/// Takes back, and does again, what the hand did on the chart at rest.
+struct EditMenu {
+    explicit EditMenu(FormState& form) : state(form) {}
+    FormState& state;
+    CommandButton undo{state, "mnuUndo", Text::undo};
+    CommandButton redo{state, "mnuRedo", Text::redo};
+};
+
 } // namespace tarnel

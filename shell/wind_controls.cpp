@@ -4,8 +4,8 @@ namespace tarnel {
 
 namespace {
 
-/// `c_WindSetEN`.
-enum WindMode : std::int16_t { windNone, windDrawn, windByChance, windAgain, windReplayed };
+/// What `c_WindSetEN` asks for.
+enum WindMode : std::int16_t { windNone, windDrawn, windByChance, windAgain };
 
 } // namespace
 
@@ -21,6 +21,12 @@ void Form1::connectWind() {
         setNorthUp(true);
         UserControl11.c_WindSetEN = windDrawn;
     };
+    windPage.show.onClick = [this] { showWind(); };
+}
+
+bool Form1::windIsTold() const {
+    const WindSource source = UserControl11.windSource;
+    return source == WindSource::none || source == WindSource::byHand || windPage.show.value() == 1;
 }
 
 void Form1::setManualWind(double direction, std::int16_t speed) {
@@ -38,19 +44,14 @@ void Form1::cycleWind() {
 
 /// The wind's read-out, and the option and the panel that tell where it comes from.
 void Form1::showWind() {
-    const UserControl2& sim = UserControl11;
-    windPage.readout.setText(windPage.show.value() == 1 ? sim.c_wind.get()
-                                                        : text(Text::windHidden));
-    // A tool that was picked tells nothing until it has drawn.
-    if (sim.c_WindSetEN == windDrawn && sim.c_wind.get() == windTold)
-        return;
-    windTold = sim.c_wind;
-    const bool calm = sim.wind.speed == 0;
-    const std::int16_t mode = sim.c_WindSetEN;
-    if (mode == windByChance) {
+    UserControl2& sim = UserControl11;
+    const bool told = windPage.show.value() == 1;
+    sim.tellChanceWind(told);
+    windPage.readout.setText(told ? sim.c_wind.get() : text(Text::windHidden));
+    if (sim.windSource == WindSource::byChance) {
         windPage.random.show();
         windPanel.setText(text(Text::panelWindRandom));
-    } else if (mode == windNone || (mode >= windReplayed && calm)) {
+    } else if (sim.windSource == WindSource::none) {
         windPage.none.show();
         windPanel.setText(text(Text::panelWindOff));
     } else {

@@ -648,6 +648,16 @@ constexpr StringEntry entries[] = {
     {816, "Scale"},
     {817, "Shows about %1 x %1 NM"},
     {818, "Comment mark"},
+    {880, "Edit"},
+    {881, "Undo"},
+    {882, "Redo"},
+    {883, "Move the aircraft"},
+    {884, "Change the heading"},
+    {885, "Move a station"},
+    {886, "Change the wind"},
+    {887,
+     "Editing the chart takes the comments off all places of the flight; their texts stay. Edit "
+     "the chart?"},
     // Documents, statistics, files from outside.
     {841, "Delete what all exercises have counted? This can't be undone."},
     {842, "Open the Book"},

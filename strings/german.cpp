@@ -653,6 +653,16 @@ constexpr StringEntry entries[] = {
     {816, "Maßstab"},
     {817, "Zeigt etwa %1 x %1 NM"},
     {818, "Kommentarmarke"},
+    {880, "Bearbeiten"},
+    {881, "Rückgängig"},
+    {882, "Wiederholen"},
+    {883, "Flugzeug versetzen"},
+    {884, "Heading ändern"},
+    {885, "Station verschieben"},
+    {886, "Wind ändern"},
+    {887,
+     "Beim Bearbeiten der Karte werden die Kommentare von allen Stellen des Flugs gelöst; ihre "
+     "Texte bleiben. Die Karte bearbeiten?"},
     // Documents, statistics, files from outside.
     {841, "Die Zählungen aller Übungen löschen? Das lässt sich nicht rückgängig machen."},
     {842, "Buch öffnen"},

@@ -607,6 +607,14 @@ enum class Text : int {
     chartScale = 816,
     chartScaleTip = 817,
     commentMark = 818,
+    menuEdit = 880,
+    undo = 881,
+    redo = 882,
+    deedPlace = 883,
+    deedTurn = 884,
+    deedStation = 885,
+    deedWind = 886,
+    editChartQuestion = 887,
 
     // Documents, statistics, files from outside.
     resetStatisticsQuestion = 841,

@@ -7,6 +7,7 @@
 #include "window/text_of.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QContextMenuEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -122,7 +123,27 @@ void ChartView::mousePressEvent(QMouseEvent* event) {
     if (event->button() == Qt::RightButton && station && onStationMenu)
         return onStationMenu(station, event->globalPosition().toPoint());
     guard([&] { sim.mouse.down(chartButton(event->button()), toTwips(event->position())); });
+    watchKeys();
     refresh();
+}
+
+void ChartView::watchKeys() {
+    qApp->removeEventFilter(this);
+    if (sim.mouse.holds())
+        qApp->installEventFilter(this);
+}
+
+bool ChartView::eventFilter(QObject* watched, QEvent* event) {
+    const bool key = event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress;
+    if (!key || static_cast<QKeyEvent*>(event)->key() != Qt::Key_Escape || !sim.mouse.holds())
+        return QWidget::eventFilter(watched, event);
+    event->accept();
+    if (event->type() == QEvent::KeyPress) {
+        guard([this] { sim.mouse.takeBack(); });
+        watchKeys();
+        refresh();
+    }
+    return true;
 }
 
 void ChartView::mouseDoubleClickEvent(QMouseEvent* event) {
@@ -152,6 +173,7 @@ void ChartView::mouseMoveEvent(QMouseEvent* event) {
 
 void ChartView::mouseReleaseEvent(QMouseEvent* /*event*/) {
     guard([&] { sim.mouse.up(); });
+    watchKeys();
     refresh();
 }
 

@@ -49,6 +49,8 @@ class ChartView : public QWidget {
     void contextMenuEvent(QContextMenuEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
+    /// While the hand holds something, Escape puts it back, wherever the keyboard is.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     [[nodiscard]] Point toTwips(QPointF at) const;
@@ -56,6 +58,7 @@ class ChartView : public QWidget {
     [[nodiscard]] bool mayEdit() const;
     [[nodiscard]] std::optional<Slot> stationAt(QPointF at) const;
     void showCursor();
+    void watchKeys();
 
     UserControl2& sim;
     const StringTable& texts;

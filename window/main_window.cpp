@@ -44,6 +44,7 @@ MainWindow::MainWindow(Form1& owner)
     makeMenus();
     makeDesk();
     opener = new FileOpener(form, *this);
+    form.beforeBox = [this] { refresh(); };
     setStyleSheet(sheetFor(1)); // once for all widgets
     resize(usualWindow);
 
@@ -58,7 +59,9 @@ MainWindow::MainWindow(Form1& owner)
     connect(&autopilotTimer, &QTimer::timeout, this, [this] { form.autopilotTimer(); });
 }
 
-MainWindow::~MainWindow() = default;
+MainWindow::~MainWindow() {
+    form.beforeBox = nullptr;
+}
 
 void MainWindow::makeMenus() {
     MenuActions actions;

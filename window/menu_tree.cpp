@@ -14,6 +14,12 @@ namespace tarnel {
 
 namespace {
 
+Text deedName(const HandStep& step) {
+    static constexpr Text names[] = {Text::deedPlace, Text::deedTurn, Text::deedStation,
+                                     Text::deedWind};
+    return names[static_cast<std::size_t>(step.deed)];
+}
+
 /// A sub menu can be opened while any of its items can be used.
 void followItems(QMenu& menu) {
     const auto update = [&menu] {
@@ -32,6 +38,7 @@ class MenuBuilder {
         : bar(target), form(owner), binding(links) {}
 
     void buildFile(const MenuActions& actions);
+    void buildEdit();
     void buildExercises();
     void buildBook();
     void buildView();
@@ -103,6 +110,27 @@ void MenuBuilder::buildFile(const MenuActions& actions) {
     QAction* exit = entry(*file, "mnuExit", text(Text::exitProgram));
     exit->setShortcut(QKeySequence::Quit);
     QObject::connect(exit, &QAction::triggered, &bar, actions.exit);
+}
+
+/// The items say what they take back or do again.
+void MenuBuilder::buildEdit() {
+    EditMenu& items = form.editMenu;
+    QMenu* edit = menu(bar, "mnuEdit", Text::menuEdit);
+    QAction* undo = bound(*edit, items.undo, QKeySequence::Undo);
+    QAction* redo = bound(*edit, items.redo, Qt::CTRL | Qt::SHIFT | Qt::Key_Z);
+    const auto name = [this_form = &form](QAction& action, Text caption, const HandStep* step) {
+        QString text = textOf(this_form->texts, caption);
+        if (step)
+            text += QStringLiteral(": ") + textOf(this_form->texts, deedName(*step));
+        action.setText(text.replace('&', QStringLiteral("&&")));
+    };
+    QObject::connect(edit, &QMenu::aboutToShow, edit, [this_form = &form, undo, redo, name] {
+        const HandHistory& history = this_form->UserControl11.history;
+        name(*undo, Text::undo, history.undoable());
+        name(*redo, Text::redo, history.redoable());
+    });
+    edit->addSeparator();
+    binding.bind(form.stationPage.edit, *entry(*edit, "editChart", text(Text::editChart)));
 }
 
 /// The exercises of a sub menu, by their first and last item.
@@ -257,6 +285,7 @@ void MenuBuilder::buildHelp(const MenuActions& actions) {
 void buildMenus(QMenuBar& bar, Form1& form, FormBinding& binding, const MenuActions& actions) {
     MenuBuilder builder(bar, form, binding);
     builder.buildFile(actions);
+    builder.buildEdit();
     builder.buildExercises();
     builder.buildBook();
     builder.buildView();

@@ -24,10 +24,12 @@ bool isTypedInto(const QSpinBox& field) {
     return field.hasFocus() && editor && editor->isModified();
 }
 
-void showValue(QSpinBox& field, int value) {
-    if (field.value() == value || isTypedInto(field))
+void showValue(QSpinBox& field, int value, bool told) {
+    const QString shownAtZero = told ? QString() : QStringLiteral(" ");
+    if (isTypedInto(field) || (field.value() == value && field.specialValueText() == shownAtZero))
         return;
     const QSignalBlocker quiet(&field);
+    field.setSpecialValueText(shownAtZero);
     field.setValue(value);
 }
 
@@ -69,18 +71,12 @@ void WindEntry::take() {
     });
 }
 
-bool WindEntry::tells() const {
-    const std::int16_t source = form.UserControl11.c_WindSetEN;
-    const bool ownWind = source == 0 || source == 1 || source == 3;
-    return ownWind || form.windPage.show.value() == 1;
-}
-
 void WindEntry::refresh() {
-    if (!tells())
-        return;
-    const Wind& wind = form.UserControl11.wind;
-    showValue(*direction, static_cast<int>(std::lround(wind.direction)) % (highestDirection + 1));
-    showValue(*speed, wind.speed);
+    const bool told = form.windIsTold();
+    const Wind wind = told ? form.UserControl11.wind : Wind{};
+    showValue(*direction, static_cast<int>(std::lround(wind.direction)) % (highestDirection + 1),
+              told);
+    showValue(*speed, wind.speed, told);
 }
 
 } // namespace tarnel

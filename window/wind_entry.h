@@ -10,7 +10,8 @@ class QSpinBox;
 namespace tarnel {
 
 /// `WindEntry`: two fields for the wind's direction and speed. They show the present wind unless
-/// one is being typed into, or the wind came by chance and is not to be told.
+/// one is being typed into. A wind that is not to be told leaves them empty, and steps count from
+/// 0.
 class WindEntry : public QWidget {
     Q_OBJECT
 
@@ -23,7 +24,6 @@ class WindEntry : public QWidget {
   private:
     QSpinBox* addField(const char* name, Text caption, Text unit);
     void take();
-    [[nodiscard]] bool tells() const;
 
     Form1& form;
     QSpinBox* direction = nullptr;

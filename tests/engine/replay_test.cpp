@@ -418,6 +418,22 @@ TEST_F(CommentTest, AreLaidOnAStoredFlightAndTakenOff) {
     EXPECT_EQ(sim.comments.commentCount, 0);
 }
 
+TEST_F(CommentTest, ACorrectionLeavesTheLaterTexts) {
+    for (const char* text : {"one", "two", "three"}) {
+        sim.startComment(text);
+        sim.stopComment();
+    }
+    sim.stepComment(-3);
+    sim.startComment("ONE");
+    sim.stopComment();
+    sim.startComment("four");
+    sim.stopComment();
+    for (const auto& [index, text] : {std::pair(0, "ONE"), {1, "two"}, {2, "three"}, {3, "four"}})
+        EXPECT_EQ(sim.comments.text(index), text);
+    sim.deleteAllComments();
+    EXPECT_EQ(sim.comments.firstFree(), 0);
+}
+
 TEST_F(CommentTest, TheTableHoldsAHundredAndOne) {
     for (int i = 0; i < Comments::count; ++i) {
         sim.startComment(std::to_string(i));

@@ -63,6 +63,33 @@ TEST_F(WindTest, ByChanceStaysInItsRangeAndFollowsTheSeed) {
     EXPECT_EQ(sim.c_wind.get(), first);
 }
 
+TEST_F(WindTest, OfARecordingIsTheOneToComeBackToAndByChanceStaysUntold) {
+    sim.c_SpeedVectorEN = 1;
+    sim.tellChanceWind(false);
+    sim.c_WindSetEN = 2;
+    const std::string chance = sim.c_wind;
+    EXPECT_FALSE(sim.picture.windLabel.visible);
+    start(120);
+    tick(8);
+    sim.c_TimerEN = 0;
+    sim.setWind({90, 77});
+    EXPECT_TRUE(sim.picture.windLabel.visible);
+    sim.c_RepeatValue = 2;
+    EXPECT_EQ(sim.windSource, WindSource::byChance);
+    EXPECT_FALSE(sim.picture.windLabel.visible);
+    sim.tellChanceWind(true);
+    EXPECT_TRUE(sim.picture.windLabel.visible);
+    sim.c_WindSetEN = 0;
+    sim.c_WindSetEN = 3;
+    EXPECT_EQ(sim.c_wind.get(), chance);
+    EXPECT_EQ(sim.windSource, WindSource::byHand);
+    sim.c_NewSession = 1;
+    sim.recording.at(1).traceWindDirection = 90;
+    sim.recording.at(1).traceWindSpeed = 30;
+    sim.c_RepeatValue = 1;
+    EXPECT_EQ(sim.windSource, WindSource::recorded);
+}
+
 TEST_F(WindTest, IsDrawnTheWayItBlows) {
     draw({3000, 3000}, {4000, 3000}); // to the right: from the west
     EXPECT_EQ(sim.c_wind.get(), "270/20");

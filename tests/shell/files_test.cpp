@@ -166,7 +166,11 @@ TEST_F(FilesTest, AWrongLineIsNamedAndTheWholeSamplesCount) {
 
     load("nowhere.ts");
     EXPECT_THAT(world.boxes[1], HasSubstr("LoadSession ERROR # 53"));
-    EXPECT_THAT(form->sessionPanel.text(), HasSubstr("half.ts")); // what was there stays
+    EXPECT_EQ(form->sessionPanel.text(), "half.ts"); // what was there stays
+    form->exerciseMenu.adfPractice[3]->click();      // a file that is not there
+    couple();
+    world.boxes.pop_back();
+    EXPECT_EQ(form->sessionPanel.text(), "half.ts");
     world.chosen = folder.path + "/nofolder/x.ts";
     form->fileMenu.saveSessionAs.click();
     EXPECT_THAT(world.boxes[2], HasSubstr("SaveSession ERROR # 76"));
@@ -236,8 +240,11 @@ TEST_F(FilesTest, ADamagedFileIsNotOverwrittenUnasked) {
     load("whole.ts");
     world.chosen = folder.path + "/default.map";
     form->fileMenu.loadChart.click();
+    couple();
+    EXPECT_EQ(form->sessionPanel.text(), "New Session.ts"); // a chart begins something new
+    EXPECT_EQ(form->replayPage.lock.value(), 0);
     world.chosen.reset();
-    form->fileMenu.saveSession.click(); // a chart begins something new
+    form->fileMenu.saveSession.click();
     EXPECT_EQ(world.questions.size(), 6U);
 }
 

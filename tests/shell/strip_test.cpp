@@ -29,9 +29,13 @@ class StripTest : public testing::Test, protected Trainer {
     }
     /// What acts only on a flight at rest.
     void expectRestingControls(bool enabled) {
-        for (FormControl* control :
-             std::initializer_list<FormControl*>{&form.replayPage.play, &form.replayPage.bar,
-                                                 &form.replayPage.lock, &form.fileMenu.newSession})
+        expectReplayControls(enabled);
+        EXPECT_EQ(form.fileMenu.newSession.enabled(), enabled);
+    }
+    void expectReplayControls(bool enabled) {
+        for (FormControl* control : std::initializer_list<FormControl*>{
+                 &form.replayPage.play, &form.replayPage.stop, &form.replayPage.loop,
+                 &form.replayPage.bar, &form.replayPage.lock})
             EXPECT_EQ(control->enabled(), enabled) << control->name();
     }
     [[nodiscard]] int newest() { return sim().c_TraceBufferMax; }
@@ -99,7 +103,6 @@ TEST_F(StripTest, AReplayLoopsOnDemand) {
     replay(4);
     EXPECT_EQ(form.replayPage.bar.value(), 1);
     EXPECT_TRUE(form.replayRuns());
-    EXPECT_EQ(form.replayPage.lock.value(), 0);
     start(); // rests while the replay runs
     EXPECT_FALSE(form.simulationRuns());
     form.replayPage.stop.click();
@@ -137,8 +140,8 @@ TEST_F(StripTest, ALockedReplayShowsAllThatWasSeen) {
     form.APControlFace1.c_TAS = 200.0;
     couple();
 
-    form.replayPage.lock.click();
     scrollTo(5);
+    EXPECT_EQ(form.replayPage.lock.value(), 1) << "looking at a flight locks it";
     EXPECT_EQ(form.inst2.type, vor);
     EXPECT_EQ(form.inst2.instrument.Display, vor);
     EXPECT_EQ(form.inst2TypeList.index(), vor - 1);
@@ -160,6 +163,8 @@ TEST_F(StripTest, AnUnlockedReplayLeavesThePanelAndWritesItOverTheRecording) {
     form.inst2TypeList.pick(vor - 1);
     form.setHeadingBug(30);
     record(20);
+    scrollTo(8);
+    form.replayPage.lock.click();
     form.inst2TypeList.pick(hsi - 1);
     form.setHeadingBug(200);
     couple();
@@ -310,6 +315,69 @@ TEST_F(StripTest, AFullCommentTableIsToldAndTheFlightGoesOn) {
     EXPECT_EQ(world.boxes.size(), 1U);
     EXPECT_EQ(form.commentPanel.text.text(), "one too many");
     EXPECT_TRUE(form.simulationRuns());
+}
+
+TEST_F(StripTest, EditingAChartAsksForMarkedCommentsAndRestsTheReplay) {
+    form.stationPage.edit.click();
+    EXPECT_TRUE(world.asked.empty()) << "no comment, no question";
+    form.stationPage.edit.click();
+    start();
+    form.commentPanel.startStop.click();
+    fly(8);
+    start();
+    world.answer = false;
+    form.stationPage.edit.click();
+    EXPECT_EQ(world.asked.size(), 1U);
+    EXPECT_EQ(form.stationPage.edit.value(), 0);
+    EXPECT_EQ(sim().c_mapedit, 0);
+    EXPECT_TRUE(sim().hasCommentMarks());
+    world.answer = true;
+    form.stationPage.edit.click();
+    EXPECT_EQ(sim().c_mapedit, 1);
+    EXPECT_FALSE(sim().hasCommentMarks());
+    couple();
+    expectReplayControls(false);
+    EXPECT_FALSE(form.pressKey('P') && form.replayRuns());
+    form.stationPage.edit.click();
+    expectReplayControls(true);
+}
+
+TEST_F(StripTest, UndoIsOfferedAtRestAndBringsAnEndedFlightBack) {
+    record(20);
+    const int samples = newest();
+    EXPECT_FALSE(form.editMenu.undo.enabled());
+    scrollTo(9);
+    sim().mouse.down(ChartButton::left, {1000, 1000});
+    sim().mouse.up();
+    couple();
+    form.editMenu.undo.click();
+    couple();
+    EXPECT_EQ(newest(), samples);
+    EXPECT_EQ(form.replayPage.bar.value(), 9);
+    EXPECT_TRUE(form.editMenu.redo.enabled());
+    start();
+    couple();
+    EXPECT_FALSE(form.editMenu.redo.enabled());
+}
+
+/// The box of the practise area, with a chance wind that came right before it.
+TEST_F(StripTest, WhatABoxSaysStandsBehindIt) {
+    start();
+    std::vector<std::string> shown;
+    world.behind = [&] {
+        shown = {form.modePanel.text(), form.windPanel.text(),
+                 form.startButton.caption() == Text::startSim ? "start" : "stop"};
+    };
+    int painted = 0;
+    form.beforeBox = [&] { ++painted; };
+    form.windPage.random.click();
+    sim().slot(Slot::vor1).dme = 80.1;
+    couple();
+    EXPECT_THAT(shown, testing::ElementsAre("Pause [M]ode", "[W]ind random", "start"));
+    EXPECT_EQ(painted, 1);
+    sim().mouse.down(ChartButton::left, {1000, 1000});
+    form.showAbout();
+    EXPECT_FALSE(sim().mouse.holds()) << "the box takes the release";
 }
 
 TEST_F(StripTest, APracticePanelTakesItsStates) {

@@ -81,6 +81,32 @@ TEST_F(StationEditorTest, ADoubleClickOpensTheEditorWhichKeepsAWrongFrequency) {
     EXPECT_LT(form->UserControl11.stations[1].labelOffsetX, -500);
 }
 
+TEST_F(StationEditorTest, EscapePutsADraggedStationBackAndUndoAFinishedDrag) {
+    edit();
+    const SplitPosition first = form->UserControl11.stations[0].position;
+    const auto now = [this] { return form->UserControl11.stations[0].position; };
+    QTest::mousePress(chart, Qt::LeftButton, {}, symbol(Slot::vor1));
+    QTest::mouseMove(chart, QPoint(200, 200));
+    EXPECT_NE(now(), first);
+    QTest::keyClick(window.get(), Qt::Key_Escape);
+    EXPECT_EQ(now(), first);
+    QTest::mouseMove(chart, QPoint(250, 250));
+    QTest::mouseRelease(chart, Qt::LeftButton, {}, QPoint(250, 250));
+    EXPECT_EQ(now(), first);
+
+    const QPoint from = symbol(Slot::vor1);
+    drag(*chart, from, QPoint(300, 300) - from);
+    EXPECT_NE(now(), first);
+    auto& menu = find<QMenu>("mnuEdit");
+    emit menu.aboutToShow();
+    EXPECT_EQ(find<QAction>("mnuUndo").text(), "Undo: Move a station");
+    QTest::keyClick(window.get(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(now(), first);
+    settle();
+    QTest::keyClick(window.get(), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_NE(now(), first);
+}
+
 TEST_F(StationEditorTest, CancelChangesNothingAndAnNdbHasNoDme) {
     edit();
     const SplitPosition first = form->UserControl11.stations[0].position;

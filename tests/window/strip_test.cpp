@@ -110,13 +110,33 @@ TEST_F(StripStudent, IsNotToldAWindByChanceBeforeAskingForIt) {
     open();
     sim().clockSeed = [] { return 7U; };
     clickShown("PageWind");
+    form->setManualWind(270, 20);
     clickShown("Option14");
-    ASSERT_GT(sim().wind.speed, 0);
-    EXPECT_EQ(findShown<QSpinBox>("WindSpeed").value(), 0);
+    ASSERT_NE(sim().c_wind.get(), "270/20");
+    auto& direction = findShown<QSpinBox>("WindDirection");
+    auto& speed = findShown<QSpinBox>("WindSpeed");
+    EXPECT_EQ((direction.text() + speed.text()).trimmed(), "") << "no figures, of no wind";
     EXPECT_EQ(findShown<QLabel>("Label1").text(), "hidden");
     clickShown("Check8");
-    EXPECT_EQ(findShown<QSpinBox>("WindSpeed").value(), sim().wind.speed);
+    EXPECT_EQ(speed.value(), sim().wind.speed);
     EXPECT_EQ(findShown<QLabel>("Label1").text().toStdString(), sim().c_wind.get());
+    clickShown("Check8");
+    EXPECT_EQ(speed.text().trimmed(), "");
+    direction.stepUp();
+    settle();
+    EXPECT_EQ(sim().c_wind.get(), "5/0") << "a step on an empty field counts from 0";
+    EXPECT_EQ(direction.text(), "5°");
+}
+
+TEST_F(StripStudent, SeesBehindABoxWhatItSays) {
+    open();
+    click("Command6");
+    QString button;
+    world.behind = [&] { button = find("Command6").text(); };
+    sim().slot(Slot::vor1).dme = 80.1;
+    form->Timer1(); // out of the practise area; nothing else comes to paint the window
+    EXPECT_EQ(world.boxes.size(), 1U);
+    EXPECT_EQ(button, "Start SIM");
 }
 
 TEST_F(StripStudent, DrawsTheWindOnTheChart) {

@@ -9,6 +9,7 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
 #include <stdexcept>
 #include <string>
@@ -18,8 +19,10 @@ namespace tarnel {
 
 struct NotedWorld : OutsideWorld {
     std::vector<std::string> boxes;
+    std::function<void()> behind = [] {}; ///< looks at what stands behind a box
     void messageBox(BoxKind, const std::string&, const std::string& text) override {
         boxes.push_back(text);
+        behind();
     }
 };
 
