@@ -30,12 +30,12 @@ void drawTurn(ChartPicture& picture, const TurnsAhead& turns, double turnPerDot)
     const double perKnot = turns.mapScaleTwips / dotsPerHour;
     const Point wind = along(turns.wind.direction, perKnot * turns.wind.speed);
     double heading = turns.heading;
-    Point offset;
+    Point at = turns.airplane;
     for (int i = 0; i < dotsEachWay; ++i) {
         const Point air = along(heading, perKnot * turns.tas);
-        offset.x += air.x - wind.x;
-        offset.y -= wind.y + air.y;
-        plotIfFits(picture.ahead, {turns.airplane.x + offset.x, turns.airplane.y + offset.y});
+        at.x += air.x - wind.x;
+        at.y -= wind.y + air.y;
+        plotIfFits(picture.ahead, RotatePoint(turns.rotation, turns.airplane, at));
         heading += turnPerDot;
         if (heading > 359)
             heading -= 360;

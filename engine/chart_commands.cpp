@@ -166,9 +166,9 @@ void UserControl2::placeAircraft(const GeoPosition& position) {
 }
 
 void UserControl2::turnAircraft(double heading) {
+    const double before = aircraft.trueHeading;
     aircraft.trueHeading = heading == 360 ? 0 : heading;
-    c_HDG.publish(aircraft.trueHeading);
-    airplaneOutline = RotateAirplaneSymbol(view.northUpMode ? aircraft.trueHeading : 0);
+    headingTurned(before);
     refresh();
 }
 

@@ -36,12 +36,14 @@ Sample UserControl2::presentSample() const {
     return sample;
 }
 
-/// The settings of the instruments and receivers. Courses are kept from north, and may then lie
-/// above 360 degrees.
+/// The settings of the instruments and receivers. Courses are kept from north, as they stand on the
+/// dial, free of what a turned chart's heading leaves behind the sixth decimal; they may lie above
+/// 360 degrees.
 void UserControl2::copySettings(Sample& sample) const {
+    constexpr int decimals = 6;
     const double turned = c_MAPnorthUP == 1 ? 0 : c_HDG.get();
-    sample.traceObsI2 = turned + c_obsI2;
-    sample.traceObsI3 = turned + c_obsI3;
+    sample.traceObsI2 = roundTo(turned + c_obsI2, decimals);
+    sample.traceObsI3 = roundTo(turned + c_obsI3, decimals);
     sample.traceInst2 = c_inst2;
     sample.traceInst3 = c_inst3;
     sample.traceInst2NAVselect = c_Inst2NAVselect;

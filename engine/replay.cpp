@@ -62,10 +62,9 @@ void UserControl2::goToSample() {
 /// Clocks, speed, turn and wind; the heading too unless the aircraft flies on between samples.
 void UserControl2::restoreMotion(const Sample& sample) {
     if (c_ReplayInterpolation == showSample) {
-        const double turned = intoCircle(sample.traceHeading) - aircraft.trueHeading;
+        const double before = aircraft.trueHeading;
         aircraft.trueHeading = intoCircle(sample.traceHeading);
-        c_HDG.publish(aircraft.trueHeading);
-        keepCoursesNorth(turned);
+        headingTurned(before);
     }
     c_ApMinutes.publish(sample.traceStopMinutes);
     c_ApSeconds.publish(sample.traceStopSeconds);
@@ -81,15 +80,6 @@ void UserControl2::restoreMotion(const Sample& sample) {
     c_APhdg.publish(sample.traceAPhdg);
     c_APtas.publish(sample.traceAPtas);
     c_APalt.publish(sample.traceAPalt);
-}
-
-/// Under a turned chart the courses count from the heading: they stay where they are on the earth
-/// when it turns by `turned` degrees. A locked replay brings its own.
-void UserControl2::keepCoursesNorth(double turned) {
-    if (view.northUpMode || c_replayInstLock == 1)
-        return;
-    c_obsI2.publish(c_obsI2 - turned);
-    c_obsI3.publish(c_obsI3 - turned);
 }
 
 void UserControl2::restoreSettings(const Sample& sample) {
@@ -111,7 +101,6 @@ void UserControl2::restoreSettings(const Sample& sample) {
 void UserControl2::restorePlace(const Sample& sample) {
     flownBetween = false;
     aircraft.placeAt(placeOf(sample));
-    airplaneOutline = RotateAirplaneSymbol(view.northUpMode ? aircraft.trueHeading : 0);
     for (std::size_t i = 0; i < slotCount; ++i)
         stations[i].position = toSplit(sample.traceStations[i]);
     c_LocCrs1.publish(sample.traceLocCourse);

@@ -64,12 +64,8 @@ void UserControl2::showTurnsAhead() {
         picture.ahead.clear();
         return;
     }
-    const double turned = view.northUpMode ? 0 : aircraft.trueHeading;
-    drawTurnsAhead(picture, {aircraft.place.wide,
-                             aircraft.trueHeading - turned,
-                             aircraft.tasUsed,
-                             {wind.direction - turned, wind.speed},
-                             view.plot.mapScaleTwips});
+    drawTurnsAhead(picture, {aircraft.place.wide, aircraft.trueHeading, aircraft.tasUsed, wind,
+                             view.plot.mapScaleTwips, rotation()});
 }
 
 void UserControl2::showAirplane() {

@@ -33,9 +33,21 @@ void UserControl2::publishFlightTime() {
 void UserControl2::turnByTick() {
     if (aircraft.turnRateUsed == 0)
         return;
+    const double before = aircraft.trueHeading;
     aircraft.turn();
+    headingTurned(before);
+}
+
+/// Publishes the heading. Under a turned chart the courses count from it: they stay where they are
+/// on the earth. A locked replay brings its own.
+void UserControl2::headingTurned(double before) {
     c_HDG.publish(aircraft.trueHeading);
     airplaneOutline = RotateAirplaneSymbol(view.northUpMode ? aircraft.trueHeading : 0);
+    if (view.northUpMode || (inReplay() && c_replayInstLock == 1))
+        return;
+    const double turned = aircraft.trueHeading - before;
+    c_obsI2.publish(c_obsI2 - turned);
+    c_obsI3.publish(c_obsI3 - turned);
 }
 
 } // namespace tarnel

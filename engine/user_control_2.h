@@ -296,6 +296,7 @@ class UserControl2 {
     [[nodiscard]] double rotation() const { return view.rotation(aircraft.trueHeading); }
 
     void turnByTick();
+    void headingTurned(double before);
     void recordSample();
     [[nodiscard]] Sample presentSample() const;
     void copySettings(Sample& sample) const;
@@ -308,7 +309,6 @@ class UserControl2 {
     void restoreMotion(const Sample& sample);
     void restoreSettings(const Sample& sample);
     void restorePlace(const Sample& sample);
-    void keepCoursesNorth(double turned);
     void flyBetweenSamples();
     void restoreWind();
     void redrawReplay();

@@ -1,6 +1,7 @@
 #include "flights/flight_csv.h"
 
 #include "core/number_text.h"
+#include "core/rounding.h"
 #include "flights/flight.h"
 
 namespace tarnel {
@@ -14,8 +15,8 @@ StationRow stationRow(const StationProperties& station) {
 InstrumentRow instrumentRow(const InstrumentPosition& position) {
     const UserControl_1& instrument = position.instrument;
     const InstrumentReading reading = instrument.reading();
-    return {position.type,         instrument.angle,  instrument.adfradial,
-            instrument.adf2radial, reading.deviation, reading.flag};
+    return {position.type,         instrument.angle,           instrument.adfradial,
+            instrument.adf2radial, toInt16(reading.deviation), reading.flag};
 }
 
 /// Puts values into one line.

@@ -6,8 +6,6 @@ namespace tarnel {
 
 namespace {
 
-constexpr std::int16_t noSignal = -1;
-
 /// The position that a drag from `area` has reached `way` twips past that area's edge. Nothing for
 /// a drag from R2, which only takes clicks.
 std::optional<DmeMode> positionAt(DmeMode area, double way) {
@@ -43,14 +41,16 @@ void DMEControlFace::BlankDisplay() {
     speed.blank();
 }
 
-void DMEControlFace::showDistanceValue() {
+/// Both readouts: without a distance there is no speed either.
+void DMEControlFace::showReading() {
     if (c_DMEnm > noSignal)
-        distance.showNumber(c_DMEnm);
+        distance.showNumber(wholeMiles() ? c_DMEnm / 10.0 : c_DMEnm.get());
     else
         distance.showDashes();
+    showSpeed();
 }
 
-void DMEControlFace::showSpeedValue() {
+void DMEControlFace::showSpeed() {
     if (c_DMEnm > noSignal)
         speed.showNumber(c_DMEkt);
     else
@@ -61,7 +61,7 @@ void DMEControlFace::follow(DmeMode receiver, std::int16_t slot) {
     if (selected != receiver)
         return;
     c_SetFreq.publish(slot);
-    showDialSlot();
+    ShowFrequency(slotText(slot));
 }
 
 void DMEControlFace::selectMode(DmeMode next) {

@@ -32,9 +32,18 @@ class DMEControlFace : public RadioFace {
     DigitReadout distance{surface, readoutPlaces::threeDigits};
     DigitReadout speed{surface, readoutPlaces::threeDigits};
 
-    /// Tenths of NM, -1 is no signal.
-    Property<std::int16_t> c_DMEnm{properties, "c_DMEnm", 0, [this] { showDistanceValue(); }};
-    Property<std::int16_t> c_DMEkt{properties, "c_DMEkt", 0, [this] { showSpeedValue(); }};
+    /// Whether the distance has grown too long for its tenths: from 100 NM it is whole miles,
+    /// without the point.
+    [[nodiscard]] bool wholeMiles() const { return c_DMEnm >= tooLongForTenths; }
+
+    /// What `c_DMEnm` says where nothing is received.
+    static constexpr std::int16_t noSignal = -1;
+    /// The longest distance that three digits hold, 999 NM.
+    static constexpr std::int16_t longest = 9999;
+
+    /// Tenths of NM, `noSignal` or 0 to `longest`.
+    Property<std::int16_t> c_DMEnm{properties, "c_DMEnm", 0, [this] { showReading(); }};
+    Property<std::int16_t> c_DMEkt{properties, "c_DMEkt", 0, [this] { showSpeed(); }};
     Property<std::int16_t> c_BlankDisplay{properties, "c_BlankDisplay", 0,
                                           [this] { BlankDisplay(); }};
     Property<std::int16_t> c_NAV1f{properties, "c_NAV1f", 0,
@@ -46,8 +55,10 @@ class DMEControlFace : public RadioFace {
     Property<std::int16_t> c_loc1on{properties, "c_loc1on"};
 
   private:
-    void showDistanceValue();
-    void showSpeedValue();
+    static constexpr std::int16_t tooLongForTenths = 1000;
+
+    void showReading();
+    void showSpeed();
     void follow(DmeMode receiver, std::int16_t slot);
 
     DmeMode selected = DmeMode::freq;

@@ -14,7 +14,7 @@ std::string backgroundName(InstrumentKind kind, const BackgroundChoice& choice) 
     const bool first = choice.navSelect == 1;
     switch (kind) {
     case InstrumentKind::adf:
-        return fileName(choice.adfCardSelect == 1 ? "QXRadff" : "QXRadfs", choice.large);
+        return fileName(choice.adfCardSelect == fixedCard ? "QXRadff" : "QXRadfs", choice.large);
     case InstrumentKind::rmi:
         return fileName(first ? "qxrrmi1" : "qxrrmi2", choice.large);
     case InstrumentKind::vor:

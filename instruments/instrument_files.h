@@ -12,8 +12,8 @@ namespace tarnel {
 /// What an instrument's background depends on besides its kind.
 struct BackgroundChoice {
     bool large = false;
-    std::int16_t navSelect = 1;     ///< receiver 1 or 2; anything else stands for 2
-    std::int16_t adfCardSelect = 1; ///< 1 fixed card, anything else slaved
+    std::int16_t navSelect = 1;             ///< receiver 1 or 2; anything else stands for 2
+    std::int16_t adfCardSelect = fixedCard; ///< anything else stands for slaved
 };
 
 /// The file name of a kind's background. The VOR indicator's is that of its receiver until a flag

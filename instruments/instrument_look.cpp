@@ -67,7 +67,6 @@ void showKnobs(InstrumentPicture& picture, InstrumentKind kind) {
     using enum InstrumentKind;
     picture.surface.show(picture.Image2, kind == rmi || kind == hsi || kind == dg);
     picture.surface.show(picture.Image3, kind != dg);
-    picture.surface.show(picture.Image4, kind != dg);
 }
 
 } // namespace

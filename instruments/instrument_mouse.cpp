@@ -5,6 +5,7 @@
 #include "instruments/user_control_1.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace tarnel {
 
@@ -30,6 +31,7 @@ const KnobArea* InstrumentMouse::knobOf(InstrumentArea area) const {
     case InstrumentArea::selector:
         return &picture.Image3;
     case InstrumentArea::card:
+    case InstrumentArea::headingBug:
     case InstrumentArea::none:
         break;
     }
@@ -39,20 +41,43 @@ const KnobArea* InstrumentMouse::knobOf(InstrumentArea area) const {
 bool InstrumentMouse::usable(InstrumentArea area) const {
     if (const KnobArea* knob = knobOf(area))
         return knob->visible && knob->enabled;
-    return area == InstrumentArea::card && instrument.c_DisableKnobs != 0;
+    if (instrument.c_DisableKnobs == 0)
+        return false;
+    if (area == InstrumentArea::headingBug)
+        return instrument.picture.Line17to23.front().visible;
+    return area == InstrumentArea::card && instrument.showsCourse();
+}
+
+bool InstrumentMouse::onNumeral(Point at) const {
+    const auto& numerals = instrument.picture.Label1;
+    return std::any_of(numerals.begin(), numerals.end(), [at](const Label& numeral) {
+        return numeral.visible && numeralBox(numeral).contains(at);
+    });
+}
+
+/// On the bug or a little beside it, anywhere between the numerals and the edge of the dial.
+bool InstrumentMouse::onHeadingBug(Point at) const {
+    constexpr double reach = 9;
+    constexpr double innerEdge = 0.64; ///< of half the card's square
+    constexpr double outerEdge = 0.82;
+    const double half = instrument.picture.size / 2;
+    const double radius = std::hypot(at.x - half, at.y - half);
+    const double cardHalf =
+        half * cardScaleOf(static_cast<InstrumentKind>(instrument.Display.get()));
+    const double beside =
+        std::remainder(bearingOf(at) - instrument.c_HDGbug - instrument.angle, 360.0);
+    return radius > innerEdge * cardHalf && radius < outerEdge * cardHalf &&
+           std::abs(beside) <= reach;
 }
 
 InstrumentArea InstrumentMouse::areaAt(Point at) const {
-    for (const InstrumentArea area :
-         {InstrumentArea::obsKnob, InstrumentArea::headingBugKnob, InstrumentArea::selector})
+    using enum InstrumentArea;
+    for (const InstrumentArea area : {obsKnob, headingBugKnob, selector})
         if (usable(area) && knobOf(area)->area.contains(at))
             return area;
-    const auto& numerals = instrument.picture.Label1;
-    const bool onNumeral =
-        std::any_of(numerals.begin(), numerals.end(), [at](const Label& numeral) {
-            return numeral.visible && numeralBox(numeral).contains(at);
-        });
-    return onNumeral && usable(InstrumentArea::card) ? InstrumentArea::card : InstrumentArea::none;
+    if (usable(headingBug) && onHeadingBug(at))
+        return headingBug;
+    return usable(card) && onNumeral(at) ? card : none;
 }
 
 double InstrumentMouse::acrossKnob(Point at) const {
@@ -67,6 +92,8 @@ InstrumentArea InstrumentMouse::down(Point at) {
         obsDrag.press(acrossKnob(at));
     else if (pressed == InstrumentArea::card)
         grabCard(at);
+    else if (pressed == InstrumentArea::headingBug)
+        bugGrab = instrument.c_HDGbug + instrument.angle - bearingOf(at);
     return pressed;
 }
 
@@ -82,7 +109,9 @@ void InstrumentMouse::move(Point at, MouseButton held) {
         const double delta = intoCircle(turned);
         turnCourse(obsDrag.base() - delta);
     } else if (pressed == InstrumentArea::card) {
-        turnCourse(cardBase - (faceAngle(at) - cardGrab));
+        dragCard(at);
+    } else if (pressed == InstrumentArea::headingBug) {
+        turnHeadingBug(bearingOf(at) + bugGrab - instrument.angle);
     }
 }
 
@@ -111,7 +140,7 @@ void InstrumentMouse::doubleClick(Point at) {
 void InstrumentMouse::stepKnob(InstrumentArea area, int steps) {
     if (!usable(area) || steps == 0)
         return;
-    if (area == InstrumentArea::headingBugKnob)
+    if (area == InstrumentArea::headingBugKnob || area == InstrumentArea::headingBug)
         turnHeadingBug(instrument.c_HDGbug + steps);
     else if (area == InstrumentArea::selector)
         clickSelector();
@@ -127,17 +156,26 @@ void InstrumentMouse::mouseObsWasSet() {
     obsDrag.rebase(instrument.c_MouseOBS);
 }
 
-std::int16_t InstrumentMouse::faceAngle(Point at) const {
+double InstrumentMouse::bearingOf(Point at) const {
     const std::int16_t middle = toInt16(instrument.picture.size / 2);
     const Polar fromMiddle =
         VectorAngleLength(100, {middle, toInt16(-middle)}, {toInt16(at.x), toInt16(-at.y)});
-    return toInt16(360 - roundToEven(fromMiddle.course));
+    return roundToEven(fromMiddle.course);
 }
 
+/// The numeral pressed comes to the top of a VOR indicator, and its card then turns with the hand.
 void InstrumentMouse::grabCard(Point at) {
-    cardGrab = faceAngle(at);
-    cardBase = toInt16(instrument.angle + cardGrab);
-    turnCourse(cardBase);
+    const double bearing = bearingOf(at);
+    cardGrab = instrument.angle - 2 * bearing;
+    dragCard(at);
+}
+
+/// The card's angle of a VOR indicator, and the course away from it on an HSI, is what the mouse
+/// puts out.
+void InstrumentMouse::dragCard(Point at) {
+    const double bearing = bearingOf(at);
+    const bool arrow = instrument.Display == static_cast<std::int16_t>(InstrumentKind::hsi);
+    turnCourse(arrow ? instrument.angle - bearing : cardGrab + bearing);
 }
 
 void InstrumentMouse::turnHeadingBug(double heading) {

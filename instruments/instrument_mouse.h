@@ -11,13 +11,14 @@ class UserControl_1;
 struct KnobArea;
 
 /// What can be turned or clicked on an instrument.
-enum class InstrumentArea { none, obsKnob, headingBugKnob, selector, card };
+enum class InstrumentArea { none, obsKnob, headingBugKnob, selector, card, headingBug };
 
 /// The mouse on an instrument: it turns the knobs and the card and clicks the selector. Positions
 /// are twips of the control. While `c_DisableKnobs` is 0 nothing takes the mouse.
 ///
 /// A drag runs on its horizontal way: 40 twips a degree with the left button, 250 with any other.
-/// To the right the heading bug rises and the course falls.
+/// To the right the heading bug rises and the course falls. A drag on the dial goes round with the
+/// hand: it turns the VOR indicator's card, the HSI's course arrow and the heading bug.
 class InstrumentMouse {
   public:
     explicit InstrumentMouse(UserControl_1& control) : instrument(control) {}
@@ -25,7 +26,8 @@ class InstrumentMouse {
     /// What takes the mouse at a position.
     [[nodiscard]] InstrumentArea areaAt(Point at) const;
 
-    /// A press; says what it took hold of. A press on a numeral sets the course under it.
+    /// A press; says what it took hold of. A press on a numeral of a VOR indicator or HSI sets the
+    /// course under it; the cards of other kinds have no course to set.
     InstrumentArea down(Point at);
     void move(Point at, MouseButton held);
     /// A release; over the selector, if it was pressed there, it is a click.
@@ -35,8 +37,8 @@ class InstrumentMouse {
     /// On the heading bug knob: the bug to the heading under the lubber line. Elsewhere a press.
     void doubleClick(Point at);
 
-    /// Turns by wheel or key: the heading bug or the course (by its knob or the card) rises by one
-    /// degree a step. Any number of steps on the selector is one click.
+    /// Turns by wheel or key: the heading bug or the course (by its knob or on the dial) rises by
+    /// one degree a step. Any number of steps on the selector is one click.
     void stepKnob(InstrumentArea area, int steps);
 
     /// To be called when the values that a drag counts from were set.
@@ -44,14 +46,17 @@ class InstrumentMouse {
     void mouseObsWasSet();
 
   private:
-    /// The knob of an area; null for the card.
+    /// The knob of an area; null for what is taken on the dial.
     [[nodiscard]] const KnobArea* knobOf(InstrumentArea area) const;
     /// Twips from the left edge of the knob that was pressed.
     [[nodiscard]] double acrossKnob(Point at) const;
     [[nodiscard]] bool usable(InstrumentArea area) const;
-    /// 360 minus the bearing of a position from the middle, whole degrees.
-    [[nodiscard]] std::int16_t faceAngle(Point at) const;
+    /// The bearing of a position from the middle, whole degrees from the top of the instrument.
+    [[nodiscard]] double bearingOf(Point at) const;
+    [[nodiscard]] bool onNumeral(Point at) const;
+    [[nodiscard]] bool onHeadingBug(Point at) const;
     void grabCard(Point at);
+    void dragCard(Point at);
     void turnHeadingBug(double heading);
     void turnCourse(double mouseObs);
     void clickSelector();
@@ -60,8 +65,8 @@ class InstrumentMouse {
     InstrumentArea pressed = InstrumentArea::none;
     KnobDrag hdgDrag;
     KnobDrag obsDrag;
-    std::int16_t cardGrab = 0;
-    std::int16_t cardBase = 0;
+    double cardGrab = 0; ///< what a VOR indicator's card stands away from the hand
+    double bugGrab = 0;  ///< what the bug stands away from the hand
 };
 
 } // namespace tarnel

@@ -11,6 +11,11 @@ namespace tarnel {
 /// The values of `Display`.
 enum class InstrumentKind : std::int16_t { adf = 1, rmi, vor, hsi, dg };
 
+/// The values of `c_ADFCardselect`: a card that is turned by hand, or one that turns with the
+/// heading.
+constexpr std::int16_t fixedCard = 1;
+constexpr std::int16_t slavedCard = 2;
+
 /// An area over the background that takes the mouse.
 struct KnobArea {
     Area area;
@@ -27,7 +32,7 @@ struct InstrumentPicture {
     Picture Image1;  ///< the background
     KnobArea Image2; ///< heading bug knob
     KnobArea Image3; ///< selector
-    KnobArea Image4; ///< OBS knob
+    KnobArea Image4; ///< OBS knob; on an ADF it turns the fixed card
 
     std::array<Line, 72> Line1;     ///< card ticks: 36 long ones, then 36 short ones
     std::array<Label, 12> Label1;   ///< card numerals

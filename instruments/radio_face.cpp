@@ -76,7 +76,7 @@ void RadioFace::mouseMove(Point at) {
     if (!press.active())
         return;
     press.move(at);
-    if (pressedArea == KnobArea::outer && knobActs())
+    if (press.dragged() && knobActs())
         dragTo(at.x);
 }
 

@@ -10,7 +10,7 @@
 
 namespace tarnel {
 
-/// A press on a face. Once it has moved more than a few pixels it is a drag and no click.
+/// A press on a face: a click as long as it trembles by up to 60 twips, beyond that a drag.
 class FacePress {
   public:
     void press(Point at) {
@@ -23,6 +23,7 @@ class FacePress {
     bool release();
 
     [[nodiscard]] bool active() const { return held; }
+    [[nodiscard]] bool dragged() const { return moved; }
     /// Whether the way since the press is rather down or up than sideways.
     [[nodiscard]] bool upright(Point at) const;
 
@@ -36,8 +37,8 @@ class FacePress {
 /// positions are twips from the left upper corner of the area pressed.
 class RadioFace {
   public:
-    /// The areas of the knob: `inner` is `Image1`, `outer` the second one. A drag on the outer area
-    /// steps once for every 700 twips to the right (up) or left (down).
+    /// The areas of the knob: `inner` is `Image1`, `outer` the second one. A drag on either steps
+    /// once for every 700 twips to the right (up) or left (down).
     enum class KnobArea { inner, outer };
 
     void mouseDown(KnobArea area, Point at);

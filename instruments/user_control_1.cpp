@@ -48,8 +48,16 @@ void UserControl_1::loadBackground() {
         return;
     picture.surface.set(picture.Image1.file,
                         pathIn(c_MainAppPath.get(), backgroundName(*shown, choiceOf(*this))));
+    showCourseKnob();
     if (is(InstrumentKind::vor))
         LoadVORDisplay(flagKindOf(flagState));
+}
+
+/// The knob stands only where what it turns is seen: a course, or the card of an ADF that is turned
+/// by hand.
+void UserControl_1::showCourseKnob() {
+    const bool turnsCard = is(InstrumentKind::adf) && c_ADFCardselect == fixedCard;
+    picture.surface.show(picture.Image4, showsCourse() || turnsCard);
 }
 
 void UserControl_1::LoadVORDisplay(std::int16_t flagKind) {
@@ -85,7 +93,7 @@ void UserControl_1::UpdateInstrument() {
 }
 
 void UserControl_1::updateDeviation() {
-    if (!is(InstrumentKind::vor) && !is(InstrumentKind::hsi))
+    if (!showsCourse())
         return;
     if (forceRedraw != 1 && c_OBS_x == drawn.c_OBS_x && c_OBS == drawn.c_OBS &&
         c_HDG == drawn.c_HDG && adf2radial == drawn.adf2radial)
@@ -97,6 +105,7 @@ void UserControl_1::updateDeviation() {
 void UserControl_1::VOR(double course, double courseX, double heading, double radial) {
     const Receiver receiver = receiverFor(c_LOCEN);
     const NeedleReading needle = readNeedle(receiver, course, radial, cdiDeviation);
+    deviation = needle.deviation;
     if (needle.sector != Sector::abeam)
         cdiDeviation = toInt16(needle.deviation);
     showFlag(needle, receiver.localizer);
@@ -177,8 +186,9 @@ void UserControl_1::DrawHDGbug(std::int16_t bugAngle) {
 }
 
 InstrumentReading UserControl_1::reading() const {
-    return {Display,   intoCircle(360.0 - angle), c_OBS, cdiDeviation,
-            flagState, sector != Sector::abeam};
+    const double cardTop = intoCircle(360.0 - angle);
+    return {Display,   cardTop,   is(InstrumentKind::hsi) ? c_OBS_x.get() : cardTop,
+            deviation, flagState, sector != Sector::abeam};
 }
 
 } // namespace tarnel

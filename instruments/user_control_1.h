@@ -15,10 +15,10 @@ namespace tarnel {
 
 /// What an instrument reads, for those who can't see it.
 struct InstrumentReading {
-    std::int16_t display = 0;   ///< the kind
-    double cardHeading = 0;     ///< under the lubber line, degrees 0 to 360
-    double course = 0;          ///< selected course, degrees
-    std::int16_t deviation = 0; ///< degrees, positive is bar to the right
+    std::int16_t display = 0; ///< the kind
+    double cardHeading = 0;   ///< under the lubber line, degrees 0 to 360
+    double course = 0;        ///< under the index or the course arrow, degrees
+    double deviation = 0;     ///< degrees, positive is bar to the right
     FlagState flag = FlagState::none;
     bool received = false; ///< false in the abeam sector and out of a localizer's reach
 };
@@ -47,6 +47,10 @@ class UserControl_1 {
     void UpdateInstrument();
 
     [[nodiscard]] InstrumentReading reading() const;
+    /// Whether a course can be read here: on a VOR indicator and an HSI.
+    [[nodiscard]] bool showsCourse() const {
+        return is(InstrumentKind::vor) || is(InstrumentKind::hsi);
+    }
 
     /// Shows a message box. May be empty.
     std::function<void(const std::string&)> showMessage;
@@ -77,7 +81,7 @@ class UserControl_1 {
                                     [this] { mouse.headingBugWasSet(); }};
     Property<std::int16_t> c_HDGbugChange{properties, "c_HDGbugChange"};
     Property<std::int16_t> c_NAVselect{properties, "c_NAVselect", 1, [this] { loadBackground(); }};
-    Property<std::int16_t> c_ADFCardselect{properties, "c_ADFCardselect", 1,
+    Property<std::int16_t> c_ADFCardselect{properties, "c_ADFCardselect", fixedCard,
                                            [this] { loadBackground(); }};
     Property<std::int16_t> c_OBSKnobchange{properties, "c_OBSKnobchange"};
     Property<std::string> c_MainAppPath{properties, "c_MainAppPath"};
@@ -111,6 +115,7 @@ class UserControl_1 {
     void resize();
     void lockKnobs();
     void loadBackground();
+    void showCourseKnob();
     void showFlag(const NeedleReading& needle, bool localizer);
     void updateDeviation();
     void updateSecondNeedle();
@@ -123,7 +128,8 @@ class UserControl_1 {
     std::int16_t forceRedraw = 0;
     FlagState flagState = FlagState::none;
     Sector sector = Sector::abeam;
-    std::int16_t cdiDeviation = 0;
+    std::int16_t cdiDeviation = 0; ///< whole degrees: what the bar freezes at
+    double deviation = 0;          ///< what the bar shows
     std::int16_t hsiRotation = 0;
     std::int16_t lastHsiRotation = 0;
 };

@@ -42,9 +42,6 @@ void Form1::connectPosition(const PositionLinks& links) {
     links.radialBox.onClick = [&links] {
         links.radialShown = static_cast<std::int16_t>(links.radialBox.value());
     };
-    links.overlayBox.onClick = [&links] {
-        links.position.instrument.c_RMIoverlayEN = links.overlayBox.value() == 1 ? 1 : 0;
-    };
 }
 
 void Form1::connectStrip() {

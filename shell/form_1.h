@@ -252,7 +252,6 @@ class Form1 : private SimulationMessages {
     void followReplayBar();
     void echoChannelButtons();
     void showComment();
-    void takeMouseObs(InstrumentPosition& position);
     void pushPanelState();
     void pushPosition(const PositionLinks& links);
     void pullPanelState();
@@ -272,7 +271,6 @@ class Form1 : private SimulationMessages {
     // The instrument panel.
     void selectInstrument(const PositionLinks& links, std::int16_t type);
     void labelInstrument(InstrumentPosition& position);
-    void seedAdf(UserControl_1& instrument);
     void resizeInstrument(InstrumentPosition& position, bool large);
     void stepChannel(InstrumentPosition& position);
     void stepVorChannel(InstrumentPosition& position, std::int16_t& channel);

@@ -1,11 +1,15 @@
 #include "shell/instrument_feed.h"
 
 #include "core/rounding.h"
+#include "shell/needle_sources.h"
 #include "shell/signal_name.h"
 
 namespace tarnel {
 
 namespace {
+
+/// Where a pointer stands whose station is off, degrees from the top of the instrument.
+constexpr double parked = 90;
 
 /// One feed: a position and where its needles come from.
 class Feed {
@@ -15,7 +19,8 @@ class Feed {
           sources(from),
           sim(from.simulation),
           position(owner.position),
-          instrument(owner.position.instrument) {}
+          instrument(owner.position.instrument),
+          needles(needleSources(owner.position, from)) {}
 
     void feedAdf();
     void feedRmi();
@@ -26,18 +31,17 @@ class Feed {
 
   private:
     [[nodiscard]] bool northUp() const { return sim.c_MAPnorthUP == 1; }
-    [[nodiscard]] double bearing(Slot slot) const;
     [[nodiscard]] double course(Slot slot) const;
-    [[nodiscard]] bool stationOn(Slot slot) const { return sim.slot(slot).enabled != off; }
+    [[nodiscard]] double pointer(const NeedleSource& source) const;
     [[nodiscard]] double inboundCourse() const;
     [[nodiscard]] double fromTopOfChart(double course) const {
         return northUp() ? course : course - sim.c_HDG;
     }
-    void keepCourse(Slot tuned, double selectedCourse);
+    void keepCourse(double selectedCourse);
     void setAngle(double degrees);
     void setSlavedCard();
-    void setReceiver(Slot tuned, double selectedCourse, bool stationIsOn);
-    void setOverlayBox(Slot tuned);
+    void setReceiver(double selectedCourse);
+    void setOverlay();
     void setSecondPointerName(Text name);
     void clearSecondPointerName();
 
@@ -46,12 +50,15 @@ class Feed {
     UserControl2& sim;
     InstrumentPosition& position;
     UserControl_1& instrument;
+    NeedleSources needles;
 };
 
 /// The bearing to a station as an angle from the top of the instrument. On a chart with the heading
 /// up the radial is already relative to the heading; the localizer's never is.
-double Feed::bearing(Slot slot) const {
-    const double radial = sim.slot(slot).radial;
+double Feed::pointer(const NeedleSource& source) const {
+    if (!source.received)
+        return parked;
+    const double radial = sim.slot(source.slot).radial;
     return northUp() ? (radial - 180) - sim.c_HDG : radial - 180;
 }
 
@@ -94,79 +101,75 @@ void Feed::clearSecondPointerName() {
 }
 
 void Feed::feedAdf() {
-    constexpr std::int16_t slavedCard = 2;
-    const Slot ndb = tunedNdb(sources);
-    if (!stationOn(ndb))
-        return;
-    instrument.adfradial = bearing(ndb);
-    setAngle(instrument.c_ADFCardselect == slavedCard ? 360 - sim.c_HDG : 360 - position.obs);
+    instrument.adfradial = pointer(*needles.first);
+    setAngle(360 - (instrument.c_ADFCardselect == slavedCard ? sim.c_HDG.get() : position.adfCard));
 }
 
 void Feed::feedRmi() {
-    constexpr double parked = 90;
-    const Slot tuned = tunedStation(sources, position.navSel);
-    const bool vorReceived = tuned != Slot::localizer && stationOn(tuned);
-    instrument.adfradial = vorReceived ? bearing(tuned) : parked;
-    const Slot ndb = tunedNdb(sources);
-    instrument.adf2radial = stationOn(ndb) ? bearing(ndb) : 0;
-    setSecondPointerName(signalName(ndb));
+    instrument.adfradial = pointer(*needles.first);
+    instrument.adf2radial = pointer(*needles.second);
+    setSecondPointerName(signalName(needles.second->slot));
     setSlavedCard();
 }
 
 /// Radial, course and localizer distance of a VOR indicator or HSI. With the station off the radial
 /// stands abeam of the course, so that the flag shows.
-void Feed::setReceiver(Slot tuned, double selectedCourse, bool stationIsOn) {
-    instrument.adf2radial = stationIsOn ? course(tuned) : selectedCourse + 90;
+void Feed::setReceiver(double selectedCourse) {
+    const auto [tuned, received] = *needles.first;
+    instrument.adf2radial = received ? course(tuned) : selectedCourse + 90;
     instrument.c_LOCEN =
-        stationIsOn && tuned == Slot::localizer ? -sim.slot(tuned).dme.get() - 1 : 0.0;
+        received && tuned == Slot::localizer ? -sim.slot(tuned).dme.get() - 1 : 0.0;
     instrument.c_OBS = selectedCourse;
 }
 
 void Feed::feedVor() {
-    const Slot tuned = tunedStation(sources, position.navSel);
-    const bool received = stationOn(tuned);
+    const auto [tuned, received] = *needles.first;
     const bool localizer = received && tuned == Slot::localizer;
     const double selected = localizer ? inboundCourse() : position.obs;
-    setReceiver(tuned, selected, received);
+    setReceiver(selected);
     instrument.c_HDG = localizer ? toInt16(instrument.c_LOCEN) : std::int16_t{0};
     if (received)
         instrument.c_OBS_x = selected;
     setAngle(360 - position.obs);
-    keepCourse(tuned, position.obs);
+    keepCourse(position.obs);
 }
 
 /// Keeps the course of a received VOR for the chart.
-void Feed::keepCourse(Slot tuned, double selectedCourse) {
-    if (!stationOn(tuned) || tuned == Slot::localizer)
+void Feed::keepCourse(double selectedCourse) {
+    const auto [tuned, received] = *needles.first;
+    if (!received || tuned == Slot::localizer)
         return;
     (tuned == Slot::vor1 ? sim.c_OBS1 : sim.c_OBS2) = fromTopOfChart(selectedCourse);
 }
 
-/// The overlay needle has nothing to point at on a localizer: its box goes grey there.
-void Feed::setOverlayBox(Slot tuned) {
+/// The overlay needle has nothing to point at on a localizer: its box goes grey there. While the
+/// station is off it is hidden.
+void Feed::setOverlay() {
+    const auto [tuned, received] = *needles.first;
     constexpr int ticked = 1;
     constexpr int greyed = 2;
     if (tuned == Slot::localizer && links.overlayBox.value() == ticked)
         links.overlayBox.set(greyed);
     else if (tuned != Slot::localizer && links.overlayBox.value() == greyed)
         links.overlayBox.set(ticked);
-}
-
-void Feed::feedHsi() {
-    const Slot tuned = tunedStation(sources, position.navSel);
-    const bool received = stationOn(tuned);
-    const bool localizer = tuned == Slot::localizer;
-    setOverlayBox(tuned);
-    const double offCourse = localizer ? static_cast<double>(sources.locCourse) : position.obsHsi;
-    const double selected = localizer && received ? inboundCourse() : offCourse;
-    setReceiver(tuned, selected, received);
-    if (received && instrument.c_RMIoverlayEN == 1)
+    const bool shown = links.overlayBox.value() == ticked && received;
+    instrument.c_RMIoverlayEN.setIfChanged(shown ? 1 : 0);
+    if (shown)
         setSecondPointerName(signalName(tuned));
     else
         clearSecondPointerName();
+}
+
+void Feed::feedHsi() {
+    const auto [tuned, received] = *needles.first;
+    const bool localizer = tuned == Slot::localizer;
+    setOverlay();
+    const double offCourse = localizer ? static_cast<double>(sources.locCourse) : position.obsHsi;
+    const double selected = localizer && received ? inboundCourse() : offCourse;
+    setReceiver(selected);
     setSlavedCard();
     instrument.c_OBS_x = received ? selected : position.obsHsi;
-    keepCourse(tuned, position.obsHsi);
+    keepCourse(position.obsHsi);
 }
 
 void Feed::feedDg() {
@@ -174,17 +177,6 @@ void Feed::feedDg() {
 }
 
 } // namespace
-
-Slot tunedStation(const FeedSources& sources, std::int16_t receiver) {
-    static constexpr Slot slots[] = {Slot::vor1, Slot::vor2, Slot::localizer};
-    const auto& face = receiver == 1 ? sources.nav1 : sources.nav2;
-    const auto selected = face.c_SetFreq.get();
-    return selected >= 0 && selected <= 2 ? slots[selected] : Slot::localizer;
-}
-
-Slot tunedNdb(const FeedSources& sources) {
-    return sources.adfReceiver.c_SetFreq == 0 ? Slot::ndb1 : Slot::ndb2;
-}
 
 void feedInstrument(const PositionLinks& links, const FeedSources& sources) {
     Feed feed(links, sources);
@@ -207,8 +199,7 @@ void feedInstrument(const PositionLinks& links, const FeedSources& sources) {
     default:
         return;
     }
-    feed.writeCourseOnChart(links.position.type == hsi ? links.position.obsHsi
-                                                       : links.position.obs);
+    feed.writeCourseOnChart(links.position.dial());
 }
 
 } // namespace tarnel

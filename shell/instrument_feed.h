@@ -23,10 +23,4 @@ struct FeedSources {
 /// instrument redraws only what changed.
 void feedInstrument(const PositionLinks& links, const FeedSources& sources);
 
-/// The station that NAV receiver 1 or 2 is tuned to.
-[[nodiscard]] Slot tunedStation(const FeedSources& sources, std::int16_t receiver);
-
-/// The station that the ADF receiver is tuned to.
-[[nodiscard]] Slot tunedNdb(const FeedSources& sources);
-
 } // namespace tarnel

@@ -2,6 +2,7 @@
 
 #include "core/number_text.h"
 #include "core/rounding.h"
+#include "shell/signal_name.h"
 
 namespace tarnel {
 
@@ -16,29 +17,36 @@ std::string receiverName(const StringTable& texts, std::int16_t receiver) {
     return std::string(texts[receiver == 1 ? Text::faceNav1 : Text::faceNav2]);
 }
 
-LegendPart coursePart(const StringTable& texts, double degrees) {
+LegendPart coursePart(LegendNeedle needle, const StringTable& texts, double degrees) {
     const std::string value = degreesText(texts, degrees);
-    return {LegendNeedle::course, std::string(texts[Text::courseShort]) + " " + value, value};
+    return {needle, std::string(texts[Text::courseShort]) + " " + value, value};
+}
+
+LegendPart stationPart(LegendNeedle needle, const StringTable& texts, const NeedleSource& source) {
+    return {needle, std::string(texts[signalName(source.slot)])};
 }
 
 } // namespace
 
 std::vector<LegendPart> instrumentLegend(const StringTable& texts,
                                          const InstrumentPosition& position,
-                                         std::int16_t adfSelection) {
-    const Text ndb = adfSelection == 0 ? Text::signalNdb1 : Text::signalNdb2;
+                                         const FeedSources& sources) {
+    using enum LegendNeedle;
+    const NeedleSources needles = needleSources(position, sources);
+    const std::string receiver = receiverName(texts, position.navSel);
+    std::vector<LegendPart> parts;
     switch (position.type) {
     case adf:
-        return {{LegendNeedle::first, std::string(texts[ndb])}};
+        return {stationPart(first, texts, *needles.first)};
     case rmi:
-        return {{LegendNeedle::first, receiverName(texts, position.navSel)},
-                {LegendNeedle::second, std::string(texts[ndb])}};
+        return {{first, receiver}, stationPart(second, texts, *needles.second)};
     case vor:
-        return {{LegendNeedle::course, receiverName(texts, position.navSel)},
-                coursePart(texts, position.obs)};
+        return {{bar, receiver}, coursePart(none, texts, position.obs)};
     case hsi:
-        return {{LegendNeedle::course, receiverName(texts, position.navSel)},
-                coursePart(texts, position.instrument.c_OBS_x)};
+        parts = {{arrow, receiver}, coursePart(arrow, texts, position.instrument.c_OBS_x)};
+        if (position.instrument.c_RMIoverlayEN == 1)
+            parts.push_back(stationPart(overlay, texts, *needles.first));
+        return parts;
     default:
         return {};
     }

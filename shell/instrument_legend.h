@@ -1,14 +1,16 @@
 #pragma once
 
-#include "shell/form_1.h"
+#include "shell/needle_sources.h"
+#include "strings/string_table.h"
 
 #include <string>
 #include <vector>
 
 namespace tarnel {
 
-/// Which needle a part of a legend belongs to.
-enum class LegendNeedle { course, first, second };
+/// Which needle a part of a legend belongs to: the first or second pointer, the VOR indicator's
+/// bar, the HSI's course arrow or its overlay needle; or none.
+enum class LegendNeedle { none, first, second, bar, arrow, overlay };
 
 struct LegendPart {
     LegendNeedle needle;
@@ -17,9 +19,9 @@ struct LegendPart {
     bool operator==(const LegendPart&) const = default;
 };
 
-/// What stands above an instrument: the receivers of its needles, and the course that is set.
+/// What stands above an instrument: what its needles follow, and the course that is set.
 [[nodiscard]] std::vector<LegendPart> instrumentLegend(const StringTable& texts,
                                                        const InstrumentPosition& position,
-                                                       std::int16_t adfSelection);
+                                                       const FeedSources& sources);
 
 } // namespace tarnel

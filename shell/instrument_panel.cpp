@@ -32,7 +32,7 @@ constexpr PointerPair rmiPairs[] = {
 
 void Form1::selectInstrument(const PositionLinks& links, std::int16_t type) {
     InstrumentPosition& position = links.position;
-    position.type = type;
+    position.setType(type);
     links.instType = type;
     position.instrument.Display = type;
     if (type == vor || type == hsi)
@@ -40,8 +40,7 @@ void Form1::selectInstrument(const PositionLinks& links, std::int16_t type) {
     else
         takeVor(position, 3);
     labelInstrument(position);
-    if (type == adf)
-        seedAdf(position.instrument);
+    feedInstrument(links, feedSources());
     links.typeList.select(type - 1);
     position.typeSeen = type;
 }
@@ -99,16 +98,6 @@ void Form1::labelInstrument(InstrumentPosition& position) {
     instrument.c_LabelText4 = labels[3];
     instrument.c_LabelText5 = labels[4];
     instrument.c_LabelText6 = labels[5];
-}
-
-/// First needle values of an ADF; the next tick keeps them.
-void Form1::seedAdf(UserControl_1& instrument) {
-    const double heading = UserControl11.c_HDG;
-    const Slot ndb = tunedNdb(feedSources());
-    instrument.adfradial = UserControl11.slot(ndb).radial - 180 - heading;
-    instrument.adf2radial = UserControl11.slot(Slot::vor2).radial - 180 - heading;
-    instrument.c_HDG = toInt16(360 - heading);
-    instrument.angle = toInt32(360 - heading);
 }
 
 void Form1::stepChannel(InstrumentPosition& position) {

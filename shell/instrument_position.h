@@ -33,12 +33,25 @@ struct InstrumentPosition {
     std::int16_t type = 0;
     std::int16_t typeSeen = 0; ///< the type that its list was last set to
     std::int16_t navSel = 1;   ///< the receiver that drives it
-    double obs = 0;            ///< course of its ADF card and VOR indicator, degrees
+    double obs = 0;            ///< course of its VOR indicator, degrees
     double obsHsi = 0;         ///< course of its HSI, degrees
+    double adfCard = 0;        ///< at the top of its ADF's fixed card, degrees
     double mouseObsSeen = 0;
     InstrumentChannels channels;
     ObsHold vor1Hold = notOnVor;
     ObsHold vor2Hold = notOnVor;
+
+    /// What the knob of the present kind turns: an ADF's fixed card, else the course.
+    [[nodiscard]] double dial() const;
+    /// Turns that dial, as a replay does; the knob counts on from there.
+    void setDial(double degrees);
+    /// Takes the dial to where the knob was turned since the last call.
+    void followKnob();
+    /// Changes the kind. An ADF's card begins at north, and the knob counts on from the dial.
+    void setType(std::int16_t next);
+
+  private:
+    void matchKnob();
 };
 
 /// What belongs to a panel position elsewhere: its widgets, and its properties of the simulation.

@@ -2,6 +2,7 @@
 #include "core/rounding.h"
 #include "persistence/file_path.h"
 #include "shell/form_1.h"
+#include "shell/needle_sources.h"
 
 #include <algorithm>
 #include <cmath>
@@ -14,14 +15,6 @@ namespace {
 constexpr double practiseAreaLimit = 80.0;
 /// Feet at which the simulated altitude stays, whatever the autopilot says.
 constexpr double fixedAltitude = 6000.0;
-
-/// A course from the instrument's mouse output, in 0 to 360 with both ends allowed.
-double courseFromMouse(double mouseObs) {
-    const double course = 360 - mouseObs;
-    if (course > 360)
-        return course - 360;
-    return course < 0 ? course + 360 : course;
-}
 
 } // namespace
 
@@ -42,7 +35,7 @@ void Form1::tick() {
     pinAltitude();
     blinkCommentMark();
     followReplayBar();
-    takeMouseObs(inst1);
+    inst1.followKnob();
     if (UserControl11.c_replayActive == 1)
         pushPanelState();
     else
@@ -135,7 +128,10 @@ void Form1::echoSelectors() {
     inst3.typeSeen = inst3.type;
 }
 
+/// In a locked replay the DME stays on what was recorded, wherever its selector stands.
 void Form1::copyReceiverSelections() {
+    if (UserControl11.inReplay() && UserControl11.c_replayInstLock == 1)
+        return;
     DMEControlFace1.c_NAV1f = toInt16(NAVControlFace1.c_SetFreq.get());
     DMEControlFace1.c_NAV2f = toInt16(NAVControlFace2.c_SetFreq.get());
 }
@@ -184,18 +180,21 @@ void Form1::setHeadingBug(std::int16_t heading) {
     writeHeadingBug(heading);
 }
 
-/// The distance of the selected DME. The second one shows the ground speed of the localizer's.
+/// The distance of the selected DME, as far as its digits go. The second one shows the ground speed
+/// of the localizer's.
 void Form1::showDme() {
-    static constexpr Slot distanceSlots[] = {Slot::vor1, Slot::vor2, Slot::localizer};
-    static constexpr Slot speedSlots[] = {Slot::vor1, Slot::localizer, Slot::localizer};
-    const auto source = DMEControlFace1.c_SetFreq.get();
-    if (source < 0 || source > 2)
+    const auto source = dmeSource(DMEControlFace1, UserControl11);
+    if (!source)
         return;
-    const StationProperties& station = UserControl11.slot(distanceSlots[source]);
-    const bool received = station.dmeEnabled != off;
-    const double tenths = received ? std::floor(station.dme * 10) : 0;
-    const std::int16_t knots =
-        received ? UserControl11.slot(speedSlots[source]).dmeGroundSpeed.get() : std::int16_t{0};
+    double tenths = 0;
+    std::int16_t knots = 0;
+    if (source->received) {
+        const Slot speed = source->slot == Slot::vor1 ? Slot::vor1 : Slot::localizer;
+        tenths = std::floor(UserControl11.slot(source->slot).dme * 10);
+        knots = UserControl11.slot(speed).dmeGroundSpeed;
+    }
+    if (tenths > DMEControlFace::longest)
+        tenths = DMEControlFace::noSignal;
     DMEControlFace1.c_DMEnm.setIfChanged(toInt16(tenths));
     DMEControlFace1.c_DMEkt.setIfChanged(knots);
 }
@@ -214,15 +213,6 @@ void Form1::echoChannelButtons() {
     echo(inst3ChannelButton, inst3);
 }
 
-void Form1::takeMouseObs(InstrumentPosition& position) {
-    const UserControl_1& instrument = position.instrument;
-    if (instrument.c_MouseOBS == position.mouseObsSeen)
-        return;
-    position.obs = courseFromMouse(instrument.c_MouseOBS);
-    position.obsHsi = courseFromMouse(instrument.c_MouseOBS_HSI);
-    position.mouseObsSeen = instrument.c_MouseOBS;
-}
-
 /// Copies what the user set on the panel into the simulation, which records it.
 void Form1::pullPanelState() {
     UserControl2& sim = UserControl11;
@@ -237,7 +227,7 @@ void Form1::pullPanelState() {
     for (const PositionLinks* links : {&inst2Links, &inst3Links}) {
         links->cardSelect.setIfChanged(links->position.instrument.c_ADFCardselect);
         links->navSelect.setIfChanged(links->position.navSel);
-        takeMouseObs(links->position);
+        links->position.followKnob();
     }
 }
 

@@ -142,6 +142,7 @@ void Form1::pushPanelState() {
     DMEControlFace1.c_SetFreq = sim.c_DMEfreq.get();
     for (const PositionLinks* links : {&inst2Links, &inst3Links})
         pushPosition(*links);
+    showDme(); // of the frequency that stands there now
 }
 
 void Form1::pushPosition(const PositionLinks& links) {
@@ -150,15 +151,12 @@ void Form1::pushPosition(const PositionLinks& links) {
     instrument.c_ADFCardselect.setIfChanged(links.cardSelect);
     position.navSel = links.navSelect;
     instrument.c_NAVselect.setIfChanged(links.navSelect);
+    if (isInstrument(links.instType)) {
+        position.setType(links.instType);
+        instrument.Display.setIfChanged(links.instType);
+    }
     // A course recorded under a turned chart is a sum and may lie above 360.
-    position.obs = position.obsHsi = intoCircle(links.courseOnChart);
-    instrument.c_MouseOBS = 360 - position.obs;
-    instrument.c_MouseOBS_HSI = 360 - position.obsHsi;
-    position.mouseObsSeen = instrument.c_MouseOBS;
-    if (!isInstrument(links.instType))
-        return;
-    position.type = links.instType;
-    instrument.Display.setIfChanged(links.instType);
+    position.setDial(intoCircle(links.courseOnChart));
 }
 
 } // namespace tarnel

@@ -593,6 +593,7 @@ constexpr StringEntry entries[] = {
     {713, "switched off"},
     {714, "locked"},
     {715, "Course knob"},
+    {833, "Card knob"},
     {716, "Heading bug knob"},
     {717, "Receiver selector"},
     {718, "Station selector"},

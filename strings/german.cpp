@@ -597,6 +597,7 @@ constexpr StringEntry entries[] = {
     {713, "ausgeschaltet"},
     {714, "gesperrt"},
     {715, "Kursknopf"},
+    {833, "Rosenknopf"},
     {716, "Heading-Bug-Knopf"},
     {717, "Empfängerwahl"},
     {718, "Stationswahl"},

@@ -548,6 +548,7 @@ enum class Text : int {
     spokenSwitchedOff = 713,
     spokenLocked = 714,
     spokenCourseKnob = 715,
+    spokenCardKnob = 833,
     spokenHeadingBugKnob = 716,
     spokenReceiverSelector = 717,
     spokenChannelButton = 718,

@@ -52,6 +52,13 @@ void DigitDisplay::setMeasured(bool measured) {
     update();
 }
 
+void DigitDisplay::setPointShown(bool show) {
+    if (pointShown == show)
+        return;
+    pointShown = show;
+    update();
+}
+
 void DigitDisplay::setDimmed(bool dim) {
     if (dimmed == dim)
         return;
@@ -156,6 +163,9 @@ void DigitDisplay::paintDigits(QPainter& painter) const {
     const double free = width() - labelWidth() - wide;
     QPointF corner(labelWidth() + (style.label.isEmpty() ? free / 2 : free - high * sideMargin),
                    (height() - cell.height()) / 2);
+    const double pointRoom = style.pointAfter > 0 ? cell.width() * pointCells : 0;
+    if (!pointShown)
+        corner.rx() += pointRoom / 2;
     const auto paintDigit = [&](std::int16_t picture) {
         const QString number = QString::number(picture).rightJustified(2, '0');
         const QString colourWord = style.measured ? "green" : "amber";
@@ -164,9 +174,9 @@ void DigitDisplay::paintDigits(QPainter& painter) const {
         corner.rx() += cell.width();
     };
     for (std::size_t i = 0; i < shown.size(); ++i) {
-        if (i > 0 && i == style.pointAfter) {
+        if (pointShown && i > 0 && i == style.pointAfter) {
             paintPoint(painter, corner + QPointF(0, cell.height()), high);
-            corner.rx() += cell.width() * pointCells;
+            corner.rx() += pointRoom;
         }
         paintDigit(shown[i]);
     }

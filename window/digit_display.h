@@ -33,6 +33,8 @@ class DigitDisplay : public QWidget {
     /// Paints again if the digits differ from those shown.
     void refresh();
     void setMeasured(bool measured);
+    /// Without their point the digits stand close together, as high as with it.
+    void setPointShown(bool shown);
     /// Switched off: what still stands there shows weaker.
     void setDimmed(bool dimmed);
     void setLabelShown(bool shown);
@@ -67,6 +69,7 @@ class DigitDisplay : public QWidget {
     double scale = 1;
     bool dimmed = false;
     bool labelShown = true;
+    bool pointShown = true;
 };
 
 } // namespace tarnel

@@ -1,6 +1,5 @@
 #include "window/dme_module.h"
 
-#include "window/spoken_reading.h"
 #include "window/text_of.h"
 
 #include <algorithm>
@@ -45,6 +44,7 @@ void DmeModule::refresh() {
         digits->setDimmed(face.c_OnOff != 1);
     }
     setDimmed(face.c_OnOff != 1);
+    distance.setPointShown(!face.wholeMiles());
     frequency.setMeasured(!own);
     frequency.setOffered(own && face.knobActs());
     sourceSelector.refresh();
@@ -52,10 +52,12 @@ void DmeModule::refresh() {
 }
 
 void DmeModule::speak() {
-    if (face.surface.revision() == spoken)
+    const auto measured = station ? station() : std::nullopt;
+    if (face.surface.revision() == spoken && measured == spokenOf)
         return;
     spoken = face.surface.revision();
-    setAccessibleDescription(QString::fromStdString(spokenDme(face, texts)));
+    spokenOf = measured;
+    setAccessibleDescription(QString::fromStdString(spokenDme(face, measured, texts)));
     frequency.setAccessibleDescription(
         QString::fromStdString(spokenDigits(face.frequency, wholeMegahertz, texts)));
 }

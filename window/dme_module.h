@@ -5,6 +5,7 @@
 #include "window/digit_display.h"
 #include "window/dme_selector.h"
 #include "window/module_frame.h"
+#include "window/spoken_reading.h"
 #include "window/stepped_digits.h"
 
 namespace tarnel {
@@ -19,6 +20,9 @@ class DmeModule : public ModuleFrame {
               QWidget* parent = nullptr);
 
     void refresh() override;
+
+    /// What the distance is measured to, for the spoken reading. May be empty.
+    std::function<std::optional<SpokenStation>()> station;
 
     [[nodiscard]] DmeSelector& selector() { return sourceSelector; }
     [[nodiscard]] SteppedDigits& frequencyDigits() { return frequency; }
@@ -37,6 +41,7 @@ class DmeModule : public ModuleFrame {
     DigitDisplay speed;
     DmeSelector sourceSelector;
     std::uint64_t spoken = ~std::uint64_t{0}; ///< the revision last put into words
+    std::optional<SpokenStation> spokenOf;    ///< the station last named
 };
 
 } // namespace tarnel

@@ -2,6 +2,7 @@
 
 #include "window/dark_list.h"
 #include "window/icons.h"
+#include "window/needle_swatch.h"
 #include "window/panel_look.h"
 
 #include <QHBoxLayout>
@@ -13,33 +14,8 @@ namespace tarnel {
 namespace {
 
 constexpr int partGap = 9;
-constexpr int swatchWidth = 14;
-constexpr int briefSwatchWidth = 7;
+constexpr int briefPartGap = 5;
 constexpr int swatchGap = 4;
-
-QColor needleColour(LegendNeedle needle) {
-    switch (needle) {
-    case LegendNeedle::first:
-        return look::needleOne;
-    case LegendNeedle::second:
-        return look::needleTwo;
-    case LegendNeedle::course:
-        break;
-    }
-    return look::course;
-}
-
-/// A single bar for the first needle, a double one for the second.
-void paintSwatch(QPainter& painter, LegendNeedle needle, QRectF area) {
-    const QColor colour = needleColour(needle);
-    const double middle = area.center().y();
-    if (needle == LegendNeedle::first) {
-        painter.fillRect(QRectF(area.left(), middle - 1, area.width(), 2), colour);
-        return;
-    }
-    painter.fillRect(QRectF(area.left(), middle - 2.5, area.width(), 1.5), colour);
-    painter.fillRect(QRectF(area.left(), middle + 1, area.width(), 1.5), colour);
-}
 
 } // namespace
 
@@ -90,37 +66,46 @@ void InstrumentHeader::followSize(QToolButton& button) {
 void InstrumentHeader::refresh() {
     const InstrumentPosition& position = controls.links.position;
     overlay->setVisible(position.type == hsi);
-    auto next = instrumentLegend(form.texts, position,
-                                 static_cast<std::int16_t>(form.ADFControlFace1.c_SetFreq.get()));
+    auto next = instrumentLegend(form.texts, position, form.feedSources());
     if (next == legend)
         return;
     legend = std::move(next);
     update();
 }
 
-int InstrumentHeader::legendWidth(const QFontMetrics& metrics) const {
+/// A needle is shown once, before the first of the parts that speak of it.
+bool InstrumentHeader::hasSwatch(std::size_t part) const {
+    return legend[part].needle != LegendNeedle::none &&
+           (part == 0 || legend[part - 1].needle != legend[part].needle);
+}
+
+int InstrumentHeader::partWidth(std::size_t part, bool brief, const QFontMetrics& metrics) const {
+    const std::string& text = brief ? legend[part].shortText : legend[part].text;
+    return metrics.horizontalAdvance(QString::fromStdString(text)) +
+           (hasSwatch(part) ? swatchWidth(legend[part].needle) + swatchGap : 0);
+}
+
+int InstrumentHeader::legendWidth(bool brief, const QFontMetrics& metrics) const {
     int width = 0;
-    for (const LegendPart& part : legend)
-        width += metrics.horizontalAdvance(QString::fromStdString(part.text)) + partGap +
-                 (part.needle == LegendNeedle::course ? 0 : swatchWidth + swatchGap);
+    for (std::size_t part = 0; part < legend.size(); ++part)
+        width += partWidth(part, brief, metrics) + (brief ? briefPartGap : partGap);
     return width;
 }
 
-int InstrumentHeader::paintPart(QPainter& painter, const LegendPart& part, bool brief,
-                                int rightEdge) const {
-    const QString text = QString::fromStdString(brief ? part.shortText : part.text);
-    const int width = painter.fontMetrics().horizontalAdvance(text);
-    const QRect area(rightEdge - width, 0, width, height());
-    painter.setPen(needleColour(part.needle));
-    painter.drawText(area, Qt::AlignVCenter | Qt::AlignRight | Qt::TextDontClip, text);
-    if (part.needle == LegendNeedle::course)
-        return area.left();
-    const int bar = brief ? briefSwatchWidth : swatchWidth;
-    const QRectF swatch(area.left() - swatchGap - bar, 0, bar, height());
-    paintSwatch(painter, part.needle, swatch);
-    return static_cast<int>(swatch.left());
+void InstrumentHeader::paintPart(QPainter& painter, std::size_t part, bool brief, int left) const {
+    const LegendPart& shown = legend[part];
+    if (hasSwatch(part)) {
+        const int width = swatchWidth(shown.needle);
+        paintSwatch(painter, shown.needle, {left + width / 2.0, height() / 2.0});
+        left += width + swatchGap;
+    }
+    painter.setPen(needleColour(shown.needle));
+    painter.drawText(QRect(left, 0, width(), height()), Qt::AlignVCenter | Qt::AlignLeft,
+                     QString::fromStdString(brief ? shown.shortText : shown.text));
 }
 
+/// The legend ends at the right edge; where its short form is still too long it begins behind the
+/// toggles, and its end is left out.
 void InstrumentHeader::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
@@ -128,11 +113,17 @@ void InstrumentHeader::paintEvent(QPaintEvent*) {
     bold.setBold(true);
     bold.setPixelSize(qMax(10, bold.pixelSize() * look::unitType / look::bodyType));
     painter.setFont(bold);
-    const bool brief =
-        legendWidth(painter.fontMetrics()) > width() - toggles->geometry().right() - partGap;
-    int rightEdge = width() - 2;
-    for (auto part = legend.rbegin(); part != legend.rend(); ++part)
-        rightEdge = paintPart(painter, *part, brief, rightEdge) - (brief ? partGap / 2 : partGap);
+    const QFontMetrics metrics = painter.fontMetrics();
+    const int room = toggles->geometry().right() + briefPartGap;
+    const bool brief = legendWidth(false, metrics) > width() - room;
+    int left = qMax(room, width() - legendWidth(brief, metrics));
+    for (std::size_t part = 0; part < legend.size(); ++part) {
+        const int wide = partWidth(part, brief, metrics);
+        if (left + wide > width())
+            return;
+        paintPart(painter, part, brief, left);
+        left += wide + (brief ? briefPartGap : partGap);
+    }
 }
 
 } // namespace tarnel

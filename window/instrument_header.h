@@ -39,8 +39,10 @@ class InstrumentHeader : public QWidget {
   private:
     QToolButton* addToggle(QHBoxLayout& row);
     void followSize(QToolButton& button);
-    [[nodiscard]] int legendWidth(const QFontMetrics& metrics) const;
-    int paintPart(QPainter& painter, const LegendPart& part, bool brief, int right) const;
+    [[nodiscard]] bool hasSwatch(std::size_t part) const;
+    [[nodiscard]] int partWidth(std::size_t part, bool brief, const QFontMetrics& metrics) const;
+    [[nodiscard]] int legendWidth(bool brief, const QFontMetrics& metrics) const;
+    void paintPart(QPainter& painter, std::size_t part, bool brief, int left) const;
 
     Form1& form;
     HeaderControls controls;

@@ -33,6 +33,9 @@ void InstrumentPanel::makeInstruments(FormBinding& binding, PictureStore& pictur
         instruments[i] =
             new InstrumentView(controls[i].links.position.instrument, pictures, form.texts, this);
         instruments[i]->guard = guard;
+        instruments[i]->stations = [this, &position = controls[i].links.position] {
+            return stationsOf(position);
+        };
         instruments[i]->setObjectName(QStringLiteral("UserControl13_%1").arg(i));
         channelButtons[i] = new QPushButton(this);
         channelButtons[i]->setProperty("channel", true);
@@ -42,12 +45,22 @@ void InstrumentPanel::makeInstruments(FormBinding& binding, PictureStore& pictur
     binding.follow([this] { coverInstruments(); });
 }
 
+SpokenStations InstrumentPanel::stationsOf(const InstrumentPosition& position) const {
+    const NeedleSources needles = needleSources(position, form.feedSources());
+    return {spokenStation(needles.first, form.UserControl11, form.texts),
+            spokenStation(needles.second, form.UserControl11, form.texts)};
+}
+
 void InstrumentPanel::makeModules(FormBinding& binding, PictureStore& pictures,
                                   const ModelGuard& guard) {
     nav1 = new NavModule(form.NAVControlFace1, nav1Texts, pictures, form.texts, this);
     nav2 = new NavModule(form.NAVControlFace2, nav2Texts, pictures, form.texts, this);
     adf = new NavModule(form.ADFControlFace1, adfTexts, pictures, form.texts, this);
     dme = new DmeModule(form.DMEControlFace1, pictures, form.texts, this);
+    dme->station = [this] {
+        return spokenStation(dmeSource(form.DMEControlFace1, form.UserControl11),
+                             form.UserControl11, form.texts);
+    };
     stopwatch = new StopwatchModule(form.tvsmtimer1, pictures, form.texts, this);
     binding.bind(form.stopwatchStartButton, stopwatch->startButton());
     binding.bind(form.stopwatchResetButton, stopwatch->resetButton());

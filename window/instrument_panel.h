@@ -4,6 +4,7 @@
 #include "window/form_binding.h"
 #include "window/model_guard.h"
 #include "window/picture_store.h"
+#include "window/spoken_reading.h"
 #include "window/window_layout.h"
 
 #include <QWidget>
@@ -41,6 +42,7 @@ class InstrumentPanel : public QWidget {
   private:
     void makeInstruments(FormBinding& binding, PictureStore& pictures, const ModelGuard& guard);
     void makeModules(FormBinding& binding, PictureStore& pictures, const ModelGuard& guard);
+    [[nodiscard]] SpokenStations stationsOf(const InstrumentPosition& position) const;
     void coverInstruments();
     void colourChannelButtons();
     void layOutChannelButton(std::size_t position, const QRect& bezel);

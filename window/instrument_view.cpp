@@ -2,10 +2,8 @@
 
 #include "window/knob_drawing.h"
 #include "window/panel_look.h"
-#include "window/spoken_reading.h"
 #include "window/text_of.h"
 
-#include <QAccessible>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -25,6 +23,7 @@ Qt::CursorShape cursorOver(InstrumentArea area, bool pressed) {
     case InstrumentArea::selector:
         return Qt::PointingHandCursor;
     case InstrumentArea::card:
+    case InstrumentArea::headingBug:
         return pressed ? Qt::ClosedHandCursor : Qt::OpenHandCursor;
     case InstrumentArea::none:
         break;
@@ -55,7 +54,7 @@ QSize InstrumentView::sizeHint() const {
 
 InstrumentView::Shown InstrumentView::present() const {
     return {instrument.picture.surface.revision(), instrument.Display, instrument.c_HDGbug,
-            instrument.c_MouseOBS};
+            instrument.c_MouseOBS, stations ? stations() : SpokenStations{}};
 }
 
 void InstrumentView::refresh() {
@@ -68,21 +67,37 @@ void InstrumentView::refresh() {
     update();
 }
 
+/// The reading, behind the name of what has the keyboard.
+QString InstrumentView::spoken() const {
+    const QString reading =
+        QString::fromStdString(spokenReading(instrument, shown.stations, texts));
+    const auto behind = [&](Text knob) { return textOf(texts, knob) + ", " + reading; };
+    if (focusedArea() == InstrumentArea::obsKnob)
+        return behind(instrument.showsCourse() ? Text::spokenCourseKnob : Text::spokenCardKnob);
+    if (focusedArea() == InstrumentArea::headingBugKnob)
+        return behind(Text::spokenHeadingBugKnob);
+    if (focusedArea() == InstrumentArea::selector)
+        return behind(Text::spokenReceiverSelector);
+    return reading;
+}
+
+/// A covered instrument says nothing.
 void InstrumentView::speak() {
     const QString name = textOf(texts, spokenKind(instrument.Display));
     if (accessibleName() != name)
         setAccessibleName(name);
-    if (!QAccessible::isActive())
-        return;
-    QString reading = QString::fromStdString(spokenReading(instrument, texts));
-    if (focusedArea() == InstrumentArea::obsKnob)
-        reading.prepend(textOf(texts, Text::spokenCourseKnob) + ", ");
-    else if (focusedArea() == InstrumentArea::headingBugKnob)
-        reading.prepend(textOf(texts, Text::spokenHeadingBugKnob) + ", ");
-    else if (focusedArea() == InstrumentArea::selector)
-        reading.prepend(textOf(texts, Text::spokenReceiverSelector) + ", ");
+    const QString reading = isHidden() ? QString() : spoken();
     if (accessibleDescription() != reading)
         setAccessibleDescription(reading);
+}
+
+void InstrumentView::showEvent(QShowEvent* /*event*/) {
+    shown = present();
+    speak();
+}
+
+void InstrumentView::hideEvent(QHideEvent* /*event*/) {
+    speak();
 }
 
 Point InstrumentView::twipsAt(QPointF at) const {
@@ -291,6 +306,7 @@ QString InstrumentView::tipOf(InstrumentArea area) const {
     case InstrumentArea::card:
         return textOf(texts, Text::knobTip);
     case InstrumentArea::headingBugKnob:
+    case InstrumentArea::headingBug:
         return textOf(texts, Text::headingBugTip);
     case InstrumentArea::selector:
         return textOf(texts, Text::receiverSelectorTip);

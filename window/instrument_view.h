@@ -6,6 +6,7 @@
 #include "window/instrument_painter.h"
 #include "window/model_guard.h"
 #include "window/panel_input.h"
+#include "window/spoken_reading.h"
 
 #include <QWidget>
 
@@ -31,6 +32,8 @@ class InstrumentView : public QWidget {
     [[nodiscard]] QSize sizeHint() const override;
 
     ModelGuard guard = unguarded();
+    /// What the needles follow, for the spoken reading. May be empty.
+    std::function<SpokenStations()> stations;
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -42,6 +45,8 @@ class InstrumentView : public QWidget {
     void keyPressEvent(QKeyEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     bool focusNextPrevChild(bool next) override;
     bool event(QEvent* event) override;
@@ -53,6 +58,7 @@ class InstrumentView : public QWidget {
         std::int16_t display = 0;
         std::int16_t headingBug = 0;
         double mouseObs = 0;
+        SpokenStations stations;
         bool operator==(const Shown&) const = default;
     };
 
@@ -69,6 +75,7 @@ class InstrumentView : public QWidget {
     void paintKnobs(QPainter& painter);
     void paintSelector(QPainter& painter);
     void speak();
+    [[nodiscard]] QString spoken() const;
     [[nodiscard]] QString tipOf(InstrumentArea area) const;
     void change(const std::function<void()>& action);
 

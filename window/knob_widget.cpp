@@ -39,13 +39,6 @@ Point KnobWidget::twipsAt(QPointF at) const {
     return {at.x() * twipsPerPixel, at.y() * twipsPerPixel};
 }
 
-bool KnobWidget::onInnerCap(Point at) const {
-    const QPointF middle = rect().toRectF().center();
-    const double across = at.x / twipsPerPixel - middle.x();
-    const double down = at.y / twipsPerPixel - middle.y();
-    return std::hypot(across, down) <= rim() * innerCapShare;
-}
-
 void KnobWidget::setValueText(const QString& text) {
     if (text == value)
         return;

@@ -31,7 +31,6 @@ class KnobWidget : public QWidget {
     void setTwipsPerPixel(double twips) { twipsPerPixel = twips; }
     /// Whether the marks around the cap are painted.
     void setScaleShown(bool shown) { scaleShown = shown; }
-    [[nodiscard]] bool onInnerCap(Point at) const;
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
 

@@ -30,10 +30,8 @@ NavModule::NavModule(RadioFace& receiver, const ReceiverTexts& captions, Picture
 }
 
 void NavModule::connectKnob() {
-    using Part = RadioFace::KnobArea;
     frequencyKnob.press = [this](Point at) {
-        const Part part = frequencyKnob.onInnerCap(at) ? Part::inner : Part::outer;
-        change([this, part, at] { face.mouseDown(part, at); });
+        change([this, at] { face.mouseDown(RadioFace::KnobArea::inner, at); });
     };
     frequencyKnob.move = [this](Point at, MouseButton /*held*/) {
         change([this, at] { face.mouseMove(at); });

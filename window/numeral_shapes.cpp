@@ -12,7 +12,8 @@ namespace tarnel {
 namespace {
 
 constexpr double pointTwips = 20;
-constexpr double outlineEm = 100; ///< large, since outlines are hinted to whole pixels
+constexpr double outlineEm = 100;  ///< large, since outlines are hinted to whole pixels
+constexpr double edgeShare = 0.09; ///< of an em, around a numeral
 constexpr double cardinalWeight =
     look::card_share::cardinalHeight / look::card_share::numeralHeight;
 
@@ -28,7 +29,7 @@ double bearingOf(Point place, double middle) {
 
 } // namespace
 
-const QPainterPath& NumeralShapes::outline(const std::string& caption) {
+const TurnedNumeral& NumeralShapes::outline(const std::string& caption) {
     const auto found = outlines.find(caption);
     if (found != outlines.end())
         return found->second;
@@ -37,17 +38,22 @@ const QPainterPath& NumeralShapes::outline(const std::string& caption) {
     const QPointF middle = path.boundingRect().center();
     QTransform toOneEm = QTransform::fromScale(1 / outlineEm, 1 / outlineEm);
     toOneEm.translate(-middle.x(), -middle.y());
-    return outlines[caption] = toOneEm.map(path);
+    QPainterPathStroker stroker;
+    stroker.setWidth(2 * edgeShare * outlineEm);
+    stroker.setJoinStyle(Qt::RoundJoin);
+    const QPainterPath edge = stroker.createStroke(path).united(path);
+    return outlines[caption] = {toOneEm.map(path), toOneEm.map(edge)};
 }
 
-QPainterPath NumeralShapes::turned(const Label& numeral, double size, double scale) {
+TurnedNumeral NumeralShapes::turned(const Label& numeral, double size, double scale) {
     const double weight = isCardinal(numeral.caption) ? cardinalWeight : 1;
     const double em = numeral.fontPoints * pointTwips * weight;
     QTransform toPlace = QTransform::fromScale(scale, scale);
     toPlace.translate(numeral.anchor.x, numeral.anchor.y);
     toPlace.rotate(bearingOf(numeral.anchor, size / 2));
     toPlace.scale(em, em);
-    return toPlace.map(outline(numeral.caption));
+    const TurnedNumeral& upright = outline(numeral.caption);
+    return {toPlace.map(upright.body), toPlace.map(upright.edge)};
 }
 
 } // namespace tarnel

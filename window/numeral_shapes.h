@@ -9,17 +9,23 @@
 
 namespace tarnel {
 
+/// A numeral, and a shape that is a little larger all around.
+struct TurnedNumeral {
+    QPainterPath body;
+    QPainterPath edge;
+};
+
 /// Keeps the outlines of a card's numerals and turns them to their places.
 class NumeralShapes {
   public:
     /// A numeral at its place in a control of `size` twips, its head away from the middle;
     /// `scale` is pixels a twip.
-    [[nodiscard]] QPainterPath turned(const Label& numeral, double size, double scale);
+    [[nodiscard]] TurnedNumeral turned(const Label& numeral, double size, double scale);
 
   private:
-    [[nodiscard]] const QPainterPath& outline(const std::string& caption);
+    [[nodiscard]] const TurnedNumeral& outline(const std::string& caption);
 
-    std::map<std::string, QPainterPath> outlines; ///< one em high, about their middles
+    std::map<std::string, TurnedNumeral> outlines; ///< one em high, about their middles
 };
 
 } // namespace tarnel

@@ -5,9 +5,10 @@
 /// What only the dark panel's painted parts need of colours and measures.
 namespace tarnel::look {
 
-inline constexpr QColor panelAccent = rgb(0x5B9BD8); ///< "act" on the dark panel: hover and focus
-inline constexpr QColor panelFocus = rgb(0x8CC4FF);  ///< the ring around what has the keyboard
-inline constexpr QColor panelRing = rgb(0x0E1113);   ///< the dark gap under a focus ring
+inline constexpr QColor panelAccent = rgb(0x5B9BD8);  ///< "act" on the dark panel: hover and focus
+inline constexpr QColor panelFocus = rgb(0x8CC4FF);   ///< the ring around what has the keyboard
+inline constexpr QColor panelRing = rgb(0x0E1113);    ///< the dark gap under a focus ring
+inline constexpr QColor deviationBar = rgb(0xFF8000); ///< of the VOR indicator
 inline constexpr QColor overlayNeedle = rgb(0xA9C4FF);
 inline constexpr QColor flagRed = rgb(0xD8322A);
 inline constexpr QColor shapeEdge = rgb(0x0B0C0D); ///< around needles, bug and aircraft

@@ -2,6 +2,7 @@
 
 #include "core/number_text.h"
 #include "core/rounding.h"
+#include "shell/signal_name.h"
 #include "shell/text_format.h"
 
 #include <algorithm>
@@ -24,6 +25,7 @@ class Sentence {
         append(filledIn(texts[text], {zeroPadded(toInt32(intoCircle(degrees)), 3)}));
     }
     void add(Text text, const std::string& value) { append(filledIn(texts[text], {value})); }
+    void addWords(const std::string& part) { append(part); }
     [[nodiscard]] std::string take() { return std::move(words); }
 
   private:
@@ -33,10 +35,14 @@ class Sentence {
     std::string words;
 };
 
-void addDots(Sentence& sentence, double travel) {
-    const double halfDots = std::round(std::abs(travel) * dotsASide * 2);
-    const double dots = halfDots / 2;
-    if (dots == 0)
+void addDots(Sentence& sentence, const Receiver& receiver, double deviation) {
+    constexpr double centredWithin = 0.25;
+    constexpr int noise = 6; ///< decimals behind which a difference of angles means nothing
+    const double travel = barTravel(receiver, deviation);
+    const double exact = roundTo(std::abs(travel) * dotsASide, noise);
+    const double steps = receiver.localizer ? 10 : 2;
+    const double dots = std::round(exact * steps) / steps;
+    if (exact <= centredWithin)
         sentence.add(Text::spokenCentred);
     else if (dots == 1)
         sentence.add(travel < 0 ? Text::spokenOneDotLeft : Text::spokenOneDotRight);
@@ -53,15 +59,30 @@ void addFlag(Sentence& sentence, FlagState flag) {
         sentence.add(Text::spokenLocalizer);
 }
 
-void addDeviation(Sentence& sentence, const UserControl_1& instrument,
-                  const InstrumentReading& reading) {
+void addDeviation(Sentence& sentence, const UserControl_1& instrument, bool stationOn) {
+    const InstrumentReading reading = instrument.reading();
     sentence.add(Text::spokenCourse, reading.course);
-    if (!reading.received) {
+    if (!reading.received || !stationOn) {
         sentence.add(Text::spokenNoSignal);
         return;
     }
-    addDots(sentence, barTravel(receiverFor(instrument.c_LOCEN), reading.deviation));
+    addDots(sentence, receiverFor(instrument.c_LOCEN), reading.deviation);
     addFlag(sentence, reading.flag);
+}
+
+/// Says which station a needle follows. True if the needle has something to tell of it.
+bool addStation(Sentence& sentence, const std::optional<SpokenStation>& station) {
+    if (station)
+        sentence.addWords(station->name);
+    return !station || station->received;
+}
+
+void addPointer(Sentence& sentence, const std::optional<SpokenStation>& station, Text words,
+                double bearing) {
+    if (addStation(sentence, station))
+        sentence.add(words, bearing);
+    else
+        sentence.add(Text::spokenNoSignal);
 }
 
 bool shows(const InstrumentReading& reading, InstrumentKind kind) {
@@ -70,21 +91,37 @@ bool shows(const InstrumentReading& reading, InstrumentKind kind) {
 
 } // namespace
 
-std::string spokenReading(const UserControl_1& instrument, const StringTable& texts) {
+std::optional<SpokenStation> spokenStation(const std::optional<NeedleSource>& source,
+                                           const UserControl2& simulation,
+                                           const StringTable& texts) {
+    if (!source)
+        return {};
+    std::string name(texts[signalName(source->slot)]);
+    name += ' ';
+    name += simulation.slot(source->slot).name.get();
+    return SpokenStation{std::move(name), source->received};
+}
+
+std::string spokenReading(const UserControl_1& instrument, const SpokenStations& stations,
+                          const StringTable& texts) {
     using enum InstrumentKind;
     Sentence sentence(texts);
     const InstrumentReading reading = instrument.reading();
-    const bool deviation = shows(reading, vor) || shows(reading, hsi);
     if (!shows(reading, vor))
         sentence.add(Text::spokenHeading, reading.cardHeading);
     if (shows(reading, adf))
-        sentence.add(Text::spokenBearing, instrument.adfradial - instrument.angle);
+        addPointer(sentence, stations.first, Text::spokenBearing,
+                   instrument.adfradial - instrument.angle);
     if (shows(reading, rmi)) {
-        sentence.add(Text::spokenNeedleOne, instrument.adfradial - instrument.angle);
-        sentence.add(Text::spokenNeedleTwo, instrument.adf2radial - instrument.angle);
+        addPointer(sentence, stations.first, Text::spokenNeedleOne,
+                   instrument.adfradial - instrument.angle);
+        addPointer(sentence, stations.second, Text::spokenNeedleTwo,
+                   instrument.adf2radial - instrument.angle);
     }
-    if (deviation)
-        addDeviation(sentence, instrument, reading);
+    if (instrument.showsCourse())
+        addDeviation(sentence, instrument, addStation(sentence, stations.first));
+    if (shows(reading, hsi) && instrument.c_RMIoverlayEN == 1)
+        sentence.add(Text::spokenBearing, instrument.adf2radial - 180);
     if (instrument.picture.Line17to23.front().visible)
         sentence.add(Text::spokenHeadingBug, instrument.c_HDGbug);
     if (instrument.c_DisableKnobs == 0)
@@ -119,12 +156,22 @@ std::string spokenDigits(const DigitReadout& digits, std::size_t pointAfter,
     return words;
 }
 
-std::string spokenDme(const DMEControlFace& face, const StringTable& texts) {
-    constexpr std::size_t wholeMiles = 2;
-    const std::string distance = spokenDigits(face.distance, wholeMiles, texts);
-    if (face.distance.pictures().front() >= DigitReadout::dashPicture)
-        return distance;
-    return filledIn(texts[Text::spokenDmeDistance], {distance, spokenDigits(face.speed, 0, texts)});
+std::string spokenDme(const DMEControlFace& face, const std::optional<SpokenStation>& station,
+                      const StringTable& texts) {
+    constexpr std::size_t pointAfter = 2;
+    Sentence sentence(texts);
+    const std::string distance =
+        spokenDigits(face.distance, face.wholeMiles() ? 0 : pointAfter, texts);
+    const bool dark = face.distance.pictures().front() == DigitReadout::blankPicture;
+    const bool received = dark || addStation(sentence, station);
+    if (!received)
+        sentence.add(Text::spokenNoSignal);
+    else if (face.distance.pictures().front() >= DigitReadout::dashPicture)
+        sentence.addWords(distance);
+    else
+        sentence.addWords(filledIn(texts[Text::spokenDmeDistance],
+                                   {distance, spokenDigits(face.speed, 0, texts)}));
+    return sentence.take();
 }
 
 } // namespace tarnel

@@ -35,8 +35,18 @@ void SteppedDigits::paintOver(QPainter& painter) {
                             rounding);
 }
 
-void SteppedDigits::mousePressEvent(QMouseEvent* /*event*/) {
-    stepBy(1);
+void SteppedDigits::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton)
+        pressed = true;
+}
+
+void SteppedDigits::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton || !pressed)
+        return;
+    const bool clicked = rect().contains(event->position().toPoint());
+    pressed = false;
+    if (clicked)
+        stepBy(1);
 }
 
 void SteppedDigits::wheelEvent(QWheelEvent* event) {

@@ -7,7 +7,7 @@
 
 namespace tarnel {
 
-/// `SteppedDigits`: digits that a click, the wheel and the keys step, as long as they are offered.
+/// `SteppedDigits`: digits that a left click, the wheel and the keys step while they are offered.
 class SteppedDigits : public DigitDisplay {
     Q_OBJECT
 
@@ -22,6 +22,7 @@ class SteppedDigits : public DigitDisplay {
   protected:
     void paintOver(QPainter& painter) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void enterEvent(QEnterEvent* event) override;
@@ -32,6 +33,7 @@ class SteppedDigits : public DigitDisplay {
 
     WheelNotches notches;
     bool offered = false;
+    bool pressed = false; ///< with the left button, which steps when it is released
 };
 
 } // namespace tarnel

@@ -217,7 +217,7 @@ TEST(InstrumentDrawing, eachKindShowsItsParts) {
     UserControl_1 one; // switched through all kinds, so that nothing of the last one stays behind
     const std::set<std::string> expected[] = {
         {"selector", "obs knob", "aircraft", "needle"},
-        {"bug", "bug knob", "selector", "obs knob", "aircraft", "needle", "needle 2", "label"},
+        {"bug", "bug knob", "selector", "aircraft", "needle", "needle 2", "label"},
         {"selector", "obs knob", "bar", "dots", "flag"},
         {"bug", "bug knob", "selector", "obs knob", "aircraft", "needle", "bar", "tail", "lubber",
          "dots", "label"},

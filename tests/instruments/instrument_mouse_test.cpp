@@ -45,25 +45,25 @@ TEST(InstrumentMouse, headingBugKnob) {
 }
 
 TEST(InstrumentMouse, aSetFromOutsideMovesTheNextDragOnly) {
-    PanelInstrument rmi(InstrumentKind::rmi);
-    rmi.c_HDGbug = 100;
-    rmi.mouse.down({bugLeft, 3100}); // a press at the very edge is a live drag
-    rmi.mouse.move({bugLeft + 400, 3100}, MouseButton::left);
-    EXPECT_EQ(rmi.c_HDGbug, 110);
-    rmi.c_HDGbug = 200;
-    rmi.mouse.move({bugLeft + 800, 3100}, MouseButton::left);
-    EXPECT_EQ(rmi.c_HDGbug, 120);
-    rmi.mouse.up({bugLeft + 800, 3100});
-    rmi.mouse.move({bugLeft + 1600, 3100}, MouseButton::left);
-    EXPECT_EQ(rmi.c_HDGbug, 120) << "not held any more";
-    rmi.mouse.down(bugKnob);
-    rmi.mouse.move(besides(bugKnob, 40), MouseButton::left);
-    EXPECT_EQ(rmi.c_HDGbug, 121) << "goes on from the last drag";
+    PanelInstrument hsi(InstrumentKind::hsi);
+    hsi.c_HDGbug = 100;
+    hsi.mouse.down({bugLeft, 3100}); // a press at the very edge is a live drag
+    hsi.mouse.move({bugLeft + 400, 3100}, MouseButton::left);
+    EXPECT_EQ(hsi.c_HDGbug, 110);
+    hsi.c_HDGbug = 200;
+    hsi.mouse.move({bugLeft + 800, 3100}, MouseButton::left);
+    EXPECT_EQ(hsi.c_HDGbug, 120);
+    hsi.mouse.up({bugLeft + 800, 3100});
+    hsi.mouse.move({bugLeft + 1600, 3100}, MouseButton::left);
+    EXPECT_EQ(hsi.c_HDGbug, 120) << "not held any more";
+    hsi.mouse.down(bugKnob);
+    hsi.mouse.move(besides(bugKnob, 40), MouseButton::left);
+    EXPECT_EQ(hsi.c_HDGbug, 121) << "goes on from the last drag";
 
-    rmi.c_MouseOBS = 50;
-    rmi.mouse.down(obsKnob);
-    rmi.mouse.move(besides(obsKnob, 400), MouseButton::left);
-    EXPECT_EQ(rmi.c_MouseOBS, 40);
+    hsi.c_MouseOBS = 50;
+    hsi.mouse.down(obsKnob);
+    hsi.mouse.move(besides(obsKnob, 400), MouseButton::left);
+    EXPECT_EQ(hsi.c_MouseOBS, 40);
 }
 
 TEST(InstrumentMouse, obsKnobTurnsTheOtherWay) {
@@ -82,24 +82,65 @@ TEST(InstrumentMouse, obsKnobTurnsTheOtherWay) {
     EXPECT_EQ(vor.c_MouseOBS, 12);
 }
 
-TEST(InstrumentMouse, cardDragPutsTheNumeralOnTopAndFollows) {
-    PanelInstrument hsi(InstrumentKind::hsi);
-    hsi.feed(0, 0, 330, 330); // heading 30
-    const Point east = hsi.picture.Label1[3].anchor;
-    EXPECT_EQ(hsi.mouse.down(east), InstrumentArea::card);
-    EXPECT_EQ(hsi.c_MouseOBS, 270) << "course 90";
-    EXPECT_EQ(hsi.c_MouseOBS_HSI, 270);
-    EXPECT_EQ(hsi.c_OBSKnobchange, 1);
-    hsi.mouse.move(hsi.picture.Label1[4].anchor, MouseButton::left); // 30 degrees clockwise
-    EXPECT_EQ(hsi.c_MouseOBS, 300);
-    hsi.mouse.move(hsi.picture.Label1[8].anchor, MouseButton::left);
-    EXPECT_GE(hsi.c_MouseOBS, 0);
-    EXPECT_LE(hsi.c_MouseOBS, 360);
-    hsi.mouse.up({0, 0});
-    const double left = hsi.c_MouseOBS;
-    hsi.mouse.move(east, MouseButton::left);
-    EXPECT_EQ(hsi.c_MouseOBS, left);
-    EXPECT_EQ(hsi.mouse.down({1927, 1927}), InstrumentArea::none);
+// Heading 30 on the HSI. The numerals 3, E and 12 are 30 degrees apart.
+TEST(InstrumentMouse, theDialGoesRoundWithTheHandWhereACourseIsSeen) {
+    struct Dial {
+        InstrumentKind kind;
+        std::int32_t angle;
+        double pressed, dragged; ///< the course after a press on E, and 30 degrees clockwise of it
+    };
+    for (const Dial& dial : {Dial{InstrumentKind::vor, 0, 90, 60},
+                             {InstrumentKind::vor, 340, 90, 60},
+                             {InstrumentKind::hsi, 330, 90, 120}}) {
+        PanelInstrument instrument(dial.kind);
+        instrument.feed(0, 0, 0, dial.angle);
+        const auto numerals = instrument.picture.Label1;
+        EXPECT_EQ(instrument.mouse.down(numerals[3].anchor), InstrumentArea::card);
+        EXPECT_EQ(instrument.c_MouseOBS, 360 - dial.pressed);
+        EXPECT_EQ(instrument.c_MouseOBS_HSI, 360 - dial.pressed);
+        EXPECT_EQ(instrument.c_OBSKnobchange, 1);
+        instrument.mouse.move(numerals[4].anchor, MouseButton::left);
+        EXPECT_EQ(instrument.c_MouseOBS, 360 - dial.dragged);
+        instrument.mouse.move(numerals[8].anchor, MouseButton::left);
+        const double left = instrument.c_MouseOBS;
+        EXPECT_EQ(left, intoCircle(left));
+        instrument.mouse.up({0, 0});
+        instrument.mouse.move(numerals[3].anchor, MouseButton::left);
+        EXPECT_EQ(instrument.c_MouseOBS, left);
+        EXPECT_EQ(instrument.mouse.down({1927, 1927}), InstrumentArea::none);
+    }
+    for (const auto kind : {InstrumentKind::adf, InstrumentKind::rmi, InstrumentKind::dg}) {
+        PanelInstrument instrument(kind);
+        instrument.angle = 330;
+        EXPECT_EQ(instrument.mouse.down(instrument.picture.Label1[3].anchor), InstrumentArea::none);
+        instrument.mouse.move(instrument.picture.Label1[4].anchor, MouseButton::left);
+        EXPECT_EQ(instrument.c_OBSKnobchange, 0);
+    }
+}
+
+TEST(InstrumentMouse, bugIsTakenOnTheRimAndFollowsTheHand) {
+    const auto rim = [](const UserControl_1& instrument, double bearing) {
+        const double half = instrument.picture.size / 2;
+        const double radius =
+            0.7 * half * cardScaleOf(static_cast<InstrumentKind>(instrument.Display.get()));
+        return Rotate(toInt16(bearing), {half, half}, {half, half - radius});
+    };
+    for (const auto kind : {InstrumentKind::rmi, InstrumentKind::hsi, InstrumentKind::dg}) {
+        PanelInstrument instrument(kind);
+        instrument.feed(0, 0, 0, 300); // heading 60
+        instrument.c_HDGbug = 350;     // at 290 on the dial
+        EXPECT_EQ(instrument.mouse.down(rim(instrument, 305)), InstrumentArea::none);
+        EXPECT_EQ(instrument.mouse.down(rim(instrument, 293)), InstrumentArea::headingBug);
+        EXPECT_EQ(instrument.c_HDGbug, 350) << "it does not jump";
+        instrument.mouse.move(rim(instrument, 323), MouseButton::left);
+        EXPECT_EQ(instrument.c_HDGbug, 20);
+        instrument.angle = 290; // the aircraft turns meanwhile
+        instrument.mouse.move(rim(instrument, 323), MouseButton::left);
+        EXPECT_EQ(instrument.c_HDGbug, 30) << "it stays under the hand";
+        EXPECT_EQ(instrument.c_HDGbugChange, 1);
+    }
+    PanelInstrument vor(InstrumentKind::vor);
+    EXPECT_EQ(vor.mouse.down(rim(vor, 0)), InstrumentArea::none) << "it has no bug";
 }
 
 TEST(InstrumentMouse, selectorGoesRound) {
@@ -119,6 +160,8 @@ TEST(InstrumentMouse, selectorGoesRound) {
     adf.mouse.click(selector);
     EXPECT_EQ(adf.c_ADFCardselect, 2);
     EXPECT_EQ(adf.picture.Image1.file, "pictures/QXRadfs.jpg");
+    EXPECT_EQ(adf.mouse.down(obsKnob), InstrumentArea::none)
+        << "a slaved card is not turned by hand";
     PanelInstrument dg(InstrumentKind::dg);
     dg.mouse.click(selector);
     EXPECT_EQ(dg.c_NAVselect, 1);
@@ -165,8 +208,9 @@ TEST(InstrumentMouse, lockedKnobsTakeNoMouse) {
         hsi.mouse.up(place);
         hsi.mouse.doubleClick(place);
     }
-    for (const auto area : {InstrumentArea::obsKnob, InstrumentArea::headingBugKnob,
-                            InstrumentArea::selector, InstrumentArea::card})
+    for (const auto area :
+         {InstrumentArea::obsKnob, InstrumentArea::headingBugKnob, InstrumentArea::selector,
+          InstrumentArea::card, InstrumentArea::headingBug})
         hsi.mouse.stepKnob(area, 1);
     EXPECT_EQ(hsi.c_HDGbugChange, 0);
     EXPECT_EQ(hsi.c_OBSKnobchange, 0);

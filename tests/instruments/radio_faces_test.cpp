@@ -87,22 +87,36 @@ TEST(RadioFaces, knobGoesRoundTheSlots) {
 }
 
 TEST(RadioFaces, dragStepsEvery700TwipsAndIsNoClick) {
-    NAVControlFace face;
-    tune(face);
-    face.mouseDown(Knob::outer, {100, 100});
-    const std::pair<double, int> way[] = {{799, 0},  {800, 1},  {1499, 1}, {1500, 2}, {2200, 0},
-                                          {2199, 2}, {1499, 1}, {799, 0},  {99, 2}};
-    for (const auto& [x, slot] : way) {
-        face.mouseMove({x, 100});
-        EXPECT_EQ(face.c_SetFreq, slot) << x;
+    for (const Knob area : {Knob::inner, Knob::outer}) {
+        NAVControlFace face;
+        tune(face);
+        face.mouseDown(area, {100, 100});
+        const std::pair<double, int> way[] = {{799, 0},  {800, 1},  {1499, 1}, {1500, 2}, {2200, 0},
+                                              {2199, 2}, {1499, 1}, {799, 0},  {99, 2}};
+        for (const auto& [x, slot] : way) {
+            face.mouseMove({x, 100});
+            EXPECT_EQ(face.c_SetFreq, slot) << x;
+        }
+        face.mouseUp();
+        EXPECT_EQ(face.c_SetFreq, 2);
+        face.mouseMove({5000, 100});
+        EXPECT_EQ(face.c_SetFreq, 2) << "not held";
+        face.mouseDown(area, {100, 100});
+        face.mouseMove({161, 100});
+        EXPECT_EQ(face.c_SetFreq, 0) << "the step of the last drag, -1, is still there";
     }
-    face.mouseUp();
-    EXPECT_EQ(face.c_SetFreq, 2);
-    face.mouseMove({5000, 100});
-    EXPECT_EQ(face.c_SetFreq, 2) << "not held";
-    face.mouseDown(Knob::outer, {100, 100});
-    face.mouseMove({101, 100});
-    EXPECT_EQ(face.c_SetFreq, 0) << "the step of the last drag, -1, is still there";
+}
+
+TEST(RadioFaces, clickMayTrembleBy60Twips) {
+    for (const Point tremble : {Point{40, 100}, {160, 100}, {100, 40}, {40, 160}}) {
+        NAVControlFace face;
+        tune(face);
+        face.mouseDown(Knob::outer, {100, 100});
+        face.mouseMove(tremble);
+        EXPECT_EQ(face.c_SetFreq, 0) << tremble.x << "," << tremble.y;
+        face.mouseUp();
+        EXPECT_EQ(face.c_SetFreq, 1) << tremble.x << "," << tremble.y;
+    }
 }
 
 TEST(RadioFaces, lockedOrSwitchedOffKnobDoesNothing) {
@@ -130,13 +144,15 @@ TEST(RadioFaces, dmeReadouts) {
     const Reading readings[] = {
         {0, 0, {1, 1, 1}, {1, 1, 1}},    {105, 98, {2, 1, 6}, {1, 10, 9}},
         {10, 120, {1, 2, 1}, {2, 3, 1}}, {-1, 120, {11, 11, 11}, {11, 11, 11}},
-        {9, 7, {1, 1, 10}, {1, 1, 8}},   {1234, 5, {2, 3, 4}, {1, 1, 6}},
+        {9, 7, {1, 1, 10}, {1, 1, 8}},   {999, 5, {10, 10, 10}, {1, 1, 6}},
+        {1219, 5, {2, 3, 2}, {1, 1, 6}},
     };
     for (const Reading& reading : readings) {
         dme.c_DMEnm = reading.nm;
         dme.c_DMEkt = reading.kt;
         EXPECT_EQ(dme.distance.pictures(), reading.distance) << reading.nm;
         EXPECT_EQ(dme.speed.pictures(), reading.speed) << reading.nm;
+        EXPECT_EQ(dme.wholeMiles(), reading.nm >= 1000);
     }
     dme.ShowDistance("--.-");
     dme.ShowSpeed("---");
@@ -162,9 +178,10 @@ TEST(RadioFaces, dmeFollowsAReceiver) {
     EXPECT_EQ(dme.c_SetFreq, 0);
     dme.c_NAV1f = 2;
     EXPECT_EQ(dme.c_SetFreq, 2);
-    EXPECT_EQ(dme.frequency.pictures()[4], 1) << "the readout shows the dial's slot";
+    EXPECT_EQ(dme.frequency.pictures(), (Pictures{2, 1, 10, 8, 1})) << "of the receiver";
     dme.selectMode(DmeMode::freq);
     EXPECT_EQ(dme.c_SetFreq, 0);
+    EXPECT_EQ(dme.frequency.pictures(), (Pictures{2, 2, 3, 4, 1})) << "of its own dial";
 }
 
 TEST(RadioFaces, dmeSelectorTakesDragsOnEitherAxis) {

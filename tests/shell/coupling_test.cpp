@@ -2,6 +2,9 @@
 
 #include <gmock/gmock.h>
 
+#include <array>
+#include <set>
+
 namespace tarnel {
 namespace {
 
@@ -45,34 +48,89 @@ TEST(HeadingBug, EverySourceReachesAllOthers) {
         expected += 20;
         expectAll("instrument");
     }
+    // Of several at once the first in this order wins.
+    const std::array<UserControl_1*, 3> dials{&form.inst3.instrument, &form.inst2.instrument,
+                                              &form.UserControl_DG};
+    for (int winner = 3; winner >= 0; --winner) {
+        for (int source = winner; source <= 3; ++source)
+            if (source == 0)
+                form.APControlFace1.stepHeading(5);
+            else
+                dials[source - 1]->mouse.stepKnob(InstrumentArea::headingBugKnob, 10 * source);
+        expected += winner == 0 ? 5 : 10 * winner;
+        expectAll("the first of several");
+    }
 }
 
-TEST(Dme, ShowsTheSelectedSourceAndZeroWhenSwitchedOff) {
+std::string digitsOf(const DigitReadout& readout) {
+    std::string text;
+    for (const std::int16_t picture : readout.pictures())
+        text += picture == DigitReadout::dashPicture ? '-' : static_cast<char>('0' + picture - 1);
+    return text;
+}
+
+class DmeTest : public testing::Test {
+  protected:
+    /// The frequency, the distance and the speed of one station, after a single coupling.
+    void expectStation(Slot slot, const char* when) {
+        trainer.couple(1);
+        const StationProperties& station = trainer.sim().slot(slot);
+        std::string frequency = station.frequency;
+        frequency.erase(frequency.find('.'), 1);
+        EXPECT_EQ(digitsOf(dme.frequency), frequency) << when;
+        EXPECT_EQ(dme.c_DMEnm, std::lround(station.dme * 10)) << when;
+        const Slot speed = slot == Slot::vor1 ? Slot::vor1 : Slot::localizer;
+        EXPECT_EQ(dme.c_DMEkt, trainer.sim().slot(speed).dmeGroundSpeed) << when;
+    }
+
     Trainer trainer;
     Form1& form = trainer.form;
-    trainer.placeAt(48.0, 11.5, 0);
+    DMEControlFace& dme = form.DMEControlFace1;
+};
+
+TEST_F(DmeTest, FrequencyAndDistanceAreOfOneStation) {
+    trainer.placeAt(48.05, 11.5, 20);
     trainer.start();
-    trainer.fly(3);
-    for (const auto& [selection, slot] :
-         {std::pair{0, Slot::vor1}, {1, Slot::vor2}, {2, Slot::localizer}}) {
-        form.DMEControlFace1.c_SetFreq = selection;
-        trainer.couple(1);
-        EXPECT_EQ(form.DMEControlFace1.c_DMEnm, std::lround(trainer.sim().slot(slot).dme * 10))
-            << selection;
-        const Slot speed = slot == Slot::vor1 ? Slot::vor1 : Slot::localizer;
-        EXPECT_EQ(form.DMEControlFace1.c_DMEkt, trainer.sim().slot(speed).dmeGroundSpeed);
+    trainer.fly(20);
+    std::set<std::int16_t> speeds;
+    for (const Slot slot : {Slot::vor1, Slot::vor2, Slot::localizer})
+        speeds.insert(trainer.sim().slot(slot).dmeGroundSpeed);
+    ASSERT_EQ(speeds.size(), 3);
+    expectStation(Slot::vor1, "own");
+    dme.stepUp();
+    expectStation(Slot::vor2, "own, stepped");
+    dme.selectMode(DmeMode::r1);
+    expectStation(Slot::vor1, "R1");
+    form.NAVControlFace2.c_SetFreq = 2;
+    dme.selectMode(DmeMode::r2);
+    expectStation(Slot::localizer, "R2");
+    trainer.fly(20);
+    form.startButton.click();
+
+    // A locked replay shows what was recorded, wherever the selector stands.
+    form.NAVControlFace2.c_SetFreq = 0;
+    form.replayPage.lock.set(1);
+    for (const DmeMode mode : {DmeMode::r2, DmeMode::freq, DmeMode::r1}) {
+        dme.selectMode(mode);
+        form.replayPage.bar.scrollTo(3);
+        expectStation(Slot::vor1, "early sample");
+        form.replayPage.bar.scrollTo(25);
+        expectStation(Slot::localizer, "late sample");
+        expectStation(Slot::localizer, "and stays");
     }
-    form.UserControl11.slot(Slot::localizer).dmeEnabled = off;
-    trainer.couple(1);
-    EXPECT_EQ(form.DMEControlFace1.c_DMEnm, 0);
-    EXPECT_EQ(form.DMEControlFace1.c_DMEkt, 0);
+    form.replayPage.lock.set(0);
+    expectStation(Slot::vor1, "R1 again, unlocked");
 }
 
-TEST(Dme, FollowsAReceiverAsSoonAsItsSwitchIsTurned) {
-    Trainer trainer;
-    trainer.form.DMEControlFace1.selectMode(DmeMode::r2);
+TEST_F(DmeTest, ShowsWholeMilesFarOutAndZeroWhenSwitchedOff) {
+    trainer.placeAt(50.2, 11.8, 0);
+    EXPECT_EQ(digitsOf(dme.distance), std::to_string(int(trainer.sim().slot(Slot::vor1).dme)));
+    trainer.placeAt(70, 11.8, 0);
+    EXPECT_EQ(digitsOf(dme.distance) + digitsOf(dme.speed), "------") << "more than three digits";
+    trainer.sim().slot(Slot::vor1).dmeEnabled = off;
     trainer.couple(1);
-    EXPECT_EQ(trainer.form.DMEControlFace1.c_SetFreq, 1);
+    EXPECT_EQ(digitsOf(dme.distance) + digitsOf(dme.speed), "000000");
+    EXPECT_TRUE(trainer.world.boxes.empty());
 }
 
 TEST(Autopilot, TakesItsHighestAltitudeWithoutAnError) {
@@ -80,6 +138,7 @@ TEST(Autopilot, TakesItsHighestAltitudeWithoutAnError) {
     trainer.form.APControlFace1.stepALT(400);
     trainer.couple();
     EXPECT_EQ(trainer.form.APControlFace1.c_ALT, 42000);
+    EXPECT_EQ(trainer.sim().c_Altitude, 6000) << "pinned";
     EXPECT_TRUE(trainer.world.boxes.empty());
 }
 
@@ -167,18 +226,39 @@ TEST(Strip, LockTakesTheKnobsAndDialsButNotTheAutopilot) {
     EXPECT_EQ(form.NAVControlFace1.c_SetFreq, 1);
 }
 
-TEST(Panel, AnotherInstrumentTakesTheObsOver) {
+TEST(Strip, EachRateHasItsOwnPace) {
     Trainer trainer;
     Form1& form = trainer.form;
-    EXPECT_EQ(form.inst3ChannelButton.caption(), Text::channelObs);
+    for (const auto& [rate, milliseconds] :
+         std::initializer_list<std::pair<OptionButton*, int>>{{&form.rateHalf, 666},
+                                                              {&form.rateReal, 333},
+                                                              {&form.rateDouble, 166},
+                                                              {&form.rateQuadruple, 83}}) {
+        rate->click();
+        EXPECT_EQ(trainer.sim().c_TimerSIMrate, milliseconds);
+    }
+}
+
+TEST(Panel, OneInstrumentHoldsTheObsOfAVor) {
+    Trainer trainer;
+    Form1& form = trainer.form;
+    const auto holder = [&] {
+        trainer.couple(1);
+        return std::pair(form.inst2ChannelButton.caption() == Text::channelObs,
+                         form.inst3ChannelButton.caption() == Text::channelObs);
+    };
+    EXPECT_EQ(holder(), std::pair(false, true));
     form.inst2TypeList.select(vor - 1);
-    trainer.couple(1);
-    EXPECT_EQ(form.inst3ChannelButton.caption(), Text::channelNav);
-    EXPECT_EQ(form.inst2ChannelButton.caption(), Text::channelObs);
+    EXPECT_EQ(holder(), std::pair(true, false));
     form.inst3ChannelButton.click();
     EXPECT_EQ(form.inst3.channels.hsi, 1) << "the first click takes the OBS, not the next station";
+    EXPECT_EQ(holder(), std::pair(false, true));
     form.inst3ChannelButton.click();
     EXPECT_EQ(form.inst3.channels.hsi, 2);
+    form.inst2ChannelButton.click();
+    EXPECT_EQ(holder(), std::pair(true, true)) << "each of its own VOR";
+    form.inst2ChannelButton.click();
+    EXPECT_EQ(holder(), std::pair(true, false)) << "VOR 2 is taken over, too";
 }
 
 TEST(Panel, LargeDisplayReloadsItsPictureAndShrinksTheChart) {

@@ -55,20 +55,87 @@ TEST(Needles, RmiPointsAtItsStationsAndParksOnALocalizer) {
     trainer.form.NAVControlFace1.c_SetFreq = 2;
     trainer.couple();
     EXPECT_EQ(trainer.form.inst2.instrument.adfradial, 90);
-    trainer.sim().slot(Slot::ndb1).enabled = off;
-    trainer.couple();
-    EXPECT_EQ(trainer.form.inst2.instrument.adf2radial, 0);
 }
 
-TEST(Needles, AdfCardIsFixedByHandOrSlaved) {
+TEST(Needles, NothingPointsAtAStationThatIsOff) {
     Trainer trainer;
-    trainer.form.inst2TypeList.select(adf - 1);
+    Form1& form = trainer.form;
+    UserControl_1& left = form.inst2.instrument;
+    const auto overlayShown = [&] { return form.inst3.instrument.picture.Line7to12[4].visible; };
+    form.inst3OverlayBox.click();
     trainer.placeAt(48.0, 11.9, 60);
-    trainer.setCourse(trainer.form.inst2, 25);
-    EXPECT_EQ(trainer.form.inst2.instrument.angle, 335);
-    trainer.form.inst2.instrument.mouse.stepKnob(InstrumentArea::selector, 1);
+    EXPECT_TRUE(overlayShown());
+    for (const Slot slot : {Slot::vor1, Slot::ndb1})
+        trainer.sim().slot(slot).enabled = off;
     trainer.couple();
-    EXPECT_EQ(trainer.form.inst2.instrument.angle, 300);
+    EXPECT_EQ(left.adfradial, 90);
+    EXPECT_EQ(left.adf2radial, 90);
+    EXPECT_FALSE(overlayShown());
+    EXPECT_EQ(form.inst3.instrument.c_LabelText4.get(), "");
+    left.c_ADFCardselect = slavedCard;
+    form.inst2TypeList.pick(adf - 1);
+    EXPECT_EQ(left.adfradial, 90) << "from the first moment";
+    trainer.placeAt(48.0, 11.9, 150);
+    EXPECT_EQ(left.adfradial, 90);
+    EXPECT_EQ(left.angle, 210) << "the card goes on turning";
+    trainer.sim().slot(Slot::vor1).enabled = on;
+    trainer.couple();
+    EXPECT_TRUE(overlayShown());
+}
+
+TEST(Needles, AdfCardIsFixedByHandOrSlavedAndHasNoOthersCourse) {
+    Trainer trainer;
+    Form1& form = trainer.form;
+    form.inst2TypeList.pick(vor - 1);
+    trainer.placeAt(48.0, 11.9, 60);
+    trainer.setCourse(form.inst2, 120);
+    form.inst2TypeList.pick(adf - 1);
+    trainer.couple();
+    EXPECT_EQ(form.inst2.instrument.angle, 360) << "it starts at north";
+    form.inst2.instrument.mouse.stepKnob(InstrumentArea::obsKnob, 25);
+    trainer.couple();
+    EXPECT_EQ(form.inst2.instrument.angle, 335);
+    EXPECT_EQ(trainer.sim().c_obsI2, 25) << "is recorded";
+    form.inst2.instrument.mouse.stepKnob(InstrumentArea::selector, 1);
+    trainer.couple();
+    EXPECT_EQ(form.inst2.instrument.angle, 300);
+    form.inst2TypeList.pick(vor - 1);
+    trainer.couple();
+    EXPECT_EQ(form.inst2.instrument.angle, 240);
+    form.inst2.instrument.mouse.stepKnob(InstrumentArea::obsKnob, 1);
+    trainer.couple();
+    EXPECT_EQ(form.inst2.obs, 121) << "the knob counts on from the course";
+}
+
+TEST(Needles, GyrosTurnWithTheHeading) {
+    Trainer trainer;
+    Form1& form = trainer.form;
+    form.inst2TypeList.pick(dg - 1);
+    form.floatingGyroBox.click();
+    for (const int heading : {75, 290}) {
+        trainer.placeAt(48.0, 11.9, heading);
+        EXPECT_EQ(form.inst2.instrument.angle, 360 - heading);
+        EXPECT_EQ(form.UserControl_DG.angle, 360 - heading);
+    }
+}
+
+// Turning at 3 degrees a second under a turned chart, across north.
+TEST(Needles, CourseOnTheDialIsWhatIsRecorded) {
+    Trainer trainer;
+    Form1& form = trainer.form;
+    form.inst2TypeList.pick(vor - 1);
+    trainer.placeAt(48.05, 11.62, 200);
+    form.setNorthUp(false);
+    trainer.setCourse(form.inst2, 45);
+    trainer.setCourse(form.inst3, 350);
+    form.setHeadingBug(20);
+    trainer.start();
+    trainer.fly(70);
+    ASSERT_EQ(trainer.sim().recording.sampleIndex(), 52);
+    for (int i = 1; i <= 52; ++i) {
+        EXPECT_EQ(trainer.sim().recording.at(i).traceObsI2, 45) << i;
+        EXPECT_EQ(trainer.sim().recording.at(i).traceObsI3, 350) << i;
+    }
 }
 
 TEST(Needles, VorTrackedInboundFlipsOverTheStation) {
@@ -122,6 +189,7 @@ TEST(Needles, SwitchedOffStationsFlag) {
         trainer.couple();
         EXPECT_FALSE(trainer.reading2().received || trainer.reading3().received) << tuning;
         EXPECT_EQ(form.inst3.instrument.c_OBS_x, 250) << "the arrow follows the knob";
+        EXPECT_EQ(form.inst3.instrument.adf2radial, tuning == 2 ? 83 + 90 : 250 + 90);
     }
 }
 

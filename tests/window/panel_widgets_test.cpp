@@ -227,8 +227,11 @@ TEST(NavModuleTest, WheelKeysClickAndDragStepTheFrequency) {
     EXPECT_EQ(face.c_SetFreq, 0);
     QTest::mouseClick(&knob, Qt::LeftButton, {}, knob.rect().center());
     EXPECT_EQ(face.c_SetFreq, 1);
-    dragRight(knob, {4, knob.height() / 2}, 50, Qt::LeftButton); // 750 twips on the outer cap
+    dragRight(knob, {4, knob.height() / 2}, 50, Qt::LeftButton); // 750 twips from its rim
     EXPECT_EQ(face.c_SetFreq, 2);
+    dragRight(knob, knob.rect().center(), 100, Qt::LeftButton); // and from its middle
+    EXPECT_EQ(face.c_SetFreq, 0);
+    turnWheel(knob, knob.rect().center(), -oneNotch);
     face.c_LockSettings = 0;
     turnWheel(knob, knob.rect().center(), oneNotch);
     EXPECT_EQ(face.c_SetFreq, 2);
@@ -272,7 +275,10 @@ TEST_F(DmeModuleTest, FrequencyStepsOnlyWhileItIsItsOwn) {
     SteppedDigits& digits = module.frequencyDigits();
     turnWheel(digits, digits.rect().center(), oneNotch);
     EXPECT_EQ(face.c_SetFreq, 1);
-    QTest::mouseClick(&digits, Qt::LeftButton);
+    QTest::mouseClick(&digits, Qt::RightButton);
+    QTest::mousePress(&digits, Qt::LeftButton);
+    EXPECT_EQ(face.c_SetFreq, 1);
+    QTest::mouseRelease(&digits, Qt::LeftButton);
     EXPECT_EQ(face.c_SetFreq, 2);
     face.selectMode(DmeMode::r1);
     module.refresh();

@@ -1,8 +1,7 @@
 #include "instruments/instrument_fixture.h"
-#include "strings/tables.h"
+#include "window/instrument_view.h"
 #include "window/spoken_reading.h"
-
-#include <gtest/gtest.h>
+#include "window/student_fixture.h"
 
 namespace tarnel {
 
@@ -10,46 +9,56 @@ namespace {
 
 using enum InstrumentKind;
 
-std::string spoken(const UserControl_1& instrument) {
-    return spokenReading(instrument, englishTable());
+std::string spoken(const UserControl_1& instrument, const SpokenStations& stations = {}) {
+    return spokenReading(instrument, stations, englishTable());
 }
 
-TEST(SpokenReading, SaysHeadingCourseDotsFlagAndBugOfAnHsi) {
+TEST(SpokenReading, SaysHeadingStationCourseDotsFlagAndBugOfAnHsi) {
     PanelInstrument hsi(InstrumentKind::hsi);
+    const SpokenStations stations{SpokenStation{"VOR 1 MUN", true}, {}};
     hsi.c_HDGbug = 7;
     hsi.feed(294, 110, 270, 270);
-    EXPECT_EQ(spoken(hsi), "heading 090, course 110, 2 dots right, TO, heading bug 007");
+    EXPECT_EQ(spoken(hsi, stations),
+              "heading 090, VOR 1 MUN, course 110, 2 dots right, TO, heading bug 007");
+    hsi.c_RMIoverlayEN = 1;
     hsi.feed(111, 110, 270, 270);
-    EXPECT_EQ(spoken(hsi), "heading 090, course 110, 0.5 dots left, FROM, heading bug 007");
+    EXPECT_EQ(spoken(hsi), "heading 090, course 110, 0.5 dots left, FROM, bearing 291, "
+                           "heading bug 007");
 }
 
-TEST(SpokenReading, RoundsToHalfDotsAndStopsAtFive) {
-    PanelInstrument vor(InstrumentKind::vor);
-    vor.feed(112, 110, 250, 250);
-    EXPECT_EQ(spoken(vor), "course 110, one dot left, FROM");
-    vor.feed(110, 110, 250, 250);
-    EXPECT_EQ(spoken(vor), "course 110, centred, FROM");
-    vor.feed(140, 110, 250, 250);
-    EXPECT_EQ(spoken(vor), "course 110, 5 dots left, FROM");
+// Half dots of 2 degrees on a VOR, tenths of a dot of 0.4 degrees on a localizer.
+TEST(SpokenReading, RoundsDotsStopsAtFiveAndIsCentredWithinAQuarter) {
+    struct Dots {
+        double locEn, radial;
+        std::string words;
+    };
+    for (const Dots& dots : {Dots{0, 112, "one dot left, FROM"},
+                             {0, 110.5, "centred, FROM"},
+                             {0, 110.6, "0.5 dots left, FROM"},
+                             {0, 140, "5 dots left, FROM"},
+                             {-6, 290.4, "one dot right, localizer"},
+                             {-6, 290.1, "centred, localizer"},
+                             {-6, 290.12, "0.3 dots right, localizer"},
+                             {-6, 288.92, "2.7 dots left, localizer"}}) {
+        PanelInstrument vor(InstrumentKind::vor);
+        vor.feed(dots.radial, 110, 250, 250, dots.locEn);
+        EXPECT_EQ(spoken(vor), "course 110, " + dots.words);
+    }
 }
 
 TEST(SpokenReading, SaysNothingOfAFrozenNeedle) {
     PanelInstrument vor(InstrumentKind::vor);
     vor.feed(294, 110, 250, 250);
     vor.feed(200, 110, 251, 251);
-    EXPECT_EQ(spoken(vor), "course 110, no signal");
+    EXPECT_EQ(spoken(vor), "course 109, no signal");
 }
 
-TEST(SpokenReading, TakesTheDotsOfALocalizerFromItsOwnFullScale) {
-    PanelInstrument hsi(InstrumentKind::hsi);
-    hsi.feed(291, 110, 270, 270, -6);
-    EXPECT_EQ(spoken(hsi), "heading 090, course 110, 2.5 dots right, localizer, heading bug 000");
-}
-
-TEST(SpokenReading, ReadsNeedlesFromTheCardBelowThem) {
+TEST(SpokenReading, ReadsNeedlesFromTheCardBelowThemAndNamesTheirStations) {
     PanelInstrument rmi(InstrumentKind::rmi);
     rmi.feed(30, 0, 270, 270);
     EXPECT_EQ(spoken(rmi), "heading 090, needle one 120, needle two 120, heading bug 000");
+    EXPECT_EQ(spoken(rmi, {SpokenStation{"LOC 1 ILS", false}, SpokenStation{"NDB 1 MNE", true}}),
+              "heading 090, LOC 1 ILS, no signal, NDB 1 MNE, needle two 120, heading bug 000");
     PanelInstrument adf(InstrumentKind::adf);
     adf.feed(40, 0, 0, 0);
     EXPECT_EQ(spoken(adf), "heading 360, bearing 040");
@@ -60,6 +69,31 @@ TEST(SpokenReading, SaysThatTheKnobsAreLocked) {
     gyro.feed(0, 0, 0, 300);
     gyro.c_DisableKnobs = 0;
     EXPECT_EQ(spoken(gyro), "heading 060, heading bug 000, locked");
+}
+
+// As the panel tells it, from the first moment on and whatever is tuned.
+TEST_F(Student, HearsWhichStationIsRead) {
+    open();
+    const auto heard = [this](const char* name) {
+        settle();
+        return find<QWidget>(name).accessibleDescription().toStdString();
+    };
+    const auto contains = [](const std::string& text, const std::string& part) {
+        return text.find(part) != std::string::npos;
+    };
+    UserControl2& sim = form->UserControl11;
+    const std::string first = " " + sim.slot(Slot::vor1).name.get() + ", ";
+    const std::string second = " " + sim.slot(Slot::vor2).name.get() + ", ";
+    EXPECT_TRUE(contains(heard("UserControl13_1"), "VOR 1" + first + "course"));
+    EXPECT_TRUE(contains(heard("UserControl13_0"), "VOR 1" + first + "needle one"));
+    EXPECT_TRUE(contains(heard("DMEControlFace1"), "VOR 1" + first + "DME "));
+    form->NAVControlFace1.stepUp();
+    EXPECT_TRUE(contains(heard("UserControl13_1"), "VOR 2" + second + "course"));
+    sim.slot(Slot::vor1).dmeEnabled = sim.slot(Slot::vor2).enabled = off;
+    EXPECT_TRUE(contains(heard("UserControl13_1"), "no signal"));
+    EXPECT_TRUE(contains(heard("DMEControlFace1"), "VOR 1" + first + "no signal"));
+    form->instruments.setVisible(false);
+    EXPECT_EQ(heard("UserControl13_1"), "") << "covered";
 }
 
 TEST(SpokenDigits, PutsThePointAndNamesDashesAndDarkness) {
@@ -74,12 +108,15 @@ TEST(SpokenDigits, PutsThePointAndNamesDashesAndDarkness) {
 
 TEST(SpokenDigits, SaysADmesDistanceAndSpeedTogether) {
     DMEControlFace dme;
-    EXPECT_EQ(spokenDme(dme, englishTable()), "switched off");
-    dme.c_DMEnm = 117;
-    dme.c_DMEkt = 96;
-    EXPECT_EQ(spokenDme(dme, englishTable()), "DME 11.7 NM, 096 kt");
-    dme.c_DMEnm = -1;
-    EXPECT_EQ(spokenDme(dme, englishTable()), "no signal");
+    const auto spokenAt = [&dme](std::int16_t tenths) {
+        dme.c_DMEnm = tenths;
+        dme.c_DMEkt = 96;
+        return spokenDme(dme, {}, englishTable());
+    };
+    EXPECT_EQ(spokenDme(dme, {}, englishTable()), "switched off");
+    EXPECT_EQ(spokenAt(117), "DME 11.7 NM, 096 kt");
+    EXPECT_EQ(spokenAt(1217), "DME 121 NM, 096 kt");
+    EXPECT_EQ(spokenAt(-1), "no signal");
 }
 
 } // namespace

@@ -19,11 +19,12 @@ Selector cardKind(bool fixed) {
 }
 
 FaceParts adf(const QString& stem, bool fixedCard) {
-    return {stem, "ADF", cardDial, TopMark::Triangle, cardKind(fixedCard), "CRD", {}, {}};
+    const QString cardKnob = fixedCard ? "CRD" : "";
+    return {stem, "ADF", cardDial, TopMark::Triangle, cardKind(fixedCard), cardKnob, {}, {}};
 }
 
 FaceParts rmi(const QString& stem, int nav) {
-    return {stem, "RMI", cardDial, TopMark::Triangle, receiver(nav), "OBS", "HDG", {}};
+    return {stem, "RMI", cardDial, TopMark::Triangle, receiver(nav), {}, "HDG", {}};
 }
 
 FaceParts vor(const QString& stem, int nav, WindowFlag flag) {

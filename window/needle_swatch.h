@@ -1,0 +1,21 @@
+#pragma once
+
+#include "shell/instrument_legend.h"
+
+#include <QColor>
+#include <QPointF>
+
+class QPainter;
+
+namespace tarnel {
+
+/// The colour of a needle on its dial; of what belongs to none, that of the card.
+[[nodiscard]] QColor needleColour(LegendNeedle needle);
+
+/// The room that a needle's sign takes beside its name, in pixels.
+[[nodiscard]] int swatchWidth(LegendNeedle needle);
+
+/// Paints a needle in small, as it looks on its dial, its tip to the right; the bar stands upright.
+void paintSwatch(QPainter& painter, LegendNeedle needle, QPointF middle);
+
+} // namespace tarnel
