@@ -14,6 +14,8 @@ const std::string& Comments::text(int index) const {
 }
 
 void Comments::setText(int index, std::string text_) {
+    if (text(index) != text_)
+        ++changeCount;
     const_cast<std::string&>(text(index)) = std::move(text_);
     free = std::max(free, static_cast<std::int16_t>(index + 1));
 }
@@ -21,6 +23,12 @@ void Comments::setText(int index, std::string text_) {
 void Comments::reuse() {
     free = commentCount = 0;
     currentCommentIndex = selectedCommentIndex = noComment;
+}
+
+void Comments::clear() {
+    const std::uint64_t changesNow = changeCount + 1;
+    *this = Comments{};
+    changeCount = changesNow;
 }
 
 std::string Comments::shownText(std::int16_t index) const {

@@ -24,9 +24,11 @@ class Comments {
     [[nodiscard]] std::string shownText(std::int16_t index) const;
 
     /// Forgets texts and marks.
-    void clear() { *this = Comments{}; }
+    void clear();
     /// Takes the marking back to the first entry: all are free again, and keep their texts.
     void reuse();
+    /// A number that grows with every change of a text.
+    [[nodiscard]] std::uint64_t changes() const { return changeCount; }
 
     std::int16_t commentCount = 0;                 ///< the entry being written: the next free one
     std::int16_t currentCommentIndex = noComment;  ///< the comment of the present sample
@@ -36,6 +38,7 @@ class Comments {
   private:
     std::array<std::string, count> texts;
     std::int16_t free = 0;
+    std::uint64_t changeCount = 0;
 };
 
 } // namespace tarnel

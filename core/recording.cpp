@@ -3,7 +3,6 @@
 #include "core/run_time_error.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace tarnel {
 
@@ -23,8 +22,22 @@ const Sample& Recording::at(int index) const {
     return samples[static_cast<std::size_t>(index)];
 }
 
-Sample& Recording::at(int index) {
-    return const_cast<Sample&>(std::as_const(*this).at(index));
+Sample& Recording::edit(int index) {
+    ++changeCount;
+    return const_cast<Sample&>(at(index));
+}
+
+void Recording::giveUp() const {
+    if (beforeLoss)
+        beforeLoss();
+}
+
+void Recording::setNewest(std::int16_t index) {
+    if (index < newest)
+        giveUp();
+    if (index != newest)
+        ++changeCount;
+    newest = index;
 }
 
 bool Recording::tickIsSample() {
@@ -35,22 +48,23 @@ bool Recording::tickIsSample() {
 }
 
 BufferWarning Recording::advance() {
-    ++newest;
-    if (newest == almostFullAt)
-        return BufferWarning::almostFull;
-    if (newest < fullAt)
-        return BufferWarning::none;
-    newest = 1;
-    return BufferWarning::full;
+    if (newest + 1 >= fullAt) {
+        setNewest(1);
+        return BufferWarning::full;
+    }
+    setNewest(static_cast<std::int16_t>(newest + 1));
+    return newest == almostFullAt ? BufferWarning::almostFull : BufferWarning::none;
 }
 
 void Recording::clear() {
+    giveUp();
     std::fill(samples.begin(), samples.end(), Sample{});
     newest = 0;
+    ++changeCount;
 }
 
 void Recording::write(const Sample& sample, std::int16_t comment) {
-    Sample& target = at(newest);
+    Sample& target = edit(newest);
     const std::int16_t kept = target.traceComment;
     target = sample;
     target.traceComment = comment == noComment ? kept : comment;
@@ -59,7 +73,7 @@ void Recording::write(const Sample& sample, std::int16_t comment) {
 void Recording::cutAfter(std::int16_t index) {
     setNewest(index);
     for (int i = index + 1; i <= lastSample; ++i) {
-        Sample& sample = at(i);
+        Sample& sample = samples[static_cast<std::size_t>(i)];
         sample.traceLat = 45;
         sample.traceLon = 11;
         sample.traceHeading = 0;
@@ -71,7 +85,8 @@ void Recording::cutAfter(std::int16_t index) {
 
 void Recording::markComment(int first, int last, std::int16_t comment) {
     for (int i = first; i <= last; ++i)
-        at(i).traceComment = comment;
+        if (at(i).traceComment != comment)
+            edit(i).traceComment = comment;
 }
 
 } // namespace tarnel

@@ -7,6 +7,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <vector>
 
 namespace tarnel {
@@ -44,6 +45,8 @@ struct Sample {
     std::int16_t traceAPalt = 0;
     std::int16_t traceHDGbug = 0;
     std::int16_t traceComment = noComment; ///< index into the comment texts
+
+    bool operator==(const Sample&) const = default;
 };
 
 /// What the user has to be told when the buffer runs out.
@@ -59,8 +62,17 @@ class Recording {
     Recording();
 
     /// Sample `index`, 0 to 6000 (0 is never recorded). Throws the subscript error outside.
-    [[nodiscard]] Sample& at(int index);
     [[nodiscard]] const Sample& at(int index) const;
+    /// The same sample to be changed.
+    [[nodiscard]] Sample& edit(int index);
+    /// A number that grows with every change of what is recorded.
+    [[nodiscard]] std::uint64_t changes() const { return changeCount; }
+
+    /// Called before samples are lost, while all of them are still there. Every way of losing them
+    /// comes by here.
+    std::function<void()> beforeLoss;
+    /// Tells `beforeLoss` of samples that go later, with the next start.
+    void giveUp() const;
 
     /// The newest sample, 0 before the first.
     [[nodiscard]] std::int16_t sampleIndex() const { return newest; }
@@ -83,7 +95,7 @@ class Recording {
     void cutAfter(std::int16_t index);
 
     /// Makes sample `index` the newest.
-    void setNewest(std::int16_t index) { newest = index; }
+    void setNewest(std::int16_t index);
 
     /// Takes the comment from samples `first` to `last`, or gives them one.
     void markComment(int first, int last, std::int16_t comment);
@@ -92,6 +104,7 @@ class Recording {
     std::vector<Sample> samples;
     std::int16_t newest = 1;
     std::int16_t sampleTick = 0;
+    std::uint64_t changeCount = 0;
 };
 
 } // namespace tarnel

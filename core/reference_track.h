@@ -24,6 +24,9 @@ class ReferenceTrack {
     void append(const GeoPosition& position) { points.push_back(position); }
 
     [[nodiscard]] bool empty() const { return points.empty(); }
+    /// The number of samples that it has positions for.
+    [[nodiscard]] int size() const { return static_cast<int>(points.size()); }
+    bool operator==(const ReferenceTrack&) const = default;
     /// The position at a sample, plain degrees; 0, 0 where the track has none.
     [[nodiscard]] GeoPosition at(int sample) const;
 

@@ -106,6 +106,7 @@ void UserControl2::placeStation(Slot which, ChartPoint point) {
 
 void UserControl2::moveStation(Slot which, const SplitPosition& position) {
     inSlot(stations, which).position = position;
+    ++stationChanges;
     redrawChart();
     refresh();
     renewFirstSample();
@@ -146,8 +147,10 @@ void UserControl2::putAircraft(const SplitPosition& position) {
 }
 
 void UserControl2::aircraftPlaced() {
+    recording.giveUp();
     picture.trace.clear();
     resumeMode = ResumeMode::clear;
+    reference.clear();
     referenceReading = {};
     c_CurrentComment.setIfChanged({});
     if (placedByHand)

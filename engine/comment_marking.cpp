@@ -44,7 +44,7 @@ void UserControl2::deleteComment() {
     while (first > 1 && carriesIt(first - 1))
         --first;
     for (int i = first; i <= Recording::lastSample && carriesIt(i); ++i)
-        recording.at(i).traceComment = noComment;
+        recording.edit(i).traceComment = noComment;
     showComment(present);
 }
 

@@ -62,6 +62,7 @@ void UserControl2::recordSample() {
         if (warning == BufferWarning::full) {
             clock.resetFlightTime();
             publishFlightTime();
+            becomeNewSession();
         }
         if (warning != BufferWarning::none)
             messages.bufferWarning(warning);
@@ -98,7 +99,7 @@ void UserControl2::compareWithReference(std::int16_t index) {
 void UserControl2::markFreshStart() {
     resumeMode = ResumeMode::clear;
     recording.setNewest(1);
-    recording.at(1) = presentSample();
+    recording.edit(1) = presentSample();
     c_TraceBufferMax.publish(1);
 }
 
@@ -108,15 +109,20 @@ void UserControl2::renewFirstSample() {
         markFreshStart();
 }
 
+/// An earlier flight takes its comments along, but not one that is just being marked.
 void UserControl2::freshRecording() {
+    const bool followsFlight = recording.sampleIndex() > 1;
     recording.clear();
+    becomeNewSession();
+    if (followsFlight && comments.selectedCommentIndex == noComment)
+        forgetComments();
     clock = FlightClock{};
     referenceReading = {};
     c_PractiseStopFly.publish(0);
     resumeMode = ResumeMode::goOn;
     publishStopwatch();
     publishFlightTime();
-    recording.at(1) = presentSample();
+    recording.edit(1) = presentSample();
     c_TraceBufferMax.publish(1);
 }
 

@@ -56,7 +56,7 @@ std::vector<std::pair<std::int16_t, GeoPosition>> UserControl2::recordStation(Sl
     const GeoPosition place = toPlain(stations[station].position);
     std::vector<std::pair<std::int16_t, GeoPosition>> before;
     for (std::int16_t i = presentSampleIndex(); i <= c_TraceBufferMax; ++i) {
-        GeoPosition& recorded = recording.at(i).traceStations[station];
+        GeoPosition& recorded = recording.edit(i).traceStations[station];
         if (before.empty() || before.back().second != recorded)
             before.emplace_back(i, recorded);
         recorded = place;
@@ -94,7 +94,7 @@ bool UserControl2::redo() {
         const auto station = static_cast<std::size_t>(step->slot);
         const GeoPosition place = toPlain(step->after.stations[station]);
         for (int i = step->recorded.front().first; i <= c_TraceBufferMax; ++i)
-            recording.at(i).traceStations[station] = place;
+            recording.edit(i).traceStations[station] = place;
     }
     return true;
 }
@@ -130,7 +130,7 @@ void UserControl2::putBackStation(const HandStep& step) {
         const auto next = std::next(run);
         const int last = next == step.recorded.end() ? c_TraceBufferMax.get() : next->first - 1;
         for (int i = run->first; i <= last; ++i)
-            recording.at(i).traceStations[station] = run->second;
+            recording.edit(i).traceStations[station] = run->second;
     }
     moveStation(step.slot, inReplay() ? toSplit(recording.at(replaySample).traceStations[station])
                                       : step.before.stations[station]);

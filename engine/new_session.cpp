@@ -7,12 +7,12 @@ void UserControl2::startSession() {
     if (!stopped())
         return;
     mouse.cancel();
+    recording.clear();
     history.clear();
     chanceWinds.clear();
     forgetComments();
     reference.clear();
     referenceReading = {};
-    recording.clear();
     clock = FlightClock{};
     publishStopwatch();
     publishFlightTime();
@@ -34,12 +34,12 @@ void UserControl2::becomeNewSession() {
 }
 
 void UserControl2::dropRecording() {
+    recording.clear();
     history.clear();
     becomeNewSession();
     forgetComments();
     reference.clear();
     referenceReading = {};
-    recording.clear();
     c_TraceBufferMax.publish(0);
     c_FlyEN.publish(0);
     resumeMode = ResumeMode::clear;

@@ -40,14 +40,14 @@ void UserControl2::goToSample() {
         c_RepeatValue.publish(replaySample);
     if (ignored)
         return;
-    Sample& sample = recording.at(index);
+    const Sample& sample = recording.at(index);
     history.keepStations();
     resumeMode = ResumeMode::cut;
     replaySample = index;
     if (c_replayInstLock == 1)
         restoreSettings(sample);
     else
-        copySettings(sample);
+        overwriteSettings(index);
     restoreMotion(sample);
     if (c_ReplayInterpolation == showSample)
         restorePlace(sample);
@@ -57,6 +57,13 @@ void UserControl2::goToSample() {
     compareWithReference(index);
     restoreWind();
     redrawReplay();
+}
+
+void UserControl2::overwriteSettings(std::int16_t index) {
+    Sample sample = recording.at(index);
+    copySettings(sample);
+    if (sample != recording.at(index))
+        recording.edit(index) = sample;
 }
 
 /// Clocks, speed, turn and wind; the heading too unless the aircraft flies on between samples.
@@ -141,8 +148,13 @@ void UserControl2::redrawReplay() {
     redrawTrace();
 }
 
+/// From the last sample on the flight goes on; from an earlier one, or from a situation without a
+/// flight, another one begins that must not be saved over the first.
 void UserControl2::resumeFromReplay() {
+    const bool another = replaySample < recording.sampleIndex() || replaySample == 1;
     recording.cutAfter(replaySample);
+    if (another && c_SessionFileName.get() == sessionNamedByUser)
+        becomeNewSession();
     const Sample& sample = recording.at(replaySample);
     aircraft.placeAt(placeOf(sample));
     view.placeAircraft(aircraft);

@@ -54,6 +54,7 @@ void UserControl2::makeWayFor(FileRequest request, std::int16_t how) {
     mouse.cancel();
     if (!stopped())
         c_TimerEN = 0;
+    recording.giveUp();
 }
 
 bool UserControl2::keepTemporary() {
@@ -139,6 +140,8 @@ void UserControl2::takeSession(const SessionFile& session, FileRequest request,
         sessionNamedByUser = overwritable ? namedByUser(path) : std::string();
     }
     applySession(session);
+    if (how != fileRequest::temporary)
+        versionInFile = flightVersion();
     c_HscrollRepeatValue = how == fileRequest::byName ? std::int16_t{1} : c_TraceBufferMax;
 }
 
@@ -149,6 +152,7 @@ void UserControl2::takeReference(const SessionFile& session) {
 }
 
 void UserControl2::applySession(const SessionFile& session) {
+    recording.clear();
     history.clear();
     chanceWinds.clear();
     c_mapedit.setIfChanged(0);
@@ -158,10 +162,9 @@ void UserControl2::applySession(const SessionFile& session) {
         comments.setText(static_cast<int>(i), session.comments[i]);
     comments.commentCount = static_cast<std::int16_t>(session.comments.size());
     applyStations(session);
-    recording.clear();
     const auto count = static_cast<std::int16_t>(session.samples.size());
     for (std::int16_t i = 1; i <= count; ++i)
-        recording.at(i) = session.samples[static_cast<std::size_t>(i) - 1];
+        recording.edit(i) = session.samples[static_cast<std::size_t>(i) - 1];
     recording.setNewest(count);
     c_TraceBufferMax.publish(count);
     c_FlyEN.publish(1);
@@ -172,6 +175,9 @@ void UserControl2::applySession(const SessionFile& session) {
 
 void UserControl2::saveSession() {
     const std::int16_t how = c_saveSession;
+    const bool followsFlight = !flown() && recording.sampleIndex() > 1;
+    if (followsFlight)
+        sessionNamedByUser.clear();
     const auto path = nameFor(FileRequest::saveSession, how, c_SessionFileName);
     c_saveSession.publish(0);
     if (!path)
@@ -182,19 +188,18 @@ void UserControl2::saveSession() {
             return;
         c_SessionFileName.setIfChanged(*path);
         sessionNamedByUser = namedByUser(*path);
+        if (followsFlight) {
+            forgetComments();
+            markFreshStart();
+        }
+        versionInFile = flightVersion();
     } catch (const RunTimeError& error) {
         messages.fileFailed(FileRequest::saveSession, *path, error);
     }
 }
 
 std::string UserControl2::sessionBytes() {
-    SessionFile session;
-    describeStations(session);
-    for (int i = 0; i < Comments::count; ++i)
-        session.comments.push_back(comments.text(i));
-    for (int i = 1; i <= c_TraceBufferMax; ++i)
-        session.samples.push_back(recording.at(i));
-    return writeSession(session, keyToSave());
+    return writeSession(session(), keyToSave());
 }
 
 void UserControl2::saveSessionTo(const std::string& path) {

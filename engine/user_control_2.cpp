@@ -41,6 +41,7 @@ UserControl2::Slots UserControl2::makeSlots() {
 
 void UserControl2::relabel(Slot which) {
     const StationProperties& station = slot(which);
+    ++stationChanges;
     picture.surface.set(inSlot(picture.symbols, which).name.caption,
                         station.name.get() + "\n" + station.frequency.get());
 }

@@ -72,8 +72,16 @@ class UserControl2 {
     /// Loads a session of the program's own: its first sample comes up. False, with a box and
     /// nothing changed, if the file has no whole sample.
     bool loadByName(const std::string& path);
+    /// The flight in memory with its comments and stations.
+    [[nodiscard]] SessionFile session() const;
     /// The bytes of a session file with the flight as it was recorded.
     [[nodiscard]] std::string sessionBytes();
+    /// Takes a flight that has no file of its own, as a session that the user opened.
+    void takeFlight(const SessionFile& flight, const ReferenceTrack& track);
+    /// A number that grows with every change of the flight in memory.
+    [[nodiscard]] std::uint64_t flightVersion() const;
+    /// Whether a flight was recorded or changed that no file of the user's has as it is now.
+    [[nodiscard]] bool flightUnsaved() const;
     /// Saves the flight aside, as a `c_saveSession` of 3 does. False, with a box, if that failed.
     bool keepTemporary();
     /// Loads that flight again. False, with a box and nothing changed, if that failed.
@@ -302,10 +310,13 @@ class UserControl2 {
     void copySettings(Sample& sample) const;
     void freshRecording();
     void renewFirstSample();
+    [[nodiscard]] bool flown() const;
+    [[nodiscard]] Sample situation() const;
     void compareWithReference(std::int16_t index);
     void showComment(std::int16_t index);
 
     void goToSample();
+    void overwriteSettings(std::int16_t index);
     void restoreMotion(const Sample& sample);
     void restoreSettings(const Sample& sample);
     void restorePlace(const Sample& sample);
@@ -366,6 +377,8 @@ class UserControl2 {
     bool redrawOnly = false;
     std::string chartNamedByUser; ///< the path that a save may overwrite unasked
     std::string sessionNamedByUser;
+    std::uint64_t stationChanges = 0; ///< of names, frequencies and places
+    std::uint64_t versionInFile = 0;  ///< the `flightVersion` that was loaded or saved last
     /// What `resetView` goes back to.
     struct {
         SplitPosition centre{{49, 0}, {11, 0}};

@@ -12,10 +12,10 @@ class TraceDotsTest : public testing::Test {
         while (recording.sampleIndex() < count)
             recording.advance();
         for (int i = 1; i <= count; ++i) {
-            recording.at(i).traceLat = 49;
-            recording.at(i).traceLon = 11;
+            recording.edit(i).traceLat = 49;
+            recording.edit(i).traceLon = 11;
         }
-        recording.at(1).traceLat = 49.1;
+        recording.edit(1).traceLat = 49.1;
     }
     std::size_t dots() const { return picture.trace.all().size(); }
 
@@ -55,9 +55,9 @@ TEST_F(TraceDotsTest, StandWhereTheAircraftWas) {
 TEST_F(TraceDotsTest, KeepOffTheUpperAndLeftEdgeWithTheHeadingUp) {
     view.northUpMode = false;
     view.plot.mapScaleTwips = 1000;
-    record(3);                                    // 1 and 3 are drawn
-    recording.at(1).traceLat = 49 + 3.19 / 60.04; // 215 twips from the edge
-    recording.at(3).traceLat = 49 + 3.22 / 60.04; // 185
+    record(3);                                      // 1 and 3 are drawn
+    recording.edit(1).traceLat = 49 + 3.19 / 60.04; // 215 twips from the edge
+    recording.edit(3).traceLat = 49 + 3.22 / 60.04; // 185
     struct Case {
         double heading;
         std::size_t drawn;

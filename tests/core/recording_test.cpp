@@ -21,7 +21,7 @@ TEST(Recording, SamplesFallOnEveryFourthTickFromTheThird) {
 
 TEST(Recording, WarnsTwiceAndStartsOver) {
     Recording recording;
-    recording.at(1).traceTAS = 77;
+    recording.edit(1).traceTAS = 77;
     std::vector<std::pair<int, BufferWarning>> warned;
     for (int sample = 2; sample <= 5980; ++sample) {
         const BufferWarning warning = recording.advance();
@@ -39,8 +39,8 @@ TEST(Recording, WarnsTwiceAndStartsOver) {
 
 TEST(Recording, ChecksItsBounds) {
     Recording recording;
-    recording.at(0).traceTAS = 1;
-    recording.at(6000).traceTAS = 2;
+    recording.edit(0).traceTAS = 1;
+    recording.edit(6000).traceTAS = 2;
     for (const int index : {-1, 6001}) {
         try {
             (void)recording.at(index);

@@ -76,7 +76,7 @@ TEST_F(ReplayTest, ShowsEachSampleAsItWasFlown) {
 TEST_F(ReplayTest, ResumesAtAnySampleAndKeepsWhatWasBefore) {
     fly(50);
     const Sample kept = sim.recording.at(20);
-    sim.recording.at(40).traceComment = 3;
+    sim.recording.edit(40).traceComment = 3;
     sim.c_RepeatValue = 20;
     sim.c_TimerEN = 1;
     EXPECT_EQ(sim.c_TraceBufferMax, 20);
@@ -110,7 +110,7 @@ TEST_F(ReplayTest, APauseGoesOnWhereItWas) {
 
 TEST_F(ReplayTest, PlacingTheAircraftClearsMarksAndSamples) {
     fly(10);
-    sim.recording.at(4).traceComment = 1;
+    sim.recording.edit(4).traceComment = 1;
     sim.c_RepeatValue = 5;
     sim.mouse.down(ChartButton::left, {3000, 3000});
     sim.mouse.up();

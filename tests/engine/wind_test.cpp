@@ -84,8 +84,8 @@ TEST_F(WindTest, OfARecordingIsTheOneToComeBackToAndByChanceStaysUntold) {
     EXPECT_EQ(sim.c_wind.get(), chance);
     EXPECT_EQ(sim.windSource, WindSource::byHand);
     sim.c_NewSession = 1;
-    sim.recording.at(1).traceWindDirection = 90;
-    sim.recording.at(1).traceWindSpeed = 30;
+    sim.recording.edit(1).traceWindDirection = 90;
+    sim.recording.edit(1).traceWindSpeed = 30;
     sim.c_RepeatValue = 1;
     EXPECT_EQ(sim.windSource, WindSource::recorded);
 }

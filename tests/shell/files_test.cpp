@@ -263,7 +263,7 @@ TEST_F(FilesTest, AFlightThatCanNotBeKeptStays) {
 TEST_F(FilesTest, NonsenseInTheSettingsOfASampleDoesNoHarm) {
     fly(8);
     for (int i = 1; i <= sim().c_TraceBufferMax; ++i) {
-        Sample& sample = sim().recording.at(i);
+        Sample& sample = sim().recording.edit(i);
         sample.traceInst2 = sample.traceInst3 = 77;
         sample.traceInst2NAVselect = -5;
         sample.traceInst3ADFCard = 9;
