@@ -61,6 +61,14 @@ SessionFile readSession(std::string bytes) {
     return readUntilProblem(std::move(bytes), readAll);
 }
 
+SessionFile readSessionHead(std::string bytes) {
+    return readUntilProblem(std::move(bytes), [](LineSource& lines, SessionFile& session) {
+        lines.openEitherForm();
+        readComments(lines, session);
+        readStations(lines, session);
+    });
+}
+
 std::string writeSession(const SessionFile& session, std::optional<int> key) {
     constexpr std::size_t usualHead = 4096;
     constexpr std::size_t usualSample = 512;

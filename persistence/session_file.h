@@ -28,6 +28,9 @@ constexpr std::size_t largestSession = std::size_t{8} << 20;
 /// The number of a sample's comment is -1 to 100, whether or not the file has such a comment.
 [[nodiscard]] SessionFile readSession(std::string bytes);
 
+/// Reads no more than the comments and stations that `bytes` begin with.
+[[nodiscard]] SessionFile readSessionHead(std::string bytes);
+
 /// The bytes of a `.ts` file, enciphered if there is a `key` (1 to 99). Comments go up to the
 /// highest that has a text or a sample. What `session` does not give is written as 0 or as an empty
 /// text; a missing map scale is left out, and a missing map centre is 1. Numbers read back to the
