@@ -25,6 +25,9 @@ void Form1::connectFiles() {
     fileMenu.encipher.onClick = [this] {
         UserControl11.c_doEncrypt = fileMenu.encipher.value() == 1 ? on : off;
     };
+    flightDesk.showBox = [this](const std::string& message) {
+        showBox(text(Text::windowTitle), message);
+    };
     practicePanel.keep.onClick = [this] { keepPracticeFlight(); };
     practicePanel.recall.onClick = [this] { recallPracticeFlight(); };
 }
@@ -90,6 +93,7 @@ void Form1::recallPracticeFlight() {
         practicePanel.keep.show();
         return;
     }
+    flightDesk.keeper.takeAsKept();
     practising = practised;
     UserControl11.c_TrackDelta = 3;
 }

@@ -11,6 +11,7 @@
 #include "instruments/stopwatch_face.h"
 #include "instruments/user_control_1.h"
 #include "shell/exercise_menu.h"
+#include "shell/flight_desk.h"
 #include "shell/instrument_feed.h"
 #include "shell/instrument_position.h"
 #include "shell/outside_world.h"
@@ -160,6 +161,7 @@ class Form1 : private SimulationMessages {
                                        Text::stopwatchResetTip};
     CheckBox floatingGyroBox{state, "FloatingGyro", Text::floatingGyro, Text::floatingGyroTip};
 
+    FlightDesk flightDesk{state, texts, UserControl11, outside};
     FileMenu fileMenu{state};
     EditMenu editMenu{state};
     ExerciseMenu exerciseMenu{state};
@@ -323,6 +325,9 @@ class Form1 : private SimulationMessages {
     void bufferWarning(BufferWarning warning) override;
     std::optional<std::string> chooseFile(FileRequest request, const std::string& present) override;
     [[nodiscard]] bool isShipped(const std::string& path) const override;
+    [[nodiscard]] std::string newSessionName() const override {
+        return text(Text::newSessionFile);
+    }
     void stopForLoading(FileRequest request, bool picked) override;
     void fileFailed(FileRequest request, const std::string& path,
                     const RunTimeError& error) override;

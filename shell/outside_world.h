@@ -33,6 +33,12 @@ class OutsideWorld {
     /// Opens a document in the program that the user has for it, at a page if that is above 0.
     /// False if there is no such program.
     virtual bool openDocument(const std::string& /*path*/, int /*page*/) { return true; }
+    /// Seconds since 1970 UTC; 0 in a world without a clock.
+    virtual std::int64_t secondsNow() { return 0; }
+    /// Such a moment on this computer's clock, in a format of "yyyy", "MM", "dd", "HH" and "mm".
+    virtual std::string localTime(std::int64_t /*seconds*/, const std::string& /*format*/) {
+        return {};
+    }
     /// Where draws by chance start from; a world without a clock lets them go on.
     virtual std::optional<std::uint32_t> clockSeed() { return {}; }
     /// Where the statistics are kept; without a place of their own they end with the program.

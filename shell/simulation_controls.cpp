@@ -72,6 +72,7 @@ void Form1::enableControls() {
     stationPage.edit.setEnabled(free);
     for (CommandButton* item : fileMenu.items())
         item->setEnabled(free);
+    flightDesk.menu.setEnabled(free);
     for (CommandButton* item : exerciseMenu.items())
         item->setEnabled(free);
     const bool mayFly = !exerciseUp || (QAform1.c_QAFly > 0 && UserControl11.c_FlyEN == 1);

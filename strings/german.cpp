@@ -406,6 +406,21 @@ constexpr StringEntry entries[] = {
     // Menus.
     {539, "Load Old Session"},
     {540, "Dateien verschlüsseln"},
+    {931, "Flug zurückholen"},
+    {932, "Es liegt kein Flug bereit"},
+    {933, "%1   %2   %3"},
+    {934, "%1 min %2 s"},
+    {935, "dd.MM.yyyy HH:mm"},
+    {936, "Flug von %1 beiseitegelegt: Er liegt unter \"Datei, Flug zurückholen\"."},
+    {937, "Der Flug lässt sich nicht beiseitelegen (%1). Er bleibt im Speicher, bis es gelingt."},
+    {938, "Ein Flug ließ sich nicht beiseitelegen. Holen Sie ihn zurück (\"Datei, Flug "
+          "zurückholen\") und speichern Sie ihn an einem anderen Ort, oder schließen Sie noch "
+          "einmal, um ohne ihn zu beenden."},
+    {939, "Letzter Flug: %1"},
+    {940, "Zurückholen"},
+    {941, "Diesen Flug nicht mehr anbieten"},
+    {942, "%1 \u2013 %2"},
+    {943, "%1 (nicht gespeichert) \u2013 %2"},
     {541, "Einführung 1"},
     {542, "Einführung 2"},
     {543, "Benutzerhandbuch"},

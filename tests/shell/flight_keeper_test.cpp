@@ -1,0 +1,337 @@
+#include "persistence/file_bytes.h"
+#include "shell/trainer_fixture.h"
+
+#include <gmock/gmock.h>
+
+namespace tarnel {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::HasSubstr;
+
+/// A trainer with a shelf, whose user picks the files that he is told to.
+class FlightKeeperTest : public testing::Test {
+  protected:
+    struct PickingWorld : NotedWorld {
+        std::optional<std::string> chooseFile(const FileQuestion& question) override {
+            asked += question.saves ? 1 : 0;
+            return chosen;
+        }
+        std::int64_t secondsNow() override { return ++seconds; }
+        std::int64_t seconds = 1767225600;
+        std::optional<std::string> chosen;
+        int asked = 0;
+    };
+
+    FlightKeeperTest() {
+        fs::create_directories(folder.path + "/default/sessions");
+        fs::copy(TARNEL_DATA_FOLDER "/default.map", folder.path + "/default.map");
+        start();
+    }
+    /// Starts the trainer, as often as told.
+    void start() {
+        form.reset();
+        form = std::make_unique<Form1>(englishTable(), world, folder.path);
+        keeper().useShelf(folder.path + "/flights");
+    }
+    void couple() {
+        for (int i = 0; i < 3; ++i)
+            form->Timer1();
+    }
+    void fly(int seconds) {
+        form->startButton.click();
+        for (int i = 0; i < 3 * seconds; ++i) {
+            form->simulationTimer();
+            form->Timer1();
+        }
+        form->startButton.click();
+        couple();
+    }
+    void saveAs(const std::string& name) {
+        world.chosen = folder.path + "/" + name;
+        form->fileMenu.saveSessionAs.click();
+        world.chosen.reset();
+    }
+    void load(const std::string& name) {
+        form->openFile(folder.path + "/" + name);
+        couple();
+    }
+    void save() { form->fileMenu.saveSession.click(); }
+    [[nodiscard]] std::vector<Sample> recorded() {
+        std::vector<Sample> samples;
+        for (int i = 1; i <= sim().c_TraceBufferMax; ++i)
+            samples.push_back(sim().recording.at(i));
+        return samples;
+    }
+    void bringBack(std::size_t index) {
+        form->flightDesk.bringBack(keeper().flights().at(index));
+        couple();
+    }
+    FlightKeeper& keeper() { return form->flightDesk.keeper; }
+    UserControl2& sim() { return form->UserControl11; }
+
+    ApplicationFolder folder;
+    PickingWorld world;
+    std::unique_ptr<Form1> form;
+};
+
+TEST_F(FlightKeeperTest, NoWayOfLeavingAFlightLosesIt) {
+    fly(20);
+    saveAs("other.ts");
+    fs::copy(folder.path + "/other.ts", folder.path + "/default/sessions/introduction 1.ts");
+    fs::copy(folder.path + "/other.ts", folder.path + "/default/sessions/e-adf practise 01.ts");
+    const std::vector<std::pair<const char*, std::function<void()>>> ways = {
+        {"new session", [this] { form->fileMenu.newSession.click(); }},
+        {"a session", [this] { load("other.ts"); }},
+        {"a chart", [this] { load("default.map"); }},
+        {"a practice", [this] { form->exerciseMenu.adfPractice[0]->click(); }},
+        {"the introduction", [this] { form->exerciseMenu.introduction1.click(); }},
+        {"an exercise without its session", [this] { sim().dropRecording(); }},
+        {"placing the aircraft",
+         [this] {
+             sim().placeAircraft(ChartPoint{1000, 2000});
+         }},
+        {"a start in the middle",
+         [this] {
+             form->replayPage.bar.scrollTo(20);
+             form->startButton.click();
+         }},
+        {"closing", [this] { EXPECT_TRUE(form->flightDesk.mayClose()); }},
+    };
+    for (const auto& [name, leave] : ways) {
+        SCOPED_TRACE(name);
+        start();
+        const std::size_t before = keeper().flights().size();
+        form->commentPanel.text.type("Größe");
+        form->commentPanel.startStop.click();
+        fly(40);
+        sim().reference.append({48, 11});
+        const std::vector<Sample> flown = recorded();
+        const ReferenceTrack track = sim().reference;
+        form->replayPage.lock.set(1);
+        leave();
+        keeper().putAside(); // nothing more to be put aside
+        ASSERT_EQ(keeper().flights().size(), before + 1);
+        EXPECT_THAT(form->flightDesk.notice.text(), HasSubstr("Flight of 0 min 40 s put aside"));
+
+        start();
+        ASSERT_TRUE(keeper().offer());
+        EXPECT_EQ(keeper().offer()->path, keeper().flights()[0].path);
+        bringBack(0);
+        EXPECT_FALSE(keeper().offer());
+        EXPECT_EQ(recorded(), flown);
+        EXPECT_EQ(sim().comments.text(0), "Größe");
+        EXPECT_EQ(sim().reference, track);
+        EXPECT_TRUE(sim().flightUnsaved());
+        form->fileMenu.newSession.click();
+        EXPECT_EQ(keeper().flights().size(), before + 1); // it lies there already
+        start();
+        EXPECT_FALSE(keeper().offer());
+    }
+    EXPECT_TRUE(world.boxes.empty()) << world.boxes[0];
+}
+
+TEST_F(FlightKeeperTest, AFullRecordingIsPutAsideBeforeItStartsOver) {
+    form->startButton.click();
+    sim().Turn_Rate = 3;
+    while (world.boxes.size() < 2) {
+        form->simulationTimer();
+        sim().Turn_Rate = 3;
+    }
+    ASSERT_EQ(keeper().flights().size(), 1U);
+    EXPECT_EQ(keeper().flights()[0].seconds, 5979 * 4 / 3);
+    form->startButton.click();
+    bringBack(0);
+    EXPECT_EQ(sim().c_TraceBufferMax, 5979);
+}
+
+TEST_F(FlightKeeperTest, OnlyWhatNoFileHasIsPutAside) {
+    fly(28);
+    form->fileMenu.newSession.click(); // too short
+    fly(40);
+    EXPECT_THAT(form->flightDesk.title(), HasSubstr("New Session.ts (not saved)"));
+    saveAs("mine.ts");
+    EXPECT_THAT(form->flightDesk.title(), testing::StartsWith("mine.ts –"));
+    load("mine.ts");
+    for (int i = 1; i < 30; ++i)
+        form->replayPage.bar.scrollTo(i); // locked
+    EXPECT_FALSE(sim().flightUnsaved());
+    load("mine.ts");
+    EXPECT_TRUE(keeper().flights().empty());
+
+    form->replayPage.lock.click();
+    couple();
+    form->replayPage.bar.scrollTo(7);
+    EXPECT_FALSE(sim().flightUnsaved());
+    form->NAVControlFace1.c_SetFreq = 2;
+    couple();
+    form->replayPage.bar.scrollTo(8);
+    EXPECT_THAT(form->flightDesk.title(), HasSubstr("mine.ts (not saved)"));
+    form->fileMenu.newSession.click();
+    EXPECT_EQ(keeper().flights().size(), 1U);
+}
+
+TEST_F(FlightKeeperTest, AFlightThatCanNotBeWrittenIsHeldUntilItCan) {
+    fs::remove_all(folder.path + "/flights");
+    std::ofstream(folder.path + "/flights") << "no folder";
+    fly(40);
+    const std::vector<Sample> flown = recorded();
+    form->fileMenu.newSession.click();
+    EXPECT_THAT(form->flightDesk.notice.text(), HasSubstr("cannot be put aside"));
+    EXPECT_FALSE(form->flightDesk.mayClose());
+    EXPECT_EQ(world.boxes.size(), 1U);
+    bringBack(0);
+    EXPECT_EQ(recorded(), flown);
+    fs::remove(folder.path + "/flights");
+    fs::create_directory(folder.path + "/flights");
+    EXPECT_TRUE(form->flightDesk.mayClose());
+    start();
+    bringBack(0);
+    EXPECT_EQ(recorded(), flown);
+}
+
+TEST_F(FlightKeeperTest, ACopyOfTheFlightOutlivesTheProgram) {
+    form->startButton.click();
+    const auto flyOn = [this](int seconds) {
+        for (int i = 0; i < 3 * seconds; ++i)
+            form->simulationTimer();
+    };
+    flyOn(40);
+    keeper().keepCopy();
+    keeper().keepCopy(); // waits for none, so it may pass this one over
+    const std::vector<Sample> flown = recorded();
+    form.reset(); // without having been closed
+    start();
+    ASSERT_EQ(keeper().flights().size(), 1U);
+    bringBack(0);
+    EXPECT_EQ(recorded(), flown);
+
+    form->fileMenu.newSession.click();
+    form->startButton.click();
+    flyOn(50);
+    keeper().keepCopy();
+    keeper().putAside();
+    start();
+    EXPECT_EQ(keeper().flights().size(), 2U); // put aside, and the copy is gone
+}
+
+TEST_F(FlightKeeperTest, AFlightThatIsCalledBackIsNotPutAsideOnceMore) {
+    fly(40);
+    saveAs("default/sessions/e-adf practise 01.ts");
+    form->exerciseMenu.adfPractice[0]->click();
+    couple();
+    fly(60);
+    for (int i = 0; i < 3; ++i) {
+        form->practicePanel.keep.click();
+        couple();
+        form->practicePanel.recall.click();
+        couple();
+    }
+    EXPECT_EQ(keeper().flights().size(), 1U);
+    EXPECT_EQ(sim().c_TraceBufferMax, 46);
+}
+
+TEST_F(FlightKeeperTest, ANameHoldsForTheFlightThatItWasGivenTo) {
+    const std::vector<std::pair<const char*, std::function<void()>>> others = {
+        {"placed and started",
+         [this] {
+             sim().placeAircraft(ChartPoint{1000, 2000});
+             fly(40);
+         }},
+        {"placed alone",
+         [this] {
+             sim().placeAircraft(ChartPoint{1000, 2000});
+         }},
+        {"started in the middle",
+         [this] {
+             form->replayPage.bar.scrollTo(9);
+             fly(40);
+         }},
+        {"a brought back one",
+         [this] {
+             fly(40);
+             form->fileMenu.newSession.click();
+             load("mine.ts");
+             bringBack(0);
+         }},
+        {"a situation that is flown",
+         [this] {
+             form->fileMenu.newSession.click();
+             saveAs("mine.ts");
+             world.asked = 0;
+             fly(40);
+         }},
+    };
+    for (const auto& [name, change] : others) {
+        SCOPED_TRACE(name);
+        start();
+        fly(40);
+        saveAs("mine.ts");
+        world.asked = 0;
+        change();
+        save();
+        EXPECT_EQ(world.asked, 1);
+    }
+    start();
+    fly(40);
+    saveAs("mine.ts");
+    fly(8); // goes on
+    world.asked = 0;
+    save();
+    EXPECT_EQ(world.asked, 0);
+    EXPECT_FALSE(sim().flightUnsaved());
+}
+
+TEST_F(FlightKeeperTest, ASituationSetUpByHandIsSavedAndFound) {
+    for (const bool afterFlight : {false, true}) {
+        SCOPED_TRACE(afterFlight);
+        start();
+        if (afterFlight)
+            fly(40);
+        sim().placeAircraft(ChartPoint{1000, 2000});
+        sim().turnAircraft(77);
+        form->setHeadingBug(123);
+        form->setManualWind(240, 15);
+        form->inst2TypeList.pick(vor - 1);
+        form->NAVControlFace1.c_SetFreq = 1;
+        form->APControlFace1.c_TAS = 150.0;
+        sim().placeStation(Slot::ndb1, {3000, 2500});
+        const GeoPosition station = toPlain(inSlot(sim().stations, Slot::ndb1).position);
+        const GeoPosition place = sim().aircraft.published();
+        couple();
+        saveAs("task.ts");
+        form->fileMenu.newSession.click();
+        load("task.ts");
+        EXPECT_EQ(sim().c_TraceBufferMax, 1);
+        EXPECT_LT(CourseAndDistance(place, sim().aircraft.published()).distance, 0.001);
+        EXPECT_EQ(sim().c_HDG, 77);
+        EXPECT_EQ(sim().c_HDGbug, 123);
+        EXPECT_EQ(sim().c_wind.get(), "240/15");
+        EXPECT_EQ(form->inst2.type, vor);
+        EXPECT_EQ(form->NAVControlFace1.c_SetFreq, 1);
+        EXPECT_EQ(form->APControlFace1.c_TAS, 150.0);
+        EXPECT_NEAR(toPlain(inSlot(sim().stations, Slot::ndb1).position).latitude, station.latitude,
+                    1e-9);
+        save();
+        EXPECT_EQ(readFileBytes(folder.path + "/task.ts", 1 << 20).find("---"),
+                  readFileBytes(folder.path + "/task.ts", 1 << 20).rfind("---"));
+        form->setManualWind(90, 20); // and changed a day later
+        couple();
+        save();
+        load("task.ts");
+        EXPECT_EQ(sim().c_wind.get(), "90/20");
+    }
+}
+
+TEST_F(FlightKeeperTest, PlacingTheAircraftDropsTheReference) {
+    fly(40);
+    saveAs("mine.ts");
+    load("mine.ts");
+    ASSERT_TRUE(sim().referenceReading.known);
+    sim().placeAircraft(ChartPoint{1000, 2000});
+    fly(10);
+    EXPECT_FALSE(sim().referenceReading.known);
+}
+
+} // namespace
+} // namespace tarnel
