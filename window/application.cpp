@@ -1,6 +1,7 @@
 #include "window/application.h"
 
 #include "shell/application_folder.h"
+#include "window/flight_guard.h"
 #include "window/form_binding.h"
 #include "window/look.h"
 #include "window/main_window.h"
@@ -45,9 +46,13 @@ void nameApplication() {
     QApplication::setDesktopFileName(QStringLiteral("tarnel"));
 }
 
+QString userDataFolder() {
+    return QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
+}
+
 /// The copy of a practice flight is this user's.
 void useScratchFolder(Form1& form) {
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
+    const QString folder = userDataFolder();
     if (QDir().mkpath(folder))
         form.UserControl11.c_ScratchPath = folder.toStdString();
 }
@@ -114,7 +119,11 @@ int runApplication(int argc, char** argv, const StringTable& texts) {
     };
     openOnScreen(window);
     window.startTimers();
-    QTimer::singleShot(0, &window, [&] { openIn(file); });
+    std::optional<FlightGuard> guard;
+    QTimer::singleShot(0, &window, [&] {
+        guard.emplace(form, userDataFolder() + QStringLiteral("/flights"));
+        openIn(file);
+    });
     return QApplication::exec();
 }
 

@@ -5,6 +5,7 @@
 #include "window/comment_card.h"
 #include "window/control_strip.h"
 #include "window/file_opener.h"
+#include "window/flight_signs.h"
 #include "window/floating_gyro.h"
 #include "window/instrument_panel.h"
 #include "window/look.h"
@@ -44,6 +45,7 @@ MainWindow::MainWindow(Form1& owner)
     makeMenus();
     makeDesk();
     opener = new FileOpener(form, *this);
+    flightSigns = new FlightSigns(form, *this);
     form.beforeBox = [this] { refresh(); };
     setStyleSheet(sheetFor(1)); // once for all widgets
     resize(usualWindow);
@@ -150,6 +152,10 @@ void MainWindow::keyPressEvent(QKeyEvent* event) {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
+    if (!form.flightDesk.mayClose()) {
+        event->ignore();
+        return;
+    }
     event->accept();
     QCoreApplication::quit();
 }
@@ -189,6 +195,7 @@ void MainWindow::refresh() {
     strip->refresh();
     panel->refresh();
     gyro->refresh();
+    flightSigns->refresh();
 }
 
 } // namespace tarnel

@@ -17,6 +17,7 @@ class ChartView;
 class CommentCard;
 class ControlStrip;
 class FileOpener;
+class FlightSigns;
 class InstrumentPanel;
 class QuizPanel;
 class StationEditing;
@@ -62,6 +63,7 @@ class MainWindow : public QMainWindow {
     ChartView* chart = nullptr;
     std::unique_ptr<StationEditing> stationEditing;
     FileOpener* opener = nullptr;
+    FlightSigns* flightSigns = nullptr;
     ChartControls* chartControls = nullptr;
     ControlStrip* strip = nullptr;
     CommentCard* comment = nullptr;

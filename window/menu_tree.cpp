@@ -1,6 +1,7 @@
 #include "window/menu_tree.h"
 
 #include "shell/documents.h"
+#include "window/flight_signs.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -101,6 +102,9 @@ void MenuBuilder::buildFile(const MenuActions& actions) {
     bound(*file, items.loadOldSession);
     bound(*file, items.saveSession, QKeySequence::Save);
     bound(*file, items.saveSessionAs, Qt::CTRL | Qt::SHIFT | Qt::Key_S);
+    QMenu* flights = menu(*file, "mnuBringBack", Text::bringBackFlight);
+    binding.bind(form.flightDesk.menu, *flights->menuAction());
+    FlightSigns::fillMenu(form, *flights);
     file->addSeparator();
     bound(*file, items.loadChart);
     bound(*file, items.saveChart);

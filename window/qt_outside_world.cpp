@@ -3,6 +3,7 @@
 #include "window/document_reader.h"
 
 #include <QApplication>
+#include <QDateTime>
 #include <QMessageBox>
 
 #include <chrono>
@@ -38,6 +39,16 @@ std::optional<std::string> QtOutsideWorld::chooseFile(const FileQuestion& questi
 
 bool QtOutsideWorld::openDocument(const std::string& path, int page) {
     return openInReader(QString::fromStdString(path), page);
+}
+
+std::int64_t QtOutsideWorld::secondsNow() {
+    return QDateTime::currentSecsSinceEpoch();
+}
+
+std::string QtOutsideWorld::localTime(std::int64_t seconds, const std::string& format) {
+    return QDateTime::fromSecsSinceEpoch(seconds)
+        .toString(QString::fromStdString(format))
+        .toStdString();
 }
 
 std::optional<std::uint32_t> QtOutsideWorld::clockSeed() {

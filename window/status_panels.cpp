@@ -16,6 +16,7 @@ namespace {
 
 /// The share of the width that each panel takes.
 constexpr std::array<double, 7> shares = {.185, .135, .135, .135, .15, .145, .115};
+constexpr int noticeMilliseconds = 8000;
 
 } // namespace
 
@@ -30,6 +31,15 @@ StatusPanels::StatusPanels(Form1& form, FormBinding& binding, QWidget* parent) :
         panels.push_back(label);
     }
     panels.back()->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    notice = new QLabel(this);
+    TextPanel& text = form.flightDesk.notice;
+    binding.bind(text, *notice);
+    noticeEnd.setSingleShot(true);
+    connect(&noticeEnd, &QTimer::timeout, this, [&text] { text.setVisible(false); });
+    binding.follow([this, &text] {
+        if (text.visible() && !noticeEnd.isActive())
+            noticeEnd.start(noticeMilliseconds);
+    });
 }
 
 void StatusPanels::resizeEvent(QResizeEvent*) {
@@ -40,6 +50,7 @@ void StatusPanels::resizeEvent(QResizeEvent*) {
                                static_cast<int>(std::lround(panelWidth)), height());
         left += panelWidth;
     }
+    notice->setGeometry(rect());
 }
 
 void StatusPanels::paintEvent(QPaintEvent*) {

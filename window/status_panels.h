@@ -3,6 +3,7 @@
 #include "shell/form_1.h"
 #include "window/form_binding.h"
 
+#include <QTimer>
 #include <QWidget>
 
 #include <vector>
@@ -24,6 +25,8 @@ class StatusPanels : public QWidget {
 
   private:
     std::vector<QLabel*> panels;
+    QLabel* notice; ///< lies over them for a moment
+    QTimer noticeEnd;
 };
 
 } // namespace tarnel

@@ -128,6 +128,7 @@ QComboBox[quiz="true"] QAbstractItemView { background: $paper; color: $ink; bord
 
 QWidget#StatusPanels { background: $bar; border-top: 1px solid $line; }
 QWidget#StatusPanels QLabel { font-size: {12}px; padding-left: {10}px; }
+QWidget#StatusPanels QLabel#StatusNotice { background: $bar; font-weight: bold; }
 QWidget#StatusPanels QLabel#FlightTime { padding-right: {10}px; }
 )";
 

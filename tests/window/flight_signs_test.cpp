@@ -1,0 +1,95 @@
+#include "window/flight_guard.h"
+#include "window/student_fixture.h"
+
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTemporaryDir>
+#include <gmock/gmock.h>
+
+namespace tarnel {
+namespace {
+
+using testing::HasSubstr;
+
+class FlightSignsTest : public Student {
+  protected:
+    /// Opens the program anew on the same shelf.
+    void start(const StringTable& texts = englishTable()) {
+        guard.reset();
+        window.reset();
+        open(texts);
+        guard = std::make_unique<FlightGuard>(*form, folder.path() + "/flights");
+        settle();
+    }
+    void flyAMinute() {
+        click("Command6");
+        fly(60);
+        click("Command6");
+    }
+    QMenu& openedList() {
+        auto& list = find<QMenu>("mnuBringBack");
+        emit list.aboutToShow();
+        return list;
+    }
+    [[nodiscard]] std::string title() const { return window->windowTitle().toStdString(); }
+
+    QTemporaryDir folder;
+    std::unique_ptr<FlightGuard> guard;
+};
+
+TEST_F(FlightSignsTest, TheWindowTellsOfAFlightAndWhereItWent) {
+    start();
+    EXPECT_EQ(title(), "New Session.ts \u2013 Tarnel");
+    ASSERT_EQ(openedList().actions().size(), 1);
+    EXPECT_FALSE(openedList().actions()[0]->isEnabled());
+    flyAMinute();
+    EXPECT_EQ(title(), "New Session.ts (not saved) \u2013 Tarnel");
+    EXPECT_FALSE(find<QLabel>("StatusNotice").isVisible());
+    form->fileMenu.newSession.click();
+    settle();
+    EXPECT_TRUE(find<QLabel>("StatusNotice").isVisible());
+    EXPECT_THAT(find<QLabel>("StatusNotice").text().toStdString(), HasSubstr("1 min 0 s"));
+    EXPECT_EQ(title(), "New Session.ts \u2013 Tarnel");
+
+    const QList<QAction*> flights = openedList().actions();
+    ASSERT_EQ(flights.size(), 1);
+    EXPECT_THAT(flights[0]->text().toStdString(), HasSubstr("1 min 0 s   MUN"));
+    flights[0]->trigger();
+    settle();
+    EXPECT_EQ(form->UserControl11.c_TraceBufferMax, 45);
+    EXPECT_EQ(title(), "New Session.ts (not saved) \u2013 Tarnel");
+    form->flightDesk.notice.setVisible(false);
+    settle();
+    EXPECT_FALSE(find<QLabel>("StatusNotice").isVisible());
+}
+
+TEST_F(FlightSignsTest, TheNextStartOffersTheLastFlightInOneLine) {
+    start(germanTable());
+    flyAMinute();
+    EXPECT_TRUE(window->close());
+    for (const char* answer : {"", "FlightOfferTake", "FlightOfferClose"}) {
+        SCOPED_TRACE(answer);
+        start();
+        auto& offer = find<QWidget>("FlightOffer");
+        ASSERT_TRUE(offer.isVisible());
+        EXPECT_LE(offer.height(), window->menuBar()->height());
+        if (*answer)
+            click(answer);
+        else
+            click("Command6"); // flies on, and is in the way no more
+        EXPECT_FALSE(offer.isVisible());
+        if (answer == std::string("FlightOfferTake")) {
+            EXPECT_EQ(form->UserControl11.c_TraceBufferMax, 45);
+            start();
+            EXPECT_FALSE(find<QWidget>("FlightOffer").isVisible());
+            flyAMinute();
+            guard.reset(); // as a signal ends it
+        }
+    }
+    start();
+    EXPECT_FALSE(find<QWidget>("FlightOffer").isVisible());
+}
+
+} // namespace
+} // namespace tarnel

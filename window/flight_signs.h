@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QObject>
+
+#include <string>
+
+class QFrame;
+class QLabel;
+class QMainWindow;
+class QMenu;
+
+namespace tarnel {
+
+class Form1;
+
+/// `FlightSigns`: what the window's own edges tell of flights: the title names the one in memory,
+/// and at the end of the menu bar one line offers the last one of the run before.
+class FlightSigns : public QObject {
+    Q_OBJECT
+
+  public:
+    FlightSigns(Form1& form, QMainWindow& window);
+
+    void refresh();
+
+    /// Fills `menu` with the flights that can be brought back, whenever it opens.
+    static void fillMenu(Form1& form, QMenu& menu);
+
+  private:
+    void makeOffer();
+    void showOffer();
+
+    Form1& form;
+    QMainWindow& window;
+    QFrame* offer = nullptr;
+    QLabel* offerLine = nullptr;
+    std::string shownTitle;
+    std::string shownOffer; ///< the file of the flight that is offered
+};
+
+} // namespace tarnel
