@@ -15,6 +15,9 @@ namespace tarnel {
 
 namespace {
 
+/// Pixels; the menus need the rest.
+constexpr int widestOffer = 430;
+
 QToolButton* button(QWidget& parent, const char* name, const QString& text) {
     auto* made = new QToolButton(&parent);
     made->setObjectName(QString::fromLatin1(name));
@@ -75,9 +78,12 @@ void FlightSigns::refresh() {
 void FlightSigns::showOffer() {
     const auto& flight = form.flightDesk.keeper.offer();
     shownOffer = flight ? flight->path : std::string();
-    if (flight)
-        offerLine->setText(textOf(form.texts, Text::flightOffer)
-                               .arg(QString::fromStdString(form.flightDesk.lineOf(*flight))));
+    if (flight) {
+        const QString line = textOf(form.texts, Text::flightOffer)
+                                 .arg(QString::fromStdString(form.flightDesk.lineOf(*flight)));
+        offerLine->setToolTip(line);
+        offerLine->setText(offerLine->fontMetrics().elidedText(line, Qt::ElideRight, widestOffer));
+    }
     window.menuBar()->setCornerWidget(flight ? offer : nullptr);
     offer->setVisible(flight.has_value());
 }
