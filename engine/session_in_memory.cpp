@@ -34,6 +34,7 @@ SessionFile UserControl2::session() const {
     const bool follows = !flown() && recording.sampleIndex() > 1;
     for (int i = 0; i < Comments::count && !follows; ++i)
         session.comments.push_back(comments.text(i));
+    session.samples.reserve(static_cast<std::size_t>(c_TraceBufferMax.get()));
     if (!flown() && stopped())
         session.samples.push_back(situation());
     else

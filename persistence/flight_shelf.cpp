@@ -160,7 +160,9 @@ FlightShelf::FlightShelf(std::string place) : folder(std::move(place)) {
     folder = portablePath(folder).string();
     for (int i = 0; i < mostPrograms && !lock; ++i) {
         program = numberText(std::int64_t{getpid()}) + "-" + numberText(std::int64_t{i});
-        lock = LockFile::take(inFolder(copyPrefix + program + lockSuffix));
+        // A program that had this number before may have left its copy.
+        if (!fs::exists(inFolder(copyPrefix + program + flightSuffix), ignored))
+            lock = LockFile::take(inFolder(copyPrefix + program + lockSuffix));
     }
 }
 
