@@ -325,9 +325,6 @@ class Form1 : private SimulationMessages {
     void bufferWarning(BufferWarning warning) override;
     std::optional<std::string> chooseFile(FileRequest request, const std::string& present) override;
     [[nodiscard]] bool isShipped(const std::string& path) const override;
-    [[nodiscard]] std::string newSessionName() const override {
-        return text(Text::newSessionFile);
-    }
     void stopForLoading(FileRequest request, bool picked) override;
     void fileFailed(FileRequest request, const std::string& path,
                     const RunTimeError& error) override;
