@@ -21,6 +21,8 @@
 #include <QTimer>
 #include <QTranslator>
 
+#include <optional>
+
 namespace tarnel {
 
 namespace {

@@ -105,7 +105,7 @@ TEST_F(HandHistoryTest, TheFlightThatAPressEndedComesBackWhole) {
 
 TEST_F(HandHistoryTest, AMovedStationIsWrittenFromThePresentSampleOn) {
     fly(9);
-    sim.recording.at(8).traceStations[0].longitude = 12; // moved in flight
+    sim.recording.edit(8).traceStations[0].longitude = 12; // moved in flight
     const double old = recorded(2);
     goTo(5);
     sim.c_mapedit = 1;
