@@ -21,11 +21,11 @@ void MapView::centreOn(const SplitPosition& position) {
     mapCenter = position;
 }
 
-void MapView::MapCenterSelect(std::int16_t select, const Aircraft& aircraft,
+void MapView::MapCenterSelect(std::int16_t select, const SplitPosition& aircraft,
                               const Stations& stations) {
     constexpr auto first = static_cast<std::int16_t>(MapCentre::vor1);
     if (select == static_cast<std::int16_t>(MapCentre::aircraft))
-        mapCenter = toSplit(aircraft.published());
+        mapCenter = aircraft;
     else if (select >= first && select <= static_cast<std::int16_t>(MapCentre::localizer))
         mapCenter = stations[static_cast<std::size_t>(select - first)].position;
     else

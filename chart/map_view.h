@@ -23,7 +23,8 @@ class MapView {
 
     /// Takes the centre that `select` names; values other than 1 to 6 leave it as it is. In the
     /// heading-up view the reference point stays with the aircraft.
-    void MapCenterSelect(std::int16_t select, const Aircraft& aircraft, const Stations& stations);
+    void MapCenterSelect(std::int16_t select, const SplitPosition& aircraft,
+                         const Stations& stations);
 
     /// The degrees that everything on the chart is turned by: 0 in the north-up view.
     [[nodiscard]] double rotation(double trueHeading) const {

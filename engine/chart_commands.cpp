@@ -39,7 +39,12 @@ void UserControl2::showScale() {
 
 void UserControl2::MapCenterSelect() {
     view.plot.mapRefX = view.plot.mapRefY = toInt16(c_CenterTwips);
-    view.MapCenterSelect(c_MAPCenterSelect, aircraft, stations);
+    view.MapCenterSelect(c_MAPCenterSelect, aircraftCentre(), stations);
+}
+
+/// What the chart is centred on when that is the aircraft.
+SplitPosition UserControl2::aircraftCentre() const {
+    return secretPlace ? view.mapCenter : toSplit(aircraft.published());
 }
 
 void UserControl2::MapScale() {
@@ -54,7 +59,7 @@ void UserControl2::MapScale() {
 void UserControl2::resizeChart() {
     picture.surface.set(picture.size, 2 * c_CenterTwips);
     view.plot.mapRefX = view.plot.mapRefY = toInt16(c_CenterTwips);
-    view.centreOn(toSplit(aircraft.published()));
+    view.centreOn(aircraftCentre());
     showScale();
     view.placeAircraft(aircraft);
     redrawChart();
@@ -63,7 +68,7 @@ void UserControl2::resizeChart() {
 }
 
 void UserControl2::centreOnAircraft() {
-    centreOn(toSplit(aircraft.published()));
+    centreOn(aircraftCentre());
 }
 
 void UserControl2::centreOn(const SplitPosition& centre) {
@@ -72,6 +77,11 @@ void UserControl2::centreOn(const SplitPosition& centre) {
     redrawChart();
     redrawTrace();
     refresh();
+}
+
+void UserControl2::showChart(const SplitPosition& centre, std::int16_t scale) {
+    c_MAPscale.setIfChanged(scale);
+    centreOn(centre);
 }
 
 void UserControl2::centreOnStations() {
@@ -125,7 +135,7 @@ void UserControl2::switchView() {
     mouse.cancel();
     view.northUpMode = c_MAPnorthUP == 1;
     airplaneOutline = RotateAirplaneSymbol(view.northUpMode ? aircraft.trueHeading : 0);
-    view.centreOn(toSplit(aircraft.published()));
+    view.centreOn(aircraftCentre());
     showScale();
     view.placeAircraft(aircraft);
     redrawChart();

@@ -63,6 +63,11 @@ class UserControl2 {
     void turnAircraft(double heading);
     /// Centres the chart on the aircraft.
     void centreOnAircraft();
+    /// Centres the chart on a position. Twips per NM.
+    void showChart(const SplitPosition& centre, std::int16_t scale);
+    /// While the aircraft's place is to be found out, nothing centres the chart on it or tells it.
+    void setPlaceSecret(bool secret) { secretPlace = secret; }
+    [[nodiscard]] bool placeIsSecret() const { return secretPlace; }
     /// Shows the chart as it was loaded: its centre and scale, north at the top.
     void resetView();
     /// Loads a session that the user picked elsewhere, as his pick in the dialog does.
@@ -295,6 +300,7 @@ class UserControl2 {
     void centreOn(const SplitPosition& centre);
     void putAircraft(const SplitPosition& position);
     void aircraftPlaced();
+    [[nodiscard]] SplitPosition aircraftCentre() const;
     void resetStopwatch();
     void publishStopwatch();
     void publishFlightTime();
@@ -379,6 +385,7 @@ class UserControl2 {
     std::string sessionNamedByUser;
     std::uint64_t stationChanges = 0; ///< of names, frequencies and places
     std::uint64_t versionInFile = 0;  ///< the `flightVersion` that was loaded or saved last
+    bool secretPlace = false;
     /// What `resetView` goes back to.
     struct {
         SplitPosition centre{{49, 0}, {11, 0}};

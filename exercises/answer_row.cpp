@@ -24,15 +24,17 @@ AnswerRow::AnswerRow(FormState& form, const RowWidgets& widgets)
 }
 
 void AnswerRow::ask(const std::string& promptText, const std::vector<std::string>& offers) {
-    judged = Verdict::notYet;
+    begin(RowState::open);
     prompt.setText(promptText);
     prompt.setColours(restingColours);
     prompt.setVisible(true);
     answer.setText({});
     answer.setColours(restingColours);
     answer.setVisible(false);
-    for (const auto& entry : entries)
+    for (const auto& entry : entries) {
+        entry->field.setEnabled(true);
         entry->field.setText({});
+    }
     for (std::size_t i = 0; i < options.size(); ++i)
         options[i]->setText(offers[i]);
     if (list) {
@@ -43,12 +45,28 @@ void AnswerRow::ask(const std::string& promptText, const std::vector<std::string
     setAnswerable(true);
 }
 
-void AnswerRow::judge(bool right, const std::string& answerText) {
+void AnswerRow::begin(RowState next) {
+    stage = next;
+    judged = Verdict::notYet;
+    ownAnswer.clear();
+}
+
+void AnswerRow::judge(bool right, const std::string& given, const std::string& answerText) {
+    stage = RowState::judged;
     judged = right ? Verdict::right : Verdict::wrong;
+    ownAnswer = given;
     showAnswer(answerText, right ? rightColours : wrongColours);
 }
 
+void AnswerRow::shut() {
+    stage = RowState::shut;
+    for (const auto& entry : entries)
+        entry->field.setEnabled(false);
+    enableOptions(false);
+}
+
 void AnswerRow::reveal(const std::string& solution) {
+    stage = RowState::revealed;
     showAnswer(solution, solutionColours);
 }
 
@@ -61,7 +79,7 @@ void AnswerRow::showAnswer(const std::string& text, const LabelColours& colours)
 }
 
 void AnswerRow::hide() {
-    judged = Verdict::notYet;
+    begin(RowState::notAsked);
     prompt.setVisible(false);
     answer.setVisible(false);
     setAnswerable(false);

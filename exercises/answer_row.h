@@ -19,6 +19,15 @@ constexpr LabelColours solutionColours{0xFFFFFF, 0x806000};
 /// What became of the one attempt at a sub-question.
 enum class Verdict { notYet, right, wrong };
 
+/// Where a sub-question stands.
+enum class RowState {
+    notAsked, ///< it does not belong to the question
+    open,     ///< it can be answered
+    shut,     ///< it has not been answered and no longer can be
+    judged,   ///< its verdict is shown
+    revealed  ///< its solution is shown, whatever the verdict was
+};
+
 /// A sub-question on a panel: the prompt, the widgets to answer with, and the answer that takes
 /// their place.
 class AnswerRow {
@@ -32,14 +41,19 @@ class AnswerRow {
     /// Poses the question anew, with nothing picked or typed. Options beside fields come alive when
     /// something is typed.
     void ask(const std::string& promptText, const std::vector<std::string>& offers);
-    /// Shows the verdict in the answer's place.
-    void judge(bool right, const std::string& answerText);
+    /// Shows the verdict in the answer's place. `given` is what the student answered.
+    void judge(bool right, const std::string& given, const std::string& answerText);
+    /// Takes no answer any more; what it was to be answered with stays, dead.
+    void shut();
     /// Shows the solution in the answer's place. The verdict stays.
     void reveal(const std::string& solution);
     /// Shows nothing of the row.
     void hide();
 
+    [[nodiscard]] RowState state() const { return stage; }
     [[nodiscard]] Verdict verdict() const { return judged; }
+    /// The student's answer as he picked or typed it; empty before he has given one.
+    [[nodiscard]] const std::string& given() const { return ownAnswer; }
     /// What stands in the fields.
     [[nodiscard]] std::vector<std::string> typed() const;
     /// All widgets, in the order of the keyboard.
@@ -62,10 +76,13 @@ class AnswerRow {
   private:
     void setAnswerable(bool answerable);
     void enableOptions(bool enabled);
+    void begin(RowState next);
     void showAnswer(const std::string& text, const LabelColours& colours);
 
     OptionGroup group;
+    RowState stage = RowState::notAsked;
     Verdict judged = Verdict::notYet;
+    std::string ownAnswer;
 };
 
 } // namespace tarnel

@@ -39,6 +39,10 @@ bool Exercise::isRight(const Pick& pick) const {
     });
 }
 
+std::string Exercise::given(const Pick& pick) const {
+    return offers(pick.row)[static_cast<std::size_t>(pick.option)];
+}
+
 std::string Exercise::rightAnswer(int row) const {
     return question[at(row).answer];
 }

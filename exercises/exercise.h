@@ -60,9 +60,15 @@ class Exercise {
     [[nodiscard]] int rowCount() const { return static_cast<int>(plannedRows.size()); }
     /// The task above the rows; empty in exercises whose prompts say all.
     [[nodiscard]] virtual std::string task() const { return {}; }
+    /// What is known besides the task, and a rule of answering that must be known beforehand; empty
+    /// in exercises without.
+    [[nodiscard]] virtual std::string known() const { return {}; }
+    [[nodiscard]] virtual std::string rule() const { return {}; }
     [[nodiscard]] std::string prompt(int row) const;
     [[nodiscard]] virtual std::vector<std::string> offers(int row) const;
     [[nodiscard]] virtual bool isRight(const Pick& pick) const;
+    /// The student's answer in words, written as the right one is.
+    [[nodiscard]] virtual std::string given(const Pick& pick) const;
     /// What stands beside a row that was answered right, and what the solution tells.
     [[nodiscard]] virtual std::string rightAnswer(int row) const;
     [[nodiscard]] virtual std::string solution(int row) const { return rightAnswer(row); }

@@ -15,13 +15,15 @@ namespace tarnel {
 struct ExerciseKind {
     std::int16_t type; ///< the value of `c_QAtype`
     PanelId panel;
-    std::string_view studyFile; ///< the German one; others have "e-" before the name
-    bool studyFileForAll;       ///< the German file serves where the other is missing
+    std::string_view studyFile;   ///< the German one; others have "e-" before the name
+    bool studyFileForAll = false; ///< the German file serves where the other is missing
     Text title;
     std::string_view statisticStem;
-    std::int16_t solvedCode;   ///< `c_showResult` once all is right
-    std::int16_t solutionCode; ///< `c_showResult` when the solution is asked for
-    bool startsAtRandom;
+    std::int16_t solvedCode = 6;   ///< `c_showResult` once all is right
+    std::int16_t solutionCode = 6; ///< `c_showResult` when the solution is asked for
+    bool startsAtRandom = false;
+    bool askedOnChart = false; ///< the chart shows the aircraft, and the instruments are covered
+    bool fliesHolding = false; ///< its flights fly a holding
     std::unique_ptr<Exercise> (*make)(const StringTable& texts, QuestionDraw& draw);
 };
 

@@ -1,5 +1,8 @@
 #include "exercises/exercise_panel.h"
 
+#include "core/number_text.h"
+#include "exercises/val_str.h"
+
 namespace tarnel {
 
 ExercisePanel::ExercisePanel(FormState& form, const PanelWidgets& widgets)
@@ -9,6 +12,8 @@ ExercisePanel::ExercisePanel(FormState& form, const PanelWidgets& widgets)
       statistic(form, widgets.statistic),
       notice(form, widgets.notice),
       task(form, widgets.task),
+      known(form, widgets.known),
+      rule(form, widgets.rule),
       nextButton(form, widgets.next, Text::nextQuestion),
       solutionButton(form, widgets.solution, Text::showSolution),
       flyButton(form, widgets.fly, Text::flyYourself),
@@ -26,8 +31,22 @@ ExercisePanel::ExercisePanel(FormState& form, const PanelWidgets& widgets)
             control->setVisible(false);
 }
 
+void ExercisePanel::setTitle(const std::string& exerciseName) {
+    name = exerciseName;
+    shownPlace = {};
+    frame.setText(name);
+}
+
+void ExercisePanel::setPlace(QuestionPlace questionPlace, std::string_view of) {
+    shownPlace = questionPlace;
+    frame.setText(name + " (" + Str(shownPlace.number) + " " + std::string(of) + " " +
+                  numberText(std::int64_t{shownPlace.count}) + ")");
+}
+
 void ExercisePanel::ask(const Exercise& exercise) {
     task.setText(exercise.task());
+    known.setText(exercise.known());
+    rule.setText(exercise.rule());
     for (std::size_t i = 0; i < rows.size(); ++i) {
         const int row = static_cast<int>(i);
         if (row < exercise.rowCount())
@@ -44,7 +63,8 @@ void ExercisePanel::reveal(const Exercise& exercise) {
 }
 
 void ExercisePanel::clear() {
-    task.setText({});
+    for (TextPanel* text : std::initializer_list<TextPanel*>{&task, &known, &rule})
+        text->setText({});
     statistic.setText({});
     for (const auto& row : rows)
         row->hide();
@@ -57,12 +77,15 @@ void ExercisePanel::setNotice(const std::string& message) {
 }
 
 void ExercisePanel::setAnswerable(bool answerable) {
-    solutionButton.setEnabled(answerable);
-    flyButton.setEnabled(answerable);
+    for (CommandButton* button : {&solutionButton, &flyButton}) {
+        button->setEnabled(answerable);
+        button->setVisible(answerable && !button->name().empty());
+    }
 }
 
 std::vector<FormControl*> ExercisePanel::controls() {
-    std::vector<FormControl*> all = {&frame, &statisticBox, &statistic, &notice, &task};
+    std::vector<FormControl*> all = {&frame, &statisticBox, &statistic, &notice,
+                                     &task,  &known,        &rule};
     for (const auto& row : rows) {
         const std::vector<FormControl*> widgets = row->controls();
         all.insert(all.end(), widgets.begin(), widgets.end());

@@ -10,21 +10,36 @@ namespace tarnel {
 constexpr std::int16_t panelHeight = 4250;
 constexpr std::int16_t foldedPanelHeight = 1100;
 
+/// Which question of how many is up, counted from 1; 0 of 0 if none is.
+struct QuestionPlace {
+    int number = 0;
+    int count = 0;
+    bool operator==(const QuestionPlace&) const = default;
+};
+
 /// One of the five frames: title, statistic, task, sub-questions and buttons. What it asks comes
 /// from an `Exercise`. A widget that the frame lacks stays invisible.
 class ExercisePanel {
   public:
     ExercisePanel(FormState& form, const PanelWidgets& widgets);
 
+    /// Titles the frame with the exercise's name, and then with the place of the question too.
+    void setTitle(const std::string& exerciseName);
+    void setPlace(QuestionPlace questionPlace, std::string_view of);
     /// Poses the question that `exercise` has taken. Rows that it does not have are hidden.
     void ask(const Exercise& exercise);
     /// Shows the solution of every sub-question.
     void reveal(const Exercise& exercise);
     /// Shows no question; it can only be passed or left.
     void clear();
+    /// Folds the frame to its small height, or unfolds it.
+    void fold(bool small) { frame.setHeight(small ? foldedPanelHeight : panelHeight); }
     /// Tells `message` in place of a question or above it; nothing if it is empty.
     void setNotice(const std::string& message);
 
+    [[nodiscard]] const std::string& title() const { return name; }
+    [[nodiscard]] QuestionPlace place() const { return shownPlace; }
+    [[nodiscard]] bool folded() const { return frame.height() == foldedPanelHeight; }
     /// Whether the panel folds to its small height when the student watches or flies.
     [[nodiscard]] bool folds() const { return flyCode != 0; }
     /// All widgets, in the order of the keyboard.
@@ -36,6 +51,8 @@ class ExercisePanel {
     TextPanel statistic;
     ColourLabel notice; ///< what is wrong with the study file, in place of a question or above it
     ColourLabel task;
+    TextPanel known; ///< what is known besides the task
+    TextPanel rule;  ///< of answering, where one must be known beforehand
     std::vector<std::unique_ptr<AnswerRow>> rows;
     CommandButton nextButton;
     CommandButton solutionButton;
@@ -45,6 +62,9 @@ class ExercisePanel {
 
   private:
     void setAnswerable(bool answerable);
+
+    std::string name;
+    QuestionPlace shownPlace;
 };
 
 } // namespace tarnel

@@ -40,7 +40,9 @@ struct PanelWidgets {
     std::string_view statisticBox;
     std::string_view task;
     std::string_view notice;
-    std::int16_t flyCode; ///< the value of `c_QAFly` while its question is flown; 0 never
+    std::string_view known; ///< what is known besides the task
+    std::string_view rule;  ///< of answering
+    std::int16_t flyCode;   ///< the value of `c_QAFly` while its question is flown; 0 never
     std::vector<RowWidgets> rows;
 };
 

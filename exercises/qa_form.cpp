@@ -1,6 +1,5 @@
 #include "exercises/qa_form.h"
 
-#include "core/number_text.h"
 #include "exercises/val_str.h"
 
 #include <algorithm>
@@ -15,7 +14,7 @@ constexpr std::int16_t adfFlightEnded = -5;
 
 void unfold(ExercisePanel& panel) {
     panel.frame.setVisible(true);
-    panel.frame.setHeight(panelHeight);
+    panel.fold(false);
 }
 
 } // namespace
@@ -132,10 +131,9 @@ void QAform::DisplayQuestion() {
     if (!kind)
         return;
     questionLive = false;
-    exerciseTitle = texts[kind->title];
     ExercisePanel& shown = panel(kind->panel);
     shown.clear();
-    shown.frame.setText(exerciseTitle);
+    shown.setTitle(std::string(texts[kind->title]));
     shown.setNotice(remark);
     c_QASessionFileName.publish({});
     if (!study.records.empty())
@@ -144,9 +142,7 @@ void QAform::DisplayQuestion() {
 
 void QAform::poseQuestion(const ExerciseKind& kind, ExercisePanel& shown) {
     stepQuestion(shown.randomBox.value() == 1);
-    shown.frame.setText(exerciseTitle + " (" + Str(questionIndex + 1) + " " +
-                        std::string(texts[Text::of]) + " " +
-                        numberText(std::int64_t{lastQuestion + 1}) + ")");
+    shown.setPlace({questionIndex + 1, lastQuestion + 1}, texts[Text::of]);
     shown.statistic.setText(statisticLine(statistics.of(kind.statisticStem), texts));
     exercise->take(currentRecord());
     shown.ask(*exercise);
@@ -173,13 +169,25 @@ void QAform::judge(ExercisePanel& panel, int row, int option) {
         exercise->isShut(row, answerGiven))
         return;
     AnswerRow& asked = *panel.rows[static_cast<std::size_t>(row)];
-    const bool right = exercise->isRight({row, option, asked.typed()});
+    const Pick pick{row, option, asked.typed()};
+    const bool right = exercise->isRight(pick);
     if (right)
         answerRight[static_cast<std::size_t>(row)] = -1;
     exercise->useUp(row, answerGiven);
-    asked.judge(right, right ? exercise->rightAnswer(row) : std::string(texts[Text::answerWrong]));
+    asked.judge(right, exercise->given(pick),
+                right ? exercise->rightAnswer(row) : std::string(texts[Text::answerWrong]));
+    shutRows(panel);
     if (exercise->canFinish(row) && allRight())
         c_showResult.publish(running()->solvedCode);
+}
+
+/// An answer to one row can use up another.
+void QAform::shutRows(ExercisePanel& panel) {
+    for (int row = 0; row < exercise->rowCount(); ++row) {
+        AnswerRow& other = *panel.rows[static_cast<std::size_t>(row)];
+        if (other.state() == RowState::open && exercise->isShut(row, answerGiven))
+            other.shut();
+    }
 }
 
 bool QAform::allRight() const {
@@ -193,7 +201,7 @@ void QAform::showSolution(ExercisePanel& panel) {
     endFlight();
     c_showResult.publish(running()->solutionCode);
     if (panel.folds())
-        panel.frame.setHeight(foldedPanelHeight);
+        panel.fold(true);
     panel.reveal(*exercise);
 }
 
@@ -206,7 +214,7 @@ void QAform::flyQuestion(ExercisePanel& panel) {
     c_TrackDelta.publish(trackDelta);
     c_showResult.publish(studentFlies);
     panel.frame.setVisible(true);
-    panel.frame.setHeight(foldedPanelHeight);
+    panel.fold(true);
 }
 
 /// Ends the student's flight as the way back to the exercise does.
@@ -231,7 +239,7 @@ void QAform::New_c_QAFly() {
 
 void QAform::fold(bool small) {
     for (const PanelId id : {PanelId::frame29, PanelId::frame11, PanelId::frame2, PanelId::frame20})
-        panel(id).frame.setHeight(small ? foldedPanelHeight : panelHeight);
+        panel(id).fold(small);
 }
 
 void QAform::next() {
@@ -255,6 +263,16 @@ void QAform::countAnswer(const ExerciseKind& kind) {
     statistics.count(kind.statisticStem, questionIndex, lastQuestion, right);
     if (!right)
         --questionIndex;
+}
+
+void QAform::sessionMissing(const std::string& told) {
+    ExercisePanel* shown = activePanel();
+    if (!shown)
+        return;
+    endFlight();
+    questionLive = false;
+    shown->clear();
+    shown->setNotice(told);
 }
 
 void QAform::cancel() {

@@ -58,11 +58,16 @@ class QAform {
     /// Reads the study file of that name for the current type. What can't be read is told in the
     /// panel's notice.
     void LoadStudyFile(const std::string& name);
+    /// The session of the question that is up can't be loaded: the notice tells it in the
+    /// question's place, and nothing is left to do but go on or leave.
+    void sessionMissing(const std::string& told);
     /// Hands the path of the power tips to `showPowerTips`, if there is such a viewer.
     void LoadPowerTip();
     std::function<void(const std::string& path)> showPowerTips;
 
     [[nodiscard]] ExercisePanel& panel(PanelId id) { return *panels[static_cast<std::size_t>(id)]; }
+    /// Whether a question stands on the panel; its session may still be asked for.
+    [[nodiscard]] bool posed() const { return questionLive; }
     /// The panel of the running exercise; null if none runs.
     [[nodiscard]] ExercisePanel* activePanel();
     /// The widget of that name, null if no panel has it.
@@ -88,6 +93,7 @@ class QAform {
     }
 
     void judge(ExercisePanel& panel, int row, int option);
+    void shutRows(ExercisePanel& panel);
     [[nodiscard]] bool allRight() const;
     void showSolution(ExercisePanel& panel);
     void flyQuestion(ExercisePanel& panel);
@@ -110,7 +116,6 @@ class QAform {
     AnswerFlags answerRight{};
     AnswerFlags answerGiven{};
     bool questionLive = false; ///< false while a question is being put up
-    std::string exerciseTitle;
 };
 
 } // namespace tarnel

@@ -41,6 +41,11 @@ std::string WindExercise::task() const {
     return text(Text::windTask) + " " + question[qa] + "/" + question[qb];
 }
 
+std::string WindExercise::known() const {
+    const std::string between = question[qc].empty() || question[qd].empty() ? "" : ", ";
+    return question[qc] + between + question[qd];
+}
+
 bool WindExercise::isRight(const Pick& pick) const {
     if (pick.row == timeRow)
         return timeIsRight(pick.typed[0], pick.typed[1]);
@@ -58,6 +63,12 @@ bool WindExercise::timeIsRight(const std::string& minutes, const std::string& se
     const double right = std::floor((recorded - whole) * 100) + whole * 60;
     const double entered = Val(minutes) * 60 + Val(seconds);
     return std::abs(entered - right) < tolerance * right;
+}
+
+std::string WindExercise::given(const Pick& pick) const {
+    if (pick.row == timeRow)
+        return pick.typed[0] + "." + pick.typed[1] + " " + text(Text::unitMinutesSeconds);
+    return Exercise::given(pick) + " " + pick.typed[0];
 }
 
 std::string WindExercise::rightAnswer(int row) const {

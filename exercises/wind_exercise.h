@@ -11,7 +11,11 @@ class WindExercise : public Exercise {
   public:
     explicit WindExercise(const StringTable& texts);
     [[nodiscard]] std::string task() const override;
+    /// Inbound course and air speed.
+    [[nodiscard]] std::string known() const override;
+    [[nodiscard]] std::string rule() const override { return text(Text::windRule); }
     [[nodiscard]] bool isRight(const Pick& pick) const override;
+    [[nodiscard]] std::string given(const Pick& pick) const override;
     [[nodiscard]] std::string rightAnswer(int row) const override;
     /// Each answer shuts the first row too: it must be answered first.
     void useUp(int row, AnswerFlags& given) const override;

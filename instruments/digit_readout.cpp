@@ -18,7 +18,7 @@ std::int16_t digitPicture(char character) {
 } // namespace
 
 DigitReadout::DigitReadout(DrawingSurface& owner, std::span<const std::size_t> places)
-    : surface(owner), characters(places), shown(places.size(), blankPicture) {}
+    : surface(owner), characters(places), shown(places.size(), blankPicture), dark(shown) {}
 
 void DigitReadout::show(std::string_view text) {
     for (std::size_t i = 0; i < shown.size(); ++i) {

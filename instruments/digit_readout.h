@@ -27,8 +27,14 @@ class DigitReadout {
     void showNumber(double value);
     void showDashes() { fill(dashPicture); }
     void blank() { fill(blankPicture); }
+    /// A covered readout looks dark, whatever is shown on it.
+    void setCovered(bool cover) { surface.set(covered, cover); }
+    [[nodiscard]] bool isCovered() const { return covered; }
 
-    [[nodiscard]] const std::vector<std::int16_t>& pictures() const { return shown; }
+    /// What is seen.
+    [[nodiscard]] const std::vector<std::int16_t>& pictures() const {
+        return covered ? dark : shown;
+    }
 
   private:
     void fill(std::int16_t picture);
@@ -36,6 +42,8 @@ class DigitReadout {
     DrawingSurface& surface;
     std::span<const std::size_t> characters;
     std::vector<std::int16_t> shown;
+    std::vector<std::int16_t> dark;
+    bool covered = false;
 };
 
 namespace readoutPlaces {

@@ -1,5 +1,6 @@
 #include "core/number_text.h"
 #include "shell/form_1.h"
+#include "shell/text_format.h"
 
 namespace tarnel {
 
@@ -56,10 +57,19 @@ void Form1::followCommentStrip() {
 }
 
 void Form1::showComment() {
-    const std::string comment = questionOpen() ? std::string() : UserControl11.c_CurrentComment;
+    std::string comment = questionOpen() ? std::string() : UserControl11.c_CurrentComment;
+    if (practising)
+        comment = practiceTask.beside(comment, practiceHint());
     commentPanel.comment.setVisible(!comment.empty());
     if (!comment.empty())
         commentPanel.comment.setText(comment);
+}
+
+/// How a practice flight is begun; nothing once it is.
+std::string Form1::practiceHint() const {
+    if (simStopped == 0 || replayOn != 0)
+        return {};
+    return filledIn(texts[Text::practiceStart], {texts[Text::startSim], texts[Text::replayPlay]});
 }
 
 void Form1::blinkCommentMark() {

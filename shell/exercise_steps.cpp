@@ -1,5 +1,8 @@
+#include "chart/holding_chart.h"
 #include "exercises/exercise_catalogue.h"
+#include "persistence/file_path.h"
 #include "shell/form_1.h"
+#include "shell/text_format.h"
 
 namespace tarnel {
 
@@ -48,18 +51,28 @@ void Form1::followExercise() {
         showNextQuestion();
     if (!QAform1.c_QASessionFileName.get().empty())
         loadQuestionSession();
-    if (wanted == replaySolution || wanted == replayArmed)
-        showSolution(wanted == replayArmed);
+    if ((wanted == replaySolution || wanted == replayArmed) && QAform1.posed())
+        showSolution();
     if (wanted == fly)
         letStudentFly();
     enableControls();
 }
 
-void Form1::showSolution(bool armed) {
+/// The stations, or the holding that the flight of the question flies.
+void Form1::frameQuestion() {
+    UserControl2& sim = UserControl11;
+    const ExerciseKind* exercise = exerciseOf(QAform1.c_QAtype);
+    if (!exercise || !exercise->fliesHolding || sim.c_TraceBufferMax < 1)
+        return sim.centreOnStations();
+    const HoldingChart chart =
+        holdingChart(sim.recording, sim.c_TraceBufferMax, sim.stations, sim.picture.size);
+    sim.showChart(chart.fix, chart.scale);
+}
+
+void Form1::showSolution() {
     StopReplay();
     StopFly();
     solutionSeen = true;
-    instruments.setVisible(true);
     inst3RadialBox.set(showsRadial(QAform1.c_QAtype) ? 1 : 0);
     setHidden(false);
     if (QAform1.c_QAtype == windExercise) {
@@ -67,7 +80,7 @@ void Form1::showSolution(bool armed) {
         UserControl11.c_TraceEN = 0;
     }
     replayPage.lock.set(1);
-    backButton.setVisible(armed);
+    backButton.setVisible(true);
     replayPage.loop.set(0);
     UserControl11.c_HscrollRepeatValue = 0;
     replayIndex = 0;
@@ -86,15 +99,26 @@ void Form1::showNextQuestion() {
     hideForQuestion();
 }
 
-/// A question gives nothing away: no track, no comment, and no aircraft but where the chart is what
-/// is asked about.
+QuestionCover Form1::cover() const {
+    return questionOpen() ? questionCover(QAform1.c_QAtype, QAform1.posed()) : QuestionCover{};
+}
+
+/// A question gives nothing away: no track, no comment, no radial, and no aircraft but where the
+/// chart is what is asked about.
 void Form1::hideForQuestion() {
-    const bool askedOnChart = QAform1.c_QAtype == orientation;
     solutionSeen = questionFlown = false;
     setHidden(true);
-    instruments.setVisible(!askedOnChart);
-    if (askedOnChart)
+    inst2RadialBox.set(0);
+    if (QAform1.posed() && exerciseOf(QAform1.c_QAtype)->askedOnChart)
         UserControl11.c_AirplaneEN.setIfChanged(1);
+}
+
+void Form1::coverReadings() {
+    const QuestionCover covered = cover();
+    instruments.setVisible(!covered.instruments);
+    for (DigitReadout* digits :
+         {&APControlFace1.headingDigits, &DMEControlFace1.distance, &DMEControlFace1.speed})
+        digits->setCovered(covered.figures);
 }
 
 /// The flight begins at the first sample, with the settings that were recorded there; the next tick
@@ -104,7 +128,6 @@ void Form1::letStudentFly() {
     setHidden(true);
     solutionSeen = questionFlown = false;
     switchFaces(true);
-    instruments.setVisible(true);
     replayPage.lock.set(1);
     if (UserControl11.c_FlyEN == 1)
         UserControl11.c_HscrollRepeatValue = 1;
@@ -113,7 +136,9 @@ void Form1::letStudentFly() {
 void Form1::loadQuestionSession() {
     const std::string path = QAform1.c_QASessionFileName;
     QAform1.c_QASessionFileName = std::string();
-    loadPractised(path);
+    if (!loadPractised(path))
+        QAform1.sessionMissing(
+            filledIn(texts[Text::questionWithoutFlight], {portablePath(path).filename().string()}));
     if (!solutionSeen)
         hideForQuestion();
 }

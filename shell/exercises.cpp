@@ -77,8 +77,11 @@ bool Form1::loadPractised(const std::string& path) {
     const bool loaded = UserControl11.loadByName(path);
     if (loaded || exerciseUp)
         practisedPath = path;
+    if (loaded)
+        practiceTask.take(
+            UserControl11.comments.shownText(UserControl11.recording.at(1).traceComment));
     if (exerciseUp && loaded)
-        UserControl11.centreOnStations();
+        frameQuestion();
     else if (exerciseUp)
         UserControl11.dropRecording();
     return loaded;
@@ -133,7 +136,6 @@ void Form1::leaveExercise() {
     exerciseUp = solutionSeen = questionFlown = false;
     backButton.setVisible(false);
     switchFaces(true);
-    instruments.setVisible(true);
     if (UserControl11.c_FlyEN == 1)
         UserControl11.c_HscrollRepeatValue = 1;
     followReplayBar();

@@ -15,6 +15,8 @@
 #include "shell/instrument_feed.h"
 #include "shell/instrument_position.h"
 #include "shell/outside_world.h"
+#include "shell/practice_task.h"
+#include "shell/question_cover.h"
 #include "shell/station_editor.h"
 #include "shell/strip_controls.h"
 #include "strings/string_table.h"
@@ -105,6 +107,10 @@ class Form1 : private SimulationMessages {
     [[nodiscard]] bool questionOpen() const {
         return exerciseUp && !solutionSeen && !questionFlown;
     }
+    /// Whether the solution of the question that is up has been shown.
+    [[nodiscard]] bool solutionShown() const { return exerciseUp && solutionSeen; }
+    /// What the open question keeps from sight; nothing if none is open.
+    [[nodiscard]] QuestionCover cover() const;
     [[nodiscard]] const PositionLinks& links2() const { return inst2Links; }
     [[nodiscard]] const PositionLinks& links3() const { return inst3Links; }
     [[nodiscard]] bool anyInstrumentLarge() const;
@@ -229,9 +235,11 @@ class Form1 : private SimulationMessages {
     [[nodiscard]] std::string shippedSession(const std::string& name, bool ownLanguage) const;
     void openPractice(const std::string& name, bool practised);
     void switchFaces(bool active);
-    void showSolution(bool armed);
+    void frameQuestion();
+    void showSolution();
     void showNextQuestion();
     void hideForQuestion();
+    void coverReadings();
     void letStudentFly();
     void loadQuestionSession();
 
@@ -254,6 +262,7 @@ class Form1 : private SimulationMessages {
     void followReplayBar();
     void echoChannelButtons();
     void showComment();
+    [[nodiscard]] std::string practiceHint() const;
     void pushPanelState();
     void pushPosition(const PositionLinks& links);
     void pullPanelState();
@@ -322,6 +331,7 @@ class Form1 : private SimulationMessages {
     void reportRunTimeError(const RunTimeError& error);
     [[nodiscard]] std::string problemText(const FileProblem& problem) const;
     [[nodiscard]] std::string afterFailedLoad() const;
+    [[nodiscard]] bool questionTells(FileRequest request) const;
     void bufferWarning(BufferWarning warning) override;
     std::optional<std::string> chooseFile(FileRequest request, const std::string& present) override;
     [[nodiscard]] bool isShipped(const std::string& path) const override;
@@ -356,6 +366,7 @@ class Form1 : private SimulationMessages {
     bool solutionSeen = false;  ///< of the question that is up
     bool questionFlown = false; ///< the recording is the student's own
     std::string practisedPath;  ///< the session that a practice flight is compared with
+    PracticeTask practiceTask;
     bool boxUp = false;
     std::string sessionShown; ///< the path whose name the status panel shows
     std::string errorTold;    ///< the run-time error that was last told and still lasts

@@ -30,8 +30,10 @@ LegendPart stationPart(LegendNeedle needle, const StringTable& texts, const Need
 
 std::vector<LegendPart> instrumentLegend(const StringTable& texts,
                                          const InstrumentPosition& position,
-                                         const FeedSources& sources) {
+                                         const FeedSources& sources, const QuestionCover& cover) {
     using enum LegendNeedle;
+    if (cover.instruments)
+        return {};
     const NeedleSources needles = needleSources(position, sources);
     const std::string receiver = receiverName(texts, position.navSel);
     std::vector<LegendPart> parts;
@@ -41,9 +43,14 @@ std::vector<LegendPart> instrumentLegend(const StringTable& texts,
     case rmi:
         return {{first, receiver}, stationPart(second, texts, *needles.second)};
     case vor:
-        return {{bar, receiver}, coursePart(none, texts, position.obs)};
+        parts = {{bar, receiver}};
+        if (!cover.figures)
+            parts.push_back(coursePart(none, texts, position.obs));
+        return parts;
     case hsi:
-        parts = {{arrow, receiver}, coursePart(arrow, texts, position.instrument.c_OBS_x)};
+        parts = {{arrow, receiver}};
+        if (!cover.figures)
+            parts.push_back(coursePart(arrow, texts, position.instrument.c_OBS_x));
         if (position.instrument.c_RMIoverlayEN == 1)
             parts.push_back(stationPart(overlay, texts, *needles.first));
         return parts;

@@ -19,9 +19,11 @@ struct LegendPart {
     bool operator==(const LegendPart&) const = default;
 };
 
-/// What stands above an instrument: what its needles follow, and the course that is set.
+/// What stands above an instrument: what its needles follow, and the course that is set, as far as
+/// an open question does not cover it.
 [[nodiscard]] std::vector<LegendPart> instrumentLegend(const StringTable& texts,
                                                        const InstrumentPosition& position,
-                                                       const FeedSources& sources);
+                                                       const FeedSources& sources,
+                                                       const QuestionCover& cover);
 
 } // namespace tarnel

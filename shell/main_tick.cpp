@@ -27,6 +27,7 @@ void Form1::tick() {
     echoSelectors();
     copyReceiverSelections();
     followExercise();
+    coverReadings();
     followInstrumentSelectors();
     coupleAutopilot();
     coupleHeadingBug();

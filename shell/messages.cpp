@@ -132,12 +132,18 @@ void Form1::bufferWarning(BufferWarning warning) {
 
 /// What a load that failed has left: at the start, the chart that is built in.
 std::string Form1::afterFailedLoad() const {
-    if (UserControl11.c_SessionFileName.get().empty())
-        return "\n" + text(Text::builtInChart);
-    return exerciseUp ? std::string() : "\n" + text(Text::nothingChanged);
+    return "\n" + text(UserControl11.c_SessionFileName.get().empty() ? Text::builtInChart
+                                                                     : Text::nothingChanged);
+}
+
+/// A question tells in its own place that its session can't be loaded.
+bool Form1::questionTells(FileRequest request) const {
+    return exerciseUp && request == FileRequest::loadSession;
 }
 
 void Form1::fileFailed(FileRequest request, const std::string& path, const RunTimeError& error) {
+    if (questionTells(request))
+        return;
     std::string description = path + "\n" + error.what();
     if (request != FileRequest::saveChart && request != FileRequest::saveSession)
         description += afterFailedLoad();
@@ -156,6 +162,8 @@ std::string Form1::problemText(const FileProblem& problem) const {
 
 void Form1::fileWrong(FileRequest request, const std::string& path, const FileProblem& problem,
                       bool taken) {
+    if (!taken && questionTells(request))
+        return;
     const std::string description =
         path + "\n" + problemText(problem) +
         (taken ? "\n" + text(Text::flightTakenUpTo) : afterFailedLoad());

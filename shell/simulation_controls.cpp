@@ -63,6 +63,7 @@ void Form1::enableControls() {
              &chartPage.centre, &chartPage.reset})
         control->setEnabled(!open);
     UserControl11.mouse.setLocked(open);
+    UserControl11.setPlaceSecret(open);
     const bool fixed = open && QAform1.c_QAFly <= 0;
     for (const PositionLinks* links : {&inst2Links, &inst3Links})
         for (FormControl* control : std::initializer_list<FormControl*>{

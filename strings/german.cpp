@@ -399,10 +399,11 @@ constexpr StringEntry entries[] = {
     {532, "Voriger"},
     {533, "Nächster"},
     {534, "Übungsflug"},
-    {535, "Flug merken"},
-    {536, "Legt eine Kopie des Fluges ab"},
-    {537, "Gemerkter Flug"},
-    {538, "Holt die abgelegte Kopie zurück"},
+    {535, "Beispiel"},
+    {536, "Zeigt das Beispiel; Ihr Flug wird aufgehoben"},
+    {537, "Mein Flug"},
+    {538, "Zeigt Ihren eigenen Flug"},
+    {957, "Selbst fliegen: %1 (M). Das Beispiel ansehen: %2 (P)."},
     // Menus.
     {539, "Load Old Session"},
     {540, "Dateien verschlüsseln"},
@@ -543,6 +544,10 @@ constexpr StringEntry entries[] = {
     {653, "ORIENTIERUNG ÜBUNGEN"},
     {654, "FALSCH"},
     {655, "RICHTIG"},
+    {950, "Ihre Antwort"},
+    {951, "Nicht mehr zu beantworten"},
+    {952, "Zeile 1 zuerst: Jede andere Antwort schließt sie."},
+    {953, "Frage %1 von %2"},
     {656, ">  RQ QDR"},
     // File dialogs.
     {657, "Load Session"},
@@ -646,8 +651,11 @@ constexpr StringEntry entries[] = {
     {765, "Die Übungsdatei hat mehr als 301 Fragen; die weiteren fehlen: "},
     {766, "Frage"},
     {767, "Zeile"},
+    {954, "Zu dieser Frage gibt es keinen lesbaren Flug: %1"},
     {768, "Instrument abgedeckt"},
     {769, "Die Karte genügt für diese Frage"},
+    {955, "Zu dieser Frage fehlt der Flug"},
+    {956, "abgedeckt"},
     // Wind, comments and reference.
     {801, "Zeichnen"},
     {802, "Alle 101 Kommentare sind belegt. Löschen Sie einen, oder blättern Sie zurück und "

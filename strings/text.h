@@ -344,6 +344,7 @@ enum class Text : int {
     practiceKeepTip = 536,
     practiceRecall = 537,
     practiceRecallTip = 538,
+    practiceStart = 957,
 
     // Menus.
     loadOldSession = 539,
@@ -490,6 +491,10 @@ enum class Text : int {
     titleOrientation = 653,
     answerWrong = 654,
     answerRight = 655,
+    ownAnswer = 950,
+    rowShut = 951,
+    windRule = 952,
+    questionPlace = 953,
     aboveRequiredQdrOffer = 656,
 
     // File dialogs.
@@ -597,10 +602,13 @@ enum class Text : int {
     studyTooLong = 765,
     studyQuestion = 766,
     studyLine = 767,
+    questionWithoutFlight = 954,
 
     // The cover plate on an instrument.
     instrumentCovered = 768,
     instrumentCoveredWhy = 769,
+    instrumentWithoutFlight = 955,
+    spokenCovered = 956,
 
     // Wind, comments and reference.
     windDraw = 801,

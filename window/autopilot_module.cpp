@@ -106,7 +106,7 @@ void AutopilotModule::refresh() {
 
 void AutopilotModule::turnPointers() {
     constexpr double feetPerHundred = 100;
-    columns[0].knob->setPointer(face.c_HDG);
+    columns[0].knob->setPointer(face.headingDigits.isCovered() ? 0 : face.c_HDG.get());
     columns[1].knob->setPointer(swept(face.c_TAS, APControlFace::maximumTAS));
     columns[2].knob->setPointer(swept(face.c_ALT / feetPerHundred, APControlFace::maximumALT));
 }

@@ -55,17 +55,24 @@ ChartView::ChartView(UserControl2& simulation, const StringTable& table, QWidget
 void ChartView::refresh() {
     showCursor();
     lamps->refresh();
+    speak();
     if (paintedRevision == sim.picture.surface.revision())
         return;
     update();
-    if (!QAccessible::isActive())
+}
+
+/// The words are renewed even where a painting has come first.
+void ChartView::speak() {
+    const std::pair now(sim.picture.surface.revision(), sim.placeIsSecret());
+    if (!QAccessible::isActive() || now == spoken)
         return;
+    spoken = now;
     if (const QString name = spokenChart(); name != accessibleName())
         setAccessibleName(name);
 }
 
 QString ChartView::spokenChart() const {
-    if (sim.c_AirplaneEN != 1)
+    if (sim.c_AirplaneEN != 1 || sim.placeIsSecret())
         return textOf(texts, Text::spokenChartHidden);
     const GeoPosition at = sim.aircraft.published();
     const QString position = angleText(at.latitude, 2, 'N', 'S') + QLatin1Char(' ') +

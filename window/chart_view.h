@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <utility>
 
 namespace tarnel {
 
@@ -26,6 +27,7 @@ class ChartView : public QWidget {
     void refresh();
 
     /// What a screen reader says: where the aircraft is and where it heads.
+    void speak();
     [[nodiscard]] QString spokenChart() const;
 
     /// Every call into the simulation goes through here, so that its owner can catch what it
@@ -65,6 +67,7 @@ class ChartView : public QWidget {
     ChartPainter painter;
     ReferenceLamps* lamps = nullptr;
     std::uint64_t paintedRevision = 0;
+    std::pair<std::uint64_t, bool> spoken{~std::uint64_t{0}, false}; ///< what the words are of
     int wheelRest = 0;
     std::optional<QPointF> pointer; ///< while it is over the chart
 };

@@ -21,11 +21,16 @@ constexpr double leastLetters = 11; ///< px
 } // namespace
 
 CoverPlate::CoverPlate(const StringTable& texts, QWidget* parent)
-    : QWidget(parent),
-      name(textOf(texts, Text::instrumentCovered)),
-      reason(textOf(texts, Text::instrumentCoveredWhy)) {
+    : QWidget(parent), name(textOf(texts, Text::instrumentCovered)) {
     setAccessibleName(name);
+}
+
+void CoverPlate::setReason(const QString& text) {
+    if (text == reason)
+        return;
+    reason = text;
     setAccessibleDescription(reason);
+    update();
 }
 
 void CoverPlate::paintScrews(QPainter& painter, double side) const {

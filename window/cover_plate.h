@@ -14,6 +14,9 @@ class CoverPlate : public QWidget {
   public:
     CoverPlate(const StringTable& texts, QWidget* parent);
 
+    /// Why it lies there.
+    void setReason(const QString& text);
+
   protected:
     void paintEvent(QPaintEvent* event) override;
 

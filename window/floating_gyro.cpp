@@ -1,5 +1,6 @@
 #include "window/floating_gyro.h"
 
+#include "window/cover_plate.h"
 #include "window/form_binding.h"
 #include "window/look.h"
 
@@ -22,6 +23,7 @@ additional_DG::additional_DG(Form1& owner, PictureStore& pictures, QWidget* pare
     setWindowTitle(textOf(form.texts, Text::floatingGyro));
     gyro = new InstrumentView(form.UserControl_DG, pictures, form.texts, this);
     gyro->guard = [this](const std::function<void()>& action) { form.guarded(action); };
+    plate = new CoverPlate(form.texts, this);
     resize(startSize, startSize);
     setMinimumSize(smallestSize, smallestSize);
 }
@@ -30,8 +32,13 @@ void additional_DG::refresh() {
     const bool wanted = form.floatingGyroBox.value() == 1;
     if (wanted != isVisible())
         setVisible(wanted);
-    if (wanted)
-        gyro->refresh();
+    if (!wanted)
+        return;
+    const QuestionCover cover = form.cover();
+    gyro->setVisible(!cover.instruments);
+    plate->setVisible(cover.instruments);
+    plate->setReason(textOf(form.texts, cover.reason));
+    gyro->refresh();
 }
 
 void additional_DG::closeEvent(QCloseEvent* event) {
@@ -41,7 +48,8 @@ void additional_DG::closeEvent(QCloseEvent* event) {
 
 void additional_DG::resizeEvent(QResizeEvent*) {
     const int side = qMin(width(), height()) - 2 * margin;
-    gyro->setGeometry((width() - side) / 2, (height() - side) / 2, side, side);
+    for (QWidget* view : std::initializer_list<QWidget*>{gyro, plate})
+        view->setGeometry((width() - side) / 2, (height() - side) / 2, side, side);
 }
 
 void additional_DG::paintEvent(QPaintEvent*) {

@@ -8,6 +8,8 @@
 
 namespace tarnel {
 
+class CoverPlate;
+
 /// `additional_DG`: a small window of its own with a directional gyro.
 class additional_DG : public QWidget {
     Q_OBJECT
@@ -26,6 +28,7 @@ class additional_DG : public QWidget {
   private:
     Form1& form;
     InstrumentView* gyro = nullptr;
+    CoverPlate* plate = nullptr; ///< over it where a question covers instruments
 };
 
 } // namespace tarnel

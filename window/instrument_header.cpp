@@ -66,10 +66,14 @@ void InstrumentHeader::followSize(QToolButton& button) {
 void InstrumentHeader::refresh() {
     const InstrumentPosition& position = controls.links.position;
     overlay->setVisible(position.type == hsi);
-    auto next = instrumentLegend(form.texts, position, form.feedSources());
+    auto next = instrumentLegend(form.texts, position, form.feedSources(), form.cover());
     if (next == legend)
         return;
     legend = std::move(next);
+    QStringList parts;
+    for (const LegendPart& part : legend)
+        parts << QString::fromStdString(part.text);
+    setAccessibleDescription(parts.join(QStringLiteral(", ")));
     update();
 }
 

@@ -93,6 +93,7 @@ void InstrumentPanel::layOutChannelButton(std::size_t position, const QRect& bez
 void InstrumentPanel::coverInstruments() {
     const bool covered = !form.instruments.visible();
     for (std::size_t i = 0; i < plates.size(); ++i) {
+        plates[i]->setReason(textOf(form.texts, form.cover().reason));
         plates[i]->setVisible(covered);
         instruments[i]->setVisible(!covered);
         headers[i]->setEnabled(!covered);

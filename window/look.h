@@ -57,6 +57,7 @@ inline constexpr QColor secondaryInk = rgb(0x55606B);
 inline constexpr QColor accent = rgb(0x1B5FAA);
 inline constexpr QColor right = rgb(0x1A7440);
 inline constexpr QColor wrong = rgb(0xB3261E);
+inline constexpr QColor solution = rgb(0x006080);
 
 // Dark panel: gradients from top to bottom.
 inline constexpr QColor panelTop = rgb(0x24292E);

@@ -2,6 +2,7 @@
 
 #include "window/icons.h"
 #include "window/look.h"
+#include "window/quiz_measures.h"
 #include "window/replay_bar.h"
 #include "window/segment_row.h"
 
@@ -16,6 +17,7 @@ namespace tarnel {
 namespace {
 
 constexpr int rowGap = 8;
+constexpr int roomForSpeeds = 500; ///< px at text scale 1, so that the replay's bar stays long
 
 /// Keeps the place of `widget` while it is hidden, so that its neighbours stay where they are.
 void keepPlace(QWidget& widget) {
@@ -31,26 +33,25 @@ QuizFlightBar::QuizFlightBar(Form1& owner, FormBinding& binding, QWidget* parent
     auto* rows = new QVBoxLayout(this);
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(rowGap);
-    addFlightRow(*rows, binding);
-    addReplayRow(*rows, binding);
+    rows->addLayout(flightRow = makeFlightRow(binding));
+    rows->addLayout(replayRow = makeReplayRow(binding));
     binding.follow([this] { follow(); });
 }
 
-void QuizFlightBar::addFlightRow(QBoxLayout& rows, FormBinding& binding) {
+QBoxLayout* QuizFlightBar::makeFlightRow(FormBinding& binding) {
     auto* row = new QHBoxLayout;
+    row->setSpacing(look::gap);
     startButton = new QPushButton(this);
     startButton->setProperty("primary", true);
     binding.bind(form.startButton, *startButton);
     row->addWidget(startButton);
-    row->addSpacing(look::gap);
-    row->addWidget(
-        segmentRow(binding, {&form.rateHalf, &form.rateReal, &form.rateDouble, &form.rateQuadruple},
-                   this),
-        1);
-    rows.addLayout(row);
+    speeds = segmentRow(
+        binding, {&form.rateHalf, &form.rateReal, &form.rateDouble, &form.rateQuadruple}, this);
+    row->addWidget(speeds, 1);
+    return row;
 }
 
-void QuizFlightBar::addReplayRow(QBoxLayout& rows, FormBinding& binding) {
+QBoxLayout* QuizFlightBar::makeReplayRow(FormBinding& binding) {
     auto* row = new QHBoxLayout;
     addSign(*row, binding, form.replayPage.play, Sign::play);
     addSign(*row, binding, form.replayPage.stop, Sign::stop);
@@ -66,7 +67,7 @@ void QuizFlightBar::addReplayRow(QBoxLayout& rows, FormBinding& binding) {
     backButton->setProperty("quiz", true);
     binding.bind(form.backButton, *backButton);
     row->addWidget(backButton);
-    rows.addLayout(row);
+    return row;
 }
 
 void QuizFlightBar::addSign(QBoxLayout& row, FormBinding& binding, OptionButton& control,
@@ -81,6 +82,23 @@ void QuizFlightBar::follow() {
     const Sign sign = form.simulationRuns() ? Sign::stop : Sign::play;
     const QColor ink = form.startButton.enabled() ? Qt::white : look::secondaryInk;
     startButton->setIcon(signIcon(sign, ink));
+    startButton->setVisible(form.QAform1.c_QAFly > 0);
+}
+
+int QuizFlightBar::heightIn(int width) {
+    placeSpeeds(form.QAform1.c_QAFly > 0 || width < roomForSpeeds * quiz::scaleOf(*this));
+    return sizeHint().height();
+}
+
+void QuizFlightBar::placeSpeeds(bool besideStart) {
+    if (besideStart == speedsBesideStart)
+        return;
+    speedsBesideStart = besideStart;
+    (besideStart ? replayRow : flightRow)->removeWidget(speeds);
+    if (besideStart)
+        flightRow->addWidget(speeds, 1);
+    else
+        replayRow->insertWidget(replayRow->indexOf(backButton), speeds);
 }
 
 QWidget* QuizFlightBar::firstControl() const {

@@ -28,12 +28,12 @@ constexpr double twoLineShare = 0.62;
 
 } // namespace
 
-QuizFrame::QuizFrame(ExercisePanel& panel, const StringTable& texts, FormBinding& binding,
+QuizFrame::QuizFrame(ExercisePanel& panel, const StringTable& table, FormBinding& binding,
                      QWidget* parent)
-    : QWidget(parent), asked(panel) {
+    : QWidget(parent), asked(panel), texts(table) {
     setObjectName(nameOf(panel.frame));
     makeHeader(binding);
-    makeRows(texts, binding);
+    makeRows(binding);
     makeButtons(binding);
 }
 
@@ -56,11 +56,14 @@ void QuizFrame::makeHeader(FormBinding& binding) {
     task = label("quizTask");
     task->setWordWrap(true);
     binding.bind(asked.task, *task);
-    answers = label("secondary");
-    answers->setWordWrap(true);
+    known = label("quizTask");
+    binding.bind(asked.known, *known);
+    rule = label("secondary");
+    rule->setWordWrap(true);
+    binding.bind(asked.rule, *rule);
 }
 
-void QuizFrame::makeRows(const StringTable& texts, FormBinding& binding) {
+void QuizFrame::makeRows(FormBinding& binding) {
     int number = 0;
     for (const auto& row : asked.rows)
         questions.push_back(new QuizRow(++number, *row, texts, binding, this));
@@ -83,17 +86,13 @@ QPushButton* QuizFrame::button(CommandButton& control, FormBinding& binding) {
     return made;
 }
 
-bool QuizFrame::folded() const {
-    return asked.frame.height() == foldedPanelHeight;
-}
-
 bool QuizFrame::answered() const {
     return std::ranges::none_of(questions, [](const QuizRow* row) { return row->open(); });
 }
 
 QString QuizFrame::question() const {
     QStringList parts{QString::fromStdString(asked.frame.text())};
-    for (const QLabel* part : {notice, task})
+    for (const QLabel* part : {notice, task, known, rule})
         if (!part->text().isEmpty())
             parts << part->text();
     for (const QuizRow* row : questions)
@@ -124,27 +123,22 @@ QuizRow* QuizFrame::openRowAfter(const QuizRow* row) const {
     return again == from ? nullptr : *again;
 }
 
-/// The title's number of the question stands behind it in plain letters.
 void QuizFrame::followTitle() {
-    const QString whole = QString::fromStdString(asked.frame.text());
-    const auto numbers = whole.lastIndexOf(QStringLiteral(" ("));
-    title->setText(numbers < 0 ? whole : whole.left(numbers));
-    place->setText(numbers < 0 ? QString() : whole.mid(numbers + 1));
+    const QuestionPlace at = asked.place();
+    title->setText(QString::fromStdString(asked.title()));
+    place->setText(at.number > 0 ? textOf(texts, Text::questionPlace).arg(at.number).arg(at.count)
+                                 : QString());
     setAccessibleName(question());
 }
 
-void QuizFrame::followFold() {
-    for (QuizRow* row : questions)
-        row->setVisible(row->asked() && !folded());
-    QStringList told;
-    for (const QuizRow* row : questions)
-        if (row->asked() && row->revealed())
-            told << row->summary();
-    answers->setText(told.join(QStringLiteral("   ")));
-    answers->setVisible(folded() && !told.isEmpty());
+void QuizFrame::followFlight() {
+    for (QuizRow* row : questions) {
+        row->setCompact(watched);
+        row->setVisible(row->asked() && !flown);
+    }
     if (flightBar)
-        flightBar->setVisible(folded());
-    setNextPrimary(!folded());
+        flightBar->setVisible(hasBar());
+    setNextPrimary(!flown);
 }
 
 /// Of a flight, starting is what comes first.
@@ -157,9 +151,10 @@ void QuizFrame::setNextPrimary(bool primary) {
 }
 
 QString QuizFrame::content() const {
-    QStringList parts{QString::number(asked.frame.height())};
+    QStringList parts{QString::number(asked.frame.height()), QString::number(flown),
+                      QString::number(watched)};
     for (const TextPanel* text : std::initializer_list<const TextPanel*>{
-             &asked.frame, &asked.statistic, &asked.notice, &asked.task})
+             &asked.frame, &asked.statistic, &asked.notice, &asked.task, &asked.known})
         parts << QString::fromStdString(text->text());
     for (const QuizRow* row : questions)
         parts << row->content();
@@ -167,8 +162,12 @@ QString QuizFrame::content() const {
 }
 
 /// The form changes often while a solution is replayed; that costs little.
-bool QuizFrame::follow() {
-    task->setVisible(!task->text().isEmpty());
+bool QuizFrame::follow(bool flies, bool watches) {
+    flown = flies;
+    watched = watches && !flies;
+    for (QLabel* text : {task, known})
+        text->setVisible(!text->text().isEmpty());
+    rule->setVisible(!rule->text().isEmpty() && !flown && !watched);
     QString now = content();
     if (now == shownContent)
         return false;
@@ -176,7 +175,7 @@ bool QuizFrame::follow() {
     for (QuizRow* row : questions)
         row->follow();
     followTitle();
-    followFold();
+    followFlight();
     arrange(size(), true);
     update();
     return true;
@@ -200,15 +199,14 @@ int QuizFrame::arrange(QSize size, bool placing) const {
     int top = arrangeHeader(scaled(inset - 2), width, placing) + gap;
     top = arrangeTexts(top, width, placing);
     const int bottom = size.height() - scaled(inset) - buttonHeight();
-    if (folded() && flightBar) {
-        const int tall = flightBar->sizeHint().height();
-        if (placing)
-            flightBar->setGeometry(scaled(inset), std::max(top, (top + bottom - gap - tall) / 2),
-                                   width, tall);
-        top += tall + gap;
-    } else {
-        top = arrangeRows(top, width, bottom, placing);
-    }
+    const int forBar = hasBar() ? flightBar->heightIn(width) : 0;
+    const int bar = hasBar() ? forBar + gap : 0;
+    if (!flown)
+        top = arrangeRows(top, width, bottom - bar, placing);
+    if (hasBar() && placing)
+        flightBar->setGeometry(scaled(inset), flown ? std::max(top, (top + bottom - bar) / 2) : top,
+                               width, forBar);
+    top += bar;
     if (placing)
         placeButtons(std::max(top, bottom), width);
     return top + buttonHeight() + scaled(inset);
@@ -246,7 +244,7 @@ int QuizFrame::arrangeHeader(int top, int width, bool placing) const {
 }
 
 int QuizFrame::arrangeTexts(int top, int width, bool placing) const {
-    for (QLabel* text : {notice, task, answers}) {
+    for (QLabel* text : {notice, task, known, rule}) {
         if (text->isHidden())
             continue;
         const int tall = text->heightForWidth(width);
@@ -280,7 +278,7 @@ int QuizFrame::promptWidth(int width) const {
 /// What is left of the height is spread between the rows.
 int QuizFrame::arrangeRows(int top, int width, int bottom, bool placing) const {
     const int forPrompt = promptWidth(width);
-    const int gap = scaled(quiz::answerGap);
+    const int gap = scaled(watched ? quiz::compactGap : quiz::answerGap);
     const int start = top;
     int count = 0;
     for (const QuizRow* row : questions) {

@@ -16,9 +16,9 @@ namespace tarnel {
 class QuizFlightBar;
 class QuizRow;
 
-/// `QuizFrame`: one of the exercises' frames: title and statistic, task, sub-questions, buttons. It
-/// folds while the student flies or watches the solution: then a bar for the flight takes the place
-/// of the sub-questions.
+/// `QuizFrame`: one of the exercises' frames: title and statistic, task, sub-questions, buttons. In
+/// the student's own flight a bar for the flight takes the place of the sub-questions; while a
+/// solution can be watched it stands below them, and they take little room.
 class QuizFrame : public QWidget {
     Q_OBJECT
 
@@ -27,18 +27,19 @@ class QuizFrame : public QWidget {
               QWidget* parent);
 
     [[nodiscard]] ExercisePanel& panel() const { return asked; }
-    [[nodiscard]] bool folded() const;
+    [[nodiscard]] bool folded() const { return asked.folded(); }
     /// Whether every sub-question has got its answer.
     [[nodiscard]] bool answered() const;
     /// All texts of the question, without the answers.
     [[nodiscard]] QString question() const;
 
-    /// Shows `bar` while it is folded.
+    /// Shows `bar` while there is a flight to fly or to watch.
     void host(QuizFlightBar* bar);
     /// The height that all of it takes at a width.
     [[nodiscard]] int wantedHeight(int width) const;
     /// Takes up what has changed, and lays out anew if it takes other room. True if it does.
-    bool follow();
+    /// `flies` and `watches` tell what there is of a flight.
+    bool follow(bool flies, bool watches);
 
     [[nodiscard]] const std::vector<QuizRow*>& rows() const { return questions; }
     /// The row of a widget, or else the first open one; null if none is open.
@@ -55,11 +56,12 @@ class QuizFrame : public QWidget {
     QLabel* label(const char* kind = nullptr);
     QPushButton* button(CommandButton& control, FormBinding& binding);
     void makeHeader(FormBinding& binding);
-    void makeRows(const StringTable& texts, FormBinding& binding);
+    void makeRows(FormBinding& binding);
     void makeButtons(FormBinding& binding);
     [[nodiscard]] QString content() const;
     void followTitle();
-    void followFold();
+    void followFlight();
+    [[nodiscard]] bool hasBar() const { return flightBar && (flown || watched); }
     void setNextPrimary(bool primary);
 
     /// Places everything in a card of `size`, or only measures. The height that is needed.
@@ -81,7 +83,8 @@ class QuizFrame : public QWidget {
     QLabel* statistic = nullptr;
     QLabel* notice = nullptr;
     QLabel* task = nullptr;
-    QLabel* answers = nullptr; ///< the answers while folded
+    QLabel* known = nullptr;
+    QLabel* rule = nullptr;
     std::vector<QuizRow*> questions;
     QPushButton* next = nullptr;
     QPushButton* solution = nullptr;
@@ -89,6 +92,9 @@ class QuizFrame : public QWidget {
     QPushButton* cancel = nullptr;
     QCheckBox* random = nullptr;
     QuizFlightBar* flightBar = nullptr;
+    const StringTable& texts;
+    bool flown = false;   ///< the student's own flight is up
+    bool watched = false; ///< a solution can be watched
     QString shownContent;
     mutable int headerLine = 0; ///< where the line below the header stands
 };

@@ -7,7 +7,9 @@
 namespace tarnel::quiz {
 
 inline constexpr int answerHeight = 30;
-inline constexpr int answerGap = 5; ///< between the answers of a row, and between rows
+inline constexpr int answerGap = 5;      ///< between the answers of a row, and between rows
+inline constexpr int compactHeight = 22; ///< of a row that can't be answered, beside a replay
+inline constexpr int compactGap = 3;
 
 /// The text scale of a widget that the style sheet has dressed.
 inline double scaleOf(const QWidget& widget) {

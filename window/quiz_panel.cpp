@@ -57,7 +57,7 @@ void QuizPanel::refresh() {
         show(running);
     if (!active)
         return;
-    const bool changed = active->follow();
+    const bool changed = active->follow(form.QAform1.c_QAFly > 0, form.solutionShown());
     followQuestion();
     if (changed || tallestWidth != width() || shownHeight == 0)
         measure();

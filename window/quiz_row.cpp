@@ -7,7 +7,7 @@
 
 #include <QLabel>
 #include <QLineEdit>
-#include <QSignalBlocker>
+#include <QStyle>
 
 #include <algorithm>
 
@@ -42,7 +42,9 @@ QuizRow::QuizRow(int number, AnswerRow& row, const StringTable& table, FormBindi
     makeOptions(binding);
     makeList(binding);
     verdict = new QuizVerdict(this);
-    binding.bind(row.answer, *verdict);
+    verdict->setObjectName(nameOf(row.answer));
+    own = new QuizVerdict(this);
+    own->setObjectName(QStringLiteral("Own_") + nameOf(row.answer));
 }
 
 void QuizRow::makeEntries(FormBinding& binding) {
@@ -80,9 +82,53 @@ void QuizRow::makeList(FormBinding& binding) {
 void QuizRow::follow() {
     // A lone question mark would look lost in a line of its own.
     prompt->setText(promptText().replace(QStringLiteral(" ?"), QStringLiteral("\u00A0?")));
-    verdict->tell(answerRow.verdict(), revealed(), plain(answerRow.answer.text()), verdictWord());
-    verdict->setAccessibleName(spokenVerdict());
+    prompt->setProperty("shut", answerRow.state() == RowState::shut);
+    prompt->style()->polish(prompt);
+    tellVerdict();
+    tellOwnAnswer();
     nameAnswers();
+}
+
+/// What stands in the place of the answers.
+void QuizRow::tellVerdict() {
+    using Kind = QuizVerdict::Kind;
+    const RowState state = answerRow.state();
+    const QString answer = plain(answerRow.answer.text());
+    const QString rightWord = textOf(texts, Text::answerRight);
+    const bool isRight = answerRow.verdict() == Verdict::right;
+    verdict->setVisible(asked() && !open());
+    if (state == RowState::shut)
+        verdict->tell(Kind::shut, textOf(texts, Text::rowShut), {});
+    else if (state == RowState::revealed && isRight)
+        verdict->tell(Kind::rightSolution, answer, rightWord);
+    else if (state == RowState::revealed)
+        verdict->tell(Kind::solution, answer, {});
+    else if (isRight)
+        verdict->tell(Kind::right, answer, rightWord);
+    else
+        verdict->tell(Kind::wrong, givenText(), textOf(texts, Text::answerWrong));
+    verdict->setAccessibleName(promptText() + QLatin1Char(' ') + verdict->toolTip());
+}
+
+/// A wrong answer stays beside the solution.
+void QuizRow::tellOwnAnswer() {
+    own->setVisible(answerRow.state() == RowState::revealed &&
+                    answerRow.verdict() == Verdict::wrong);
+    own->tell(QuizVerdict::Kind::wrong, givenText(), textOf(texts, Text::ownAnswer));
+    own->setAccessibleName(textOf(texts, Text::answerWrong) + QStringLiteral(": ") +
+                           own->toolTip());
+}
+
+/// A blank entry can be picked too.
+QString QuizRow::givenText() const {
+    const QString given = plain(answerRow.given()).trimmed();
+    return given.isEmpty() ? QStringLiteral("\u2013") : given;
+}
+
+void QuizRow::setCompact(bool small) {
+    compact = small;
+    verdict->setCompact(small);
+    own->setCompact(small);
 }
 
 /// Each answer is told with its question.
@@ -97,21 +143,13 @@ void QuizRow::nameAnswers() {
         list->setAccessibleName(asked);
 }
 
-/// The word for the verdict, unless the answer says it.
-QString QuizRow::verdictWord() const {
-    if (answerRow.verdict() == Verdict::right)
-        return textOf(texts, Text::answerRight);
-    const QString wrong = textOf(texts, Text::answerWrong);
-    const bool toTell = answerRow.verdict() == Verdict::wrong;
-    return toTell && plain(answerRow.answer.text()) != wrong ? wrong : QString();
-}
-
 QString QuizRow::content() const {
     if (!asked())
         return {};
     QStringList parts{promptText()};
+    parts << QString::number(static_cast<int>(answerRow.state()));
     if (!open()) {
-        parts << plain(answerRow.answer.text()) << (revealed() ? QStringLiteral("!") : QString());
+        parts << plain(answerRow.answer.text()) << plain(answerRow.given());
         return parts.join(QLatin1Char('\n'));
     }
     for (const auto& option : answerRow.options)
@@ -122,21 +160,8 @@ QString QuizRow::content() const {
     return parts.join(QLatin1Char('\n'));
 }
 
-QString QuizRow::summary() const {
-    return promptText() + QLatin1Char(' ') + plain(answerRow.answer.text());
-}
-
-bool QuizRow::revealed() const {
-    return answerRow.answer.visible() && answerRow.answer.colours() == solutionColours;
-}
-
 QString QuizRow::promptText() const {
     return plain(answerRow.prompt.text());
-}
-
-QString QuizRow::spokenVerdict() const {
-    const QString word = verdictWord();
-    return word.isEmpty() ? summary() : summary() + QStringLiteral(", ") + word;
 }
 
 QWidget* QuizRow::firstAnswer() const {
@@ -198,29 +223,47 @@ int QuizRow::listWidth() const {
     return width;
 }
 
-int QuizRow::answersWidth() const {
+/// Of the verdict and, where it stands beside, the student's own answer.
+int QuizRow::verdictsWidth() const {
+    const int beside = own->isHidden() ? 0 : own->sizeHint().width() + scaled(quiz::answerGap);
+    return verdict->sizeHint().width() + beside;
+}
+
+/// Of what the row is answered with, each option as wide as `optionWidth` says.
+int QuizRow::widgetsWidth(int (QuizOption::*optionWidth)() const) const {
     if (list)
         return listWidth();
     int width = entriesWidth();
     for (const QuizOption* option : options)
-        width += option->lineWidth();
+        width += (option->*optionWidth)();
     return width + scaled(quiz::answerGap) * static_cast<int>(options.size() - 1);
 }
 
+/// A row keeps the room of its answers once it has its verdict, so that no other row moves.
+int QuizRow::roomFor(int widgets) const {
+    const int verdicts = open() ? 0 : verdictsWidth();
+    return compact ? verdicts : std::max(widgets, verdicts);
+}
+
+int QuizRow::answersWidth() const {
+    return roomFor(widgetsWidth(&QuizOption::lineWidth));
+}
+
 int QuizRow::brokenAnswersWidth() const {
-    int width = answersWidth();
-    for (const QuizOption* option : options)
-        width += option->brokenWidth() - option->lineWidth();
-    return width;
+    return roomFor(widgetsWidth(&QuizOption::brokenWidth));
 }
 
 int QuizRow::promptPart(int width, int wanted) const {
     return std::min(wanted, width - brokenAnswersWidth() - scaled(columnGap));
 }
 
+int QuizRow::rowHeight() const {
+    return scaled(compact ? quiz::compactHeight : quiz::answerHeight);
+}
+
 int QuizRow::heightFor(int width, int wanted) const {
     const int forText = promptPart(width, wanted) - scaled(numberWidth);
-    return std::max(scaled(quiz::answerHeight), prompt->heightForWidth(forText));
+    return std::max(rowHeight(), prompt->heightForWidth(forText));
 }
 
 void QuizRow::layOut(const QRect& place, int wanted) {
@@ -231,9 +274,13 @@ void QuizRow::layOut(const QRect& place, int wanted) {
     prompt->setGeometry(number, 0, forPrompt - number, height());
     const int left = forPrompt + scaled(columnGap);
     layOutAnswers(left, width() - left);
-    const QSize wish = verdict->sizeHint();
-    verdict->setGeometry(left, (height() - wish.height()) / 2,
-                         std::min(wish.width(), width() - left), wish.height());
+    int x = left;
+    for (QuizVerdict* each : {verdict, own}) {
+        const QSize wish = each->sizeHint();
+        each->setGeometry(x, (height() - wish.height()) / 2,
+                          std::min(wish.width(), std::max(0, width() - x)), wish.height());
+        x = each->geometry().right() + 1 + scaled(quiz::answerGap);
+    }
 }
 
 void QuizRow::layOutAnswers(int left, int width) {
@@ -261,13 +308,14 @@ void QuizRow::layOutOptions(int left, int width) {
     const int widest = widestOption();
     const int each =
         std::min((width - gap * (count - 1)) / count, std::max(scaled(widestChoice), widest));
-    const bool inLine = answersWidth() - entriesWidth() <= width;
-    const int needed = (inLine ? answersWidth() : brokenAnswersWidth()) - entriesWidth();
+    const int lineRoom = widgetsWidth(&QuizOption::lineWidth) - entriesWidth();
+    const bool inLine = lineRoom <= width;
+    const int needed = inLine ? lineRoom : widgetsWidth(&QuizOption::brokenWidth) - entriesWidth();
     const int share = std::clamp((width - needed) / count, 0, gap);
     const int tall = scaled(quiz::answerHeight);
     for (QuizOption* option : options) {
-        const int own = (inLine ? option->lineWidth() : option->brokenWidth()) + share;
-        const int wide = each >= widest ? each : own;
+        const int wanted = (inLine ? option->lineWidth() : option->brokenWidth()) + share;
+        const int wide = each >= widest ? each : wanted;
         option->setGeometry(left, (height() - tall) / 2, wide, tall);
         left += wide + gap;
     }

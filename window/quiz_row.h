@@ -27,19 +27,17 @@ class QuizRow : public QWidget {
             QWidget* parent);
 
     /// Whether the row belongs to the question that is up.
-    [[nodiscard]] bool asked() const { return answerRow.prompt.visible(); }
+    [[nodiscard]] bool asked() const { return answerRow.state() != RowState::notAsked; }
     /// Whether it can still be answered.
-    [[nodiscard]] bool open() const { return asked() && !answerRow.answer.visible(); }
-    /// Whether its solution is shown.
-    [[nodiscard]] bool revealed() const;
-    /// Prompt and answer in one line.
-    [[nodiscard]] QString summary() const;
+    [[nodiscard]] bool open() const { return answerRow.state() == RowState::open; }
     [[nodiscard]] QString promptText() const;
 
     /// Everything that takes room in the row.
     [[nodiscard]] QString content() const;
     /// Takes up what has changed.
     void follow();
+    /// Takes little room, beside a replay.
+    void setCompact(bool compact);
 
     /// What is answered with first.
     [[nodiscard]] QWidget* firstAnswer() const;
@@ -64,8 +62,13 @@ class QuizRow : public QWidget {
     void makeOptions(FormBinding& binding);
     void makeList(FormBinding& binding);
     void nameAnswers();
-    [[nodiscard]] QString verdictWord() const;
-    [[nodiscard]] QString spokenVerdict() const;
+    void tellVerdict();
+    void tellOwnAnswer();
+    [[nodiscard]] QString givenText() const;
+    [[nodiscard]] int rowHeight() const;
+    [[nodiscard]] int verdictsWidth() const;
+    [[nodiscard]] int widgetsWidth(int (QuizOption::*optionWidth)() const) const;
+    [[nodiscard]] int roomFor(int widgets) const;
     [[nodiscard]] int scaled(int pixels) const;
     [[nodiscard]] int entriesWidth() const;
     [[nodiscard]] int widestOption() const;
@@ -83,6 +86,8 @@ class QuizRow : public QWidget {
     std::vector<QuizOption*> options;
     QuizList* list = nullptr;
     QuizVerdict* verdict = nullptr;
+    QuizVerdict* own = nullptr; ///< the student's answer beside the solution
+    bool compact = false;
 };
 
 } // namespace tarnel

@@ -21,23 +21,30 @@ QuizVerdict::QuizVerdict(QWidget* parent) : QLabel(parent) {
     setTextFormat(Qt::PlainText);
 }
 
-void QuizVerdict::tell(Verdict judged, bool isSolution, const QString& answer,
-                       const QString& besides) {
-    verdict = judged;
-    solution = isSolution;
-    word = besides;
+void QuizVerdict::tell(Kind told, const QString& answer, const QString& behind) {
+    kind = told;
+    word = behind;
     setText(answer);
+    setToolTip(word.isEmpty() ? answer : answer + QStringLiteral(", ") + word);
     updateGeometry();
     update();
 }
 
-QColor QuizVerdict::verdictColour() const {
-    switch (verdict) {
-    case Verdict::right:
+void QuizVerdict::setCompact(bool small) {
+    compact = small;
+    updateGeometry();
+}
+
+QColor QuizVerdict::colour() const {
+    switch (kind) {
+    case Kind::right:
         return look::right;
-    case Verdict::wrong:
+    case Kind::wrong:
         return look::wrong;
-    case Verdict::notYet:
+    case Kind::solution:
+    case Kind::rightSolution:
+        return look::solution;
+    case Kind::shut:
         break;
     }
     return look::secondaryInk;
@@ -45,7 +52,7 @@ QColor QuizVerdict::verdictColour() const {
 
 QFont QuizVerdict::answerFont() const {
     QFont bold = font();
-    bold.setBold(true);
+    bold.setBold(kind != Kind::shut);
     return bold;
 }
 
@@ -66,38 +73,39 @@ int QuizVerdict::widthFor(const QString& answer, const QString& besides) const {
 }
 
 QSize QuizVerdict::sizeHint() const {
-    return {widthFor(text(), word), qRound(quiz::answerHeight * quiz::scaleOf(*this))};
+    const int height = compact ? quiz::compactHeight : quiz::answerHeight;
+    return {widthFor(text(), word), qRound(height * quiz::scaleOf(*this))};
 }
 
-/// A tick, a cross, or a dot where nothing was answered.
 void QuizVerdict::paintSign(QPainter& painter, const QRectF& place) const {
     painter.setPen(Qt::NoPen);
-    painter.setBrush(verdictColour());
+    painter.setBrush(colour());
     const auto at = [&place](double x, double y) {
         return place.topLeft() + QPointF(x * place.width(), y * place.height());
     };
-    if (verdict == Verdict::notYet) {
+    if (kind == Kind::solution) {
         painter.drawEllipse(place.center(), place.width() / 5, place.width() / 5);
         return;
     }
     painter.drawEllipse(place);
     painter.setPen(QPen(Qt::white, place.width() / 8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.setBrush(Qt::NoBrush);
-    if (verdict == Verdict::right) {
+    if (kind == Kind::wrong) {
+        painter.drawLine(at(0.32, 0.32), at(0.68, 0.68));
+        painter.drawLine(at(0.68, 0.32), at(0.32, 0.68));
+    } else if (kind == Kind::shut) {
+        painter.drawLine(at(0.28, 0.5), at(0.72, 0.5));
+    } else {
         painter.drawPolyline(QPolygonF{at(0.27, 0.53), at(0.44, 0.69), at(0.74, 0.34)});
-        return;
     }
-    painter.drawLine(at(0.32, 0.32), at(0.68, 0.68));
-    painter.drawLine(at(0.68, 0.32), at(0.32, 0.68));
 }
 
 void QuizVerdict::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const double scale = quiz::scaleOf(*this);
-    const QColor told = solution ? look::secondaryInk : verdictColour();
-    painter.setPen(QPen(told, solution ? 1 : 1.4));
-    painter.setBrush(look::onPaper(told, solution ? 0.06 : 0.09));
+    painter.setPen(QPen(colour(), kind == Kind::shut ? 1 : 1.4));
+    painter.setBrush(look::onPaper(colour(), 0.09));
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.7, 0.7, -0.7, -0.7), look::controlRadius,
                             look::controlRadius);
     const double side = signSize * scale;
@@ -106,7 +114,7 @@ void QuizVerdict::paintEvent(QPaintEvent*) {
     QRectF line(rect());
     line.setLeft(sign.right() + partGap * scale);
     painter.setFont(answerFont());
-    painter.setPen(solution ? look::ink : told);
+    painter.setPen(colour());
     const bool whole = width() >= sizeHint().width();
     const QString answer =
         whole ? text()
@@ -117,7 +125,6 @@ void QuizVerdict::paintEvent(QPaintEvent*) {
         return;
     line.setLeft(line.left() + painter.fontMetrics().horizontalAdvance(text()) + partGap * scale);
     painter.setFont(wordFont());
-    painter.setPen(verdictColour());
     painter.drawText(line, Qt::AlignVCenter | Qt::AlignLeft, word);
 }
 

@@ -1,22 +1,29 @@
 #pragma once
 
-#include "exercises/answer_row.h"
-
 #include <QLabel>
 
 namespace tarnel {
 
-/// `QuizVerdict`: what became of a row, in the place of its answers: the answer with a sign, a word
-/// and a colour. A solution stands in plain ink; the sign beside it still tells the verdict. Where
-/// room is short, the word goes and the answer is cut; the tool tip has all of it.
+/// `QuizVerdict`: what became of a row, in the place of its answers: an answer with a sign, a word
+/// and a colour of its own. Where room is short, the word goes and the answer is cut; the tool tip
+/// has all of it.
 class QuizVerdict : public QLabel {
     Q_OBJECT
 
   public:
+    enum class Kind {
+        right,         ///< a tick
+        wrong,         ///< a cross
+        solution,      ///< a dot: nothing was answered, or what was stands beside it
+        rightSolution, ///< a tick, in the solution's colour
+        shut           ///< a bar: the row can't be answered any more
+    };
+
     explicit QuizVerdict(QWidget* parent);
 
-    /// `word` is the verdict where the answer does not tell it; it may be empty.
-    void tell(Verdict verdict, bool solution, const QString& answer, const QString& word);
+    /// `word` stands behind the answer; it may be empty.
+    void tell(Kind kind, const QString& answer, const QString& word);
+    void setCompact(bool compact);
 
     /// The width that an answer and a word take.
     [[nodiscard]] int widthFor(const QString& answer, const QString& word) const;
@@ -26,14 +33,14 @@ class QuizVerdict : public QLabel {
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    [[nodiscard]] QColor verdictColour() const;
+    [[nodiscard]] QColor colour() const;
     [[nodiscard]] QFont answerFont() const;
     [[nodiscard]] QFont wordFont() const;
     void paintSign(QPainter& painter, const QRectF& place) const;
 
-    Verdict verdict = Verdict::notYet;
-    bool solution = false;
+    Kind kind = Kind::solution;
     QString word;
+    bool compact = false;
 };
 
 } // namespace tarnel

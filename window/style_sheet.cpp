@@ -120,6 +120,7 @@ QPushButton[channel="true"]:focus { border: 2px solid $panelFocus; padding: 0; }
 QLabel[quizTitle="true"] { font-size: {15}px; font-weight: bold; }
 QLabel[quizTask="true"] { font-weight: bold; }
 QLabel[notice="true"] { color: $wrong; }
+QLabel[shut="true"] { color: $unit; }
 QPushButton[quiz="true"] { min-height: {26}px; max-height: {26}px; min-width: {56}px; }
 QPushButton[choice="true"] { min-height: {28}px; max-height: {28}px; font-size: {13}px; }
 QLineEdit[quiz="true"] { min-height: {28}px; max-height: {28}px; font-size: {13}px; }

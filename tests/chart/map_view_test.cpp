@@ -36,14 +36,14 @@ TEST(MapView, CentreSelectTakesAircraftOrStation) {
                                            : before;
         MapView view;
         view.centreOn(before);
-        view.MapCenterSelect(select, aircraft, stations);
+        view.MapCenterSelect(select, toSplit(aircraft.published()), stations);
         EXPECT_EQ(view.mapCenter, expected) << select;
         EXPECT_EQ(view.plot.mapRef, expected) << select;
 
         MapView headingUp;
         headingUp.northUpMode = false;
         headingUp.centreOn(before);
-        headingUp.MapCenterSelect(select, aircraft, stations);
+        headingUp.MapCenterSelect(select, toSplit(aircraft.published()), stations);
         EXPECT_EQ(headingUp.mapCenter, expected) << select;
         EXPECT_EQ(headingUp.plot.mapRef, before) << select;
     }

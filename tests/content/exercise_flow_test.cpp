@@ -1,3 +1,4 @@
+#include "chart/holding_chart.h"
 #include "exercises/exercise_catalogue.h"
 #include "flights/flight.h"
 #include "strings/tables.h"
@@ -5,7 +6,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <filesystem>
+#include <functional>
 
 namespace tarnel {
 namespace {
@@ -113,6 +116,44 @@ class ExerciseFlow : public testing::TestWithParam<std::size_t> {
         EXPECT_FALSE(sim.picture.heading.line.visible);
         EXPECT_EQ(sim.presentSampleIndex(), 1);
         EXPECT_GT(sim.c_TraceBufferMax, 40);
+        expectChartStays();
+        expectFiguresCovered();
+    }
+    /// Neither scales nor sizes centre the chart on the aircraft that is looked for.
+    void expectChartStays() {
+        const auto centre = [this] {
+            const GeoPosition at = toPlain(form.UserControl11.view.mapCenter);
+            return std::pair(at.latitude, at.longitude);
+        };
+        const auto before = centre();
+        const std::int16_t scale = form.UserControl11.c_MAPscale;
+        for (const auto& change : std::initializer_list<std::function<void()>>{
+                 [&] { form.stepScale(-1); }, [&] { form.setScale(scale); },
+                 [&] { form.inst2Large.click(); }, [&] { form.inst2Small.click(); },
+                 [&] { form.chartPage.centre.click(); }}) {
+            change();
+            EXPECT_EQ(centre(), before);
+        }
+        form.inst3Small.click();
+    }
+    void expectFiguresCovered() {
+        const bool covered = asksForPosition(form.QAform1.c_QAtype);
+        EXPECT_EQ(form.cover().figures, covered);
+        for (const DigitReadout* digits :
+             {&form.APControlFace1.headingDigits, &form.DMEControlFace1.distance})
+            EXPECT_EQ(digits->pictures().front() == DigitReadout::blankPicture, covered);
+    }
+    /// In holdings the pattern takes a third of the chart, about its fix.
+    void expectHoldingFramed() {
+        const UserControl2& sim = form.UserControl11;
+        const double side = sim.picture.size;
+        const double across = holdingLength(sim.recording.at(1).traceTAS) * sim.c_MAPscale;
+        EXPECT_NEAR(across / side, 1.0 / 3, 0.01);
+        double nearest = side;
+        for (const Station& station : sim.stations)
+            nearest = std::min(nearest, std::hypot(station.place.wide.x - side / 2,
+                                                   station.place.wide.y - side / 2));
+        EXPECT_LT(nearest, 30);
     }
 
     RecordingWorld world;
@@ -129,6 +170,8 @@ TEST_P(ExerciseFlow, IsAskedAnsweredShownAndLeft) {
         toFirstQuestion();
     EXPECT_THAT(panel().frame.text(), testing::HasSubstr("( 1 von 1"));
     EXPECT_TRUE(world.boxes.empty()) << world.boxes[0].text;
+    if (exerciseOf(type)->fliesHolding)
+        expectHoldingFramed();
     expectHidden();
     EXPECT_EQ(form.UserControl11.c_AirplaneEN, type == 10 ? 1 : 0);
     EXPECT_EQ(form.instruments.visible(), type != 10);
@@ -165,6 +208,9 @@ TEST_P(ExerciseFlow, IsAskedAnsweredShownAndLeft) {
     }
     couple();
     EXPECT_TRUE(form.replayRuns()); // all right: the solution at once
+    EXPECT_TRUE(form.solutionShown());
+    EXPECT_TRUE(form.backButton.visible());
+    EXPECT_TRUE(form.replayPage.bar.enabled());
     click(panel().nextButton);
     EXPECT_THAT(panel().statistic.text(), testing::HasSubstr("Richtige: 1"));
     EXPECT_THAT(panel().frame.text(), testing::HasSubstr("( 2 von 1"));
@@ -316,13 +362,16 @@ TEST_F(ExerciseShell, AMissingSessionIsToldAndTheQuestionCanBePassed) {
              fs::copy_options::recursive | fs::copy_options::skip_symlinks);
     form.QAform1.c_MainAppPath = bare.string();
     start(1);
-    ASSERT_EQ(world.boxes.size(), 1U);
-    EXPECT_THAT(world.boxes[0].text, testing::HasSubstr("qdm01.ts"));
+    EXPECT_TRUE(world.boxes.empty()); // told in the question's own place
+    EXPECT_THAT(panel().notice.text(), testing::HasSubstr("qdm01.ts"));
     EXPECT_EQ(form.UserControl11.c_FlyEN, 0); // no other flight in its place
-    click(panel().solutionButton);
+    EXPECT_FALSE(form.instruments.visible());
+    EXPECT_EQ(form.cover().reason, Text::instrumentWithoutFlight);
+    EXPECT_FALSE(panel().solutionButton.visible());
+    EXPECT_FALSE(panel().flyButton.visible());
     EXPECT_FALSE(form.replayRuns());
     click(panel().nextButton);
-    EXPECT_EQ(world.boxes.size(), 2U);
+    EXPECT_THAT(panel().notice.text(), testing::HasSubstr("qdm02.ts"));
     EXPECT_TRUE(form.questionOpen());
     click(panel().cancelButton);
     EXPECT_FALSE(form.exerciseRuns());
@@ -336,8 +385,14 @@ TEST_F(ExerciseShell, APracticeFlightStandsAtItsFirstSampleWithAReference) {
     EXPECT_EQ(form.replayPage.bar.value(), 1);
     EXPECT_TRUE(form.UserControl11.referenceReading.known);
     EXPECT_TRUE(form.practicePanel.frame.visible());
+    const auto& task = form.commentPanel.comment;
+    const std::string toldTask = task.text();
+    EXPECT_THAT(toldTask, testing::StartsWith("Aufgabe"));
+    EXPECT_THAT(toldTask, testing::HasSubstr(std::string(germanTable()[Text::startSim])));
     form.startButton.click();
     fly(20);
+    EXPECT_TRUE(task.visible());
+    EXPECT_EQ(toldTask.find(task.text()), 0U) << "the task, without how to start";
     form.startButton.click();
     const std::int16_t flown = form.UserControl11.c_TraceBufferMax;
     form.practicePanel.keep.click(); // the session again, the flight aside

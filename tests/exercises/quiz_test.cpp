@@ -39,6 +39,7 @@ TEST_F(QuizTest, GoesThroughTheQuestionsInOrderAndRepeatsWhatWasWrong) {
     next();
     EXPECT_EQ(shown(), 1);
     EXPECT_EQ(title(), "HSI ÜBUNGEN POSITION ( 2 von 3)");
+    EXPECT_EQ(form.activePanel()->place(), (QuestionPlace{2, 3}));
     next();
     EXPECT_EQ(shown(), 2) << "passed without an answer";
     next();
@@ -224,6 +225,49 @@ TEST_F(QuizTest, AStudyFileThatCannotBeReadIsToldAndCanBeLeft) {
     start(1, positions(302));
     EXPECT_EQ(title(), "HSI ÜBUNGEN POSITION ( 1 von 301)");
     EXPECT_TRUE(label("StudyNotice1").visible());
+}
+
+// The solution takes the place of the verdict's word, not of what the student said.
+TEST_F(QuizTest, AWrongAnswerStaysBesideTheSolution) {
+    start(1, positions(1));
+    const AnswerRow& row = *form.activePanel()->rows[0];
+    const AnswerRow& other = *form.activePanel()->rows[1];
+    EXPECT_EQ(row.state(), RowState::open);
+    answerWrong();
+    EXPECT_EQ(row.state(), RowState::judged);
+    EXPECT_EQ(row.given(), "095");
+    EXPECT_TRUE(wrong("Text11"));
+    pick("Combo2", "090");
+    click("Command2");
+    EXPECT_EQ(row.state(), RowState::revealed);
+    EXPECT_EQ(row.verdict(), Verdict::wrong);
+    EXPECT_EQ(row.given(), "095");
+    EXPECT_EQ(answer("Text11", solutionColours), "90");
+    EXPECT_EQ(other.verdict(), Verdict::right);
+    EXPECT_EQ(form.activePanel()->rows[2]->verdict(), Verdict::notYet);
+    next();
+    EXPECT_EQ(row.given() + other.given(), "");
+    EXPECT_EQ(row.verdict(), Verdict::notYet);
+}
+
+TEST_F(QuizTest, AQuestionWithoutItsSessionCanOnlyBePassedOrLeft) {
+    const StudyRecord record = recordOf({{qa, "1"}, {ans1, "10"}, {sessionName, "q.ts"}});
+    start(6, std::vector<StudyRecord>(8, record));
+    EXPECT_TRUE(form.posed());
+    form.sessionMissing("no flight");
+    EXPECT_FALSE(form.posed());
+    EXPECT_EQ(label("StudyNotice20").text(), "no flight");
+    EXPECT_EQ(title(), "QDM ÜBUNGEN ( 1 von 8)");
+    for (const char* button : {"Command10", "Command15"})
+        EXPECT_FALSE(get<CommandButton>(button).visible()) << button;
+    form.activePanel()->rows[0]->options[0]->choose();
+    EXPECT_EQ(form.activePanel()->rows[0]->state(), RowState::notAsked);
+    click("Command9");
+    EXPECT_EQ(store.flushes, 0);
+    EXPECT_EQ(title(), "QDM ÜBUNGEN ( 2 von 8)");
+    EXPECT_TRUE(form.posed());
+    EXPECT_FALSE(label("StudyNotice20").visible());
+    EXPECT_TRUE(get<CommandButton>("Command10").visible());
 }
 
 TEST_F(QuizTest, LeavingStopsJudgingAndRequests) {

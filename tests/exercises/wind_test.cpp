@@ -16,7 +16,9 @@ class WindTest : public ExerciseTest {
                                 {ans4, "links"},
                                 {ans5, "0"},
                                 {ans6, "-"},
-                                {ans7, "1.30"}});
+                                {ans7, "1.30"},
+                                {qc, "Inbound 250"},
+                                {qd, "TAS 120"}});
     }
     /// Whether the answer is right in a question of its own.
     bool isRight(int row, const char* field, const std::string& typed, const char* button) {
@@ -40,6 +42,7 @@ class WindTest : public ExerciseTest {
 TEST_F(WindTest, ARowsButtonsComeAliveWithTyping) {
     start();
     EXPECT_EQ(label("Label33").text(), "Wind mit 270/25");
+    EXPECT_EQ(get<TextPanel>("WindKnown").text(), "Inbound 250, TAS 120");
     EXPECT_FALSE(option("Option47").enabled());
     click("Option47");
     EXPECT_EQ(form.panel(PanelId::frame29).rows[0]->verdict(), Verdict::notYet);
@@ -105,11 +108,23 @@ TEST_F(WindTest, ReadsTimesAsMinutesAndSeconds) {
 
 TEST_F(WindTest, TheFirstRowMustBeAnsweredFirst) {
     start();
-    type("Text5", "10");
-    click("Option54");
+    const AnswerRow& first = *form.activePanel()->rows[0];
+    EXPECT_NE(get<TextPanel>("WindRule").text(), "");
     type("Text4", "20");
+    type("Text5", "12.5");
+    click("Option54");
+    EXPECT_EQ(form.activePanel()->rows[1]->given(), "Left 12.5");
+    EXPECT_EQ(first.state(), RowState::shut);
+    EXPECT_FALSE(get<TextField>("Text4").enabled());
+    type("Text4", "21");
+    EXPECT_FALSE(option("Option47").enabled());
     click("Option47");
     EXPECT_EQ(right("Label34"), "hidden");
+    EXPECT_EQ(first.verdict(), Verdict::notYet);
+    click("Command12");
+    EXPECT_EQ(first.state(), RowState::open);
+    type("Text5", "10");
+    click("Option54");
     EXPECT_EQ(right("Label36"), "links 10");
     type("Text6", "0");
     click("Option53");
@@ -118,7 +133,7 @@ TEST_F(WindTest, TheFirstRowMustBeAnsweredFirst) {
     click("Option58");
     EXPECT_EQ(takeResult(), 0);
     click("Command12");
-    EXPECT_EQ(store.stat("wind_bad"), "1");
+    EXPECT_EQ(store.stat("wind_bad"), "2");
 }
 
 TEST_F(WindTest, ShowsItsSolution) {

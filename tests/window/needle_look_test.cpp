@@ -31,7 +31,7 @@ TEST_F(Student, FindsEachNeedleOfTheLegendOnTheDial) {
         form->inst2TypeList.pick(kind - 1);
         settle();
         const QImage dial = find<QWidget>("UserControl13_0").grab().toImage();
-        const auto parts = instrumentLegend(form->texts, form->inst2, form->feedSources());
+        const auto parts = instrumentLegend(form->texts, form->inst2, form->feedSources(), {});
         EXPECT_EQ(parts.size(), kind == hsi ? 3 : kind == adf ? 1 : 2);
         for (const LegendPart& part : parts) {
             EXPECT_GT(inkOf(needleColour(part.needle), dial, dial.rect()), 40) << part.text;

@@ -14,6 +14,7 @@ namespace tarnel {
 namespace {
 
 using testing::HasSubstr;
+using testing::Not;
 
 constexpr const char* positionStudy = ":qa:,Which radial of MUN are you on?\n"
                                       ":qb:,What is your QDM to MUN?\n"
@@ -91,7 +92,8 @@ TEST_F(QuizPanelTest, PositionByKeyboardAlone) {
     EXPECT_EQ(focus(), "Combo2");
     type("120");
     press(Qt::Key_Return);
-    EXPECT_EQ(verdict("Text12"), "WRONG");
+    EXPECT_EQ(verdict("Text12"), "120");
+    EXPECT_THAT(inQuiz("Text12").accessibleName().toStdString(), HasSubstr("120, WRONG"));
     type("3");
     press(Qt::Key_Enter);
     EXPECT_EQ(verdict("Text13"), "To the left");
@@ -134,6 +136,8 @@ TEST_F(QuizPanelTest, AllRightReplaysTheFlight) {
     EXPECT_EQ(verdict("Label15"), "330");
     EXPECT_TRUE(form->replayRuns());
     EXPECT_EQ(focus(), "Command6");
+    EXPECT_TRUE(inQuiz("HScroll1").isVisible());
+    EXPECT_TRUE(inQuiz("Command7").isVisible());
 }
 
 // Digits answer the row with the keyboard, or the first open one from anywhere in the window.
@@ -147,7 +151,7 @@ TEST_F(QuizPanelTest, DigitsAnswerAndSolutionFolds) {
     EXPECT_EQ(focus(), "Option1");
     inQuiz("Option15").setFocus();
     press(Qt::Key_1);
-    EXPECT_EQ(verdict("Label11"), "WRONG");
+    EXPECT_EQ(verdict("Label11"), "Left");
     EXPECT_EQ(focus(), "Option1");
     press(Qt::Key_9);
     EXPECT_EQ(verdict("Label9"), "");
@@ -156,14 +160,17 @@ TEST_F(QuizPanelTest, DigitsAnswerAndSolutionFolds) {
     EXPECT_EQ(verdict("Label9"), " 250");
 
     choose("Command27");
-    EXPECT_FALSE(inQuiz("Label8").isVisible());
+    EXPECT_EQ(verdict("Label11"), "right");
+    EXPECT_THAT(inQuiz("Label11").accessibleName().toStdString(), Not(HasSubstr("WRONG")));
+    EXPECT_EQ(verdict("Own_Label11"), "Left");
+    EXPECT_THAT(inQuiz("Own_Label11").accessibleName().toStdString(), HasSubstr("WRONG"));
+    EXPECT_FALSE(inQuiz("Own_Label8").isVisible());
     EXPECT_TRUE(inQuiz("Command7").isVisible());
     EXPECT_EQ(focus(), "Command7");
     EXPECT_LE(quiz->height(), height);
     press(Qt::Key_Return);
     EXPECT_FALSE(inQuiz("Command7").isVisible());
     EXPECT_EQ(verdict("Label11"), "right");
-    EXPECT_THAT(inQuiz("Label11").accessibleName().toStdString(), HasSubstr("WRONG"));
 }
 
 TEST_F(QuizPanelTest, FliesTheQuestionAndComesBack) {
@@ -191,6 +198,8 @@ TEST_F(QuizPanelTest, FliesTheQuestionAndComesBack) {
 TEST_F(QuizPanelTest, WindIsTypedAndCommitted) {
     begin(Item::wind);
     ASSERT_EQ(focus(), "Text4");
+    EXPECT_EQ(inQuiz<QLabel>("WindKnown").text(), "Inbound, TAS");
+    EXPECT_TRUE(inQuiz("WindRule").isVisible());
     EXPECT_FALSE(inQuiz("Option47").isEnabled());
     type("17");
     press(Qt::Key_Return);
@@ -202,7 +211,7 @@ TEST_F(QuizPanelTest, WindIsTypedAndCommitted) {
     type("3");
     press(Qt::Key_Return);
     press(Qt::Key_3);
-    EXPECT_EQ(verdict("Label36"), "WRONG");
+    EXPECT_EQ(verdict("Label36"), "Right 3");
     type("5");
     press(Qt::Key_Return);
     press(Qt::Key_3);

@@ -1,0 +1,109 @@
+#include "window/floating_gyro.h"
+#include "window/instrument_view.h"
+#include "window/knob_widget.h"
+#include "window/quiz_panel.h"
+#include "window/student_fixture.h"
+
+#include <QAccessible>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRegularExpression>
+
+#include <map>
+
+namespace tarnel {
+namespace {
+
+/// Looks for the answers of open questions in everything that the window says.
+class Secrets : public Student {
+  protected:
+    void SetUp() override { QAccessible::setActive(true); }
+    void TearDown() override { QAccessible::setActive(false); }
+
+    static QStringList saidBy(const QWidget& widget) {
+        QStringList said{widget.accessibleName(), widget.accessibleDescription(), widget.toolTip()};
+        if (const auto* label = qobject_cast<const QLabel*>(&widget))
+            said << label->text();
+        if (const auto* button = qobject_cast<const QAbstractButton*>(&widget))
+            said << button->text();
+        if (const auto* field = qobject_cast<const QLineEdit*>(&widget))
+            said << field->text();
+        if (const auto* list = qobject_cast<const QComboBox*>(&widget))
+            said << list->currentText();
+        if (const auto* knob = qobject_cast<const KnobWidget*>(&widget))
+            said << knob->valueText();
+        return said;
+    }
+    /// What the question itself says and offers, and the dials that it wants to be read.
+    [[nodiscard]] bool belongsToQuestion(const QWidget& widget) const {
+        const auto* quiz = window->findChild<QuizPanel*>();
+        const bool titled = widget.objectName().startsWith(QStringLiteral("Label"));
+        return qobject_cast<const InstrumentView*>(&widget) ||
+               (quiz->isAncestorOf(&widget) && !titled) || &widget == quiz;
+    }
+    /// The texts that are seen or can be heard, by the widget that has them.
+    std::map<QString, QString> said() {
+        std::map<QString, QString> all;
+        for (QWidget* root :
+             std::initializer_list<QWidget*>{window.get(), window->findChild<additional_DG*>()})
+            for (const QWidget* widget : root->findChildren<QWidget*>())
+                if (widget->isVisible() && !belongsToQuestion(*widget))
+                    all[saidBy(*widget).join('\n')] = widget->objectName();
+        return all;
+    }
+    /// The numbers of an answer. A nought or a single digit tells nothing.
+    static QStringList numbersOf(const std::string& text) {
+        static const QRegularExpression number(QStringLiteral(R"(\d[\d.]+)"));
+        QStringList numbers;
+        for (const auto& match : number.globalMatch(QString::fromStdString(text)))
+            numbers << match.captured();
+        return numbers;
+    }
+    static bool tells(const QString& text, const QString& number) {
+        return text.contains(QRegularExpression(
+            QStringLiteral("(?<![\\d.])%1(?![\\d.])").arg(QRegularExpression::escape(number))));
+    }
+
+    void expectNothingTold(const std::map<QString, QString>& everything,
+                           const ExercisePanel& panel) {
+        for (const auto& row : panel.rows)
+            for (const QString& number : numbersOf(row->answer.text()))
+                for (const auto& [text, widget] : everything)
+                    EXPECT_FALSE(tells(text, number))
+                        << panel.frame.text() << ": " << qPrintable(number) << " is told by "
+                        << qPrintable(widget) << ": " << qPrintable(text);
+    }
+
+    void askAllOf(CommandButton& item) {
+        item.click();
+        settle();
+        ExercisePanel& panel = *form->QAform1.activePanel();
+        panel.randomBox.set(0);
+        panel.nextButton.click();
+        settle();
+        const int count = panel.place().count;
+        for (int question = 0; question < count; ++question) {
+            const auto everything = said();
+            panel.solutionButton.click();
+            expectNothingTold(everything, panel);
+            panel.nextButton.click();
+            settle();
+        }
+        panel.cancelButton.click();
+        settle();
+    }
+};
+
+TEST_F(Secrets, NoTextOfTheWindowTellsAnAnswer) {
+    for (const StringTable* texts : {&germanTable(), &englishTable()}) {
+        open(*texts);
+        form->setFloatingGyroOpen(true);
+        for (const auto& item : form->exerciseMenu.exercises)
+            askAllOf(*item);
+        window.reset();
+    }
+}
+
+} // namespace
+} // namespace tarnel
