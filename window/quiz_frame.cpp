@@ -204,7 +204,8 @@ int QuizFrame::arrange(QSize size, bool placing) const {
     if (!flown)
         top = arrangeRows(top, width, bottom - bar, placing);
     if (hasBar() && placing)
-        flightBar->setGeometry(scaled(inset), flown ? std::max(top, (top + bottom - bar) / 2) : top,
+        flightBar->setGeometry(scaled(inset),
+                               std::max(top, flown ? (top + bottom - bar) / 2 : bottom - bar),
                                width, forBar);
     top += bar;
     if (placing)

@@ -123,6 +123,7 @@ TEST_F(WindTest, TheFirstRowMustBeAnsweredFirst) {
     EXPECT_EQ(first.verdict(), Verdict::notYet);
     click("Command12");
     EXPECT_EQ(first.state(), RowState::open);
+    EXPECT_EQ(takeResult(), 2);
     type("Text5", "10");
     click("Option54");
     EXPECT_EQ(right("Label36"), "links 10");
