@@ -650,7 +650,6 @@ constexpr StringEntry entries[] = {
     {768, "Instrument covered"},
     {769, "The chart is enough for this question"},
     {955, "The flight of this question is missing"},
-    {956, "covered"},
     // Wind, comments and reference.
     {801, "Draw"},
     {802, "All 101 comments are taken. Delete one, or step back and write one anew."},

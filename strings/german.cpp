@@ -655,7 +655,6 @@ constexpr StringEntry entries[] = {
     {768, "Instrument abgedeckt"},
     {769, "Die Karte genügt für diese Frage"},
     {955, "Zu dieser Frage fehlt der Flug"},
-    {956, "abgedeckt"},
     // Wind, comments and reference.
     {801, "Zeichnen"},
     {802, "Alle 101 Kommentare sind belegt. Löschen Sie einen, oder blättern Sie zurück und "

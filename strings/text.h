@@ -608,7 +608,6 @@ enum class Text : int {
     instrumentCovered = 768,
     instrumentCoveredWhy = 769,
     instrumentWithoutFlight = 955,
-    spokenCovered = 956,
 
     // Wind, comments and reference.
     windDraw = 801,
