@@ -1,6 +1,7 @@
 #pragma once
 
 #include "shell/needle_sources.h"
+#include "shell/question_cover.h"
 #include "strings/string_table.h"
 
 #include <string>
