@@ -133,6 +133,7 @@ void UserControl2::takeSession(const SessionFile& session, FileRequest request,
                                const std::string& path, std::int16_t how) {
     makeWayFor(request, how);
     if (how != fileRequest::temporary) {
+        chanceWinds.clear();
         c_SessionFileName.setIfChanged(path);
         takeReference(session);
         const bool overwritable =
@@ -154,7 +155,6 @@ void UserControl2::takeReference(const SessionFile& session) {
 void UserControl2::applySession(const SessionFile& session) {
     recording.clear();
     history.clear();
-    chanceWinds.clear();
     c_mapedit.setIfChanged(0);
     forgetComments();
     referenceReading = {};

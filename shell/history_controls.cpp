@@ -6,8 +6,12 @@ void Form1::connectHistory() {
     editMenu.undo.onClick = [this] {
         if (UserControl11.undo())
             showPresentSample();
+        followHistory();
     };
-    editMenu.redo.onClick = [this] { UserControl11.redo(); };
+    editMenu.redo.onClick = [this] {
+        UserControl11.redo();
+        followHistory();
+    };
 }
 
 /// A flight that came back is shown at the sample where it was.

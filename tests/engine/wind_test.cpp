@@ -72,6 +72,8 @@ TEST_F(WindTest, OfARecordingIsTheOneToComeBackToAndByChanceStaysUntold) {
     start(120);
     tick(8);
     sim.c_TimerEN = 0;
+    sim.c_ScratchPath = testing::TempDir();
+    EXPECT_TRUE(sim.keepTemporary() && sim.recallTemporary()); // of a practice flight
     sim.setWind({90, 77});
     EXPECT_TRUE(sim.picture.windLabel.visible);
     sim.c_RepeatValue = 2;

@@ -351,10 +351,10 @@ TEST_F(StripTest, UndoIsOfferedAtRestAndBringsAnEndedFlightBack) {
     sim().mouse.up();
     couple();
     form.editMenu.undo.click();
+    EXPECT_TRUE(form.editMenu.redo.enabled());
     couple();
     EXPECT_EQ(newest(), samples);
     EXPECT_EQ(form.replayPage.bar.value(), 9);
-    EXPECT_TRUE(form.editMenu.redo.enabled());
     start();
     couple();
     EXPECT_FALSE(form.editMenu.redo.enabled());
