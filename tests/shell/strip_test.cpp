@@ -360,26 +360,6 @@ TEST_F(StripTest, UndoIsOfferedAtRestAndBringsAnEndedFlightBack) {
     EXPECT_FALSE(form.editMenu.redo.enabled());
 }
 
-/// The box of the practise area, with a chance wind that came right before it.
-TEST_F(StripTest, WhatABoxSaysStandsBehindIt) {
-    start();
-    std::vector<std::string> shown;
-    world.behind = [&] {
-        shown = {form.modePanel.text(), form.windPanel.text(),
-                 form.startButton.caption() == Text::startSim ? "start" : "stop"};
-    };
-    int painted = 0;
-    form.beforeBox = [&] { ++painted; };
-    form.windPage.random.click();
-    sim().slot(Slot::vor1).dme = 80.1;
-    couple();
-    EXPECT_THAT(shown, testing::ElementsAre("Pause [M]ode", "[W]ind random", "start"));
-    EXPECT_EQ(painted, 1);
-    sim().mouse.down(ChartButton::left, {1000, 1000});
-    form.showAbout();
-    EXPECT_FALSE(sim().mouse.holds()) << "the box takes the release";
-}
-
 TEST_F(StripTest, APracticePanelTakesItsStates) {
     EXPECT_FALSE(form.practicePanel.frame.visible());
     sim().c_TrackDelta = 1;

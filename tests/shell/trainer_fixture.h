@@ -7,7 +7,6 @@
 
 #include <filesystem>
 #include <fstream>
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -17,11 +16,9 @@ namespace tarnel {
 struct NotedWorld : OutsideWorld {
     std::vector<std::string> boxes;
     std::vector<std::string> asked;
-    bool answer = true;                   ///< to each question
-    std::function<void()> behind = [] {}; ///< looks at what stands behind a box
+    bool answer = true; ///< to each question
     void messageBox(BoxKind, const std::string& title, const std::string& text) override {
         boxes.push_back(title + ": " + text);
-        behind();
     }
     bool ask(const std::string&, const std::string& text) override {
         asked.push_back(text);

@@ -97,22 +97,5 @@ TEST_F(CommentStudent, ShowsTheMarkOnlyWithACommentAndWhileItBlinks) {
     EXPECT_FALSE(mark.isVisible());
 }
 
-TEST_F(CommentStudent, SeesThePracticePanelInItsStates) {
-    open();
-    auto& panel = find<QWidget>("Frame2");
-    EXPECT_FALSE(panel.isVisible());
-    form->UserControl11.c_TrackDelta = 1;
-    settle();
-    EXPECT_TRUE(panel.isVisible());
-    EXPECT_TRUE(find("PracticeKeep").isChecked());
-    EXPECT_FALSE(find("PracticeRecall").isEnabled());
-    form->UserControl11.c_TrackDelta = 3;
-    settle();
-    EXPECT_TRUE(find("PracticeRecall").isChecked());
-    form->UserControl11.c_TrackDelta = 0;
-    settle();
-    EXPECT_FALSE(panel.isVisible());
-}
-
 } // namespace
 } // namespace tarnel

@@ -131,12 +131,18 @@ TEST_F(StripStudent, IsNotToldAWindByChanceBeforeAskingForIt) {
 TEST_F(StripStudent, SeesBehindABoxWhatItSays) {
     open();
     click("Command6");
-    QString button;
-    world.behind = [&] { button = find("Command6").text(); };
+    std::vector<std::string> shown;
+    world.behind = [&] {
+        shown = {find("Command6").text().toStdString(),
+                 find<QLabel>("StatusPanel4").text().toStdString()};
+    };
+    form->windPage.random.click();
     sim().slot(Slot::vor1).dme = 80.1;
     form->Timer1(); // out of the practise area; nothing else comes to paint the window
-    EXPECT_EQ(world.boxes.size(), 1U);
-    EXPECT_EQ(button, "Start SIM");
+    EXPECT_THAT(shown, testing::ElementsAre("Start SIM", "[W]ind random"));
+    sim().mouse.down(ChartButton::left, {1000, 1000});
+    form->showAbout();
+    EXPECT_FALSE(sim().mouse.holds()) << "the box takes the release";
 }
 
 TEST_F(StripStudent, DrawsTheWindOnTheChart) {
