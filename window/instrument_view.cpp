@@ -97,7 +97,8 @@ void InstrumentView::showEvent(QShowEvent* /*event*/) {
 }
 
 void InstrumentView::hideEvent(QHideEvent* /*event*/) {
-    speak();
+    if (isHidden())
+        setAccessibleDescription({});
 }
 
 Point InstrumentView::twipsAt(QPointF at) const {

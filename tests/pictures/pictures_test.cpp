@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 #include <QImage>
+#include <QPainter>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -131,8 +132,16 @@ TEST(Pictures, ExchangedFacesDifferOnlyWhereTheyShould) {
                  {"QXRvor2t", "QXRvor2l", window}, {"QXRvor1t", "QXRvor2t", selector},
                  {"QXRadff", "QXRadfs", selector}, {"qxrrmi1", "qxrrmi2", selector},
                  {"qxrhsi1", "qxrhsi2", selector}};
+    // The knob of an ADF's fixed card goes with it.
+    const QRect cardKnob = partOf(base, 0, 0.8, 0.3, 1);
+    const auto face = [&](const QString& name) {
+        QImage image = picture(name + ".jpg");
+        if (name.startsWith("QXRad"))
+            QPainter(&image).fillRect(cardKnob, Qt::black);
+        return image;
+    };
     for (const auto& pair : pairs) {
-        const QRect area = differingArea(picture(pair.one + ".jpg"), picture(pair.other + ".jpg"));
+        const QRect area = differingArea(face(pair.one), face(pair.other));
         EXPECT_GT(area.width(), 20) << qPrintable(pair.one);
         EXPECT_TRUE(pair.within.contains(area)) << qPrintable(pair.one);
     }

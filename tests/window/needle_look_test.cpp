@@ -5,6 +5,7 @@
 #include "window/student_fixture.h"
 
 #include <QImage>
+#include <QPainter>
 
 #include <set>
 
@@ -39,6 +40,7 @@ TEST_F(Student, FindsEachNeedleOfTheLegendOnTheDial) {
             sign.fill(Qt::black);
             QPainter painter(&sign);
             paintSwatch(painter, part.needle, {12, 12});
+            painter.end();
             if (part.needle != LegendNeedle::none)
                 signs.insert(QByteArray(reinterpret_cast<const char*>(sign.constBits()),
                                         static_cast<int>(sign.sizeInBytes())));
@@ -59,6 +61,7 @@ TEST_F(Student, ReadsANumeralThatANeedleLiesOver) {
         image.fill(Qt::black);
         QPainter painter(&image);
         paint.paint(painter, instrument.picture, image.width());
+        painter.end();
         const double scale = image.width() / instrument.picture.size;
         const Area box = numeralBox(instrument.picture.Label1[3]);
         return inkOf(

@@ -31,6 +31,7 @@ class Student : public testing::Test {
   protected:
     void open(const StringTable& texts = englishTable(), QSize size = {1280, 800}) {
         dressApplication(texts, QStringLiteral(TARNEL_APPLICATION_FOLDER));
+        window.reset(); // it shows the form to its end
         form = std::make_unique<Form1>(texts, world, TARNEL_APPLICATION_FOLDER);
         window = std::make_unique<MainWindow>(*form);
         window->resize(size);
