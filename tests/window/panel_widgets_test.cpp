@@ -286,6 +286,15 @@ TEST_F(DmeModuleTest, FrequencyStepsOnlyWhileItIsItsOwn) {
     EXPECT_EQ(face.c_SetFreq, 2);
 }
 
+TEST_F(DmeModuleTest, WholeMilesHaveNoPoint) {
+    const auto shownAt = [this](std::int16_t tenths) {
+        face.c_DMEnm = tenths;
+        module.refresh();
+        return module.grab().toImage();
+    };
+    EXPECT_NE(shownAt(121), shownAt(1219));
+}
+
 class AutopilotModuleTest : public testing::Test {
   protected:
     void SetUp() override {
