@@ -171,8 +171,14 @@ std::string FlightShelf::inFolder(const std::string& name) const {
 }
 
 std::string FlightShelf::nextName(std::int64_t time, int seconds) {
-    return inFolder(dateText(time) + "-" + numberText(std::int64_t{seconds}) + "s-" + program +
-                    "-" + numberText(std::int64_t{counter++}) + flightSuffix);
+    const std::string start =
+        dateText(time) + "-" + numberText(std::int64_t{seconds}) + "s-" + program + "-";
+    std::string path;
+    std::error_code ignored;
+    do {
+        path = inFolder(start + numberText(std::int64_t{counter++}) + flightSuffix);
+    } while (fs::exists(path, ignored));
+    return path;
 }
 
 void FlightShelf::put(const KeptFlight& flight, std::int64_t time) {

@@ -61,11 +61,12 @@ void FlightSigns::makeOffer() {
 /// An exercise's session is named by what is asked: the title then tells nothing. A flight or an
 /// exercise takes the offer away.
 void FlightSigns::refresh() {
-    const std::string title =
-        form.exerciseRuns() ? std::string(form.texts[Text::windowTitle]) : form.flightDesk.title();
-    if (title != shownTitle) {
-        shownTitle = title;
-        window.setWindowTitle(QString::fromStdString(title));
+    const UserControl2& sim = form.UserControl11;
+    const Named now{sim.c_SessionFileName, sim.flightUnsaved(), form.exerciseRuns()};
+    if (now != named) {
+        named = now;
+        window.setWindowTitle(now.inExercise ? textOf(form.texts, Text::windowTitle)
+                                             : QString::fromStdString(form.flightDesk.title()));
     }
     FlightKeeper& keeper = form.flightDesk.keeper;
     if (keeper.offer() && (form.simulationRuns() || form.exerciseRuns()))

@@ -34,7 +34,13 @@ class FlightSigns : public QObject {
     QMainWindow& window;
     QFrame* offer = nullptr;
     QLabel* offerLine = nullptr;
-    std::string shownTitle;
+    /// What the title was made of.
+    struct Named {
+        std::string file;
+        bool unsaved = false;
+        bool inExercise = false;
+        bool operator==(const Named&) const = default;
+    } named;
     std::string shownOffer; ///< the file of the flight that is offered
 };
 

@@ -140,10 +140,11 @@ class KilledFlights : public testing::Test {
     }
     ~KilledFlights() override { fs::remove_all(folder); }
 
-    /// Flies `count` programs at once, each with an own length and life, and ends each by `signal`.
-    std::vector<Seconds> flyAndEnd(int count, int signal, int exitCode) {
+    /// Flies `count` programs at once, each with an own length and life of up to `longest` seconds,
+    /// and ends each by `signal`.
+    std::vector<Seconds> flyAndEnd(int count, int signal, int exitCode, double longest) {
         std::uniform_int_distribution<int> flown(40, 6000);
-        std::uniform_real_distribution<double> life(0.1, 16);
+        std::uniform_real_distribution<double> life(0.1, longest);
         std::vector<std::unique_ptr<Flight>> flights;
         for (int i = 0; i < count; ++i)
             flights.push_back(std::make_unique<Flight>(folder / std::to_string(made++),
@@ -175,7 +176,7 @@ TEST_F(KilledFlights, LoseTenSecondsAtMost) {
     constexpr int atOnce = 20;
     std::vector<Seconds> lost;
     for (int left = kills; left > 0; left -= atOnce)
-        for (const Seconds& each : flyAndEnd(std::min(left, atOnce), SIGKILL, -1))
+        for (const Seconds& each : flyAndEnd(std::min(left, atOnce), SIGKILL, -1, 16))
             lost.push_back(each);
     ASSERT_EQ(lost.size(), static_cast<std::size_t>(kills));
     const Seconds worst = *std::ranges::max_element(lost);
@@ -185,7 +186,7 @@ TEST_F(KilledFlights, LoseTenSecondsAtMost) {
 
 TEST_F(KilledFlights, LoseNothingWhenToldToEnd) {
     for (const int signal : {SIGTERM, SIGHUP, SIGINT})
-        for (const Seconds& lost : flyAndEnd(2, signal, 0))
+        for (const Seconds& lost : flyAndEnd(2, signal, 0, 2))
             EXPECT_EQ(lost.count(), 0) << signal;
 }
 
