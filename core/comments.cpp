@@ -9,7 +9,7 @@ namespace tarnel {
 
 const std::string& Comments::text(int index) const {
     if (index < 0 || index >= count)
-        throw RunTimeError(RunTimeError::subscriptOutOfRange, "Comments", "Subscript out of range");
+        throw RunTimeError(Cause::subscriptOutOfRange, "Comments");
     return texts[static_cast<std::size_t>(index)];
 }
 

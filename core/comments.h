@@ -13,6 +13,7 @@ constexpr std::int16_t noComment = -1;
 class Comments {
   public:
     static constexpr std::int16_t count = 101;
+    static constexpr int longestText = 4000; ///< characters; a file may not hold more
 
     /// The text of entry `index`, 0 to 100. Throws the subscript error outside.
     [[nodiscard]] const std::string& text(int index) const;

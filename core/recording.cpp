@@ -9,7 +9,7 @@ namespace tarnel {
 namespace {
 
 RunTimeError outOfRange() {
-    return {RunTimeError::subscriptOutOfRange, "Recording", "Subscript out of range"};
+    return RunTimeError(Cause::subscriptOutOfRange, "Recording");
 }
 
 } // namespace

@@ -14,7 +14,7 @@ Integer checkedInteger(double value) {
     const double rounded = roundToEven(value);
     if (!(rounded >= std::numeric_limits<Integer>::min() &&
           rounded <= std::numeric_limits<Integer>::max()))
-        throw RunTimeError(RunTimeError::overflow, "Tarnel", "Overflow");
+        throw RunTimeError(Cause::overflow);
     return static_cast<Integer>(rounded);
 }
 

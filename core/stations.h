@@ -14,6 +14,9 @@ namespace tarnel {
 enum class Slot : std::size_t { vor1, vor2, ndb1, ndb2, localizer };
 constexpr std::size_t slotCount = 5;
 
+/// As many characters may a station's identifier or frequency have.
+constexpr int longestStationText = 40;
+
 /// 16-bit booleans of the system.
 constexpr std::int16_t off = 0;
 constexpr std::int16_t on = -1;

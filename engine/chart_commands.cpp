@@ -32,7 +32,7 @@ void UserControl2::switchAirplane() {
 
 void UserControl2::showScale() {
     if (c_MAPscale <= 0)
-        throw RunTimeError(RunTimeError::divisionByZero, "Tarnel", "Division by zero");
+        throw RunTimeError(Cause::divisionByZero);
     view.plot.mapScaleTwips = c_MAPscale;
     picture.surface.set(picture.milesPer500Twips, view.scaleLabelMiles());
 }

@@ -116,6 +116,8 @@ std::string QAform::studyRemark(const std::string& name) const {
         return about(Text::studyUnreadable);
     case StudyEnd::insideRecord:
         return about(Text::studyEndsInQuestion) + place;
+    case StudyEnd::lineTooLong:
+        return about(Text::studyLineTooLong) + place;
     case StudyEnd::tooManyRecords:
         return about(Text::studyTooLong) + place;
     case StudyEnd::complete:

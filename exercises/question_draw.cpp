@@ -48,8 +48,7 @@ std::vector<std::int16_t> QuestionDraw::drawnOffsets() const {
     for (const std::int16_t number : choiceOrder) {
         const auto index = static_cast<std::size_t>(number - 1);
         if (index >= choiceOffset.size())
-            throw RunTimeError(RunTimeError::subscriptOutOfRange, "QAform",
-                               "Subscript out of range: choiceOffset");
+            throw RunTimeError(Cause::subscriptOutOfRange, "QAform");
         offsets.push_back(choiceOffset[index]);
     }
     return offsets;

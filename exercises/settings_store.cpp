@@ -22,9 +22,8 @@ void MemorySettingsStore::setValue(std::string_view application, std::string_vie
 }
 
 void MemorySettingsStore::deleteSection(std::string_view application, std::string_view section) {
-    constexpr int invalidProcedureCall = 5;
     if (applications[std::string(application)].erase(std::string(section)) == 0)
-        throw RunTimeError(invalidProcedureCall, "Tarnel", "Invalid procedure call or argument");
+        throw RunTimeError(Cause::invalidCall);
 }
 
 } // namespace tarnel

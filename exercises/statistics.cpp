@@ -24,35 +24,37 @@ std::string badKey(std::string_view stem) {
     return std::string(stem) + "_bad";
 }
 
-} // namespace
-
-std::int64_t Statistics::read(const std::string& key) const {
+std::int64_t read(const SettingsStore& settings, const std::string& key) {
     constexpr double most = std::numeric_limits<std::int32_t>::max();
     const double number = Val(settings.value(application, section, key, "0"));
     return static_cast<std::int64_t>(roundToEven(std::clamp(number, 0.0, most)));
 }
 
-void Statistics::write(const std::string& key, std::int64_t value) {
+void write(SettingsStore& settings, const std::string& key, std::int64_t value) {
     settings.setValue(application, section, key, numberText(value));
 }
 
-Counters Statistics::of(std::string_view stem) const {
-    return {read(totalKey(stem)), read(badKey(stem))};
-}
-
-void Statistics::countUp(const std::string& counter, int index, int lastQuestion) {
-    write(counter + Str(index), read(counter + Str(index)) + 1);
+void countUp(SettingsStore& settings, const std::string& counter, int index, int lastQuestion) {
+    const std::string ofQuestion = counter + Str(index);
+    write(settings, ofQuestion, read(settings, ofQuestion) + 1);
     std::int64_t sum = 0;
     for (int question = 0; question <= lastQuestion; ++question)
-        sum += read(counter + Str(question));
-    write(counter, sum);
+        sum += read(settings, counter + Str(question));
+    write(settings, counter, sum);
+}
+
+} // namespace
+
+Counters Statistics::of(std::string_view stem) const {
+    return {read(settings, totalKey(stem)), read(settings, badKey(stem))};
 }
 
 void Statistics::count(std::string_view stem, int index, int lastQuestion, bool allRight) {
-    countUp(totalKey(stem), index, lastQuestion);
-    if (!allRight)
-        countUp(badKey(stem), index, lastQuestion);
-    settings.flush();
+    settings.change([=, stem = std::string(stem)](SettingsStore& store) {
+        countUp(store, totalKey(stem), index, lastQuestion);
+        if (!allRight)
+            countUp(store, badKey(stem), index, lastQuestion);
+    });
 }
 
 void Statistics::prepare() {
@@ -61,10 +63,12 @@ void Statistics::prepare() {
 }
 
 void Statistics::reset() {
-    constexpr std::string_view absent = "empty";
-    if (settings.value(application, section, dummyKey, absent) != absent)
-        settings.deleteSection(application, section);
-    prepare();
+    settings.change([](SettingsStore& store) {
+        constexpr std::string_view absent = "empty";
+        if (store.value(application, section, dummyKey, absent) != absent)
+            store.deleteSection(application, section);
+        store.setValue(application, section, dummyKey, "0");
+    });
 }
 
 std::string statisticLine(const Counters& counters, const StringTable& texts) {

@@ -25,7 +25,7 @@ class Statistics {
     [[nodiscard]] Counters of(std::string_view stem) const;
 
     /// Counts one answer to question `index` and sums the exercise's counters over the questions 0
-    /// to `lastQuestion`. Writes the settings once.
+    /// to `lastQuestion`. Writes the settings once; what another program has counted stays counted.
     void count(std::string_view stem, int index, int lastQuestion, bool allRight);
 
     /// Makes the section exist, for a start of the program: an absent one can't be deleted.
@@ -34,10 +34,6 @@ class Statistics {
     void reset();
 
   private:
-    [[nodiscard]] std::int64_t read(const std::string& key) const;
-    void write(const std::string& key, std::int64_t value);
-    void countUp(const std::string& counter, int index, int lastQuestion);
-
     SettingsStore& settings;
 };
 

@@ -99,21 +99,25 @@ class LineReader {
     }
     /// The lines handed out so far.
     [[nodiscard]] int count() const { return handedOut; }
+    /// Whether the line handed out last was too long to be one.
+    [[nodiscard]] bool metTooLong() const { return tooLong; }
 
     std::optional<std::string_view> next() {
-        if (rest.empty())
+        if (rest.empty() || tooLong)
             return std::nullopt;
         ++handedOut;
         std::string_view line = rest.substr(0, rest.find('\n'));
         rest.remove_prefix(std::min(line.size() + 1, rest.size()));
         if (line.ends_with('\r'))
             line.remove_suffix(1);
-        return line;
+        tooLong = characterCount(line) > longestStudyLine;
+        return tooLong ? std::nullopt : std::optional(line);
     }
 
   private:
     std::string_view rest;
     int handedOut = 0;
+    bool tooLong = false;
 };
 
 std::string valueBehind(std::string_view tag, std::string_view line) {
@@ -173,7 +177,7 @@ StudyFile readStudyFile(std::string_view bytes, int type) {
         else if (auto record = readRecord(lines, *layout))
             file.records.push_back(std::move(*record));
         else
-            file.end = StudyEnd::insideRecord;
+            file.end = lines.metTooLong() ? StudyEnd::lineTooLong : StudyEnd::insideRecord;
     }
     if (file.end != StudyEnd::complete) {
         file.record = static_cast<int>(file.records.size()) + 1;

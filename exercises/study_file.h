@@ -14,6 +14,7 @@ enum class StudyEnd {
     unreadable,     ///< there was no text
     insideRecord,   ///< the text ends within a record, which does not count
     tooManyRecords, ///< a record stands behind the last that can be held
+    lineTooLong,    ///< a line has more than `longestStudyLine` characters
 };
 
 /// The questions of a study file, and how far it could be read.
@@ -26,6 +27,9 @@ struct StudyFile {
 
 /// As many questions as a study file may have.
 constexpr int maxStudyRecords = 301;
+
+/// As many characters may a line have, its tag included.
+constexpr std::size_t longestStudyLine = 4000;
 
 /// Reads the questions of exercise `type` (1 to 10; any other has none). A record is a fixed run of
 /// lines and one more that is thrown away; a line counts by its place, not by its tag, except for

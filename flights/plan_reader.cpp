@@ -3,9 +3,13 @@
 #include "core/number_text.h"
 #include "core/recording.h"
 #include "core/run_time_error.h"
+#include "flights/plan_bounds.h"
 #include "flights/plan_error.h"
 #include "flights/plan_table.h"
 #include "persistence/file_bytes.h"
+#include "persistence/text_encoding.h"
+#include "strings/cause_text.h"
+#include "strings/tables.h"
 
 #include <algorithm>
 #include <charconv>
@@ -15,18 +19,7 @@ namespace tarnel {
 
 namespace {
 
-constexpr std::size_t largestPlan = 1 << 20; ///< bytes
-
 using Whole = std::optional<std::int16_t>;
-
-/// The characters of a UTF-8 text.
-std::size_t lengthOf(std::string_view text) {
-    constexpr unsigned char mask = 0xC0;
-    constexpr unsigned char continuation = 0x80;
-    return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char c) {
-        return (static_cast<unsigned char>(c) & mask) != continuation;
-    }));
-}
 
 std::optional<std::int64_t> wholeNumber(std::string_view text) {
     std::int64_t value = 0;
@@ -93,7 +86,7 @@ InstrumentPlan readInstrument(PlanTable table, Whole& obs) {
 void readComment(PlanTable& table, FlightSettings& settings) {
     const auto fits = [](const std::string& text) {
         return !text.empty() && text.find_first_of("\r\n") == std::string::npos &&
-               lengthOf(text) <= plan_limits::commentLength;
+               characterCount(text) <= plan_limits::commentLength;
     };
     settings.comment =
         table.text("comment", fits,
@@ -169,6 +162,7 @@ FlightPlan readRoot(PlanTable root, const std::string& file) {
 } // namespace
 
 FlightPlan readPlan(std::string_view text, const std::string& file) {
+    checkPlanBounds(text, file);
     return readRoot(PlanTable::parse(text, file), file);
 }
 
@@ -177,7 +171,9 @@ FlightPlan readPlanFile(const std::string& file) {
     try {
         text = readFileBytes(file, largestPlan);
     } catch (const RunTimeError& error) {
-        throw PlanError(file, 0, std::string("a plan that can be read (") + error.what() + ")");
+        throw PlanError(file, 0,
+                        "a plan that can be read: " +
+                            std::string(causeText(englishTable(), error.cause())));
     }
     return readPlan(text, file);
 }

@@ -4,9 +4,11 @@
 
 namespace tarnel {
 
-/// All bytes of the file at `path` (UTF-8; "/" or "\" between the folders). Throws the run-time
-/// error 53 if there is no such file, 62 if it is larger than `limit` bytes, 75 if it can't be
-/// read.
+/// All bytes of the file at `path`: any bytes, "/" between the folders. Where there is no such
+/// file,
+/// "\\" separates folders, too. What is no file (a folder, a device, a pipe) is not opened, and
+/// nothing here waits. Throws a run-time error that tells the cause; `Cause::fileTooLarge` if there
+/// are more than `limit` bytes.
 [[nodiscard]] std::string readFileBytes(const std::string& path, std::size_t limit);
 
 } // namespace tarnel

@@ -5,7 +5,11 @@
 
 namespace tarnel {
 
-/// `path` in UTF-8 with "/" or "\" between the folders, as this system has it.
+/// The file that `path` names: with "\" between the folders, too, unless something has that very
+/// name, in which a "\" is a letter like any other.
 [[nodiscard]] std::filesystem::path portablePath(std::string path);
+
+/// `path`, which may be relative to the working folder, from the root on.
+[[nodiscard]] std::string absolutePath(const std::string& path);
 
 } // namespace tarnel

@@ -1,15 +1,16 @@
 #include "persistence/file_problem.h"
 
+#include "core/run_time_error.h"
+
 namespace tarnel {
 
-RunTimeError toRunTimeError(const FileProblem& problem) {
-    constexpr auto source = "Tarnel";
+int errorNumber(const FileProblem& problem) {
     if (problem.endOfFile)
-        return {RunTimeError::inputPastEnd, source, "Input past end of file"};
+        return RunTimeError::inputPastEnd;
     if (problem.expected == FileField::noFurtherComment ||
         problem.expected == FileField::noFurtherSample)
-        return {RunTimeError::subscriptOutOfRange, source, "Subscript out of range"};
-    return {RunTimeError::typeMismatch, source, "Type mismatch"};
+        return RunTimeError::subscriptOutOfRange;
+    return RunTimeError::typeMismatch;
 }
 
 } // namespace tarnel

@@ -1,14 +1,12 @@
 #pragma once
 
-#include "core/run_time_error.h"
-
 namespace tarnel {
 
 /// What a line of a chart or session file has to hold.
 enum class FileField {
-    key, ///< of an enciphered file, a whole number from 1 to 99
-    identifier,
-    frequency,
+    key,        ///< of an enciphered file, a whole number from 1 to 99
+    identifier, ///< of at most `longestStationText` characters
+    frequency,  ///< the same
     stationState,
     ndbState,
     mapCentre,
@@ -23,6 +21,7 @@ enum class FileField {
     windSpeed,        ///< up to 500 kt
     commentIndex,     ///< -1 to 100
     sampleEnd,        ///< the line behind the fields of a sample
+    comment,          ///< of at most `Comments::longestText` characters
     noFurtherComment, ///< there are 101 already
     noFurtherSample,  ///< there are 6,000 already
 };
@@ -35,8 +34,8 @@ struct FileProblem {
     bool operator==(const FileProblem&) const = default;
 };
 
-/// `problem` as the run-time error it raises: 9 for a comment or sample too many, 62 at the end of
-/// the file, 13 for a line that holds something else.
-[[nodiscard]] RunTimeError toRunTimeError(const FileProblem& problem);
+/// The number of `problem` as a run-time error: 9 for a comment or sample too many, 62 at the end
+/// of the file, 13 for a line that holds something else.
+[[nodiscard]] int errorNumber(const FileProblem& problem);
 
 } // namespace tarnel

@@ -12,6 +12,8 @@ namespace tarnel {
 
 namespace {
 
+constexpr std::size_t longestCharacter = 4; ///< bytes of UTF-8
+
 /// The whole of `text` as a number the short way. False if it is not that plain.
 template <class Number>
 bool readPlainNumber(std::string_view text, Number& value) {
@@ -77,6 +79,16 @@ std::string_view LineSource::afterTag(std::size_t tagLength, FileField expected)
     if (line.size() < tagLength)
         fail(expected);
     return line.substr(tagLength);
+}
+
+std::string LineSource::decoded(std::string_view text, int longest, FileField expected) const {
+    const auto most = static_cast<std::size_t>(longest);
+    if (text.size() > most * longestCharacter)
+        fail(expected);
+    std::string decoded = toUtf8(text, encoding);
+    if (characterCount(decoded) > most)
+        fail(expected);
+    return decoded;
 }
 
 double LineSource::number(std::string_view text, FileField expected) const {

@@ -46,10 +46,8 @@ class LineSource {
     /// The same without its first `tagLength` characters, whatever they are.
     std::string_view afterTag(std::size_t tagLength, FileField expected);
 
-    /// `text` of a line as UTF-8.
-    [[nodiscard]] std::string decoded(std::string_view text) const {
-        return toUtf8(text, encoding);
-    }
+    /// `text` of a line as UTF-8, of at most `longest` characters.
+    [[nodiscard]] std::string decoded(std::string_view text, int longest, FileField expected) const;
 
     /// `text` as a number; blanks and quotes around it, "+" and a missing 0 before the mark are
     /// taken as well.

@@ -1,6 +1,7 @@
 #include "persistence/older_session_file.h"
 
 #include "core/aircraft.h"
+#include "core/run_time_error.h"
 #include "core/sailing.h"
 #include "persistence/sample_fields.h"
 #include "persistence/session_lines.h"

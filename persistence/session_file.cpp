@@ -43,7 +43,9 @@ std::size_t commentsToWrite(const SessionFile& session) {
 void writeComments(LineWriter& lines, const SessionFile& session) {
     const std::size_t count = commentsToWrite(session);
     for (std::size_t i = 0; i < count; ++i)
-        lines.textLine(commentTag, i < session.comments.size() ? session.comments[i] : "");
+        lines.textLine(commentTag, i < session.comments.size()
+                                       ? firstCharacters(session.comments[i], Comments::longestText)
+                                       : "");
 }
 
 } // namespace
@@ -53,7 +55,8 @@ void readComments(LineSource& lines, SessionFile& session) {
         if (session.comments.size() == Comments::count)
             lines.failBeyond(FileField::noFurtherComment);
         const std::string_view line = lines.next(FileField::identifier);
-        session.comments.push_back(lines.decoded(line.substr(commentTag.size())));
+        session.comments.push_back(lines.decoded(line.substr(commentTag.size()),
+                                                 Comments::longestText, FileField::comment));
     }
 }
 

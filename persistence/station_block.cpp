@@ -3,6 +3,7 @@
 #include "core/rounding.h"
 #include "persistence/line_source.h"
 #include "persistence/line_writer.h"
+#include "persistence/text_encoding.h"
 
 #include <algorithm>
 #include <iterator>
@@ -53,7 +54,8 @@ enum NdbCode : std::int16_t { ndbOff, ndbOn, ndbOnButtonUp };
 void readIdentifier(LineSource& lines, ChartStation& station) {
     const std::string_view text = lines.afterTag(identifierTagLength, FileField::identifier);
     const auto mark = text.find('@');
-    station.identifier = lines.decoded(text.substr(0, mark));
+    station.identifier =
+        lines.decoded(text.substr(0, mark), longestStationText, FileField::identifier);
     const char code =
         mark == std::string_view::npos || mark + 1 >= text.size() ? 'u' : text[mark + 1];
     const auto* place = std::ranges::find(labelPlaces, code, &LabelPlace::code);
@@ -81,6 +83,7 @@ StationState readState(LineSource& lines, std::size_t slot) {
 std::string identifierText(const ChartStation& station) {
     std::string text = station.identifier.value_or("");
     std::erase(text, '@');
+    text = firstCharacters(text, longestStationText);
     for (const LabelPlace& place : labelPlaces)
         if (place.x == station.labelOffsetX && place.y == station.labelOffsetY)
             return text + '@' + place.code;
@@ -108,7 +111,8 @@ void readStations(LineSource& lines, StationBlock& block) {
         for (ChartStation& station : block.stations) {
             readIdentifier(lines, station);
             station.frequency =
-                lines.decoded(lines.afterTag(identifierTagLength, FileField::frequency));
+                lines.decoded(lines.afterTag(identifierTagLength, FileField::frequency),
+                              longestStationText, FileField::frequency);
         }
     for (std::size_t slot = 0; slot < slotCount; ++slot)
         block.stations[slot].state = readState(lines, slot);
@@ -135,7 +139,8 @@ void writeStations(LineWriter& lines, const StationBlock& block) {
     for (std::size_t slot = 0; slot < slotCount; ++slot) {
         const ChartStation& station = block.stations[slot];
         lines.textLine(tags[slot].identifier, identifierText(station));
-        lines.textLine(tags[slot].frequency, station.frequency.value_or(""));
+        lines.textLine(tags[slot].frequency,
+                       firstCharacters(station.frequency.value_or(""), longestStationText));
     }
     for (std::size_t slot = 0; slot < slotCount; ++slot) {
         const StationState state = block.stations[slot].state.value_or(StationState{});

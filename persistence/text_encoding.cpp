@@ -1,5 +1,6 @@
 #include "persistence/text_encoding.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <cstring>
@@ -156,6 +157,20 @@ std::size_t nextCharacter(std::string_view text, std::size_t at) {
         ++at;
     while (at < text.size() && continues());
     return at;
+}
+
+std::size_t characterCount(std::string_view text) {
+    return static_cast<std::size_t>(std::ranges::count_if(
+        text, [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));
+}
+
+std::string_view firstCharacters(std::string_view text, std::size_t most) {
+    if (text.size() <= most)
+        return text;
+    std::size_t end = 0;
+    for (std::size_t i = 0; i < most && end < text.size(); ++i)
+        end = nextCharacter(text, end);
+    return text.substr(0, end);
 }
 
 } // namespace tarnel

@@ -28,6 +28,12 @@ enum class TextEncoding { utf8, windows1252 };
 /// Where the character that starts at `at` of valid UTF-8 ends.
 [[nodiscard]] std::size_t nextCharacter(std::string_view text, std::size_t at);
 
+/// The characters of valid UTF-8.
+[[nodiscard]] std::size_t characterCount(std::string_view text);
+
+/// `text`, which is valid UTF-8, up to its first `most` characters.
+[[nodiscard]] std::string_view firstCharacters(std::string_view text, std::size_t most);
+
 /// `text`, which is valid UTF-8, as the bytes of a file.
 [[nodiscard]] std::string encodeForFile(std::string text);
 

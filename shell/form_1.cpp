@@ -83,7 +83,10 @@ void Form1::connectControls() {
 
 void Form1::Timer1() {
     if (!boxUp)
-        guarded([this] { tick(); });
+        guarded([this] {
+            tick();
+            tellSettingsTrouble();
+        });
 }
 
 void Form1::simulationTimer() {

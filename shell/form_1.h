@@ -329,6 +329,7 @@ class Form1 : private SimulationMessages {
     bool openDocument(const std::string& path, int page);
     bool openShipped(const std::string& german, const std::string& other);
     void reportRunTimeError(const RunTimeError& error);
+    void tellSettingsTrouble();
     [[nodiscard]] std::string problemText(const FileProblem& problem) const;
     [[nodiscard]] std::string afterFailedLoad() const;
     [[nodiscard]] bool questionTells(FileRequest request) const;

@@ -2,6 +2,7 @@
 #include "core/run_time_error.h"
 #include "shell/form_1.h"
 #include "shell/text_format.h"
+#include "strings/cause_text.h"
 
 #include <utility>
 
@@ -45,6 +46,8 @@ Text expectedName(FileField field) {
         return Text::expectedCommentIndex;
     case FileField::sampleEnd:
         return Text::expectedSampleEnd;
+    case FileField::comment:
+        return Text::expectedComment;
     case FileField::noFurtherComment:
         return Text::expectedNoFurtherComment;
     case FileField::noFurtherSample:
@@ -70,11 +73,11 @@ const char* procedureOf(FileRequest request) {
     return "c_LoadOldSession";
 }
 
-std::string fileError(const StringTable& texts, FileRequest request, const RunTimeError& error,
+std::string fileError(const StringTable& texts, FileRequest request, int number,
                       const std::string& source, const std::string& description) {
     return procedureOf(request) + std::string(texts[Text::errorNumber]) +
-           numberText(std::int64_t{error.number()}) + std::string(texts[Text::errorGenerated]) +
-           source + "\n" + description;
+           numberText(std::int64_t{number}) + std::string(texts[Text::errorGenerated]) + source +
+           "\n" + description;
 }
 
 } // namespace
@@ -110,8 +113,8 @@ bool Form1::confirm(const std::string& title, const std::string& question) {
 /// An error that comes again at every tick is told once; the next clean tick forgets it.
 void Form1::reportRunTimeError(const RunTimeError& error) {
     const std::string told =
-        filledIn(texts[Text::flightPaused],
-                 {numberText(std::int64_t{error.number()}), error.source(), error.what()});
+        filledIn(texts[Text::flightPaused], {numberText(std::int64_t{error.number()}),
+                                             error.source(), causeText(texts, error.cause())});
     try {
         StopReplay();
         StopFly();
@@ -144,10 +147,19 @@ bool Form1::questionTells(FileRequest request) const {
 void Form1::fileFailed(FileRequest request, const std::string& path, const RunTimeError& error) {
     if (questionTells(request))
         return;
-    std::string description = path + "\n" + error.what();
+    std::string description = path + "\n" + std::string(causeText(texts, error.cause()));
     if (request != FileRequest::saveChart && request != FileRequest::saveSession)
         description += afterFailedLoad();
-    showBox(text(Text::errorTitle), fileError(texts, request, error, error.source(), description));
+    showBox(text(Text::errorTitle),
+            fileError(texts, request, error.number(), error.source(), description));
+}
+
+void Form1::tellSettingsTrouble() {
+    const auto trouble = outside.settings().takeTrouble();
+    if (trouble)
+        showBox(text(Text::errorTitle),
+                filledIn(texts[Text::settingsNotKept],
+                         {trouble->file, causeText(texts, trouble->cause)}));
 }
 
 std::string Form1::problemText(const FileProblem& problem) const {
@@ -167,8 +179,8 @@ void Form1::fileWrong(FileRequest request, const std::string& path, const FilePr
     const std::string description =
         path + "\n" + problemText(problem) +
         (taken ? "\n" + text(Text::flightTakenUpTo) : afterFailedLoad());
-    showBox(text(Text::errorTitle), fileError(texts, request, toRunTimeError(problem),
-                                              text(Text::windowTitle), description));
+    showBox(text(Text::errorTitle),
+            fileError(texts, request, errorNumber(problem), text(Text::windowTitle), description));
 }
 
 void Form1::showAbout() {

@@ -13,8 +13,7 @@ namespace {
 constexpr int firstId = static_cast<int>(Text::languageWord);
 
 [[noreturn]] void raiseSubscriptError(const std::string& what) {
-    throw RunTimeError(RunTimeError::subscriptOutOfRange, "StringTable",
-                       "Subscript out of range: " + what);
+    throw RunTimeError(Cause::subscriptOutOfRange, "StringTable " + what);
 }
 
 } // namespace

@@ -541,6 +541,30 @@ enum class Text : int {
     fileEmpty = 738,
     nothingChanged = 739,
     flightTakenUpTo = 740,
+    expectedComment = 772,
+
+    // Causes of run-time errors.
+    causeInvalidCall = 741,
+    causeOverflow = 742,
+    causeSubscriptOutOfRange = 743,
+    causeDivisionByZero = 744,
+    causeFileNotFound = 745,
+    causeLinkLeadsNowhere = 746,
+    causeNameNotUtf8 = 747,
+    causeFileTooLarge = 748,
+    causeNotAFile = 749,
+    causeFileNotReadable = 750,
+    causeFileReadOnly = 751,
+    causeFolderReadOnly = 752,
+    causeDiskReadOnly = 753,
+    causeFolderNotFound = 754,
+    causeNameTooLong = 755,
+    causeFileInUse = 756,
+    causeDiskFull = 757,
+    causeDeviceError = 758,
+    causeAccessFailed = 759,
+    settingsNotKept = 770,
+    otherHangs = 771,
 
     // Spoken names and values.
     spokenAdf = 693,
@@ -603,6 +627,7 @@ enum class Text : int {
     studyQuestion = 766,
     studyLine = 767,
     questionWithoutFlight = 954,
+    studyLineTooLong = 773,
 
     // The cover plate on an instrument.
     instrumentCovered = 768,

@@ -1,5 +1,7 @@
 #include "window/application.h"
 
+#include "persistence/file_path.h"
+#include "persistence/save_file.h"
 #include "shell/application_folder.h"
 #include "window/flight_guard.h"
 #include "window/form_binding.h"
@@ -11,9 +13,9 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QFileInfo>
 #include <QIcon>
 #include <QLibraryInfo>
+#include <QMessageBox>
 #include <QScreen>
 #include <QStandardPaths>
 #include <QStyleFactory>
@@ -30,6 +32,7 @@ namespace {
 /// The share of a large screen that the window takes at first; on a small one it takes all.
 constexpr double shareOfScreen = 0.86;
 constexpr QSize smallScreen{1366, 860};
+constexpr int otherHangs = 1;
 constexpr int usageIsWrong = 2;
 
 void openOnScreen(MainWindow& window) {
@@ -57,6 +60,16 @@ void useScratchFolder(Form1& form) {
     const QString folder = userDataFolder();
     if (QDir().mkpath(folder))
         form.UserControl11.c_ScratchPath = folder.toStdString();
+}
+
+/// Ends a second start. The exit status.
+int leaveToOther(const StringTable& texts, SingleInstance::Start start) {
+    const bool hangs = start == SingleInstance::Start::otherHangs;
+    const QString told = textOf(texts, hangs ? Text::otherHangs : Text::alreadyRunning);
+    QTextStream(stderr) << told << '\n';
+    if (hangs)
+        QMessageBox::warning(nullptr, textOf(texts, Text::windowTitle), told);
+    return hangs ? otherHangs : 0;
 }
 
 void showAgain(MainWindow& window) {
@@ -89,6 +102,7 @@ void translateDialogs(const StringTable& texts) {
 }
 
 int runApplication(int argc, char** argv, const StringTable& texts) {
+    makeFileSizeLimitAnError();
     QApplication application(argc, argv);
     nameApplication();
     const QStringList words = QApplication::arguments();
@@ -96,26 +110,26 @@ int runApplication(int argc, char** argv, const StringTable& texts) {
         QTextStream(stderr) << textOf(texts, Text::usage).arg(words[0]) << '\n';
         return usageIsWrong;
     }
-    const QString file = words.size() == 2 ? QFileInfo(words[1]).absoluteFilePath() : QString();
-    SingleInstance instance;
-    if (instance.otherRuns(file)) {
-        QTextStream(stderr) << textOf(texts, Text::alreadyRunning) << '\n';
-        return 0;
-    }
+    // Qt would lose what is not UTF-8 in the name.
+    const std::string file = words.size() == 2 ? absolutePath(argv[1]) : std::string();
     const std::string folder = applicationFolder();
     dressApplication(texts, QString::fromStdString(folder));
     translateDialogs(texts);
+    SingleInstance instance;
+    const SingleInstance::Start start = instance.start(file);
+    if (start != SingleInstance::Start::first)
+        return leaveToOther(texts, start);
     installPanelAccessibility();
     QtOutsideWorld outside;
     Form1 form(texts, outside, folder);
     useScratchFolder(form);
     MainWindow window(form);
     outside.setParent(&window);
-    const auto openIn = [&window](const QString& path) {
-        if (!path.isEmpty())
+    const auto openIn = [&window](const std::string& path) {
+        if (!path.empty())
             window.openFile(path);
     };
-    instance.onOther = [&](const QString& path) {
+    instance.onOther = [&](const std::string& path) {
         showAgain(window);
         openIn(path);
     };

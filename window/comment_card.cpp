@@ -97,6 +97,7 @@ QWidget* CommentCard::makeWriter() {
     binding.bind(panel.number, *number);
     entry->addWidget(number);
     auto* text = new QLineEdit(section);
+    text->setMaxLength(Comments::longestText);
     text->setPlaceholderText(textOf(form.texts, Text::comment));
     binding.bind(panel.text, *text);
     entry->addWidget(text, 1);

@@ -15,11 +15,13 @@ namespace {
 
 constexpr int waitMilliseconds = 200;
 
-/// The first file of this computer among what is dragged; empty if there is none.
-QString droppedFile(const QDropEvent& event) {
+/// The first file of this computer among what is dragged; empty if there is none. Its bytes are
+/// taken as they are: a name need not be UTF-8.
+std::string droppedFile(const QDropEvent& event) {
     for (const QUrl& url : event.mimeData()->urls())
-        if (url.isLocalFile())
-            return url.toLocalFile();
+        if (url.isLocalFile() && url.host().isEmpty())
+            return QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1())
+                .toStdString();
     return {};
 }
 
@@ -30,20 +32,20 @@ FileOpener::FileOpener(Form1& owner, QWidget& window) : QObject(&window), form(o
     window.installEventFilter(this);
 }
 
-void FileOpener::open(const QString& path) {
+void FileOpener::open(const std::string& path) {
     if (QApplication::activeModalWidget()) {
         QTimer::singleShot(waitMilliseconds, this, [this, path] { open(path); });
         return;
     }
-    form.guarded([&] { form.openFile(path.toStdString()); });
+    form.guarded([&] { form.openFile(path); });
 }
 
 /// The file manager waits for the end of a drop, so what may show a box comes after it.
 bool FileOpener::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::DragEnter || event->type() == QEvent::Drop) {
         auto* drop = static_cast<QDropEvent*>(event);
-        const QString path = droppedFile(*drop);
-        if (path.isEmpty())
+        const std::string path = droppedFile(*drop);
+        if (path.empty())
             return false;
         drop->setDropAction(Qt::CopyAction);
         drop->accept();

@@ -1,7 +1,8 @@
 #pragma once
 
 #include <QObject>
-#include <QString>
+
+#include <string>
 
 class QWidget;
 
@@ -19,8 +20,8 @@ class FileOpener : public QObject {
     /// Takes drops on `window`.
     FileOpener(Form1& form, QWidget& window);
 
-    /// `path` is absolute.
-    void open(const QString& path);
+    /// `path` is absolute, in the bytes that the system has for it.
+    void open(const std::string& path);
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

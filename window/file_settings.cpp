@@ -1,61 +1,66 @@
 #include "window/file_settings.h"
 
-#include <QSettings>
-#include <QStandardPaths>
-#include <QStringList>
-#include <QVariant>
+#include "persistence/file_bytes.h"
+#include "persistence/lock_file.h"
+#include "persistence/save_file.h"
 
+#include <QStandardPaths>
+
+#include <chrono>
+#include <filesystem>
+#include <thread>
 #include <utility>
 
 namespace tarnel {
 
 namespace {
 
-/// The signs that the file's keys can't have, and the one that escapes them.
-constexpr std::pair<QChar, const char*> escapes[] = {
-    {QLatin1Char('%'), "%25"}, {QLatin1Char('/'), "%2F"}, {QLatin1Char('\\'), "%5C"}};
+using namespace std::chrono_literals;
 
-QString fromUtf8(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+/// An empty table if there is no file.
+SettingsTable readFile(const std::string& path) {
+    try {
+        return readSettings(readFileBytes(path, largestSettings));
+    } catch (const RunTimeError& error) {
+        if (error.cause() != Cause::fileNotFound)
+            throw;
+        return {};
+    }
 }
 
-QString escaped(std::string_view part) {
-    QString result = fromUtf8(part);
-    for (const auto& [sign, escape] : escapes)
-        result.replace(sign, QLatin1String(escape));
-    return result;
-}
-
-std::string unescaped(QString part) {
-    for (const auto& [sign, escape] : escapes)
-        if (sign != QLatin1Char('%'))
-            part.replace(QLatin1String(escape), QString(sign));
-    return part.replace(QLatin1String("%25"), QLatin1String("%")).toStdString();
-}
-
-/// A value with commas that nobody quoted comes as a list.
-std::string textOfValue(const QVariant& value) {
-    return value.toStringList().join(QLatin1Char(',')).toStdString();
+/// Waits for another program's change to end, but not for one that hangs.
+LockFile lockFor(const std::string& path, std::chrono::milliseconds patience) {
+    constexpr auto pause = 5ms;
+    const auto end = std::chrono::steady_clock::now() + patience;
+    do {
+        if (auto lock = LockFile::take(path + ".lock"))
+            return std::move(*lock);
+        std::this_thread::sleep_for(pause);
+    } while (std::chrono::steady_clock::now() < end);
+    throw RunTimeError(Cause::fileInUse);
 }
 
 } // namespace
 
-FileSettings::FileSettings(QString file) : path(std::move(file)) {
-    read();
+FileSettings::FileSettings(std::string file) : path(std::move(file)) {
+    try {
+        applications = readFile(path);
+    } catch (const RunTimeError& error) {
+        note(error);
+    }
 }
 
 FileSettings::~FileSettings() {
     FileSettings::flush();
 }
 
-void FileSettings::read() {
-    const QSettings file(path, QSettings::IniFormat);
-    for (const QString& key : file.allKeys()) {
-        const QStringList parts = key.split(QLatin1Char('/'));
-        if (parts.size() == 3)
-            MemorySettingsStore::setValue(unescaped(parts[0]), unescaped(parts[1]),
-                                          unescaped(parts[2]), textOfValue(file.value(key)));
-    }
+void FileSettings::note(const RunTimeError& error) {
+    if (!std::exchange(troubleTold, true))
+        trouble = {path, error.cause()};
+}
+
+std::optional<SettingsTrouble> FileSettings::takeTrouble() {
+    return std::exchange(trouble, {});
 }
 
 void FileSettings::setValue(std::string_view application, std::string_view section,
@@ -63,33 +68,64 @@ void FileSettings::setValue(std::string_view application, std::string_view secti
     if (value(application, section, key, {}) == text && !text.empty())
         return;
     MemorySettingsStore::setValue(application, section, key, text);
-    changed = true;
+    if (!editing)
+        pending.push_back([application = std::string(application), section = std::string(section),
+                           key = std::string(key), text = std::string(text)](SettingsStore& store) {
+            store.setValue(application, section, key, text);
+        });
 }
 
 void FileSettings::deleteSection(std::string_view application, std::string_view section) {
     MemorySettingsStore::deleteSection(application, section);
-    changed = true;
+    if (!editing)
+        pending.push_back([application = std::string(application),
+                           section = std::string(section)](SettingsStore& store) {
+            // Another program may have deleted it meanwhile.
+            store.setValue(application, section, {}, {});
+            store.deleteSection(application, section);
+        });
+}
+
+/// The change holds at once, whether or not it can be kept.
+void FileSettings::change(const Edit& edit) {
+    editing = true;
+    edit(*this);
+    editing = false;
+    pending.push_back(edit);
+    flush();
 }
 
 void FileSettings::flush() {
-    if (!changed)
+    if (pending.empty())
         return;
-    QSettings file(path, QSettings::IniFormat);
-    for (const auto& [application, sections] : applications) {
-        file.remove(escaped(application));
-        for (const auto& [section, keys] : sections)
-            for (const auto& [key, text] : keys)
-                file.setValue(escaped(application) + QLatin1Char('/') + escaped(section) +
-                                  QLatin1Char('/') + escaped(key),
-                              fromUtf8(text));
+    try {
+        std::error_code failure; // told by the lock
+        std::filesystem::create_directories(std::filesystem::path(path).parent_path(), failure);
+        makeChanges();
+        pending.clear();
+    } catch (const RunTimeError& error) {
+        note(error);
     }
-    file.sync();
-    changed = file.status() != QSettings::NoError;
 }
 
-QString userSettingsFile() {
-    return QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) +
-           QStringLiteral("/settings.ini");
+void FileSettings::makeChanges() {
+    constexpr auto patience = 500ms;
+    // Once it was in vain, nobody waits again.
+    const LockFile lock = lockFor(path, troubleTold ? 0ms : patience);
+    const SettingsTable kept = readFile(path);
+    applications = kept;
+    editing = true;
+    for (const Edit& edit : pending)
+        edit(*this);
+    editing = false;
+    if (applications != kept)
+        saveFileBytes(path, writeSettings(applications));
+}
+
+std::string userSettingsFile() {
+    return (QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) +
+            QStringLiteral("/settings.ini"))
+        .toStdString();
 }
 
 } // namespace tarnel

@@ -90,7 +90,7 @@ void MainWindow::makeDesk() {
     gyro = new additional_DG(form, pictures, this);
 }
 
-void MainWindow::openFile(const QString& path) {
+void MainWindow::openFile(const std::string& path) {
     opener->open(path);
 }
 

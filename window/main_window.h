@@ -36,7 +36,7 @@ class MainWindow : public QMainWindow {
     void startTimers();
 
     /// Opens a chart or a session that comes from outside the menus, by its absolute path.
-    void openFile(const QString& path);
+    void openFile(const std::string& path);
 
     /// Brings everything that is shown up to date with the form.
     void refresh();

@@ -12,7 +12,7 @@ namespace tarnel {
 /// `QtOutsideWorld`: boxes and dialogs over the main window, the clock, and the settings of a file.
 class QtOutsideWorld : public OutsideWorld {
   public:
-    explicit QtOutsideWorld(QString settingsFile = userSettingsFile())
+    explicit QtOutsideWorld(std::string settingsFile = userSettingsFile())
         : kept(std::move(settingsFile)) {}
 
     void messageBox(BoxKind kind, const std::string& title, const std::string& text) override;

@@ -1,35 +1,61 @@
 #pragma once
 
-#include <QLocalServer>
-#include <QString>
+#include "persistence/lock_file.h"
 
+#include <QLocalServer>
+#include <QTimer>
+
+#include <chrono>
 #include <functional>
-#include <utility>
+#include <optional>
+#include <string>
 
 class QLocalSocket;
 
 namespace tarnel {
 
-/// `SingleInstance`: lets one program of a user run at a time. A second one ends, and the first one
-/// is asked to come to the front and to open what the second one was to open.
+/// `SingleInstance`: lets one program of a user run at a time on a display. A second one ends, and
+/// the first one is asked to come to the front and to open what the second one was to open.
+///
+/// The first one holds a lock and listens on a socket, both in a folder that is the user's alone.
+/// Neither listens to a program of another user.
 class SingleInstance {
   public:
-    /// Of the programs with the same `name` one runs.
-    explicit SingleInstance(QString name = userInstance()) : serverName(std::move(name)) {}
+    enum class Start {
+        first,      ///< this is the one that runs
+        handedOver, ///< another one runs and has taken the message
+        otherHangs, ///< another one runs and does not answer
+    };
 
-    /// True if another instance runs; it has then been asked to show itself and, unless it is
-    /// empty, to open the file at `path`.
-    [[nodiscard]] bool otherRuns(const QString& path = {});
-    /// Called when another instance was started, with the path of the file it was to open.
-    std::function<void(const QString&)> onOther;
+    /// `folder` holds lock and socket; without one the program runs, alone or not.
+    explicit SingleInstance(const std::string& folder = usersFolder());
+    ~SingleInstance();
+    SingleInstance(const SingleInstance&) = delete;
+    SingleInstance& operator=(const SingleInstance&) = delete;
+
+    /// Starts as the first one, or hands the path of a file over to it, which may be empty. Waits
+    /// for an answer that long.
+    [[nodiscard]] Start start(const std::string& path = {},
+                              std::chrono::milliseconds patience = std::chrono::seconds(10));
+
+    /// Called when another program was started, with the path of the file that it was to open.
+    std::function<void(const std::string&)> onOther;
+
+    /// The user's runtime folder; where there is none, one in his cache. Empty if neither is to be
+    /// had, or other users may look into it.
+    [[nodiscard]] static std::string usersFolder();
 
   private:
-    static QString userInstance();
+    [[nodiscard]] std::string lockPath() const { return base + ".lock"; }
+    [[nodiscard]] std::string socketPath() const { return base + ".socket"; }
     void listen();
+    void accept(QLocalSocket& socket);
     void receive(QLocalSocket& socket);
 
-    QString serverName;
+    std::string base; ///< of the names of lock and socket
+    std::optional<LockFile> lock;
     QLocalServer server;
+    int openConnections = 0;
 };
 
 } // namespace tarnel

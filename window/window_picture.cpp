@@ -4,11 +4,12 @@
 #include "window/main_window.h"
 
 #include <QApplication>
-#include <QPixmap>
+#include <QBuffer>
+#include <QFileInfo>
 
 namespace tarnel {
 
-bool writeWindowPicture(Form1& form, const QString& file, QSize size) {
+QPixmap windowPicture(Form1& form, QSize size) {
     dressApplication(form.texts, QString::fromStdString(form.UserControl11.c_MainAppPath.get()));
     MainWindow window(form);
     window.resize(size);
@@ -16,7 +17,15 @@ bool writeWindowPicture(Form1& form, const QString& file, QSize size) {
     QApplication::processEvents();
     window.refresh();
     QApplication::processEvents();
-    return window.grab().save(file);
+    return window.grab();
+}
+
+QByteArray pictureBytes(const QPixmap& picture, const QString& fileName) {
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    const QByteArray format = QFileInfo(fileName).suffix().toLatin1();
+    const bool written = !format.isEmpty() && picture.save(&buffer, format.constData());
+    return written ? buffer.data() : QByteArray();
 }
 
 } // namespace tarnel

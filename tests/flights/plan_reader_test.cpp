@@ -155,6 +155,37 @@ TEST(PlanReader, NamesTheLineAndWhatWasExpected) {
                  "wrong.toml:2: expected 'chart' as a path");
 }
 
+TEST(PlanReader, WhatTheParserCouldNotBearIsRefusedBefore) {
+    const auto many = [](const std::string& part, int count) {
+        std::string text;
+        for (int i = 0; i < count; ++i)
+            text += part;
+        return text;
+    };
+    struct Case {
+        std::string text;
+        int line;
+        const char* expected;
+    };
+    const Case cases[] = {
+        {"seconds = 1\n" + many("a.", 150000) + "a = 1", 2, "at most 8 parts"},
+        {"x = 1.5 # a.b.c.d.e.f.g.h.i\n[" + many("\"a\" . ", 8) + "a]", 2, "at most 8 parts"},
+        {"comment = \"\"\"a\n\"\"\"\"\"\n" + many("a.", 8) + "a = 1", 3, "at most 8 parts"},
+        {"a = " + many("[", 17), 1, "16 brackets"},
+        {"a = '\\'\n" + many("a={", 17), 2, "16 brackets"},
+        {"\n\xCF\xBA = 1", 2, "outside of quotes"},
+        {"a = \"\\\"\xCF\xBA\"\nb\xCF\xBA = 1", 2, "outside of quotes"},
+        {many("\n", (1 << 20) + 1), 0, "at most 1048576 bytes"},
+    };
+    for (const Case& c : cases) {
+        const PlanError error = errorOf(c.text);
+        EXPECT_EQ(error.line(), c.line) << c.expected;
+        EXPECT_THAT(error.expected(), HasSubstr(c.expected));
+    }
+    EXPECT_THAT(errorOf("seconds = 1\n" + many("a.", 7) + "a = 1").expected(),
+                HasSubstr("not 'a'"));
+}
+
 TEST(PlanReader, SaysThatAFileCannotBeRead) {
     try {
         (void)readPlanFile("no/such.toml");

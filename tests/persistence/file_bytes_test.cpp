@@ -5,6 +5,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <sys/stat.h>
 
 namespace tarnel {
 namespace {
@@ -17,13 +18,13 @@ class FileBytesTest : public testing::Test {
     }
     void TearDown() override { std::filesystem::remove_all(folder); }
 
-    int errorOf(const std::string& path, std::size_t limit) const {
+    Cause causeOf(const std::string& path, std::size_t limit = 100) const {
         try {
             (void)readFileBytes(folder + path, limit);
         } catch (const RunTimeError& error) {
-            return error.number();
+            return error.cause();
         }
-        return 0;
+        return Cause::invalidCall;
     }
 
     const std::string folder = testing::TempDir() + "tarnel_file_bytes_" +
@@ -34,12 +35,19 @@ class FileBytesTest : public testing::Test {
 TEST_F(FileBytesTest, ComeAsTheyStandByEitherSeparator) {
     EXPECT_EQ(readFileBytes(folder + "\\charts\\Größe.map", 100), bytes);
     EXPECT_EQ(readFileBytes(folder + "/charts/Größe.map", 5), bytes);
+    std::ofstream(folder + "/charts\\Größe.map") << "of that very name";
+    EXPECT_EQ(readFileBytes(folder + "/charts\\Größe.map", 100), "of that very name");
 }
 
 TEST_F(FileBytesTest, FailuresTellTheirKind) {
-    EXPECT_EQ(errorOf("/charts/none.map", 100), 53);
-    EXPECT_EQ(errorOf("/charts", 100), 75);
-    EXPECT_EQ(errorOf("/charts/Größe.map", 4), 62);
+    EXPECT_EQ(causeOf("/charts/none.map"), Cause::fileNotFound);
+    EXPECT_EQ(causeOf("/charts/\xEF\xBF\xBD.map"), Cause::nameNotUtf8);
+    EXPECT_EQ(causeOf("/charts"), Cause::notAFile);
+    EXPECT_EQ(causeOf("/charts/Größe.map", 4), Cause::fileTooLarge);
+    std::filesystem::create_symlink("gone.map", folder + "/link.map");
+    EXPECT_EQ(causeOf("/link.map"), Cause::linkLeadsNowhere);
+    ASSERT_EQ(mkfifo((folder + "/pipe.map").c_str(), 0600), 0);
+    EXPECT_EQ(causeOf("/pipe.map"), Cause::notAFile); // without waiting for a writer
 }
 
 } // namespace

@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <csignal>
 #include <filesystem>
+#include <fstream>
 #include <functional>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -20,6 +21,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::size_t most = 1 << 20;
+constexpr uid_t someUser = 65534;
 
 /// A disk that does something at the n-th call, and writes no more than 1000 bytes at a time.
 class TroubledDisk : public DiskCalls {
@@ -111,7 +113,7 @@ class SaveFileTest : public testing::Test {
 };
 
 TEST_F(SaveFileTest, MakesAndReplacesFiles) {
-    saveFileBytes(folder + "\\Flug über Köln.ts", before);
+    saveFileBytes(path, before);
     EXPECT_EQ(content(), before);
     fs::permissions(path, fs::perms(0640));
     TroubledDisk disk(0, [] { return 0; });
@@ -122,6 +124,11 @@ TEST_F(SaveFileTest, MakesAndReplacesFiles) {
     saveFileBytes(path, "");
     EXPECT_EQ(content(), "");
     EXPECT_EQ(filesInFolder(), 1U);
+    for (const char* name : {"back\\slash.ts", "not UTF-8 \xFC.ts"}) {
+        saveFileBytes(folder + "/" + name, before);
+        EXPECT_EQ(readFileBytes(folder + "/" + name, most), before);
+    }
+    EXPECT_EQ(filesInFolder(), 3U);
 }
 
 TEST_F(SaveFileTest, WritesIntoNoFileThatIsInTheWay) {
@@ -134,11 +141,35 @@ TEST_F(SaveFileTest, WritesIntoNoFileThatIsInTheWay) {
 TEST_F(SaveFileTest, ALinkStaysAndItsTargetChanges) {
     fs::create_directory(folder + "/real");
     const std::string real = folder + "/real/flight.ts";
-    saveFileBytes(real, before);
-    fs::create_symlink(real, path);
-    saveFileBytes(path, after);
-    EXPECT_TRUE(fs::is_symlink(path));
-    EXPECT_EQ(readFileBytes(real, most), after);
+    fs::create_symlink("real/flight.ts", path); // which is not there yet
+    for (const std::string& bytes : {before, after}) {
+        saveFileBytes(path, bytes);
+        EXPECT_TRUE(fs::is_symlink(path));
+        EXPECT_EQ(readFileBytes(real, most), bytes);
+    }
+}
+
+TEST_F(SaveFileTest, AGroupsFileStaysTheGroups) {
+    if (geteuid() != 0)
+        GTEST_SKIP() << "only root may give files to others";
+    constexpr gid_t group = 12345;
+    const auto saveAs = [&](uid_t user) {
+        saveFileBytes(path, before);
+        EXPECT_EQ(chown(path.c_str(), 0, group), 0);
+        fs::permissions(path, fs::perms(0676));
+        fs::permissions(folder, fs::perms(0777));
+        DiskCalls disk;
+        EXPECT_EQ(saveInChild(disk, [user] { EXPECT_EQ(setuid(user), 0); }), 0);
+        struct stat found {};
+        EXPECT_EQ(stat(path.c_str(), &found), 0);
+        return found;
+    };
+    const struct stat kept = saveAs(0);
+    EXPECT_EQ(kept.st_gid, group);
+    EXPECT_EQ(kept.st_mode & 0777, 0676U);
+    const struct stat lost = saveAs(someUser);
+    EXPECT_NE(lost.st_gid, group);
+    EXPECT_EQ(lost.st_mode & 0777, 0666U) << "no more than everybody has";
 }
 
 TEST_F(SaveFileTest, AFailureAtAnyCallLeavesTheFileAsItWas) {
@@ -168,8 +199,15 @@ TEST_F(SaveFileTest, KilledAtAnyCallTheFileIsWhole) {
         ASSERT_TRUE(WIFSIGNALED(status)) << call;
         EXPECT_EQ(content(), before) << call;
     }
+    const std::size_t left = filesInFolder();
+    EXPECT_GT(left, 1U);
     saveFileBytes(path, after); // what was left behind is not in the way
-    EXPECT_EQ(content(), after);
+    EXPECT_EQ(filesInFolder(), left) << "it may be another computer's";
+    std::ofstream(folder + "/.tarnel-notes.tmp") << "the user's own";
+    for (const auto& file : fs::directory_iterator(folder))
+        fs::last_write_time(file, fs::file_time_type::clock::now() - std::chrono::minutes(2));
+    saveFileBytes(path, after);
+    EXPECT_EQ(filesInFolder(), 2U);
 }
 
 TEST_F(SaveFileTest, AFullDiskIsToldAndLeavesTheFile) {
@@ -178,7 +216,7 @@ TEST_F(SaveFileTest, AFullDiskIsToldAndLeavesTheFile) {
     const int status = saveInChild(disk, [] {
         const rlimit smallFiles{2000, 2000};
         setrlimit(RLIMIT_FSIZE, &smallFiles);
-        std::signal(SIGXFSZ, SIG_IGN);
+        makeFileSizeLimitAnError();
     });
     ASSERT_TRUE(WIFEXITED(status));
     EXPECT_EQ(WEXITSTATUS(status), 61);
@@ -199,12 +237,27 @@ TEST_F(SaveFileTest, RefusesAFileThatMayNotBeWritten) {
     fs::permissions(folder, fs::perms(0777)); // its folder would let it be replaced
     DiskCalls disk;
     const int status = saveInChild(disk, [] {
-        constexpr uid_t nobody = 65534; // root may write everything
-        if (geteuid() == 0 && setuid(nobody) != 0)
+        if (geteuid() == 0 && setuid(someUser) != 0) // root may write everything
             _exit(1);
     });
     EXPECT_EQ(WEXITSTATUS(status), 75);
     EXPECT_EQ(content(), before);
+}
+
+TEST_F(SaveFileTest, TellsWhyNot) {
+    const auto causeOf = [](int error) {
+        try {
+            TroubledDisk disk(1, [error] { return error; });
+            saveFileBytes("/tmp/never-made", "", disk);
+        } catch (const RunTimeError& raised) {
+            return raised.cause();
+        }
+        return Cause::invalidCall;
+    };
+    EXPECT_EQ(causeOf(EACCES), Cause::folderReadOnly);
+    EXPECT_EQ(causeOf(EROFS), Cause::diskReadOnly);
+    EXPECT_EQ(causeOf(EFBIG), Cause::diskFull);
+    EXPECT_EQ(causeOf(ENAMETOOLONG), Cause::nameTooLong);
 }
 
 } // namespace

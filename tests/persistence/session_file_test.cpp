@@ -134,7 +134,7 @@ TEST(SessionFile, TruncatedAnywhereItKeepsItsWholeSamples) {
                 continue;
             EXPECT_TRUE(session.problem->endOfFile);
             EXPECT_EQ(session.problem->line, static_cast<int>(kept) + (enciphered ? 5 : 1));
-            EXPECT_EQ(toRunTimeError(*session.problem).number(), 62);
+            EXPECT_EQ(errorNumber(*session.problem), 62);
         }
     }
     // At every byte, too, it ends in whole samples.
@@ -166,9 +166,43 @@ TEST(SessionFile, NamesTheLineThatIsWrong) {
         const FileProblem expected{static_cast<int>(c.line), c.expected, false};
         EXPECT_EQ(session.problem, expected) << c.line << ' ' << c.text;
         EXPECT_TRUE(session.samples.empty());
-        EXPECT_EQ(toRunTimeError(expected).number(), 13);
+        EXPECT_EQ(errorNumber(expected), 13);
     }
     EXPECT_FALSE(readSession(sessionWith(60, "anything")).problem);
+}
+
+TEST(SessionFile, TextsHaveABoundAndWhatIsWrittenKeepsIt) {
+    struct Case {
+        std::size_t line;
+        std::string tag;
+        std::string end;
+        int longest;
+        FileField expected;
+    };
+    const Case cases[] = {{2, ":c:", "", 4000, FileField::comment},
+                          {3, ":v1id:,", "@u", 40, FileField::identifier},
+                          {6, ":v2fr:,", "", 40, FileField::frequency}};
+    const auto letters = [](int count) {
+        std::string text;
+        for (int i = 0; i < count; ++i)
+            text += "ü";
+        return text;
+    };
+    for (const Case& c : cases) {
+        const auto with = [&](int count) {
+            return readSession(sessionWith(c.line, c.tag + letters(count) + c.end));
+        };
+        EXPECT_FALSE(with(c.longest).problem) << c.line;
+        EXPECT_EQ(with(c.longest + 1).problem,
+                  (FileProblem{static_cast<int>(c.line), c.expected, false}));
+    }
+    SessionFile session = readSession(sessionText(1));
+    session.comments[0] = letters(4001);
+    session.stations[4].identifier = session.stations[4].frequency = letters(41);
+    const SessionFile read = readSession(writeSession(session, {}));
+    EXPECT_FALSE(read.problem);
+    EXPECT_EQ(read.comments[0], letters(4000));
+    EXPECT_EQ(read.stations[4].identifier, letters(40));
 }
 
 TEST(SessionFile, OnlyKeysFrom1To99AreTaken) {
@@ -194,7 +228,7 @@ TEST(SessionFile, SixThousandSamplesAreTheMost) {
     EXPECT_EQ(read.samples.size(), 6000U);
     const FileProblem expected{headSize + 6000 * sampleSize + 1, FileField::noFurtherSample, false};
     ASSERT_EQ(read.problem, expected);
-    EXPECT_EQ(toRunTimeError(expected).number(), 9);
+    EXPECT_EQ(errorNumber(expected), 9);
 }
 
 TEST(SessionFile, AHundredAndOneCommentsAreTheMost) {

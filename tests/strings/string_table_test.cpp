@@ -63,7 +63,7 @@ int errorNumberOf(const StringTable& table, int id) {
     try {
         (void)table.at(id);
     } catch (const RunTimeError& error) {
-        EXPECT_NE(std::string(error.what()).find(std::to_string(id)), std::string::npos);
+        EXPECT_NE(error.source().find(std::to_string(id)), std::string::npos);
         return error.number();
     }
     return 0;

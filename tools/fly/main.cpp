@@ -1,17 +1,18 @@
-#include "core/run_time_error.h"
 #include "flights/flight.h"
 #include "flights/flight_csv.h"
 #include "flights/flight_summary.h"
 #include "flights/plan_error.h"
 #include "flights/plan_reader.h"
+#include "persistence/save_file.h"
 #include "shell/application_folder.h"
 #include "strings/tables.h"
 #include "tools/fly/options.h"
-#include "tools/fly/output_file.h"
 #include "tools/fly/picture_output.h"
+#include "tools/output_file.h"
 
 #include <iostream>
 #include <optional>
+#include <vector>
 
 namespace {
 
@@ -31,7 +32,8 @@ constexpr auto usage =
     "  --language de|en  the language of the picture; English without it\n"
     "  --help            this text\n"
     "\n"
-    "FILE may be - for standard output. Without an output a summary is printed.\n";
+    "FILE may be - for standard output, and none of the files that are read. Without an output a "
+    "summary is printed.\n";
 
 void flyTo(ScriptedFlight& flight, const FlyOptions& options) {
     std::optional<OutputFile> table;
@@ -48,22 +50,31 @@ void flyTo(ScriptedFlight& flight, const FlyOptions& options) {
 }
 
 void writeSession(UserControl2& simulation, const std::string& file) {
-    if (file == standardOutput) {
-        OutputFile output(file);
-        output.write(simulation.sessionBytes());
-        output.close();
-        return;
-    }
-    try {
-        simulation.saveSessionTo(file);
-    } catch (const RunTimeError&) {
-        throw OutputError(file);
+    OutputFile output(file);
+    output.write(simulation.sessionBytes());
+    output.close();
+}
+
+/// Refuses an output that is one of the inputs or another output, before anything is flown.
+void checkOutputs(const FlyOptions& options, const FlightPlan& plan) {
+    std::vector<std::string> taken = {options.plan, applicationFolder() + "/default.map"};
+    if (plan.chart)
+        taken.push_back(*plan.chart);
+    for (const auto& output : {options.csv, options.session, options.picture}) {
+        if (!output || isStream(*output))
+            continue;
+        for (const std::string& file : taken)
+            if (isSameFile(*output, file))
+                throw OutputError(*output, "it is read or written in the same call");
+        taken.push_back(*output);
     }
 }
 
 void run(const FlyOptions& options) {
     const StringTable& texts = options.german ? germanTable() : englishTable();
-    ScriptedFlight flight(readPlanFile(options.plan), texts, applicationFolder());
+    const FlightPlan plan = readPlanFile(options.plan);
+    checkOutputs(options, plan);
+    ScriptedFlight flight(plan, texts, applicationFolder());
     flyTo(flight, options);
     if (options.session)
         writeSession(flight.form().UserControl11, *options.session);
@@ -78,6 +89,7 @@ void run(const FlyOptions& options) {
 } // namespace
 
 int main(int argc, char** argv) {
+    makeFileSizeLimitAnError();
     try {
         const FlyOptions options = readOptions({argv + 1, argv + argc});
         if (options.help)

@@ -1,11 +1,9 @@
 #include "tools/fly/picture_output.h"
 
-#include "tools/fly/output_file.h"
+#include "tools/output_file.h"
 #include "window/window_picture.h"
 
 #include <QApplication>
-#include <QFile>
-#include <QTemporaryDir>
 
 namespace tarnel {
 
@@ -19,21 +17,6 @@ void choosePlatform() {
         qputenv(variable, "offscreen");
 }
 
-void save(Form1& form, const QString& file) {
-    if (!writeWindowPicture(form, file))
-        throw OutputError(file.toStdString());
-}
-
-void saveToStandardOutput(Form1& form) {
-    const QTemporaryDir scratch;
-    QFile picture(scratch.filePath(QStringLiteral("window.png")));
-    save(form, picture.fileName());
-    OutputFile output(standardOutput);
-    picture.open(QIODevice::ReadOnly);
-    output.write(picture.readAll().toStdString());
-    output.close();
-}
-
 } // namespace
 
 void writePicture(Form1& form, const std::string& file) {
@@ -42,10 +25,14 @@ void writePicture(Form1& form, const std::string& file) {
     char* words[] = {program, nullptr};
     int count = 1;
     const QApplication application(count, words);
-    if (file == standardOutput)
-        saveToStandardOutput(form);
-    else
-        save(form, QString::fromStdString(file));
+    const QString name =
+        file == standardOutput ? QStringLiteral("window.png") : QString::fromStdString(file);
+    const QByteArray picture = pictureBytes(windowPicture(form), name);
+    if (picture.isEmpty())
+        throw OutputError(file, "its name ends in no kind of picture");
+    OutputFile output(file);
+    output.write(picture.toStdString());
+    output.close();
 }
 
 } // namespace tarnel

@@ -1,6 +1,8 @@
 #include "tools/instrument/instrument_bench.h"
 
 #include "core/run_time_error.h"
+#include "strings/cause_text.h"
+#include "strings/tables.h"
 #include "tools/instrument/input_range.h"
 #include "tools/instrument/property_editor.h"
 #include "window/instrument_view.h"
@@ -85,7 +87,8 @@ void InstrumentBench::change(const std::function<void()>& action) {
         action();
         instrument.UpdateInstrument();
     } catch (const RunTimeError& failure) {
-        error->setText(QString::fromUtf8(failure.what()));
+        error->setText(
+            QString::fromStdString(std::string(causeText(englishTable(), failure.cause()))));
     }
 }
 

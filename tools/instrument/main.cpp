@@ -1,8 +1,11 @@
 #include "flights/flight_plan.h"
+#include "persistence/save_file.h"
 #include "shell/application_folder.h"
 #include "strings/tables.h"
 #include "tools/instrument/instrument_bench.h"
+#include "tools/output_file.h"
 #include "window/application.h"
+#include "window/window_picture.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -17,7 +20,18 @@ constexpr int badUsage = 2;
 int writePicture(InstrumentBench& bench, const QString& file) {
     QApplication::processEvents();
     bench.refresh();
-    return bench.grab().save(file) ? 0 : 1;
+    const QByteArray picture = pictureBytes(bench.grab(), file);
+    try {
+        if (picture.isEmpty())
+            throw OutputError(file.toStdString(), "its name ends in no kind of picture");
+        OutputFile output(file.toStdString());
+        output.write(picture.toStdString());
+        output.close();
+        return 0;
+    } catch (const OutputError& error) {
+        qCritical("tarnel-instrument: %s", error.what());
+        return 1;
+    }
 }
 
 int runBench(const QCommandLineParser& words, const QCommandLineOption& large,
@@ -41,6 +55,7 @@ int runBench(const QCommandLineParser& words, const QCommandLineOption& large,
 } // namespace
 
 int main(int argc, char** argv) {
+    makeFileSizeLimitAnError();
     const QApplication application(argc, argv);
     QCommandLineParser words;
     words.setApplicationDescription(

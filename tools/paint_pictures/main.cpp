@@ -1,11 +1,14 @@
 // paint_pictures OUTDIR: paints every picture of the program into a folder.
 
+#include "core/run_time_error.h"
+#include "persistence/save_file.h"
 #include "tools/paint_pictures/digit_painter.h"
 #include "tools/paint_pictures/icon_painter.h"
 #include "tools/paint_pictures/instrument_faces.h"
 #include "tools/paint_pictures/knob_painter.h"
 #include "tools/paint_pictures/palette.h"
 
+#include <QBuffer>
 #include <QDir>
 #include <QGuiApplication>
 #include <QImageWriter>
@@ -32,11 +35,18 @@ class PictureFolder {
 
     void write(const QString& name, const QImage& picture) const {
         constexpr int jpgQuality = 95;
-        QImageWriter writer(folder.filePath(name));
-        if (name.endsWith(QLatin1String(".jpg")))
+        const bool jpg = name.endsWith(QLatin1String(".jpg"));
+        QBuffer bytes;
+        QImageWriter writer(&bytes, jpg ? "jpg" : "png");
+        if (jpg)
             writer.setQuality(jpgQuality);
         if (!writer.write(picture))
-            fail(writer.fileName(), writer.errorString());
+            fail(name, writer.errorString());
+        try {
+            saveFileBytes(folder.filePath(name).toStdString(), bytes.data().toStdString());
+        } catch (const RunTimeError& error) {
+            fail(folder.filePath(name), QString::fromUtf8(error.what()));
+        }
     }
 
     // The picture, and a copy of `divisor` times less each way in the folder "small": it is what an
@@ -109,6 +119,7 @@ constexpr int exitUsage = 2;
 } // namespace
 
 int main(int argc, char** argv) {
+    tarnel::makeFileSizeLimitAnError();
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);

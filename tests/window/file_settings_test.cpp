@@ -1,0 +1,151 @@
+#include "exercises/statistics.h"
+#include "persistence/lock_file.h"
+#include "window/file_settings.h"
+
+#include <QElapsedTimer>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <iterator>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace tarnel {
+namespace {
+
+class FileSettingsTest : public testing::Test {
+  protected:
+    std::string content() const {
+        std::ifstream file(path, std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
+    void write(const std::string& text) const {
+        std::filesystem::create_directories(std::filesystem::path(path).parent_path());
+        std::ofstream(path, std::ios::binary) << text;
+    }
+
+    QTemporaryDir folder;
+    const std::string path = folder.filePath(QStringLiteral("new/settings.ini")).toStdString();
+};
+
+TEST_F(FileSettingsTest, TextsSurviveARestartAndOneFlushWritesThem) {
+    const std::string text = " groß, \"quoted\";\n\x01"
+                             "a 100% \\";
+    {
+        FileSettings settings(path);
+        settings.setValue("app", "stats", "hsi_total 12", "4");
+        settings.setValue("app", "stats", "Übung/a\\b %2F", text);
+        settings.setValue("app", "stats", "empty", "");
+        settings.setValue("app", "stats", "sign", "@x");
+        settings.setValue("app", "old", "key", "1");
+        EXPECT_EQ(content(), "");
+        settings.flush();
+        settings.deleteSection("app", "old");
+    }
+    const FileSettings again(path);
+    EXPECT_EQ(again.value("app", "stats", "hsi_total 12", "-"), "4");
+    EXPECT_EQ(again.value("app", "stats", "Übung/a\\b %2F", "-"), text);
+    EXPECT_EQ(again.value("app", "stats", "empty", "-"), "");
+    EXPECT_EQ(again.value("app", "stats", "sign", "-"), "@x");
+    EXPECT_EQ(again.value("app", "old", "key", "-"), "-");
+}
+
+TEST_F(FileSettingsTest, WhatWasEditedByHandComesBackAndNothingElseIsLost) {
+    write("nonsense\n[app]\nstats\\a = one, two \nstats\\b=@Variant(\\0\\0)\nstats\\c=\"12\"x\n"
+          "stats\\hsi_total%207=3\n;stats\\no=1\nloose=5\n[other]\r\nx\\y=3\r\n\xff\xfe[\n");
+    {
+        FileSettings settings(path);
+        EXPECT_EQ(settings.value("app", "stats", "a", "-"), "one, two");
+        EXPECT_EQ(settings.value("app", "stats", "c", "-"), "12x");
+        EXPECT_EQ(settings.value("app", "stats", "hsi_total 7", "-"), "3");
+        settings.setValue("app", "stats", "d", "8");
+    }
+    const FileSettings again(path);
+    EXPECT_EQ(again.value("app", "stats", "a", "-"), "one, two");
+    EXPECT_EQ(again.value("app", "stats", "d", "-"), "8");
+    EXPECT_EQ(again.value("other", "x", "y", "-"), "3");
+}
+
+TEST_F(FileSettingsTest, TwoProgramsCountTogether) {
+    constexpr int answers = 100;
+    const auto countInChild = [&](int question) {
+        const pid_t child = fork();
+        if (child != 0)
+            return child;
+        FileSettings settings(path);
+        Statistics statistics(settings);
+        for (int i = 0; i < answers; ++i)
+            statistics.count("hsipos", question, 1, i % 2 == 0);
+        settings.setValue("app", "window", question == 0 ? "first" : "second", "x");
+        settings.flush();
+        _exit(0);
+    };
+    write("");
+    FileSettings running(path); // which has read the file before
+    const pid_t children[] = {countInChild(0), countInChild(1)};
+    for (const pid_t child : children)
+        waitpid(child, nullptr, 0);
+    Statistics(running).count("hsipos", 0, 1, true);
+    const FileSettings after(path);
+    EXPECT_EQ(after.value("qxr1", "stats", "hsipos_total", "-"), "201");
+    EXPECT_EQ(after.value("qxr1", "stats", "hsipos_total 1", "-"), "100");
+    EXPECT_EQ(after.value("qxr1", "stats", "hsipos_bad", "-"), "100");
+    EXPECT_EQ(after.value("app", "window", "first", "-"), "x");
+    EXPECT_EQ(after.value("app", "window", "second", "-"), "x");
+}
+
+TEST_F(FileSettingsTest, WhatCanNotBeReadOrReplacedDelaysNothingAndIsToldOnce) {
+    struct Case {
+        const char* name;
+        std::function<void()> prepare;
+        Cause cause;
+    };
+    std::optional<LockFile> held;
+    const auto link = [&](const char* target) {
+        return [this, target] { std::filesystem::create_symlink(target, path); };
+    };
+    const Case cases[] = {
+        {"pipe", [&] { ASSERT_EQ(mkfifo(path.c_str(), 0600), 0); }, Cause::notAFile},
+        {"folder", [&] { std::filesystem::create_directory(path); }, Cause::notAFile},
+        {"device", link("/dev/null"), Cause::notAFile},
+        {"endless", link("/dev/zero"), Cause::notAFile},
+        {"large", [&] { write(std::string(largestSettings + 1, '\n')); }, Cause::fileTooLarge},
+        {"held", [&] { held.emplace(std::move(*LockFile::take(path + ".lock"))); },
+         Cause::fileInUse},
+    };
+    for (const Case& c : cases) {
+        std::filesystem::remove_all(std::filesystem::path(path).parent_path());
+        std::filesystem::create_directory(std::filesystem::path(path).parent_path());
+        c.prepare();
+        const auto before = std::filesystem::symlink_status(path).type();
+        QElapsedTimer timer;
+        timer.start();
+        FileSettings settings(path);
+        Statistics statistics(settings);
+        for (int i = 0; i < 5; ++i)
+            statistics.count("hsipos", 0, 0, true);
+        EXPECT_LT(timer.elapsed(), 1000) << c.name;
+        EXPECT_EQ(statistics.of("hsipos").total, 5) << c.name; // as long as the program lasts
+        const auto trouble = settings.takeTrouble();
+        ASSERT_TRUE(trouble) << c.name;
+        EXPECT_EQ(trouble->cause, c.cause) << c.name;
+        EXPECT_FALSE(settings.takeTrouble()) << c.name;
+        EXPECT_EQ(std::filesystem::symlink_status(path).type(), before) << c.name;
+        if (c.cause == Cause::fileTooLarge) {
+            EXPECT_EQ(std::filesystem::file_size(path), largestSettings + 1);
+        }
+        if (held) { // what was counted meanwhile is kept as soon as that is possible
+            held.reset();
+            settings.flush();
+            EXPECT_EQ(Statistics(settings).of("hsipos").total, 5);
+            EXPECT_NE(content(), "");
+        }
+    }
+}
+
+} // namespace
+} // namespace tarnel
