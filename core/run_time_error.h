@@ -16,6 +16,7 @@ enum class Cause {
     linkLeadsNowhere,
     nameNotUtf8,
     fileTooLarge,
+    fileWithoutFlight,
     notAFile, ///< a folder, a device, a pipe
     fileNotReadable,
     fileReadOnly,
@@ -81,6 +82,7 @@ constexpr int RunTimeError::numberOf(Cause cause) {
     case Cause::nameNotUtf8:
         return fileNotFound;
     case Cause::fileTooLarge:
+    case Cause::fileWithoutFlight:
         return inputPastEnd;
     case Cause::fileInUse:
         return permissionDenied;

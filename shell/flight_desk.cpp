@@ -4,6 +4,7 @@
 #include "engine/user_control_2.h"
 #include "persistence/file_path.h"
 #include "shell/text_format.h"
+#include "strings/cause_text.h"
 
 #include <utility>
 
@@ -22,7 +23,7 @@ FlightDesk::FlightDesk(FormState& form, const StringTable& table, UserControl2& 
         tell(filledIn(texts[Text::flightPutAside], {lengthOf(flight)}));
     };
     keeper.onFailure = [this](const RunTimeError& error) {
-        tell(filledIn(texts[Text::flightNotWritten], {error.what()}));
+        tell(filledIn(texts[Text::flightNotWritten], {causeText(texts, error.cause())}));
     };
 }
 
@@ -51,7 +52,7 @@ void FlightDesk::bringBack(const ShelvedFlight& flight) {
     try {
         keeper.bringBack(flight);
     } catch (const RunTimeError& error) {
-        showBox(flight.path + "\n" + error.what());
+        showBox(flight.path + "\n" + std::string(causeText(texts, error.cause())));
     }
 }
 

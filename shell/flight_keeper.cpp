@@ -130,7 +130,7 @@ std::vector<ShelvedFlight> FlightKeeper::flights() const {
 void FlightKeeper::bringBack(const ShelvedFlight& flight) {
     const KeptFlight kept = FlightShelf::read(flight);
     if (kept.session.samples.empty())
-        throw RunTimeError(RunTimeError::inputPastEnd, "Tarnel", "Input past end of file");
+        throw RunTimeError(Cause::fileWithoutFlight);
     sim.takeFlight(kept.session, kept.reference);
     takeAsKept();
     if (offered && offered->path == flight.path)

@@ -22,6 +22,8 @@ Text textOf(Cause cause) {
         return Text::causeNameNotUtf8;
     case Cause::fileTooLarge:
         return Text::causeFileTooLarge;
+    case Cause::fileWithoutFlight:
+        return Text::causeFileWithoutFlight;
     case Cause::notAFile:
         return Text::causeNotAFile;
     case Cause::fileNotReadable:

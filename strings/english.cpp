@@ -597,6 +597,7 @@ constexpr StringEntry entries[] = {
     {746, "This is a link to a file that does not exist."},
     {747, "The name of the file is not valid UTF-8. Rename it, and it will open."},
     {748, "The file is too large."},
+    {774, "The file holds no whole flight."},
     {749, "This is not a file but a folder or a device."},
     {750, "You have no permission to read this file."},
     {751, "You have no permission to change this file."},

@@ -602,6 +602,7 @@ constexpr StringEntry entries[] = {
     {746, "Das ist eine Verknüpfung mit einer Datei, die es nicht gibt."},
     {747, "Der Name der Datei ist kein gültiges UTF-8. Nach dem Umbenennen lässt sie sich öffnen."},
     {748, "Die Datei ist zu groß."},
+    {774, "Die Datei enthält keinen ganzen Flug."},
     {749, "Das ist keine Datei, sondern ein Ordner oder ein Gerät."},
     {750, "Ihnen fehlt das Recht, diese Datei zu lesen."},
     {751, "Ihnen fehlt das Recht, diese Datei zu ändern."},

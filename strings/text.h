@@ -552,6 +552,7 @@ enum class Text : int {
     causeLinkLeadsNowhere = 746,
     causeNameNotUtf8 = 747,
     causeFileTooLarge = 748,
+    causeFileWithoutFlight = 774,
     causeNotAFile = 749,
     causeFileNotReadable = 750,
     causeFileReadOnly = 751,
