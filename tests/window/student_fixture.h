@@ -24,6 +24,8 @@ struct NotedWorld : OutsideWorld {
         boxes.push_back(text);
         behind();
     }
+    std::int64_t secondsNow() override { return ++seconds; }
+    std::int64_t seconds = 0;
 };
 
 /// The window as a student has it, with the time run by hand.
