@@ -14,8 +14,13 @@ namespace tarnel {
 namespace {
 
 constexpr int partGap = 9;
-constexpr int briefPartGap = 5;
-constexpr int swatchGap = 4;
+constexpr int briefPartGap = 4;
+constexpr int swatchGap = 3;
+
+/// Of a needle's sign in the short form.
+double signScale(bool brief) {
+    return brief ? 0.5 : 1;
+}
 
 } // namespace
 
@@ -86,7 +91,7 @@ bool InstrumentHeader::hasSwatch(std::size_t part) const {
 int InstrumentHeader::partWidth(std::size_t part, bool brief, const QFontMetrics& metrics) const {
     const std::string& text = brief ? legend[part].shortText : legend[part].text;
     return metrics.horizontalAdvance(QString::fromStdString(text)) +
-           (hasSwatch(part) ? swatchWidth(legend[part].needle) + swatchGap : 0);
+           (hasSwatch(part) ? swatchWidth(legend[part].needle, signScale(brief)) + swatchGap : 0);
 }
 
 int InstrumentHeader::legendWidth(bool brief, const QFontMetrics& metrics) const {
@@ -99,9 +104,9 @@ int InstrumentHeader::legendWidth(bool brief, const QFontMetrics& metrics) const
 void InstrumentHeader::paintPart(QPainter& painter, std::size_t part, bool brief, int left) const {
     const LegendPart& shown = legend[part];
     if (hasSwatch(part)) {
-        const int width = swatchWidth(shown.needle);
-        paintSwatch(painter, shown.needle, {left + width / 2.0, height() / 2.0});
-        left += width + swatchGap;
+        const int wide = swatchWidth(shown.needle, signScale(brief));
+        paintSwatch(painter, shown.needle, {left + wide / 2.0, height() / 2.0}, signScale(brief));
+        left += wide + swatchGap;
     }
     painter.setPen(needleColour(shown.needle));
     painter.drawText(QRect(left, 0, width(), height()), Qt::AlignVCenter | Qt::AlignLeft,

@@ -72,14 +72,16 @@ QColor needleColour(LegendNeedle needle) {
     return look::ticks;
 }
 
-int swatchWidth(LegendNeedle needle) {
+int swatchWidth(LegendNeedle needle, double scale) {
     constexpr int upright = 5;
-    return needle == LegendNeedle::bar ? upright : static_cast<int>(2 * halfWidth);
+    return needle == LegendNeedle::bar ? upright : static_cast<int>(2 * halfWidth * scale);
 }
 
-void paintSwatch(QPainter& painter, LegendNeedle needle, QPointF middle) {
+void paintSwatch(QPainter& painter, LegendNeedle needle, QPointF middle, double scale) {
     painter.save();
     painter.translate(middle);
+    if (needle != LegendNeedle::bar)
+        painter.scale(scale, scale);
     painter.setPen(Qt::NoPen);
     painter.setBrush(needleColour(needle));
     if (needle == LegendNeedle::bar)

@@ -1,4 +1,5 @@
 #include "shell/instrument_legend.h"
+#include "window/instrument_header.h"
 #include "window/instrument_painter.h"
 #include "window/needle_swatch.h"
 #include "window/panel_look.h"
@@ -25,17 +26,22 @@ int inkOf(const QColor& colour, const QImage& image, const QRect& area) {
 // The legend above a dial has each needle in the colour that it has on the dial, and no two needles
 // have the same sign.
 TEST_F(Student, FindsEachNeedleOfTheLegendOnTheDial) {
-    open();
+    open(englishTable(), {1024, 768}); // where the legend has least room
+    auto* header = window->findChild<InstrumentHeader*>();
     form->inst2OverlayBox.click();
     std::set<QByteArray> signs;
     for (const int kind : {adf, rmi, vor, hsi}) {
         form->inst2TypeList.pick(kind - 1);
         settle();
         const QImage dial = find<QWidget>("UserControl13_0").grab().toImage();
+        const QImage legend = header->grab().toImage();
         const auto parts = instrumentLegend(form->texts, form->inst2, form->feedSources(), {});
         EXPECT_EQ(parts.size(), kind == hsi ? 3 : kind == adf ? 1 : 2);
         for (const LegendPart& part : parts) {
             EXPECT_GT(inkOf(needleColour(part.needle), dial, dial.rect()), 40) << part.text;
+            const bool room = part.needle != LegendNeedle::overlay;
+            EXPECT_EQ(inkOf(needleColour(part.needle), legend, legend.rect()) > 2, room)
+                << part.text;
             QImage sign(24, 24, QImage::Format_RGB32);
             sign.fill(Qt::black);
             QPainter painter(&sign);
