@@ -84,20 +84,17 @@ void UserControl2::showChart(const SplitPosition& centre, std::int16_t scale) {
     centreOn(centre);
 }
 
-void UserControl2::centreOnStations() {
-    GeoPosition middle;
-    for (const Station& station : stations) {
-        const GeoPosition position = toPlain(station.position);
-        middle.latitude += position.latitude / slotCount;
-        middle.longitude += position.longitude / slotCount;
-    }
-    centreOn(toSplit(middle));
+void UserControl2::frameStations(std::span<const GeoPosition> aircraftPlaces) {
+    std::vector<FramedPlace> places = framedStations(stations, c_LocCrs1);
+    for (const GeoPosition& position : aircraftPlaces)
+        places.push_back({position, framedAircraftRoom});
+    const ChartFraming framing = framingOf(places, picture.size);
+    showChart(framing.centre, framing.scale);
 }
 
 void UserControl2::resetView() {
     c_MAPnorthUP = 1;
-    c_MAPscale = home.scale;
-    centreOn(home.centre);
+    frameStations();
 }
 
 void UserControl2::switchEditing() {

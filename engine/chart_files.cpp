@@ -88,13 +88,11 @@ void UserControl2::applyChart(const ChartFile& chart) {
     if (chart.locCourse)
         c_LocCrs1 = *chart.locCourse;
     c_MAPscale = chart.mapScaleTwips.value_or(c_MAPscale.get());
-    home.scale = c_MAPscale;
     if (!chart.aircraft)
         return;
     becomeNewSession();
     c_replayInstLock = 0;
     placeAircraft(*chart.aircraft);
-    home.centre = view.mapCenter;
     if (chart.heading)
         turnAircraft(intoCircle(*chart.heading));
     markFreshStart();

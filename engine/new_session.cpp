@@ -1,9 +1,9 @@
+#include "core/rounding.h"
 #include "engine/user_control_2.h"
 
 namespace tarnel {
 
 void UserControl2::startSession() {
-    constexpr ChartPoint start{3500, 7500};
     if (!stopped())
         return;
     mouse.cancel();
@@ -21,7 +21,7 @@ void UserControl2::startSession() {
     publishWind();
     turnAircraft(0);
     resetView();
-    placeAircraft(toPlain(view.plot.MapToGeo(start).split));
+    standBelowStations();
     replaySample = 1;
     c_RepeatValue.publish(1);
     becomeNewSession();
@@ -31,6 +31,16 @@ void UserControl2::startSession() {
 void UserControl2::becomeNewSession() {
     c_SessionFileName.setIfChanged(newSessionName);
     sessionNamedByUser.clear();
+}
+
+/// The aircraft stands in the middle of the framed chart's lower edge.
+void UserControl2::standBelowStations() {
+    aircraft.placeAt(
+        view.plot.MapToGeo({toInt16(picture.size / 2), toInt16(picture.size - framedStartHeight)}));
+    view.placeAircraft(aircraft);
+    markFreshStart();
+    redrawTrace();
+    refresh();
 }
 
 void UserControl2::dropRecording() {

@@ -170,7 +170,6 @@ void UserControl2::applySession(const SessionFile& session) {
     c_FlyEN.publish(1);
     restoreAll(count);
     c_MAPscale = session.mapScaleTwips.value_or(c_MAPscale.get());
-    home = {view.mapCenter, c_MAPscale};
 }
 
 void UserControl2::saveSession() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "chart/chart_drawing.h"
+#include "chart/chart_framing.h"
 #include "chart/chart_picture.h"
 #include "chart/map_view.h"
 #include "core/aircraft.h"
@@ -23,6 +24,7 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <span>
 #include <string>
 #include <utility>
 #include <vector>
@@ -68,7 +70,10 @@ class UserControl2 {
     /// While the aircraft's place is to be found out, nothing centres the chart on it or tells it.
     void setPlaceSecret(bool secret) { secretPlace = secret; }
     [[nodiscard]] bool placeIsSecret() const { return secretPlace; }
-    /// Shows the chart as it was loaded: its centre and scale, north at the top.
+    /// Shows all five stations with the localizer's feather, and the places of an aircraft, as large
+    /// as they all fit.
+    void frameStations(std::span<const GeoPosition> aircraftPlaces = {});
+    /// Frames the stations, with north at the top.
     void resetView();
     /// Loads a session that the user picked elsewhere, as his pick in the dialog does.
     void openSession(const std::string& path);
@@ -98,8 +103,6 @@ class UserControl2 {
     /// Moves a station; its label and radials follow.
     void placeStation(Slot which, ChartPoint point);
     void moveStation(Slot which, const SplitPosition& position);
-    /// Centres the chart on the middle of the stations.
-    void centreOnStations();
     /// Switches a station and its DME; with both off its button comes up.
     void switchStation(Slot which, bool stationOn, bool dmeOn);
     /// Sets the wind of the whole chart by hand; a switched-on wind is this one from now on.
@@ -229,8 +232,8 @@ class UserControl2 {
     Property<std::int16_t> c_replayActive{properties, "c_replayActive"};
     Property<std::int16_t> c_replayInstLock{properties, "c_replayInstLock"};
     Property<std::string> c_CurrentComment{properties, "c_CurrentComment"};
-    /// Any set starts an empty session: the aircraft in the lower middle of the chart, without
-    /// wind, comments and reference. The stations stay.
+    /// Any set starts an empty session: the stations framed as in `resetView`, the aircraft below
+    /// them heading north, without wind, comments and reference. The stations stay.
     Property<std::int16_t> c_NewSession{properties, "c_NewSession", 0, [this] { startSession(); }};
     /// Shows the practice panel in one of its states, 0 to 3, and goes back to 0.
     Property<std::int16_t> c_TrackDelta{properties, "c_TrackDelta", 0,
@@ -332,6 +335,7 @@ class UserControl2 {
     void resumeFromReplay();
     void startSession();
     void becomeNewSession();
+    void standBelowStations();
     void showPracticePanel();
 
     void switchWind();
@@ -386,11 +390,6 @@ class UserControl2 {
     std::uint64_t stationChanges = 0; ///< of names, frequencies and places
     std::uint64_t versionInFile = 0;  ///< the `flightVersion` that was loaded or saved last
     bool secretPlace = false;
-    /// What `resetView` goes back to.
-    struct {
-        SplitPosition centre{{49, 0}, {11, 0}};
-        std::int16_t scale = 250;
-    } home;
     Wind lastWind;
     bool chanceWindTold = true;
     std::vector<Wind> chanceWinds; ///< drawn since the session began

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <span>
 
 namespace tarnel {
 
@@ -21,21 +22,21 @@ void Form1::connectChartPage() {
 }
 
 void Form1::stepScale(int steps) {
-    constexpr int scales = static_cast<int>(std::size(MapView::offeredScales));
-    int index = 0;
-    while (index + 1 < scales && MapView::offeredScales[index] < UserControl11.c_MAPscale)
-        ++index;
-    const int wanted = std::clamp(index + steps, 0, scales - 1);
-    setScale(MapView::offeredScales[wanted]);
+    const std::span offered(MapView::offeredScales);
+    std::int16_t scale = UserControl11.c_MAPscale;
+    for (; steps > 0 && scale < offered.back(); --steps)
+        scale = *std::upper_bound(offered.begin(), offered.end(), scale);
+    for (; steps < 0 && scale > offered.front(); ++steps)
+        scale = *std::prev(std::lower_bound(offered.begin(), offered.end(), scale));
+    setScale(scale);
 }
 
 void Form1::setScale(std::int16_t twipsPerMile) {
     UserControl11.c_MAPscale.setIfChanged(twipsPerMile);
 }
 
-/// A chart under the heading would tell where a hidden aircraft is.
 void Form1::setNorthUp(bool northUp) {
-    if (!northUp && questionOpen())
+    if (!northUp && !mayTurnHeadingUp())
         return;
     UserControl11.c_MAPnorthUP.setIfChanged(northUp ? 1 : 0);
 }

@@ -15,7 +15,7 @@ constexpr ExerciseItem items_[] = {
     {"qdm", Text::exerciseQdm, 6, asItIs, rmi - 1, Size::asItIs},
     {"qdr", Text::exerciseQdr, 7, asItIs, rmi - 1, Size::asItIs},
     {"hsipos2", Text::exerciseHsiPosition, 1, vor - 1, hsi - 1, Size::asItIs},
-    {"mnuAltitude", Text::exerciseHsiPositionLarge, 1, asItIs, hsi - 1, Size::large},
+    {"mnuAltitude", Text::exerciseHsiPositionLarge, 1, asItIs, hsi - 1, Size::largeHsi},
     {"hldhsi", Text::exerciseHsiHolding, 3, asItIs, hsi - 1, Size::asItIs},
     {"dmearcs", Text::exerciseDmeArcs, 9, rmi - 1, asItIs, Size::asItIs},
     {"stdvor", Text::exerciseStdVorPosition, 2, asItIs, vor - 1, Size::asItIs},

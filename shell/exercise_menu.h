@@ -18,7 +18,7 @@ struct ExerciseItem {
     std::int16_t type; ///< `c_QAtype`
     int inst2Kind;     ///< entry of `Combo3`, -1 as it is
     int inst3Kind;     ///< entry of `Combo2`, -1 as it is
-    enum class Size { asItIs, small, large } inst2Size;
+    enum class Size { asItIs, small, largeHsi } size;
 };
 
 /// The exercises of the menu, in its order.

@@ -58,21 +58,29 @@ void Form1::followExercise() {
     enableControls();
 }
 
-/// The stations, or the holding that the flight of the question flies.
+/// The holding that the flight of the question flies; else the stations, and the aircraft where it
+/// is shown: its track in a solution, its place where the chart is asked about.
 void Form1::frameQuestion() {
     UserControl2& sim = UserControl11;
     const ExerciseKind* exercise = exerciseOf(QAform1.c_QAtype);
-    if (!exercise || !exercise->fliesHolding || sim.c_TraceBufferMax < 1)
-        return sim.centreOnStations();
-    const HoldingChart chart =
-        holdingChart(sim.recording, sim.c_TraceBufferMax, sim.stations, sim.picture.size);
-    sim.showChart(chart.fix, chart.scale);
+    if (exercise && exercise->fliesHolding && sim.c_TraceBufferMax >= 1) {
+        const HoldingChart chart =
+            holdingChart(sim.recording, sim.c_TraceBufferMax, sim.stations, sim.picture.size);
+        return sim.showChart(chart.fix, chart.scale);
+    }
+    std::vector<GeoPosition> shown;
+    for (int i = 1; solutionSeen && i <= sim.c_TraceBufferMax; ++i)
+        shown.push_back({sim.recording.at(i).traceLat, sim.recording.at(i).traceLon});
+    if (shown.empty() && exercise && exercise->askedOnChart)
+        shown.push_back(sim.aircraft.published());
+    sim.frameStations(shown);
 }
 
 void Form1::showSolution() {
     StopReplay();
     StopFly();
     solutionSeen = true;
+    frameQuestion();
     inst3RadialBox.set(showsRadial(QAform1.c_QAtype) ? 1 : 0);
     setHidden(false);
     if (QAform1.c_QAtype == windExercise) {

@@ -70,8 +70,8 @@ void Form1::openPractice(const std::string& name, bool practised) {
     UserControl11.c_TrackDelta = practising ? 1 : 0;
 }
 
-/// Loads a session of the program's own. In an exercise the chart is centred on the stations, which
-/// tell nothing of where the aircraft is, and a session that can't be read leaves no other flight
+/// Loads a session of the program's own. In an exercise the stations are framed, which tells
+/// nothing of where a hidden aircraft is, and a session that can't be read leaves no other flight
 /// behind. False if it can't.
 bool Form1::loadPractised(const std::string& path) {
     const bool loaded = UserControl11.loadByName(path);
@@ -102,9 +102,9 @@ void Form1::startExercise(const ExerciseItem& item) {
         inst2TypeList.select(item.inst2Kind);
     if (item.inst3Kind >= 0)
         inst3TypeList.select(item.inst3Kind);
-    if (item.inst2Size == ExerciseItem::Size::large)
-        inst2Large.choose();
-    else if (item.inst2Size == ExerciseItem::Size::small)
+    if (item.size == ExerciseItem::Size::largeHsi)
+        inst3Large.choose();
+    else if (item.size == ExerciseItem::Size::small)
         inst2Small.choose();
     switchFaces(!asksForPosition(item.type));
     UserControl11.c_TrackDelta = 0;
@@ -122,6 +122,7 @@ void Form1::rememberShell() {
     beforeExercise.inst2Type = inst2TypeList.index();
     beforeExercise.inst3Type = inst3TypeList.index();
     beforeExercise.inst2Large = inst2Large.chosen();
+    beforeExercise.inst3Large = inst3Large.chosen();
     beforeExercise.radialShown = inst3RadialBox.value();
 }
 
@@ -147,6 +148,7 @@ void Form1::leaveExercise() {
     inst2TypeList.pick(beforeExercise.inst2Type);
     inst3TypeList.pick(beforeExercise.inst3Type);
     (beforeExercise.inst2Large ? inst2Large : inst2Small).choose();
+    (beforeExercise.inst3Large ? inst3Large : inst3Small).choose();
     beforeExercise.rate->choose();
     chartPage.trace.set(beforeExercise.trace);
     setHidden(false);

@@ -83,11 +83,14 @@ class Form1 : private SimulationMessages {
 
     /// The next of the radial-line displays: the centre radial, the lines beside it, none.
     void cycleRadialLines();
-    /// Moves the chart's scale by `steps` of those offered; positive shows less chart, larger.
+    /// Moves the chart's scale by `steps` of those offered; positive shows less chart, larger. From
+    /// a scale between them the first step goes to the next one.
     void stepScale(int steps);
     /// Twips per NM.
     void setScale(std::int16_t twipsPerMile);
     void setNorthUp(bool northUp);
+    /// A chart under the heading would tell where a hidden aircraft is.
+    [[nodiscard]] bool mayTurnHeadingUp() const { return !questionOpen(); }
     /// Degrees that the wind comes from, and knots.
     void setManualWind(double direction, std::int16_t speed);
     void setFloatingGyroOpen(bool open);
@@ -362,6 +365,7 @@ class Form1 : private SimulationMessages {
         int inst2Type = 0;
         int inst3Type = 0;
         bool inst2Large = false;
+        bool inst3Large = false;
         int radialShown = 0;
     } beforeExercise;
     bool solutionSeen = false;  ///< of the question that is up

@@ -104,6 +104,7 @@ void Form1::startUp(const std::string& applicationPath) {
     UserControl11.newSessionName = text(Text::newSessionFile);
     UserControl11.c_ChartFileName = applicationPath + "/default.map";
     UserControl11.c_loadChart = 2;
+    UserControl11.resetView();
     UserControl11.c_SessionFileName = UserControl11.newSessionName;
     tick();
     UserControl11.markFreshStart();

@@ -287,7 +287,22 @@ INSTANTIATE_TEST_SUITE_P(All, ExerciseFlow, testing::Range<std::size_t>(0, exerc
                          nameOf);
 INSTANTIATE_TEST_SUITE_P(All, FlownExercise, testing::ValuesIn(flownItems()), nameOf);
 
-using ExerciseShell = ExerciseFlow;
+/// A shell that an exercise takes over and gives back.
+class ExerciseShell : public ExerciseFlow {
+  protected:
+    /// All stations on the chart, clear of its edges, and the aircraft where it is shown.
+    void expectStationsInSight() {
+        UserControl2& sim = form.UserControl11;
+        const auto expectOnPaper = [&](Point at) {
+            EXPECT_GT(std::min(at.x, at.y), 300);
+            EXPECT_LT(std::max(at.x, at.y), sim.picture.size - 300);
+        };
+        for (const Station& station : sim.stations)
+            expectOnPaper(station.place.wide);
+        if (sim.c_AirplaneEN == 1)
+            expectOnPaper(sim.aircraft.place.wide);
+    }
+};
 
 /// What the shell shows, told as text.
 std::string shellOf(Form1& form) {
@@ -306,10 +321,10 @@ std::string shellOf(Form1& form) {
         text += flag(face->get());
     const UserControl2& sim = form.UserControl11;
     text += flag(form.inst2.type) + flag(form.inst3.type) + flag(form.inst2Large.chosen()) +
-            flag(sim.c_AirplaneEN.get()) + flag(sim.c_TraceEN.get()) +
-            flag(sim.c_SpeedVectorEN.get()) + flag(form.instruments.visible()) +
-            flag(form.startButton.enabled()) + flag(form.backButton.visible()) +
-            flag(form.replayRuns());
+            flag(form.inst3Large.chosen()) + flag(sim.c_AirplaneEN.get()) +
+            flag(sim.c_TraceEN.get()) + flag(sim.c_SpeedVectorEN.get()) +
+            flag(form.instruments.visible()) + flag(form.startButton.enabled()) +
+            flag(form.backButton.visible()) + flag(form.replayRuns());
     for (CommandButton* item : form.exerciseMenu.items())
         text += flag(item->enabled());
     for (CommandButton* item : form.fileMenu.items())
@@ -325,9 +340,13 @@ TEST_F(ExerciseShell, IsAsItWasAfterTenExercises) {
     const std::string before = shellOf(form);
     for (std::size_t item = 0; item < exerciseItems().size(); ++item) {
         start(item);
+        expectStationsInSight();
+        EXPECT_EQ(form.inst3Large.chosen(),
+                  exerciseItems()[item].name == std::string("mnuAltitude"));
         if (item % 2 == 0) {
             click(panel().solutionButton);
             watch();
+            expectStationsInSight();
         }
         click(panel().cancelButton);
         EXPECT_EQ(shellOf(form), before) << exerciseItems()[item].name;

@@ -260,8 +260,8 @@ TEST_F(ReplayTest, ANewSessionIsEmptyAndInSight) {
     EXPECT_TRUE(sim.reference.empty());
     EXPECT_EQ(sim.comments.text(0), "");
     EXPECT_EQ(toPlain(sim.stations[0].position), station1);
-    EXPECT_EQ(sim.aircraft.place.point, (ChartPoint{3405, 3405}));
     EXPECT_EQ(sim.recording.at(1).traceLat, place().latitude);
+    EXPECT_EQ(sim.recording.at(1).traceLon, place().longitude);
     sim.c_TimerEN = 1;
     tick(8);
     EXPECT_EQ(sim.c_TraceBufferMax, 2);
@@ -273,6 +273,10 @@ TEST_F(ReplayTest, NewSessionsStandAtTheSamePlaceOfTheChart) {
     sim.c_MAPnorthUP = 0;
     sim.c_NewSession = 1;
     EXPECT_LT(milesBetween(first, place()), 0.1);
+    EXPECT_NEAR(sim.aircraft.place.wide.x, 3405, 15);
+    EXPECT_NEAR(sim.aircraft.place.wide.y, 6310, 15); // near the lower edge
+    for (const Station& station : sim.stations)
+        EXPECT_LT(station.place.wide.y, 5500);
 }
 
 TEST_F(ReplayTest, AFlightStoppedBeforeItsFirstSampleHasOne) {

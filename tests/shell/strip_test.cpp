@@ -378,11 +378,20 @@ TEST_F(StripTest, APracticePanelTakesItsStates) {
 
 TEST_F(StripTest, ChartAndStationsAnswerTheirPages) {
     const std::int16_t scale = sim().c_MAPscale;
-    form.setScale(500);
+    const SplitPosition centre = sim().view.mapCenter;
+    form.stepScale(1);
+    EXPECT_EQ(sim().c_MAPscale, 250); // from between two of the scales to the next
+    form.stepScale(-1);
+    EXPECT_EQ(sim().c_MAPscale, 167);
     form.setNorthUp(false);
     form.chartPage.reset.click();
     EXPECT_EQ(sim().c_MAPnorthUP, 1);
     EXPECT_EQ(sim().c_MAPscale, scale);
+    EXPECT_EQ(sim().view.mapCenter, centre);
+    for (const Station& station : sim().stations) {
+        EXPECT_GT(std::min(station.place.wide.x, station.place.wide.y), 500);
+        EXPECT_LT(std::max(station.place.wide.x, station.place.wide.y), 6300);
+    }
     record(60);
     form.chartPage.centre.click();
     EXPECT_EQ(sim().aircraft.place.point, (ChartPoint{3405, 3405}));
