@@ -84,6 +84,10 @@ void DMEControlFace::selectorMove(Point at) {
         selectMode(*position);
 }
 
+void DMEControlFace::selectorLost() {
+    static_cast<void>(selectorPress.release());
+}
+
 void DMEControlFace::selectorUp() {
     if (selectorPress.release())
         selectMode(pressedPosition);

@@ -28,6 +28,7 @@ class DMEControlFace : public RadioFace {
     void selectorDown(DmeMode area, Point at);
     void selectorMove(Point at);
     void selectorUp();
+    void selectorLost(); ///< the press ended without being a click
 
     DigitReadout distance{surface, readoutPlaces::threeDigits};
     DigitReadout speed{surface, readoutPlaces::threeDigits};

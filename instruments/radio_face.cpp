@@ -89,6 +89,10 @@ void RadioFace::dragTo(double x) {
     dragStep = step;
 }
 
+void RadioFace::mouseLost() {
+    static_cast<void>(press.release());
+}
+
 void RadioFace::mouseUp() {
     if (press.release() && (pressedArea == KnobArea::inner || outerAreaClicks))
         stepUp();

@@ -44,6 +44,7 @@ class RadioFace {
     void mouseDown(KnobArea area, Point at);
     void mouseMove(Point at);
     void mouseUp();
+    void mouseLost(); ///< the press ended without being a click
 
     /// The next or previous frequency, round and round. Only while `c_LockSettings` and `c_OnOff`
     /// are both 1.

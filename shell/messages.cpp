@@ -85,6 +85,7 @@ std::string fileError(const StringTable& texts, FileRequest request, int number,
 /// What a box tells stands behind it, and nothing is in the hand any more: the box gets its
 /// release.
 void Form1::showBehindBox() {
+    APControlFace1.mouseUp();
     try {
         UserControl11.mouse.up();
         showState();

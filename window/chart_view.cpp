@@ -56,8 +56,9 @@ void ChartView::refresh() {
     showCursor();
     lamps->refresh();
     speak();
-    if (paintedRevision == sim.picture.surface.revision())
+    if (shownRevision == sim.picture.surface.revision())
         return;
+    shownRevision = sim.picture.surface.revision();
     update();
 }
 
@@ -82,8 +83,9 @@ QString ChartView::spokenChart() const {
         .arg(position, QString::fromStdString(zeroPadded(heading, 3)));
 }
 
+/// Also called for a part alone, when something that lies over the chart paints again: what is to
+/// be seen is noted where the whole chart is asked to paint.
 void ChartView::paintEvent(QPaintEvent* /*event*/) {
-    paintedRevision = sim.picture.surface.revision();
     QPainter onWidget(this);
     painter.paint(onWidget, side(), devicePixelRatioF());
     if (!hasFocus())
@@ -129,6 +131,7 @@ void ChartView::mousePressEvent(QMouseEvent* event) {
     const std::optional<Slot> station = stationAt(event->position());
     if (event->button() == Qt::RightButton && station && onStationMenu)
         return onStationMenu(station, event->globalPosition().toPoint());
+    hold.begin();
     guard([&] { sim.mouse.down(chartButton(event->button()), toTwips(event->position())); });
     watchKeys();
     refresh();
@@ -179,6 +182,11 @@ void ChartView::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void ChartView::mouseReleaseEvent(QMouseEvent* /*event*/) {
+    hold.end();
+    letGo();
+}
+
+void ChartView::letGo() {
     guard([&] { sim.mouse.up(); });
     watchKeys();
     refresh();

@@ -2,6 +2,7 @@
 
 #include "window/chart_painter.h"
 #include "window/model_guard.h"
+#include "window/mouse_hold.h"
 
 #include <QWidget>
 
@@ -23,7 +24,8 @@ class ChartView : public QWidget {
   public:
     ChartView(UserControl2& simulation, const StringTable& texts, QWidget* parent = nullptr);
 
-    /// Paints again if the picture has changed since it was painted; costs next to nothing if not.
+    /// Paints all of it again if the picture has changed since the last call; costs next to nothing
+    /// if not.
     void refresh();
 
     /// What a screen reader says: where the aircraft is and where it heads.
@@ -61,14 +63,16 @@ class ChartView : public QWidget {
     [[nodiscard]] std::optional<Slot> stationAt(QPointF at) const;
     void showCursor();
     void watchKeys();
+    void letGo();
 
     UserControl2& sim;
     const StringTable& texts;
     ChartPainter painter;
     ReferenceLamps* lamps = nullptr;
-    std::uint64_t paintedRevision = 0;
+    std::uint64_t shownRevision = 0; ///< of the picture, when all of it was last asked for
     std::pair<std::uint64_t, bool> spoken{~std::uint64_t{0}, false}; ///< what the words are of
     int wheelRest = 0;
+    MouseHold hold{*this, [this] { letGo(); }};
     std::optional<QPointF> pointer; ///< while it is over the chart
 };
 

@@ -65,6 +65,7 @@ void DmeSelector::connectKnob() {
         if (!knobTurned)
             turnTo((positionAtPress + 1) % static_cast<int>(modes.size()));
     };
+    switchKnob.lost = [] {}; // a click that was not ended is none
     switchKnob.step = [this](int steps) { turnTo(positionOf(face.mode()) - steps); };
 }
 
@@ -161,6 +162,7 @@ void DmeSelector::mousePressEvent(QMouseEvent* event) {
         if (wordArea(mode).contains(event->position())) {
             pressedWord = mode;
             const Point at = twipsIn(mode, event->position());
+            hold.begin();
             change([this, mode, at] { face.selectorDown(mode, at); });
             return;
         }
@@ -172,6 +174,7 @@ void DmeSelector::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void DmeSelector::mouseReleaseEvent(QMouseEvent* /*event*/) {
+    hold.end();
     change([this] { face.selectorUp(); });
 }
 

@@ -4,6 +4,7 @@
 #include "strings/string_table.h"
 #include "window/knob_widget.h"
 #include "window/model_guard.h"
+#include "window/mouse_hold.h"
 
 #include <QWidget>
 
@@ -49,6 +50,7 @@ class DmeSelector : public QWidget {
     DMEControlFace& face;
     std::array<QString, 3> words;
     KnobWidget switchKnob;
+    MouseHold hold{*this, [this] { face.selectorLost(); }};
     DmeMode shown = DmeMode::freq;
     DmeMode pressedWord = DmeMode::freq;
     Point knobPress;

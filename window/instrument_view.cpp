@@ -31,6 +31,9 @@ Qt::CursorShape cursorOver(InstrumentArea area, bool pressed) {
     return Qt::ArrowCursor;
 }
 
+/// Over nothing that a release could click.
+constexpr Point offTheFace{-1, -1};
+
 } // namespace
 
 InstrumentView::InstrumentView(UserControl_1& control, PictureStore& store,
@@ -40,7 +43,8 @@ InstrumentView::InstrumentView(UserControl_1& control, PictureStore& store,
       pictures(store),
       texts(table),
       instrumentPainter(store),
-      areas(control.picture) {
+      areas(control.picture),
+      hold(*this, [this] { letGo(offTheFace); }) {
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     shown = present();
@@ -166,6 +170,7 @@ void InstrumentView::paintSelector(QPainter& painter) {
 }
 
 void InstrumentView::mousePressEvent(QMouseEvent* event) {
+    hold.begin();
     change([this, event] { pressed = instrument.mouse.down(twipsAt(event->position())); });
     showRing(false);
     if (areas.usable(pressed))
@@ -187,13 +192,19 @@ void InstrumentView::mouseMoveEvent(QMouseEvent* event) {
 void InstrumentView::mouseReleaseEvent(QMouseEvent* event) {
     if (event->buttons() != Qt::NoButton)
         return;
-    change([this, event] { instrument.mouse.up(twipsAt(event->position())); });
-    pressed = InstrumentArea::none;
+    hold.end();
+    letGo(twipsAt(event->position()));
     hover(event->position());
+}
+
+void InstrumentView::letGo(Point at) {
+    change([this, at] { instrument.mouse.up(at); });
+    pressed = InstrumentArea::none;
     update();
 }
 
 void InstrumentView::mouseDoubleClickEvent(QMouseEvent* event) {
+    hold.begin();
     change([this, event] { instrument.mouse.doubleClick(twipsAt(event->position())); });
 }
 
@@ -305,10 +316,12 @@ QString InstrumentView::tipOf(InstrumentArea area) const {
     switch (area) {
     case InstrumentArea::obsKnob:
     case InstrumentArea::card:
-        return textOf(texts, Text::knobTip);
+        return textOf(texts, Text::knobTip) + QLatin1Char('\n') + textOf(texts, Text::knobHandsTip);
     case InstrumentArea::headingBugKnob:
     case InstrumentArea::headingBug:
-        return textOf(texts, Text::headingBugTip);
+        return textOf(texts, Text::headingBugTip) + QLatin1Char('\n') +
+               textOf(texts, Text::knobHandsTip) + QLatin1Char('\n') +
+               textOf(texts, Text::presentHeadingTip);
     case InstrumentArea::selector:
         return textOf(texts, Text::receiverSelectorTip);
     case InstrumentArea::none:

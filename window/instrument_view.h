@@ -5,6 +5,7 @@
 #include "window/instrument_areas.h"
 #include "window/instrument_painter.h"
 #include "window/model_guard.h"
+#include "window/mouse_hold.h"
 #include "window/panel_input.h"
 #include "window/spoken_reading.h"
 
@@ -65,6 +66,7 @@ class InstrumentView : public QWidget {
     [[nodiscard]] double side() const { return std::min(width(), height()); }
     [[nodiscard]] Point twipsAt(QPointF at) const;
     [[nodiscard]] Shown present() const;
+    void letGo(Point at);
     void hover(QPointF at);
     void setHovered(InstrumentArea area);
     void focusArea(InstrumentArea area);
@@ -85,6 +87,7 @@ class InstrumentView : public QWidget {
     InstrumentPainter instrumentPainter;
     InstrumentAreas areas;
     WheelNotches notches;
+    MouseHold hold;
     Shown shown;
     InstrumentArea hovered = InstrumentArea::none;
     InstrumentArea pressed = InstrumentArea::none;

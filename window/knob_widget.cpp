@@ -77,6 +77,7 @@ void KnobWidget::paintScale(QPainter& painter) const {
 }
 
 void KnobWidget::mousePressEvent(QMouseEvent* event) {
+    hold.begin();
     show(&KnobLook::pressed, true);
     show(&KnobLook::focused, false);
     if (press)
@@ -91,9 +92,19 @@ void KnobWidget::mouseMoveEvent(QMouseEvent* event) {
 void KnobWidget::mouseReleaseEvent(QMouseEvent* event) {
     if (event->buttons() != Qt::NoButton)
         return;
+    hold.end();
     show(&KnobLook::pressed, false);
     show(&KnobLook::hovered, rect().contains(event->position().toPoint()));
     if (release)
+        release();
+}
+
+void KnobWidget::letGo() {
+    show(&KnobLook::pressed, false);
+    show(&KnobLook::hovered, false);
+    if (lost)
+        lost();
+    else if (release)
         release();
 }
 

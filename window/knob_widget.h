@@ -3,6 +3,7 @@
 #include "core/drawing_surface.h"
 #include "instruments/knob_drag.h"
 #include "window/knob_drawing.h"
+#include "window/mouse_hold.h"
 #include "window/panel_input.h"
 #include "window/panel_look.h"
 
@@ -37,6 +38,7 @@ class KnobWidget : public QWidget {
     std::function<void(Point)> press;
     std::function<void(Point, MouseButton)> move;
     std::function<void()> release;
+    std::function<void()> lost; ///< the mouse was taken away; without this call a release
     std::function<void()> doubleClick;
     std::function<void(int)> step; ///< by wheel and keys
 
@@ -65,10 +67,12 @@ class KnobWidget : public QWidget {
         update();
     }
     void paintScale(QPainter& painter) const;
+    void letGo();
 
     PictureStore& pictures;
     KnobLook knob;
     WheelNotches notches;
+    MouseHold hold{*this, [this] { letGo(); }};
     QString value;
     bool scaleShown = true;
     double twipsPerPixel = look::twipsPerPixel;

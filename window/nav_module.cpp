@@ -22,7 +22,8 @@ NavModule::NavModule(RadioFace& receiver, const ReceiverTexts& captions, Picture
       digits(receiver.frequency, pictures,
              {.pointAfter = captions.pointAfter, .roomFor = frequencyRoom}, this),
       frequencyKnob(pictures, KnobCap::concentric, this) {
-    frequencyKnob.setToolTip(textOf(texts, words.tip));
+    frequencyKnob.setToolTip(textOf(texts, words.tip) + QLatin1Char('\n') +
+                             textOf(texts, Text::frequencyHandsTip));
     frequencyKnob.setAccessibleName(accessibleName() + ", " +
                                     textOf(texts, Text::spokenFrequencyKnob));
     connectKnob();
@@ -37,6 +38,7 @@ void NavModule::connectKnob() {
         change([this, at] { face.mouseMove(at); });
     };
     frequencyKnob.release = [this] { change([this] { face.mouseUp(); }); };
+    frequencyKnob.lost = [this] { change([this] { face.mouseLost(); }); };
     frequencyKnob.step = [this](int steps) {
         change([this, steps] { steps > 0 ? face.stepUp() : face.stepDown(); });
     };

@@ -64,6 +64,7 @@ int ReplayBar::sampleAt(const QMouseEvent& event) const {
 void ReplayBar::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton)
         return;
+    hold.begin();
     setSliderDown(true);
     setValue(sampleAt(*event));
     event->accept();
@@ -75,11 +76,16 @@ void ReplayBar::mouseMoveEvent(QMouseEvent* event) {
     event->accept();
 }
 
+void ReplayBar::letGo() {
+    frame.stop();
+    setSliderDown(false);
+}
+
 void ReplayBar::mouseReleaseEvent(QMouseEvent* event) {
     if (!isSliderDown())
         return;
-    frame.stop();
-    setSliderDown(false);
+    hold.end();
+    letGo();
     setValue(sampleAt(*event));
     if (value() != asked)
         askNow();

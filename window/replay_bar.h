@@ -1,5 +1,7 @@
 #pragma once
 
+#include "window/mouse_hold.h"
+
 #include <QSlider>
 #include <QTimer>
 
@@ -30,7 +32,9 @@ class ReplayBar : public QSlider {
     void ask();
     void askNow();
     [[nodiscard]] int sampleAt(const QMouseEvent& event) const;
+    void letGo();
 
+    MouseHold hold{*this, [this] { letGo(); }};
     QTimer frame;
     int asked = 0; ///< the sample last asked for
 };

@@ -4,6 +4,7 @@
 
 #include <QComboBox>
 #include <QLabel>
+#include <QScreen>
 #include <gmock/gmock.h>
 
 namespace tarnel {
@@ -94,6 +95,29 @@ TEST_F(Student, SwitchesTheViewAndTheScale) {
         click("ZoomIn");
     EXPECT_EQ(form->UserControl11.c_MAPscale, 1000);
     EXPECT_FALSE(find("ZoomIn").isEnabled());
+}
+
+// The switch lies over the chart and paints before it: that is no paint of the chart.
+TEST_F(Student, TheSwitchOfTheViewRepaintsTheWholeChartAtRest) {
+    open();
+    form->UserControl11.turnAircraft(73);
+    settle();
+    const auto* chart = window->findChild<ChartView*>();
+    const QRect inside = chart->rect().adjusted(10, 50, -10, -10);
+    for (const char* view : {"HeadingUp", "NorthUp"}) {
+        QTest::mouseClick(&findShown(view), Qt::LeftButton);
+        QApplication::processEvents(); // what asks for it paints
+        settle();
+        const QRect onScreen(chart->mapTo(window.get(), inside.topLeft()), inside.size());
+        const QImage seen = window->screen()
+                                ->grabWindow(window->winId(), onScreen.x(), onScreen.y(),
+                                             onScreen.width(), onScreen.height())
+                                .toImage();
+        const QImage wanted = window->grab(onScreen).toImage();
+        EXPECT_EQ(seen.convertToFormat(QImage::Format_RGB32),
+                  wanted.convertToFormat(QImage::Format_RGB32))
+            << view;
+    }
 }
 
 TEST_F(Student, OpensAndClosesTheFloatingGyro) {
