@@ -54,6 +54,14 @@ struct InstrumentPosition {
     void matchKnob();
 };
 
+/// Whether its instrument shows a course, so that it can hold the OBS of a VOR.
+[[nodiscard]] inline bool showsCourse(const InstrumentPosition& position) {
+    return position.type == vor || position.type == hsi;
+}
+[[nodiscard]] inline bool holdsAnObs(const InstrumentPosition& position) {
+    return position.vor1Hold == holdsObs || position.vor2Hold == holdsObs;
+}
+
 /// What belongs to a panel position elsewhere: its widgets, and its properties of the simulation.
 struct PositionLinks {
     InstrumentPosition& position;

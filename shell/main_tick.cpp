@@ -204,10 +204,11 @@ void Form1::pinAltitude() {
     UserControl11.c_Altitude.setIfChanged(fixedAltitude);
 }
 
+/// An instrument without a course has no such button; under a cover there is none either.
 void Form1::echoChannelButtons() {
-    const auto echo = [](CommandButton& button, const InstrumentPosition& position) {
-        const bool holds = position.vor1Hold == holdsObs || position.vor2Hold == holdsObs;
-        button.setCaption(holds ? Text::channelObs : Text::channelNav);
+    const auto echo = [this](CommandButton& button, const InstrumentPosition& position) {
+        button.setVisible(showsCourse(position) && instruments.visible());
+        button.setCaption(holdsAnObs(position) ? Text::channelObs : Text::channelNav);
     };
     echo(inst1ChannelButton, inst1);
     echo(inst2ChannelButton, inst2);

@@ -1,6 +1,7 @@
 #include "window/instrument_panel.h"
 
 #include "window/autopilot_module.h"
+#include "window/channel_lamp.h"
 #include "window/cover_plate.h"
 #include "window/dme_module.h"
 #include "window/instrument_header.h"
@@ -10,8 +11,6 @@
 #include "window/stopwatch_module.h"
 
 #include <QPainter>
-#include <QPushButton>
-#include <QStyle>
 
 namespace tarnel {
 
@@ -37,9 +36,8 @@ void InstrumentPanel::makeInstruments(FormBinding& binding, PictureStore& pictur
             return stationsOf(position);
         };
         instruments[i]->setObjectName(QStringLiteral("UserControl13_%1").arg(i));
-        channelButtons[i] = new QPushButton(this);
-        channelButtons[i]->setProperty("channel", true);
-        binding.bind(controls[i].links.channelButton, *channelButtons[i]);
+        channelLamps[i] = new ChannelLamp(this);
+        binding.bind(controls[i].links.channelButton, *channelLamps[i]);
         plates[i] = new CoverPlate(form.texts, this);
     }
     binding.follow([this] { coverInstruments(); });
@@ -76,17 +74,14 @@ void InstrumentPanel::makeModules(FormBinding& binding, PictureStore& pictures,
     autopilot->setObjectName(QStringLiteral("APControlFace1"));
 }
 
-void InstrumentPanel::layOutChannelButton(std::size_t position, const QRect& bezel) {
+void InstrumentPanel::layOutChannelLamp(std::size_t position, const QRect& bezel) {
     const double side = bezel.width();
     const double inset = look::bezel::channelButtonInset * side;
-    channelButtons[position]->setGeometry(QRectF(bezel.left() + inset, bezel.top() + inset,
-                                                 look::bezel::channelButtonWidth * side,
-                                                 look::bezel::channelButtonHeight * side)
-                                              .toRect());
-    const int letters =
-        qRound(qMax<double>(look::bezel::smallestLettering, look::bezel::lettering * side));
-    channelButtons[position]->setStyleSheet(QStringLiteral("font-size: %1px").arg(letters));
-    channelButtons[position]->raise();
+    channelLamps[position]->setGeometry(QRectF(bezel.left() + inset, bezel.top() + inset,
+                                               look::bezel::channelButtonWidth * side,
+                                               look::bezel::channelButtonHeight * side)
+                                            .toRect());
+    channelLamps[position]->raise();
 }
 
 /// Under a plate nothing is to be reached by keyboard either.
@@ -97,7 +92,6 @@ void InstrumentPanel::coverInstruments() {
         plates[i]->setVisible(covered);
         instruments[i]->setVisible(!covered);
         headers[i]->setEnabled(!covered);
-        channelButtons[i]->setVisible(!covered);
     }
 }
 
@@ -105,7 +99,7 @@ void InstrumentPanel::layOut(const WindowLayout& layout) {
     for (std::size_t i = 0; i < instruments.size(); ++i) {
         headers[i]->setGeometry(layout.headers[i]);
         instruments[i]->setGeometry(layout.instruments[i]);
-        layOutChannelButton(i, layout.instruments[i]);
+        layOutChannelLamp(i, layout.instruments[i]);
         plates[i]->setGeometry(layout.instruments[i]);
     }
     const std::array<QRect, 6> places = {layout.nav1, layout.nav2,      layout.adf,
@@ -116,21 +110,14 @@ void InstrumentPanel::layOut(const WindowLayout& layout) {
     }
 }
 
-/// A button that says OBS is lit.
-void InstrumentPanel::colourChannelButtons() {
+void InstrumentPanel::showChannelLamps() {
     const std::array<const PositionLinks*, 2> links = {&form.links2(), &form.links3()};
-    for (std::size_t i = 0; i < links.size(); ++i) {
-        const bool holds = links[i]->channelButton.caption() == Text::channelObs;
-        if (holds == holdsObs[i])
-            continue;
-        holdsObs[i] = holds;
-        channelButtons[i]->setProperty("holds", holds);
-        channelButtons[i]->style()->polish(channelButtons[i]);
-    }
+    for (std::size_t i = 0; i < links.size(); ++i)
+        channelLamps[i]->setLit(holdsAnObs(links[i]->position));
 }
 
 void InstrumentPanel::refresh() {
-    colourChannelButtons();
+    showChannelLamps();
     for (InstrumentHeader* header : headers)
         header->refresh();
     for (InstrumentView* instrument : instruments)

@@ -11,11 +11,10 @@
 
 #include <array>
 
-class QPushButton;
-
 namespace tarnel {
 
 class AutopilotModule;
+class ChannelLamp;
 class CoverPlate;
 class DmeModule;
 class InstrumentHeader;
@@ -44,15 +43,14 @@ class InstrumentPanel : public QWidget {
     void makeModules(FormBinding& binding, PictureStore& pictures, const ModelGuard& guard);
     [[nodiscard]] SpokenStations stationsOf(const InstrumentPosition& position) const;
     void coverInstruments();
-    void colourChannelButtons();
-    void layOutChannelButton(std::size_t position, const QRect& bezel);
+    void showChannelLamps();
+    void layOutChannelLamp(std::size_t position, const QRect& bezel);
 
     Form1& form;
     std::array<InstrumentHeader*, 2> headers{};
     std::array<InstrumentView*, 2> instruments{};
-    std::array<QPushButton*, 2> channelButtons{};
+    std::array<ChannelLamp*, 2> channelLamps{};
     std::array<CoverPlate*, 2> plates{};
-    std::array<bool, 2> holdsObs{};
     NavModule* nav1 = nullptr;
     NavModule* nav2 = nullptr;
     NavModule* adf = nullptr;
