@@ -41,17 +41,10 @@ enum class Text : int {
     windManualTip = 145,
     windRandom = 146,
     windRandomTip = 147,
-    windOn = 148,
     windOff = 149,
     windOnTip = 150,
     windOffTip = 151,
-    simRate = 152,
     fly = 153,
-    showComments = 154,
-    showCommentsTip = 155,
-    hideComments = 156,
-    hideCommentsTip = 157,
-    exerciseNotes = 158,
     instrument1Selection = 159,
     instrument2Selection = 160,
     smallDisplay = 161,
@@ -62,12 +55,7 @@ enum class Text : int {
     showRadialTip = 166,
     rmiPointer = 167,
     rmiPointerTip = 168,
-    introductionNotice = 169,
-    introductionNotAgain = 170,
-    introductionTitle = 171,
     aboutTitle = 172,
-    requiredDisplay = 173,
-    alwaysOnTop = 176,
 
     // Menu items of the exercises.
     exercisesAdfRmi = 178,
@@ -169,8 +157,6 @@ enum class Text : int {
     aboutTarnel = 281,
 
     // Exercise panels.
-    markExercises = 284,
-    markAdfPosition = 285,
     trendLarger = 286,
     trendSmaller = 287,
     trendSame = 288,
@@ -242,15 +228,12 @@ enum class Text : int {
     belowActualQdm = 363,
     aboveActualQdm = 364,
     belowRequiredQdr = 365,
-    aboveRequiredQdr = 366,
-    markPageNumbers = 368,
 
     // Pages of the book, in the order of its menu items.
     bookPageFirst = 370,
     bookPageLast = 434,
 
     // Other captions.
-    fitChartScale = 450,
     askQdrAngle = 451,
     backToExercise = 452,
 
@@ -265,7 +248,10 @@ enum class Text : int {
     knobTip = 465,
     headingBugTip = 466,
     receiverSelectorTip = 467,
-    instrumentSelectionTip = 468,
+    knobHandsTip = 900,
+    frequencyHandsTip = 901,
+    rateHandsTip = 902,
+    presentHeadingTip = 903,
     realTimeTip = 469,
     rateHalfTip = 470,
     rateDoubleTip = 471,
@@ -325,7 +311,6 @@ enum class Text : int {
     editChart = 519,
     editChartTip = 520,
     chartCentre = 521,
-    chartCentreAircraft = 522,
 
     // Comments of a session and the practice panel.
     commentStart = 523,
@@ -414,14 +399,7 @@ enum class Text : int {
     channelNav = 586,
     channelObs = 587,
     channelTip = 588,
-    knobObs = 589,
-    knobHdg = 590,
-    cardFixed = 591,
-    cardSlaved = 592,
     courseShort = 593,
-    flagTo = 594,
-    flagFrom = 595,
-    flagOff = 596,
 
     // Radio faces, autopilot and stopwatch.
     faceNav1 = 597,
@@ -463,6 +441,7 @@ enum class Text : int {
     chartWindPrefix = 629,
     chartGroundSpeed = 630,
     chartNorth = 631,
+    chartRadialPrefix = 904,
 
     // Station editor.
     editorVorRed = 632,
@@ -513,10 +492,6 @@ enum class Text : int {
     builtInChart = 667,
     flightPaused = 668,
     alreadyRunning = 669,
-    readerMissingTitle = 670,
-    readerMissing = 671,
-    readerMissingCheck = 672,
-    readerMissingWhere = 673,
     bookMissingTitle = 674,
     bookMissing = 675,
     bookMissingInstall = 676,
@@ -594,7 +569,6 @@ enum class Text : int {
     spokenCardKnob = 833,
     spokenHeadingBugKnob = 716,
     spokenReceiverSelector = 717,
-    spokenChannelButton = 718,
     spokenFrequencyKnob = 719,
     spokenDmeSourceKnob = 720,
     spokenDmeDistance = 721,

@@ -33,9 +33,14 @@ AutopilotModule::AutopilotModule(APControlFace& autopilot, PictureStore& store,
     addColumn(AutopilotKnob::airSpeed, face.airSpeedDigits, Text::autopilotSpeed, Text::unitKnots);
     addColumn(AutopilotKnob::altitude, face.altitudeDigits, Text::autopilotAltitude,
               Text::unitFeet);
-    describe(*columns[0].knob, Text::spokenAutopilotHeadingKnob, Text::autopilotHeadingTip);
-    describe(*columns[1].knob, Text::spokenAutopilotSpeedKnob, Text::autopilotSpeedTip);
-    describe(*columns[2].knob, Text::spokenAutopilotAltitudeKnob, Text::autopilotAltitudeTip);
+    describe(*columns[0].knob, Text::spokenAutopilotHeadingKnob, Text::autopilotHeadingTip,
+             Text::knobHandsTip);
+    columns[0].knob->setToolTip(columns[0].knob->toolTip() + QLatin1Char('\n') +
+                                textOf(texts, Text::presentHeadingTip));
+    describe(*columns[1].knob, Text::spokenAutopilotSpeedKnob, Text::autopilotSpeedTip,
+             Text::rateHandsTip);
+    describe(*columns[2].knob, Text::spokenAutopilotAltitudeKnob, Text::autopilotAltitudeTip,
+             Text::rateHandsTip);
     columns[0].knob->doubleClick = [this] {
         change([this] { face.doubleClick(AutopilotKnob::heading); });
     };
@@ -55,9 +60,9 @@ void AutopilotModule::addColumn(AutopilotKnob which, const DigitReadout& readout
     connectKnob(which, *columns.back().knob);
 }
 
-void AutopilotModule::describe(KnobWidget& knob, Text name, Text tip) {
+void AutopilotModule::describe(KnobWidget& knob, Text name, Text tip, Text hands) {
     knob.setAccessibleName(textOf(texts, name));
-    knob.setToolTip(textOf(texts, tip));
+    knob.setToolTip(textOf(texts, tip) + QLatin1Char('\n') + textOf(texts, hands));
 }
 
 void AutopilotModule::connectKnob(AutopilotKnob which, KnobWidget& knob) {

@@ -39,7 +39,7 @@ class AutopilotModule : public ModuleFrame {
     };
 
     void addColumn(AutopilotKnob which, const DigitReadout& readout, Text label, Text unit);
-    void describe(KnobWidget& knob, Text name, Text tip);
+    void describe(KnobWidget& knob, Text name, Text tip, Text hands);
     void connectKnob(AutopilotKnob which, KnobWidget& knob);
     void step(AutopilotKnob which, int steps);
     void change(const std::function<void()>& action);

@@ -236,7 +236,7 @@ void ChartPainter::paintRadialNames(QPainter& painter, std::span<const QRectF> o
         const QString course = courseText(lines.angle + heading);
         paintRadialLettering(painter, frame, lines.course,
                              isLocalizer ? course + textOf(texts, Text::unitDegreeSign)
-                                         : QStringLiteral("R-") + course,
+                                         : textOf(texts, Text::chartRadialPrefix) + course,
                              occupied);
     };
     letter(sim.picture.radialsI2);
