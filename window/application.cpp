@@ -10,6 +10,7 @@
 #include "window/panel_accessibility.h"
 #include "window/qt_outside_world.h"
 #include "window/single_instance.h"
+#include "window/window_place.h"
 
 #include <QApplication>
 #include <QDir>
@@ -133,7 +134,11 @@ int runApplication(int argc, char** argv, const StringTable& texts) {
         showAgain(window);
         openIn(path);
     };
-    openOnScreen(window);
+    window.onClose = [&] { keepPlace(window, outside.settings()); };
+    if (takePlace(window, outside.settings()))
+        window.show();
+    else
+        openOnScreen(window);
     window.startTimers();
     std::optional<FlightGuard> guard;
     QTimer::singleShot(0, &window, [&] {

@@ -21,7 +21,6 @@ namespace {
 
 constexpr int sectionGap = 6;
 constexpr int buttonGap = 4;
-constexpr int fewestLines = 2;
 constexpr int mostLines = 6;  ///< a longer comment scrolls
 constexpr int textSlack = 24; ///< of the width: the mark, its gap and the frame of the text
 
@@ -54,9 +53,6 @@ QWidget* CommentCard::makeComment() {
     mark->setAccessibleName(textOf(form.texts, Text::commentMark));
     keepPlace(*mark);
     across->addWidget(mark, 0, Qt::AlignTop);
-    caption = new QLabel(textOf(form.texts, Text::comment), row);
-    caption->setProperty("secondary", true);
-    across->addWidget(caption, 1, Qt::AlignTop);
     place = new QScrollArea(row);
     place->setObjectName(QStringLiteral("Frame3"));
     place->setFocusPolicy(Qt::StrongFocus);
@@ -128,9 +124,7 @@ QWidget* CommentCard::makePractice() {
 void CommentCard::refresh() {
     const bool written = form.commentPanel.comment.visible();
     const bool writes = form.commentPanel.write.value() == 1;
-    commentRow->setVisible(written || writes || lettersOfComments() > 0);
-    place->setVisible(written);
-    caption->setVisible(!written);
+    commentRow->setVisible(written);
     mark->setVisible(written && form.commentPanel.mark.visible());
     writer->setVisible(writes);
     practice->setVisible(form.practicePanel.frame.visible());
@@ -170,16 +164,27 @@ int CommentCard::commentHeight(int width) const {
         measure(form.UserControl11.comments.text(i));
     measure(form.commentPanel.comment.text());
     const int line = metrics.lineSpacing();
-    return std::clamp(tallest, fewestLines * line, mostLines * line) + 2;
+    return std::clamp(tallest, line, mostLines * line) + 2;
 }
 
 int CommentCard::wantedHeight(int width) const {
+    return heightWith(commentHeight(width));
+}
+
+int CommentCard::leastHeight(int width) const {
+    constexpr int lines = 2;
+    comment->ensurePolished();
+    return heightWith(
+        std::min(commentHeight(width), lines * comment->fontMetrics().lineSpacing() + 2));
+}
+
+int CommentCard::heightWith(int commentHeight) const {
     int height = 0;
     const auto add = [&](const QWidget& section, int wanted) {
         if (!section.isHidden())
             height += wanted + (height > 0 ? sectionGap : 0);
     };
-    add(*commentRow, commentHeight(width));
+    add(*commentRow, commentHeight);
     add(*writer, writer->sizeHint().height());
     add(*practice, practice->sizeHint().height());
     return height > 0 ? height + 2 * look::gap : 0;

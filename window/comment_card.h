@@ -24,8 +24,10 @@ class CommentCard : public QWidget {
     void refresh();
 
     /// The height that the card wants at a width, 0 if nothing stands on it. It goes by the longest
-    /// comment of the session, so that the window keeps still while comments come and go.
+    /// comment of the session, so that the window keeps still from one comment to the next.
     [[nodiscard]] int wantedHeight(int width) const;
+    /// The height that it does with, since its text scrolls.
+    [[nodiscard]] int leastHeight(int width) const;
 
     /// A number that differs when `wantedHeight` may do so; cheap.
     [[nodiscard]] std::size_t contents() const;
@@ -40,12 +42,12 @@ class CommentCard : public QWidget {
     void addButtons(QBoxLayout& row, std::initializer_list<CommandButton*> buttons);
     [[nodiscard]] std::size_t lettersOfComments() const;
     [[nodiscard]] int commentHeight(int width) const;
+    [[nodiscard]] int heightWith(int commentHeight) const;
 
     Form1& form;
     FormBinding& binding;
     QWidget* commentRow = nullptr;
     QLabel* mark = nullptr;
-    QLabel* caption = nullptr; ///< in the comment's place while there is none
     QLabel* comment = nullptr;
     QScrollArea* place = nullptr;
     QWidget* writer = nullptr;

@@ -1,7 +1,7 @@
 #include "window/control_strip.h"
 
-#include "window/bold_text.h"
 #include "window/card.h"
+#include "window/choice_button.h"
 #include "window/icons.h"
 #include "window/look.h"
 #include "window/segment_row.h"
@@ -91,10 +91,9 @@ QHBoxLayout* ControlStrip::makeTabRow() {
 }
 
 void ControlStrip::addTab(QHBoxLayout& row, OptionButton& page) {
-    auto* tab = new QPushButton(this);
+    auto* tab = new ChoiceButton(tabPadding, this);
     tab->setProperty("tab", true);
     binding.bind(page, *tab);
-    tab->setMinimumWidth(boldTextWidth(*tab) + tabPadding);
     row.addWidget(tab);
 }
 

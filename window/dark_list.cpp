@@ -30,10 +30,12 @@ QSize DarkList::sizeHint() const {
 void DarkList::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
+    if (!isEnabled())
+        painter.setOpacity(look::dimmedOpacity);
     const QRectF area = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
-    const QColor edge = hasFocus()     ? look::panelAccent
-                        : underMouse() ? look::unit
-                                       : look::bezelTop.lighter(125);
+    const QColor edge = hasFocus()                    ? look::panelAccent
+                        : underMouse() && isEnabled() ? look::unit
+                                                      : look::bezelTop.lighter(125);
     painter.setPen(QPen(edge, hasFocus() ? 2 : 1));
     painter.setBrush(look::downward(0, height(), look::moduleTop, look::moduleBottom));
     painter.drawRoundedRect(area, look::controlRadius, look::controlRadius);

@@ -106,6 +106,9 @@ inline QFont font(double pixels, QFont::Weight weight = QFont::Normal) {
     return result;
 }
 
+/// How strongly a disabled control shows on the light side.
+inline constexpr double disabledOpacity = 0.4;
+
 // Spacing.
 inline constexpr int gap = 8; ///< outer margin, gutters, inset of the panel
 inline constexpr int cardInset = 10;

@@ -26,7 +26,8 @@ namespace {
 
 constexpr int couplingMilliseconds = 1;
 constexpr int autopilotMilliseconds = 200;
-constexpr QSize smallestWindow{980, 660};
+/// A screen of 960 x 540 less the desktop's own bars.
+constexpr QSize smallestWindow{940, 480};
 constexpr QSize usualWindow{1280, 800};
 
 } // namespace
@@ -109,7 +110,8 @@ ColumnWishes MainWindow::columnWishes() const {
     return {[this](int width) {
                 return quiz->runs() ? quiz->wantedHeight(width) : strip->wantedHeight(width);
             },
-            [this](int width) { return form.questionOpen() ? 0 : comment->wantedHeight(width); }};
+            [this](int width) { return comment->wantedHeight(width); },
+            [this](int width) { return form.questionOpen() ? 0 : comment->leastHeight(width); }};
 }
 
 void MainWindow::layOut() {
@@ -157,6 +159,8 @@ void MainWindow::closeEvent(QCloseEvent* event) {
         return;
     }
     event->accept();
+    if (onClose)
+        onClose();
     QCoreApplication::quit();
 }
 

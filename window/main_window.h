@@ -8,6 +8,7 @@
 #include <QMainWindow>
 #include <QTimer>
 
+#include <functional>
 #include <memory>
 
 namespace tarnel {
@@ -40,6 +41,9 @@ class MainWindow : public QMainWindow {
 
     /// Brings everything that is shown up to date with the form.
     void refresh();
+
+    /// Called while the window still stands, when the user closes it.
+    std::function<void()> onClose;
 
   protected:
     void resizeEvent(QResizeEvent* event) override;

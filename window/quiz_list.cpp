@@ -133,9 +133,12 @@ void QuizList::wheelEvent(QWheelEvent* event) {
 void QuizList::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
+    if (!isEnabled())
+        painter.setOpacity(look::disabledOpacity);
     const double scale = quiz::scaleOf(*this);
     const double edge = hasFocus() ? 2 : 1;
-    painter.setPen(QPen(hasFocus() || underMouse() ? look::accent : look::line, edge));
+    painter.setPen(
+        QPen(hasFocus() || (underMouse() && isEnabled()) ? look::accent : look::line, edge));
     painter.setBrush(hasFocus() ? look::onPaper(look::accent, 0.08) : look::paper);
     const QRectF area = QRectF(rect()).adjusted(edge / 2, edge / 2, -edge / 2, -edge / 2);
     painter.drawRoundedRect(area, look::controlRadius, look::controlRadius);

@@ -1,6 +1,6 @@
 #include "window/scale_choice.h"
 
-#include "window/bold_text.h"
+#include "window/choice_button.h"
 #include "window/text_of.h"
 
 #include <QHBoxLayout>
@@ -32,11 +32,10 @@ ScaleChoice::ScaleChoice(Form1& owner, QWidget* parent) : QWidget(parent), form(
 
 QPushButton* ScaleChoice::addScale(std::size_t index) {
     const std::int16_t scale = MapView::offeredScales[index];
-    auto* button = new QPushButton(milesText(scale), this);
+    auto* button = new ChoiceButton(segmentPadding, this);
+    button->setText(milesText(scale));
     button->setObjectName(QStringLiteral("Scale_%1").arg(scale));
     button->setProperty("segment", index == 0 ? "first" : index == count - 1 ? "last" : "middle");
-    button->setCheckable(true);
-    button->setMinimumWidth(boldTextWidth(*button) + segmentPadding);
     const auto across = static_cast<int>(std::lround(form.UserControl11.picture.size / scale));
     button->setToolTip(textOf(form.texts, Text::chartScaleTip).arg(across));
     button->setAccessibleName(textOf(form.texts, Text::chartScale) + QLatin1Char(' ') +

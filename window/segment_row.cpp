@@ -1,9 +1,8 @@
 #include "window/segment_row.h"
 
-#include "window/bold_text.h"
+#include "window/choice_button.h"
 
 #include <QHBoxLayout>
-#include <QPushButton>
 
 namespace tarnel {
 
@@ -20,14 +19,12 @@ QWidget* segmentRow(FormBinding& binding, std::initializer_list<OptionButton*> o
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(0);
     for (OptionButton* option : options) {
-        auto* segment = new QPushButton(bar);
+        auto* segment = new ChoiceButton(segmentPadding, bar);
         segment->setProperty("segment", option == *options.begin()       ? "first"
                                         : option == *(options.end() - 1) ? "last"
                                                                          : "middle");
         binding.bind(*option, *segment);
-        const int width = boldTextWidth(*segment);
-        segment->setMinimumWidth(width + segmentPadding);
-        row->addWidget(segment, width);
+        row->addWidget(segment, segment->sizeHint().width());
     }
     return bar;
 }

@@ -18,7 +18,8 @@ constexpr const char* sheet = R"(
 QMainWindow, QWidget#Desk { background: $desktop; }
 QMenuBar { background: $bar; color: $ink; padding: {2}px {8}px; border-bottom: 1px solid $line; }
 QMenuBar::item { padding: {4}px {10}px; border-radius: {4}px; background: transparent; }
-QMenuBar::item:selected { background: $hairline; }
+QMenuBar::item:selected:enabled { background: $hairline; }
+QMenuBar::item:disabled { color: $unit; }
 QMenu { background: $card; color: $ink; border: 1px solid $line; padding: {4}px; }
 QMenu::item { padding: {4}px {26}px {4}px {22}px; border-radius: {3}px; }
 QMenu::item:selected:enabled { background: $accent; color: white; }
@@ -28,6 +29,7 @@ QToolTip { background: $card; color: $ink; border: 1px solid $line; padding: {3}
 
 QLabel { color: $ink; background: transparent; }
 QLabel[secondary="true"] { color: $secondaryInk; font-size: {12}px; }
+QLabel:disabled { color: $unit; }
 QLabel[readout="true"] { font-size: {13}px; font-weight: bold; }
 QLabel[comment="true"] { font-size: {15}px; }
 QScrollArea#Frame3 { background: transparent; border: 1px solid transparent; border-radius: {3}px; }
@@ -47,7 +49,7 @@ QPushButton { outline: none; }
 QPushButton:hover { border-color: $accent; }
 QPushButton:pressed { background: $hairline; }
 QPushButton:focus { border: 2px solid $accent; padding: 0 {9}px; }
-QPushButton:disabled { color: $unit; }
+QPushButton:disabled { background: $card; color: $unit; border-color: $hairline; }
 QPushButton[primary="true"] { background: $accent; color: white; border: 1px solid $accentDeep;
   font-weight: bold; font-size: {13}px; min-width: {96}px; min-height: {26}px; max-height: {26}px; }
 QPushButton[primary="true"]:hover { background: $accentLight; }
@@ -65,6 +67,9 @@ QPushButton[segment]:checked { background: $paper; color: $accent; font-weight: 
   border: {2}px solid $accent; border-radius: {5}px; padding: 0 {3}px; }
 QPushButton[segment]:checked:focus { background: $tint; }
 QPushButton[segment]:focus:!checked { border: 1px solid $accent; color: $accent; }
+QPushButton[segment]:disabled { background: $card; color: $unit; border-color: $line; }
+QPushButton[segment]:checked:disabled { background: $card; color: $secondaryInk;
+  border-color: $line; }
 
 QPushButton[tab="true"] { background: transparent; border: none; border-radius: 0;
   border-bottom: {2}px solid transparent; padding: 0 {4}px;
@@ -75,11 +80,13 @@ QPushButton[tab="true"]:focus { background: $hairline; border-top-left-radius: {
   border-top-right-radius: {4}px; }
 
 QSpinBox { font-size: {12}px; min-height: {24}px; }
+QSpinBox:disabled { color: $unit; }
 QLineEdit { background: $paper; color: $ink; border: 1px solid $line;
   border-radius: {5}px; padding: 0 {6}px; min-height: {24}px; max-height: {24}px;
   font-size: {12}px; selection-background-color: $accent; selection-color: white; }
 QLineEdit:hover { border-color: $accent; }
 QLineEdit:focus { border: 2px solid $accent; padding: 0 {5}px; }
+QLineEdit:disabled { background: $card; color: $unit; border-color: $hairline; }
 
 QToolButton { background: $paper; border: 1px solid $line; border-radius: {5}px;
   min-width: {26}px; min-height: {24}px; max-height: {24}px; }
@@ -107,15 +114,7 @@ QToolButton[dark="true"]:hover { border-color: $unit; }
 QToolButton[dark="true"]:pressed { background: $panelBottom; }
 QToolButton[dark="true"]:checked { background: $accent; border-color: $panelFocus; }
 QToolButton[dark="true"]:focus { border: 2px solid $panelFocus; }
-
-
-QPushButton[channel="true"][holds="true"] { color: $measured; }
-QPushButton[channel="true"] { background: $moduleTop; color: $unit;
-  border: 1px solid $panelBottom; border-top-color: $bezelTop; border-radius: {4}px; padding: 0;
-  min-height: 0; max-height: 999px; font-weight: bold; }
-QPushButton[channel="true"]:hover { border-color: $unit; }
-QPushButton[channel="true"]:pressed { background: $panelBottom; }
-QPushButton[channel="true"]:focus { border: 2px solid $panelFocus; padding: 0; }
+QToolButton[dark="true"]:disabled { background: $panelBottom; border-color: $moduleTop; }
 
 QLabel[quizTitle="true"] { font-size: {15}px; font-weight: bold; }
 QLabel[quizTask="true"] { font-weight: bold; }
@@ -157,7 +156,6 @@ const QHash<QString, QColor>& colours() {
         {QStringLiteral("bezelTop"), look::bezelTop.lighter(125)},
         {QStringLiteral("panelBottom"), look::panelBottom},
         {QStringLiteral("caption"), look::caption},
-        {QStringLiteral("measured"), look::measured},
         {QStringLiteral("panelFocus"), look::panelAccent},
     };
     return byName;

@@ -39,11 +39,11 @@ void TickBox::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     if (!isEnabled())
-        painter.setOpacity(0.4);
+        painter.setOpacity(look::disabledOpacity);
     const int side = fieldSize();
     const QRectF field(1, (height() - side) / 2.0, side, side);
     const bool filled = checkState() != Qt::Unchecked;
-    const bool active = underMouse() || hasFocus();
+    const bool active = (underMouse() && isEnabled()) || hasFocus();
     painter.setPen(QPen(filled || active ? look::accent : look::unit, hasFocus() ? 2 : 1.2));
     painter.setBrush(filled ? look::accent : look::paper);
     painter.drawRoundedRect(field.adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);

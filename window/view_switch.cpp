@@ -1,6 +1,6 @@
 #include "window/view_switch.h"
 
-#include "window/bold_text.h"
+#include "window/choice_button.h"
 #include "window/text_of.h"
 
 #include <QHBoxLayout>
@@ -26,12 +26,11 @@ ViewSwitch::ViewSwitch(Form1& owner, QWidget* parent) : QWidget(parent), form(ow
 }
 
 QPushButton* ViewSwitch::addView(const char* name, const char* segment, Text caption, bool up) {
-    auto* button = new QPushButton(textOf(form.texts, caption), this);
+    auto* button = new ChoiceButton(segmentPadding, this);
+    button->setText(textOf(form.texts, caption));
     button->setObjectName(QString::fromLatin1(name));
     button->setProperty("segment", segment);
-    button->setCheckable(true);
     button->setToolTip(textOf(form.texts, Text::chartViewTip));
-    button->setMinimumWidth(boldTextWidth(*button) + segmentPadding);
     connect(button, &QPushButton::clicked, this, [this, up] {
         form.guarded([&] { form.setNorthUp(up); });
         shownView = -1;
@@ -41,6 +40,7 @@ QPushButton* ViewSwitch::addView(const char* name, const char* segment, Text cap
 }
 
 void ViewSwitch::refresh() {
+    headingUp->setEnabled(form.mayTurnHeadingUp());
     const int view = form.UserControl11.c_MAPnorthUP;
     if (view == shownView)
         return;

@@ -9,8 +9,16 @@ namespace tarnel {
 
 namespace {
 
-constexpr double stripHeight = 178;
+/// What stands below the chart has this height in a window of 1280 x 800, and a part of what other
+/// windows are higher or lower.
+constexpr double usualFoot = 206;
+constexpr double usualBody = 746;
+constexpr double footShare = 0.3;
+constexpr double lowestFoot = 120;
+constexpr double highestFoot = 270;
+
 constexpr int smallestChart = 160;
+constexpr double narrowestColumn = 384; ///< a smaller chart stands in its middle
 constexpr double headerHeight = 32;
 constexpr double panelReferenceWidth = 712;
 constexpr double largeToSmall = 1.35;
@@ -18,12 +26,20 @@ constexpr double largeChartShare = 0.82;
 constexpr double chartWidthShare = 0.477;
 /// A row of modules: the lowest at text scale 1, the highest at panel scale 1.
 constexpr double lowestRow = 74;
+constexpr double lowestRowOfLowPanel = 64;
+constexpr double lowPanel = 560;
 constexpr double highestRow = 200;
 /// Two rows of modules in place of three need a panel this wide, at text scale 1.
 constexpr double twoRowWidth = 840;
 
 double uiScaleOf(QSize body) {
     return std::clamp(std::min(body.width() / 1920.0, body.height() / 1000.0), 1.0, 2.0);
+}
+
+double footOf(QSize body, double uiScale) {
+    const double height = body.height() / uiScale;
+    return uiScale *
+           std::clamp(usualFoot + footShare * (height - usualBody), lowestFoot, highestFoot);
 }
 
 int whole(double value) {
@@ -83,7 +99,9 @@ class PanelLayout {
     }
 
     [[nodiscard]] double tallestBezel(QSize panel) const {
-        const double lowestModules = rows * lowestRow * layout.uiScale + (rows - 1) * margin;
+        const bool low = panel.height() < lowPanel * layout.uiScale;
+        const double row = (low ? lowestRowOfLowPanel : lowestRow) * layout.uiScale;
+        const double lowestModules = rows * row + (rows - 1) * margin;
         return panel.height() - 3 * margin - head - lowestModules;
     }
 
@@ -140,20 +158,23 @@ class PanelLayout {
     double head = 0;
 };
 
-/// Chart, strip and comment below each other in a column of `width`.
+/// Chart, strip and comment below each other in a column of `width`. The comment stands in the
+/// room that the strip leaves; only if that is less than it needs the chart gives way.
 void layOutChart(WindowLayout& layout, QSize body, int width, const ColumnWishes& wishes) {
     const int margin = whole(look::gap * layout.uiScale);
     const int bottom = body.height() - margin;
-    const int strip = std::max(whole(stripHeight * layout.uiScale), wishes.strip(width));
-    const int forChart = bottom - margin - strip - margin;
-    const int wanted = wishes.comment(width);
-    const int comment = std::min(wanted, forChart - margin - smallestChart);
-    const int forComment = wanted > 0 ? comment + margin : 0;
-    const int side = std::clamp(forChart - forComment, smallestChart, width);
+    const int strip = wishes.strip(width);
+    const int least = wishes.leastComment(width);
+    const int stripWithComment = least > 0 ? strip + margin + least : strip;
+    const int foot = std::max(whole(footOf(body, layout.uiScale)), stripWithComment);
+    const int side = std::clamp(bottom - 2 * margin - foot, smallestChart, width);
     layout.chart = {margin + (width - side) / 2, margin, side, side};
     const int stripTop = margin + side + margin;
-    layout.strip = {margin, stripTop, width, bottom - forComment - stripTop};
-    if (wanted > 0)
+    const int room = bottom - stripTop;
+    const int comment =
+        least > 0 ? std::min(wishes.comment(width), std::max(least, room - margin - strip)) : 0;
+    layout.strip = {margin, stripTop, width, least > 0 ? room - margin - comment : room};
+    if (comment > 0)
         layout.comment = {margin, bottom - comment, width, comment};
 }
 
@@ -165,10 +186,10 @@ WindowLayout layOutWindow(QSize body, PanelSizes sizes, const ColumnWishes& wish
     const int margin = whole(look::gap * layout.uiScale);
     const int height = body.height() - 2 * margin;
     const double widest = std::floor(chartWidthShare * body.width() / look::gap) * look::gap;
-    double side = std::min(height - margin - stripHeight * layout.uiScale, widest);
+    double side = std::min(height - margin - footOf(body, layout.uiScale), widest);
     if (sizes.inst2Large || sizes.inst3Large)
         side *= largeChartShare;
-    const int columnWidth = std::max(whole(side), smallestChart);
+    const int columnWidth = whole(std::max(side, std::min(narrowestColumn, widest)));
     layOutChart(layout, body, columnWidth, wishes);
     const int panelLeft = margin + columnWidth + margin;
     layout.panel = {panelLeft, margin, body.width() - margin - panelLeft, height};

@@ -37,12 +37,14 @@ struct WindowLayout {
 struct ColumnWishes {
     using Height = std::function<int(int)>;
     Height strip = [](int) { return 0; };
-    Height comment = [](int) { return 0; }; ///< 0 for no card
+    Height comment = [](int) { return 0; };      ///< with all of its text in sight
+    Height leastComment = [](int) { return 0; }; ///< with text that scrolls; 0 for no card
 };
 
 /// Lays out the space between menu bar and status bar. A large instrument takes its room from the
-/// chart, a comment from the chart's height alone: strip and instruments stay where they are. Meant
-/// for 1000 x 640 and more; nothing overlaps below that, but it gets cramped.
+/// chart. A comment takes it from what the strip leaves, and where that is too little from the
+/// chart's height: instruments and radios stay where they are. Meant for windows of 960 x 540 and
+/// more.
 [[nodiscard]] WindowLayout layOutWindow(QSize body, PanelSizes sizes,
                                         const ColumnWishes& wishes = {});
 
