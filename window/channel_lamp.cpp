@@ -26,10 +26,10 @@ ChannelLamp::ChannelLamp(QWidget* parent) : QAbstractButton(parent) {
     setFocusPolicy(Qt::StrongFocus);
 }
 
-void ChannelLamp::setLit(bool on) {
-    if (lit == on)
+void ChannelLamp::setLit(bool shines) {
+    if (lit == shines)
         return;
-    lit = on;
+    lit = shines;
     update();
 }
 

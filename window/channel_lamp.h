@@ -12,7 +12,7 @@ class ChannelLamp : public QAbstractButton {
   public:
     explicit ChannelLamp(QWidget* parent = nullptr);
 
-    void setLit(bool on);
+    void setLit(bool shines);
 
   protected:
     void paintEvent(QPaintEvent* event) override;
