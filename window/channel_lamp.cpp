@@ -40,6 +40,8 @@ void ChannelLamp::paintEvent(QPaintEvent* /*event*/) {
     const QRectF well = rect().toRectF().adjusted(0.5, 0.5, -0.5, -0.5);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
+    if (!isEnabled())
+        painter.setOpacity(look::dimmedOpacity);
     const QColor edge = hasFocus()     ? look::panelFocus
                         : underMouse() ? look::unit
                                        : look::bezelTop.lighter(125);

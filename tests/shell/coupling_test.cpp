@@ -261,6 +261,15 @@ TEST(Panel, OneInstrumentHoldsTheObsOfAVor) {
     EXPECT_EQ(holder(), std::pair(true, false)) << "VOR 2 is taken over, too";
 }
 
+TEST(Panel, OnlyAnInstrumentWithACourseHasTheButtonOfAChannel) {
+    Trainer trainer;
+    for (int kind = adf; kind <= dg; ++kind) {
+        trainer.form.inst2TypeList.pick(kind - 1);
+        trainer.couple();
+        EXPECT_EQ(trainer.form.inst2ChannelButton.visible(), kind == vor || kind == hsi) << kind;
+    }
+}
+
 TEST(Panel, LargeDisplayReloadsItsPictureAndShrinksTheChart) {
     Trainer trainer;
     trainer.form.inst3Large.click();

@@ -1,6 +1,7 @@
 #include "window/document_reader.h"
 #include "window/qt_outside_world.h"
 #include "window/student_fixture.h"
+#include "window/window_place.h"
 
 #include <QDropEvent>
 #include <QFile>
@@ -137,6 +138,22 @@ TEST(DocumentReaderTest, APdfReaderIsToldThePage) {
     EXPECT_TRUE(opened);
     EXPECT_TRUE(QTest::qWaitFor([&] { return QFile::exists(told); }));
     EXPECT_EQ(read(told), "--page-index=26|/books/my book.pdf|");
+}
+
+TEST(WindowPlace, OutlivesTheProgram) {
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("settings.ini"));
+    QWidget window;
+    {
+        FileSettings settings(file);
+        EXPECT_FALSE(takePlace(window, settings));
+        QWidget before;
+        before.setGeometry(60, 50, 500, 400);
+        keepPlace(before, settings);
+    }
+    const FileSettings settings(file);
+    EXPECT_TRUE(takePlace(window, settings));
+    EXPECT_EQ(window.geometry(), QRect(60, 50, 500, 400));
 }
 
 /// The window with boxes and dialogs of its own.

@@ -4,6 +4,7 @@
 
 #include <QComboBox>
 #include <QLabel>
+#include <QMenuBar>
 #include <QScreen>
 #include <gmock/gmock.h>
 
@@ -118,6 +119,29 @@ TEST_F(Student, TheSwitchOfTheViewRepaintsTheWholeChartAtRest) {
                   wanted.convertToFormat(QImage::Format_RGB32))
             << view;
     }
+}
+
+// On every page of the strip, on the panel, over the chart and in the menu bar.
+TEST_F(Student, WhatIsDisabledLooksDisabled) {
+    open();
+    const auto changesItsLook = [](QWidget& shown, auto& disabled) {
+        const QImage before = shown.grab().toImage();
+        disabled.setEnabled(false);
+        const QImage after = shown.grab().toImage();
+        disabled.setEnabled(true);
+        return before != after;
+    };
+    for (const char* page : {"PageChart", "PageReplay", "PageWind", "PageStations"}) {
+        click(page);
+        for (auto* widget : window->findChildren<QWidget*>())
+            if (widget->isVisible() && widget->isEnabled() &&
+                (qobject_cast<QAbstractButton*>(widget) || qobject_cast<QComboBox*>(widget))) {
+                EXPECT_TRUE(changesItsLook(*widget, *widget))
+                    << qPrintable(widget->objectName()) << " " << widget->metaObject()->className();
+            }
+    }
+    for (QAction* menu : window->menuBar()->actions())
+        EXPECT_TRUE(changesItsLook(*window->menuBar(), *menu)) << qPrintable(menu->text());
 }
 
 TEST_F(Student, OpensAndClosesTheFloatingGyro) {
