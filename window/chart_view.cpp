@@ -62,10 +62,11 @@ void ChartView::refresh() {
     update();
 }
 
-/// The words are renewed even where a painting has come first.
+/// The words are renewed even where a painting has come first; while nobody listens, only when the
+/// aircraft's place becomes a secret or is one no longer.
 void ChartView::speak() {
     const std::pair now(sim.picture.surface.revision(), sim.placeIsSecret());
-    if (!QAccessible::isActive() || now == spoken)
+    if (now == spoken || (!QAccessible::isActive() && now.second == spoken.second))
         return;
     spoken = now;
     if (const QString name = spokenChart(); name != accessibleName())

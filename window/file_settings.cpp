@@ -51,7 +51,8 @@ FileSettings::FileSettings(std::string file) : path(std::move(file)) {
 }
 
 FileSettings::~FileSettings() {
-    FileSettings::flush();
+    constexpr auto lastPatience = 900ms;
+    flushWithin(lastPatience);
 }
 
 void FileSettings::note(const RunTimeError& error) {
@@ -95,23 +96,27 @@ void FileSettings::change(const Edit& edit) {
     flush();
 }
 
+/// Once it was in vain, nobody waits again until the program ends.
 void FileSettings::flush() {
+    constexpr auto patience = 500ms;
+    flushWithin(troubleTold ? 0ms : patience);
+}
+
+void FileSettings::flushWithin(std::chrono::milliseconds patience) {
     if (pending.empty())
         return;
     try {
         std::error_code failure; // told by the lock
         std::filesystem::create_directories(std::filesystem::path(path).parent_path(), failure);
-        makeChanges();
+        makeChanges(patience);
         pending.clear();
     } catch (const RunTimeError& error) {
         note(error);
     }
 }
 
-void FileSettings::makeChanges() {
-    constexpr auto patience = 500ms;
-    // Once it was in vain, nobody waits again.
-    const LockFile lock = lockFor(path, troubleTold ? 0ms : patience);
+void FileSettings::makeChanges(std::chrono::milliseconds patience) {
+    const LockFile lock = lockFor(path, patience);
     const SettingsTable kept = readFile(path);
     applications = kept;
     editing = true;

@@ -3,6 +3,7 @@
 #include "core/run_time_error.h"
 #include "exercises/settings_store.h"
 
+#include <chrono>
 #include <optional>
 #include <string>
 #include <vector>
@@ -12,12 +13,12 @@ namespace tarnel {
 /// `FileSettings`: settings in an INI file that several programs of a user share. It is read when
 /// the program starts. A change is made on what the file holds then, under a lock, so that nothing
 /// that another program has written is lost; the new file is written beside and renamed. Nothing of
-/// this takes longer than half a second, and what is no file of sensible size is neither read nor
+/// this takes longer than a second, and what is no file of sensible size is neither read nor
 /// replaced: then the settings last as long as the program.
 class FileSettings : public MemorySettingsStore {
   public:
     explicit FileSettings(std::string file);
-    /// Flushes.
+    /// Flushes, with more patience for another program than before.
     ~FileSettings() override;
     FileSettings(const FileSettings&) = delete;
     FileSettings& operator=(const FileSettings&) = delete;
@@ -31,7 +32,8 @@ class FileSettings : public MemorySettingsStore {
     std::optional<SettingsTrouble> takeTrouble() override;
 
   private:
-    void makeChanges();
+    void flushWithin(std::chrono::milliseconds patience);
+    void makeChanges(std::chrono::milliseconds patience);
     void note(const RunTimeError& error);
 
     std::string path;

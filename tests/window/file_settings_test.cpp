@@ -76,12 +76,13 @@ TEST_F(FileSettingsTest, TwoProgramsCountTogether) {
         const pid_t child = fork();
         if (child != 0)
             return child;
-        FileSettings settings(path);
-        Statistics statistics(settings);
-        for (int i = 0; i < answers; ++i)
-            statistics.count("hsipos", question, 1, i % 2 == 0);
-        settings.setValue("app", "window", question == 0 ? "first" : "second", "x");
-        settings.flush();
+        {
+            FileSettings settings(path);
+            Statistics statistics(settings);
+            for (int i = 0; i < answers; ++i)
+                statistics.count("hsipos", question, 1, i % 2 == 0);
+            settings.setValue("app", "window", question == 0 ? "first" : "second", "x");
+        }
         _exit(0);
     };
     write("");
