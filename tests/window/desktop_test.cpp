@@ -53,6 +53,10 @@ class MenuTest : public Student {
 
 TEST_F(MenuTest, EveryItemCanBeUsedAtRestAndFilesAndExercisesRestInFlight) {
     open();
+    form->setManualWind(270, 20);
+    form->windPage.none.click();
+    form->editMenu.undo.click(); // now there is something to undo and to redo
+    settle();
     int items = 0;
     for (const QAction* top : window->menuBar()->actions())
         eachItem(*top->menu(), [&](const QAction& action) {
