@@ -146,7 +146,7 @@ TEST(DocumentReaderTest, APdfReaderIsToldThePage) {
 
 TEST(WindowPlace, OutlivesTheProgram) {
     const QTemporaryDir folder;
-    const QString file = folder.filePath(QStringLiteral("settings.ini"));
+    const std::string file = folder.filePath(QStringLiteral("settings.ini")).toStdString();
     QWidget window;
     {
         FileSettings settings(file);
