@@ -70,8 +70,8 @@ class UserControl2 {
     /// While the aircraft's place is to be found out, nothing centres the chart on it or tells it.
     void setPlaceSecret(bool secret) { secretPlace = secret; }
     [[nodiscard]] bool placeIsSecret() const { return secretPlace; }
-    /// Shows all five stations with the localizer's feather, and the places of an aircraft, as large
-    /// as they all fit.
+    /// Shows all five stations with the localizer's feather, and the places of an aircraft, as
+    /// large as they all fit.
     void frameStations(std::span<const GeoPosition> aircraftPlaces = {});
     /// Frames the stations, with north at the top.
     void resetView();

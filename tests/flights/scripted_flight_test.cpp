@@ -225,7 +225,8 @@ TEST_F(PlanWithChart, FindsTheChartBesideThePlan) {
 TEST_F(PlanWithChart, RefusesAChartThatCannotBeRead) {
     writeChart(":v1id:,ABC@r\n");
     for (const auto& [chart, expected] :
-         {std::pair("own.map", "own.map"), std::pair("none.map", "none.map, There is no such file.")}) {
+         {std::pair("own.map", "own.map"),
+          std::pair("none.map", "none.map, There is no such file.")}) {
         try {
             (void)flightOf(plan(chart));
             ADD_FAILURE() << chart << " was taken";
