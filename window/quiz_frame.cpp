@@ -199,8 +199,9 @@ int QuizFrame::arrange(QSize size, bool placing) const {
     int top = arrangeHeader(scaled(inset - 2), width, placing) + gap;
     top = arrangeTexts(top, width, placing);
     const int bottom = size.height() - scaled(inset) - buttonHeight();
-    const int forBar = hasBar() ? flightBar->heightIn(width) : 0;
-    const int bar = hasBar() ? forBar + gap : 0;
+    // The room is kept from the beginning, so that nothing moves when the bar comes.
+    const int forBar = flightBar && (hasBar() || !placing) ? flightBar->heightIn(width) : 0;
+    const int bar = forBar > 0 ? forBar + gap : 0;
     if (!flown)
         top = arrangeRows(top, width, bottom - bar, placing);
     if (hasBar() && placing)

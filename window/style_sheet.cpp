@@ -78,6 +78,7 @@ QPushButton[tab="true"]:hover { color: $accent; }
 QPushButton[tab="true"]:checked { color: $accent; font-weight: bold; border-bottom-color: $accent; }
 QPushButton[tab="true"]:focus { background: $hairline; border-top-left-radius: {4}px;
   border-top-right-radius: {4}px; }
+QPushButton[tab="true"]:disabled { color: $unit; border-bottom-color: transparent; }
 
 QSpinBox { font-size: {12}px; min-height: {24}px; }
 QSpinBox:disabled { color: $unit; }

@@ -53,8 +53,11 @@ class MenuTest : public Student {
 
 TEST_F(MenuTest, EveryItemCanBeUsedAtRestAndFilesAndExercisesRestInFlight) {
     open();
-    form->setManualWind(270, 20);
-    form->windPage.none.click();
+    for (const double place : {2000.0, 3000.0}) {
+        form->UserControl11.mouse.down(ChartButton::left, {place, place});
+        form->UserControl11.mouse.up();
+    }
+    settle();
     form->editMenu.undo.click(); // now there is something to undo and to redo
     settle();
     int items = 0;
