@@ -14,6 +14,7 @@
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
@@ -110,13 +111,19 @@ void ControlStrip::addReadout(QHBoxLayout& row, Text name, TextPanel& readout, T
     row.addWidget(captioned(unit));
 }
 
-QStackedWidget* ControlStrip::makePages() {
-    stack = new QStackedWidget(this);
+QScrollArea* ControlStrip::makePages() {
+    scroll = new QScrollArea(this);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidgetResizable(true);
+    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroll->setMinimumHeight(1); // the strip measures the pages itself
+    stack = new QStackedWidget;
     pages = {new StripChartPage(form, binding, stack), new StripReplayPage(form, binding, stack),
              new StripWindPage(form, binding, stack), new StripStationPage(form, binding, stack)};
     for (StripPage* page : pages)
         stack->addWidget(page);
-    return stack;
+    scroll->setWidget(stack);
+    return scroll;
 }
 
 QLabel* ControlStrip::captioned(Text text) {
@@ -145,7 +152,19 @@ int ControlStrip::wantedHeight(int width) const {
     int tallest = 0;
     for (const StripPage* page : pages)
         tallest = std::max(tallest, page->heightForWidth(inner));
-    int height = margins.top() + margins.bottom() + tallest;
+    return heightWith(tallest);
+}
+
+int ControlStrip::leastHeight() const {
+    constexpr int lines = 2;
+    constexpr int lineGap = 3;
+    const int line = startButton->sizeHint().height();
+    return heightWith(lines * line - lineGap);
+}
+
+int ControlStrip::heightWith(int page) const {
+    const QMargins margins = layout()->contentsMargins();
+    int height = margins.top() + margins.bottom() + page;
     for (int i = 0; i + 1 < layout()->count(); ++i)
         height += layout()->itemAt(i)->sizeHint().height() + rowGap;
     return height;
@@ -162,7 +181,7 @@ void ControlStrip::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     paintCard(painter, rect());
     painter.setPen(look::hairline);
-    const int line = stack->y() - rowGap;
+    const int line = scroll->y() - rowGap;
     painter.drawLine(look::cardInset, line, width() - look::cardInset, line);
 }
 

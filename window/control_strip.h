@@ -10,6 +10,7 @@
 class QHBoxLayout;
 class QLabel;
 class QPushButton;
+class QScrollArea;
 class QStackedWidget;
 
 namespace tarnel {
@@ -29,6 +30,8 @@ class ControlStrip : public QWidget {
 
     /// The height at which every page has room at a width.
     [[nodiscard]] int wantedHeight(int width) const;
+    /// The height that it does with, since its pages scroll.
+    [[nodiscard]] int leastHeight() const;
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -37,7 +40,8 @@ class ControlStrip : public QWidget {
   private:
     QHBoxLayout* makeFlightRow();
     QHBoxLayout* makeTabRow();
-    QStackedWidget* makePages();
+    QScrollArea* makePages();
+    [[nodiscard]] int heightWith(int page) const;
     void addTab(QHBoxLayout& row, OptionButton& page);
     void addReadout(QHBoxLayout& row, Text name, TextPanel& readout, Text unit);
     QLabel* captioned(Text text);
@@ -48,6 +52,7 @@ class ControlStrip : public QWidget {
     QLabel* speedCaption = nullptr;
     std::vector<QLabel*> readoutCaptions;
     QPushButton* startButton = nullptr;
+    QScrollArea* scroll = nullptr;
     QStackedWidget* stack = nullptr;
     std::vector<StripPage*> pages;
     bool startShowsStop = false;

@@ -110,6 +110,9 @@ ColumnWishes MainWindow::columnWishes() const {
     return {[this](int width) {
                 return quiz->runs() ? quiz->wantedHeight(width) : strip->wantedHeight(width);
             },
+            [this](int width) {
+                return quiz->runs() ? quiz->wantedHeight(width) : strip->leastHeight();
+            },
             [this](int width) { return comment->wantedHeight(width); },
             [this](int width) { return form.questionOpen() ? 0 : comment->leastHeight(width); }};
 }

@@ -32,6 +32,7 @@ QLabel[secondary="true"] { color: $secondaryInk; font-size: {12}px; }
 QLabel:disabled { color: $unit; }
 QLabel[readout="true"] { font-size: {13}px; font-weight: bold; }
 QLabel[comment="true"] { font-size: {15}px; }
+QScrollArea, QScrollArea > QWidget > QStackedWidget { background: transparent; }
 QScrollArea#Frame3 { background: transparent; border: 1px solid transparent; border-radius: {3}px; }
 QScrollArea#Frame3:focus { border-color: $accent; }
 QCheckBox { font-size: {12}px; }
@@ -76,6 +77,7 @@ QPushButton[tab="true"] { background: transparent; border: none; border-radius: 
   min-height: {22}px; max-height: {22}px; }
 QPushButton[tab="true"]:hover { color: $accent; }
 QPushButton[tab="true"]:checked { color: $accent; font-weight: bold; border-bottom-color: $accent; }
+QPushButton[tab="true"]:disabled { color: $unit; border-bottom-color: transparent; }
 QPushButton[tab="true"]:focus { background: $hairline; border-top-left-radius: {4}px;
   border-top-right-radius: {4}px; }
 QPushButton[tab="true"]:disabled { color: $unit; border-bottom-color: transparent; }

@@ -11,13 +11,14 @@ namespace {
 
 /// What stands below the chart has this height in a window of 1280 x 800, and a part of what other
 /// windows are higher or lower.
-constexpr double usualFoot = 206;
+constexpr double usualFoot = 178;
 constexpr double usualBody = 746;
 constexpr double footShare = 0.3;
 constexpr double lowestFoot = 120;
 constexpr double highestFoot = 270;
 
 constexpr int smallestChart = 160;
+constexpr double usefulChart = 320;     ///< below that the strip scrolls first
 constexpr double narrowestColumn = 384; ///< a smaller chart stands in its middle
 constexpr double headerHeight = 32;
 constexpr double panelReferenceWidth = 712;
@@ -159,21 +160,27 @@ class PanelLayout {
 };
 
 /// Chart, strip and comment below each other in a column of `width`. The comment stands in the
-/// room that the strip leaves; only if that is less than it needs the chart gives way.
+/// room that the strip can spare; only if that is less than it needs the chart gives way.
 void layOutChart(WindowLayout& layout, QSize body, int width, const ColumnWishes& wishes) {
     const int margin = whole(look::gap * layout.uiScale);
     const int bottom = body.height() - margin;
     const int strip = wishes.strip(width);
-    const int least = wishes.leastComment(width);
-    const int stripWithComment = least > 0 ? strip + margin + least : strip;
-    const int foot = std::max(whole(footOf(body, layout.uiScale)), stripWithComment);
-    const int side = std::clamp(bottom - 2 * margin - foot, smallestChart, width);
+    const int leastStrip = std::min(strip, wishes.leastStrip(width));
+    const int leastComment = wishes.leastComment(width);
+    const int forComment = leastComment > 0 ? margin + leastComment : 0;
+    const auto chartOver = [&](int foot) { return bottom - 2 * margin - foot; };
+    const int foot = std::max(
+        {whole(footOf(body, layout.uiScale)), leastStrip + forComment, forComment > 0 ? 0 : strip});
+    const int useful =
+        std::min(whole(usefulChart * layout.uiScale), chartOver(leastStrip + forComment));
+    const int side = std::clamp(std::max(chartOver(foot), useful), smallestChart, width);
     layout.chart = {margin + (width - side) / 2, margin, side, side};
     const int stripTop = margin + side + margin;
     const int room = bottom - stripTop;
-    const int comment =
-        least > 0 ? std::min(wishes.comment(width), std::max(least, room - margin - strip)) : 0;
-    layout.strip = {margin, stripTop, width, least > 0 ? room - margin - comment : room};
+    const int comment = forComment > 0 ? std::min(wishes.comment(width),
+                                                  std::max(leastComment, room - margin - strip))
+                                       : 0;
+    layout.strip = {margin, stripTop, width, comment > 0 ? room - margin - comment : room};
     if (comment > 0)
         layout.comment = {margin, bottom - comment, width, comment};
 }

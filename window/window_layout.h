@@ -36,7 +36,8 @@ struct WindowLayout {
 /// The heights that parts of the chart's column want at its width.
 struct ColumnWishes {
     using Height = std::function<int(int)>;
-    Height strip = [](int) { return 0; };
+    Height strip = [](int) { return 0; };        ///< with all of it in sight
+    Height leastStrip = [](int) { return 0; };   ///< with pages that scroll
     Height comment = [](int) { return 0; };      ///< with all of its text in sight
     Height leastComment = [](int) { return 0; }; ///< with text that scrolls; 0 for no card
 };

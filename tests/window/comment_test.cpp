@@ -56,7 +56,8 @@ TEST_F(CommentStudent, WritesACommentInFlightAndReadsItInTheReplay) {
 
 // Comments come and go with the samples: nothing may move for it, and no instrument be covered.
 TEST_F(CommentStudent, ReadsACommentBelowTheChartWhileTheWindowKeepsStill) {
-    for (const QSize size : {QSize(960, 540), QSize(1024, 768), QSize(1920, 1080)}) {
+    for (const QSize size :
+         {QSize(960, 540), QSize(1024, 768), QSize(1280, 800), QSize(1920, 1080)}) {
         open(germanTable(), size);
         const QRect panel = placeOf(the<InstrumentPanel>());
         const int left = the<ChartView>().x();
@@ -69,7 +70,7 @@ TEST_F(CommentStudent, ReadsACommentBelowTheChartWhileTheWindowKeepsStill) {
         const QRect card = placeOf(the<CommentCard>());
         ASSERT_TRUE(comment().isVisible());
         EXPECT_GE(comment().height(), comment().heightForWidth(comment().width()));
-        if (size.height() >= 1000) {
+        if (size.height() >= 1080) {
             EXPECT_LE(comment().height(), comment().parentWidget()->height())
                 << "nothing to scroll";
         }
@@ -82,7 +83,7 @@ TEST_F(CommentStudent, ReadsACommentBelowTheChartWhileTheWindowKeepsStill) {
         fly(10);
         EXPECT_FALSE(comment().isVisible());
         EXPECT_FALSE(the<CommentCard>().isVisible()) << "an empty card takes no room";
-        if (size.height() >= 1000) {
+        if (size.height() >= 1080) {
             EXPECT_EQ(placeOf(the<ChartView>()), chart);
         }
     }
