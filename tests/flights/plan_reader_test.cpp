@@ -175,6 +175,7 @@ TEST(PlanReader, WhatTheParserCouldNotBearIsRefusedBefore) {
         {"a = '\\'\n" + many("a={", 17), 2, "16 brackets"},
         {"\n\xCF\xBA = 1", 2, "outside of quotes"},
         {"a = \"\\\"\xCF\xBA\"\nb\xCF\xBA = 1", 2, "outside of quotes"},
+        {"seconds = 1\n[\ninst3]\n", 0, "valid TOML"},
         {many("\n", (1 << 20) + 1), 0, "at most 1048576 bytes"},
     };
     for (const Case& c : cases) {
