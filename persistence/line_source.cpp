@@ -78,6 +78,8 @@ std::string_view LineSource::afterTag(std::size_t tagLength, FileField expected)
     const std::string_view line = next(expected);
     if (line.size() < tagLength)
         fail(expected);
+    if (tagLength > 0 && encoding == TextEncoding::utf8)
+        tagLength = nextCharacter(line, tagLength - 1);
     return line.substr(tagLength);
 }
 

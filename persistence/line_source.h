@@ -43,7 +43,8 @@ class LineSource {
     [[nodiscard]] std::string_view peek() const;
     /// Takes the next line, which has to hold `expected`.
     std::string_view next(FileField expected);
-    /// The same without its first `tagLength` characters, whatever they are.
+    /// The same without its first `tagLength` bytes, whatever they are, and without the rest of a
+    /// character that their end would cut.
     std::string_view afterTag(std::size_t tagLength, FileField expected);
 
     /// `text` of a line as UTF-8, of at most `longest` characters.
