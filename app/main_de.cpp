@@ -1,4 +1,4 @@
-#include "strings/tables.h"
+#include "strings/string_table.h"
 #include "window/application.h"
 
 int main(int argc, char** argv) {

@@ -2,7 +2,7 @@
 #include "shell/application_folder.h"
 #include "shell/form_1.h"
 #include "silent_world.h"
-#include "strings/tables.h"
+#include "strings/string_table.h"
 
 #include <algorithm>
 #include <cstdio>

@@ -2,7 +2,7 @@
 #include "shell/application_folder.h"
 #include "shell/form_1.h"
 #include "silent_world.h"
-#include "strings/tables.h"
+#include "strings/string_table.h"
 #include "window/application.h"
 #include "window/main_window.h"
 #include "window/qt_outside_world.h"

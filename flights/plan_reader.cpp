@@ -9,7 +9,7 @@
 #include "persistence/file_bytes.h"
 #include "persistence/text_encoding.h"
 #include "strings/cause_text.h"
-#include "strings/tables.h"
+#include "strings/string_table.h"
 
 #include <algorithm>
 #include <charconv>

@@ -1,7 +1,7 @@
 #include "core/run_time_error.h"
 #include "exercises/qa_form.h"
 #include "fuzz_target.h"
-#include "strings/tables.h"
+#include "strings/string_table.h"
 
 using namespace tarnel;
 

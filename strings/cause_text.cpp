@@ -1,59 +1,45 @@
 #include "strings/cause_text.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace tarnel {
 
 namespace {
 
-Text textOf(Cause cause) {
-    switch (cause) {
-    case Cause::invalidCall:
-        return Text::causeInvalidCall;
-    case Cause::overflow:
-        return Text::causeOverflow;
-    case Cause::subscriptOutOfRange:
-        return Text::causeSubscriptOutOfRange;
-    case Cause::divisionByZero:
-        return Text::causeDivisionByZero;
-    case Cause::fileNotFound:
-        return Text::causeFileNotFound;
-    case Cause::linkLeadsNowhere:
-        return Text::causeLinkLeadsNowhere;
-    case Cause::nameNotUtf8:
-        return Text::causeNameNotUtf8;
-    case Cause::fileTooLarge:
-        return Text::causeFileTooLarge;
-    case Cause::fileWithoutFlight:
-        return Text::causeFileWithoutFlight;
-    case Cause::notAFile:
-        return Text::causeNotAFile;
-    case Cause::fileNotReadable:
-        return Text::causeFileNotReadable;
-    case Cause::fileReadOnly:
-        return Text::causeFileReadOnly;
-    case Cause::folderReadOnly:
-        return Text::causeFolderReadOnly;
-    case Cause::diskReadOnly:
-        return Text::causeDiskReadOnly;
-    case Cause::folderNotFound:
-        return Text::causeFolderNotFound;
-    case Cause::nameTooLong:
-        return Text::causeNameTooLong;
-    case Cause::fileInUse:
-        return Text::causeFileInUse;
-    case Cause::diskFull:
-        return Text::causeDiskFull;
-    case Cause::deviceError:
-        return Text::causeDeviceError;
-    case Cause::accessFailed:
-        break;
-    }
-    return Text::causeAccessFailed;
-}
+struct CauseRow {
+    Cause cause;
+    Text text;
+};
+
+constexpr CauseRow rows[] = {
+    {Cause::invalidCall, Text::causeInvalidCall},
+    {Cause::overflow, Text::causeOverflow},
+    {Cause::subscriptOutOfRange, Text::causeSubscriptOutOfRange},
+    {Cause::divisionByZero, Text::causeDivisionByZero},
+    {Cause::fileNotFound, Text::causeFileNotFound},
+    {Cause::linkLeadsNowhere, Text::causeLinkLeadsNowhere},
+    {Cause::nameNotUtf8, Text::causeNameNotUtf8},
+    {Cause::fileTooLarge, Text::causeFileTooLarge},
+    {Cause::fileWithoutFlight, Text::causeFileWithoutFlight},
+    {Cause::notAFile, Text::causeNotAFile},
+    {Cause::fileNotReadable, Text::causeFileNotReadable},
+    {Cause::fileReadOnly, Text::causeFileReadOnly},
+    {Cause::folderReadOnly, Text::causeFolderReadOnly},
+    {Cause::diskReadOnly, Text::causeDiskReadOnly},
+    {Cause::folderNotFound, Text::causeFolderNotFound},
+    {Cause::nameTooLong, Text::causeNameTooLong},
+    {Cause::fileInUse, Text::causeFileInUse},
+    {Cause::diskFull, Text::causeDiskFull},
+    {Cause::deviceError, Text::causeDeviceError},
+    {Cause::accessFailed, Text::causeAccessFailed},
+};
 
 } // namespace
 
 std::string_view causeText(const StringTable& texts, Cause cause) {
-    return texts[textOf(cause)];
+    const auto* row = std::ranges::find(rows, cause, &CauseRow::cause);
+    return texts[row == std::end(rows) ? Text::causeAccessFailed : row->text];
 }
 
 } // namespace tarnel

@@ -2,32 +2,24 @@
 
 #include "strings/text.h"
 
-#include <span>
 #include <string_view>
-#include <vector>
 
 namespace tarnel {
 
-/// A number and its text in UTF-8; the text must live as long as the table made from it.
-struct StringEntry {
-    int id;
-    const char* text;
-};
+struct TextRow;
 
-/// One language's numbered texts of the user interface.
+/// One language's numbered texts of the user interface, in UTF-8.
 class StringTable {
   public:
-    /// Throws std::invalid_argument for an id below 100 and for one that comes twice.
-    explicit StringTable(std::span<const StringEntry> entries);
+    using Language = const char* TextRow::*;
+
+    explicit constexpr StringTable(Language which) : language(which) {}
 
     /// The text as it stands, blanks at its ends included. An unknown number is a subscript error.
     [[nodiscard]] std::string_view at(int id) const;
     [[nodiscard]] std::string_view operator[](Text text) const {
         return at(static_cast<int>(text));
     }
-
-    /// All numbers of the table, ascending.
-    [[nodiscard]] const std::vector<int>& ids() const { return sortedIds; }
 
     /// Whether files are taken in their German form: the language word says so.
     [[nodiscard]] bool isGerman() const;
@@ -37,8 +29,11 @@ class StringTable {
     [[nodiscard]] int bookPage(int index) const;
 
   private:
-    std::vector<std::string_view> texts; // by id - 100; no data where the number is free
-    std::vector<int> sortedIds;
+    Language language;
 };
+
+/// The texts of the German and of the English program.
+[[nodiscard]] const StringTable& germanTable();
+[[nodiscard]] const StringTable& englishTable();
 
 } // namespace tarnel

@@ -3,7 +3,7 @@
 #include "core/run_time_error.h"
 #include "persistence/save_file.h"
 #include "strings/cause_text.h"
-#include "strings/tables.h"
+#include "strings/string_table.h"
 
 #include <cerrno>
 #include <cstring>

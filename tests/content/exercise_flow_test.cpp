@@ -1,7 +1,7 @@
 #include "chart/holding_chart.h"
 #include "exercises/exercise_catalogue.h"
 #include "flights/flight.h"
-#include "strings/tables.h"
+#include "strings/string_table.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -2,7 +2,7 @@
 
 #include "flights/flight.h"
 #include "flights/plan_reader.h"
-#include "strings/tables.h"
+#include "strings/string_table.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "content/study_file.h"
 
 #include "persistence/file_bytes.h"
-#include "strings/tables.h"
+#include "strings/string_table.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "exercises/qa_form.h"
-#include "strings/tables.h"
+#include "strings/string_table.h"
 
 #include <gtest/gtest.h>
 

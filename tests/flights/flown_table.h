@@ -3,7 +3,7 @@
 #include "flights/flight.h"
 #include "flights/flight_csv.h"
 #include "flights/plan_reader.h"
-#include "strings/tables.h"
+#include "strings/string_table.h"
 
 #include <gtest/gtest.h>
 

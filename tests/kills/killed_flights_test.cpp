@@ -1,5 +1,5 @@
 #include "shell/form_1.h"
-#include "strings/tables.h"
+#include "strings/string_table.h"
 #include "window/flight_guard.h"
 
 #include <QCoreApplication>

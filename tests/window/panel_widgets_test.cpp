@@ -1,5 +1,5 @@
 #include "instruments/instrument_fixture.h"
-#include "strings/tables.h"
+#include "strings/string_table.h"
 #include "window/autopilot_module.h"
 #include "window/dme_module.h"
 #include "window/instrument_view.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "strings/tables.h"
+#include "strings/string_table.h"
 #include "window/application.h"
 #include "window/main_window.h"
 

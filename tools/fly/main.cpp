@@ -5,7 +5,7 @@
 #include "flights/plan_reader.h"
 #include "persistence/save_file.h"
 #include "shell/application_folder.h"
-#include "strings/tables.h"
+#include "strings/string_table.h"
 #include "tools/fly/options.h"
 #include "tools/fly/picture_output.h"
 #include "tools/output_file.h"

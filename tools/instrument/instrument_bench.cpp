@@ -2,7 +2,7 @@
 
 #include "core/run_time_error.h"
 #include "strings/cause_text.h"
-#include "strings/tables.h"
+#include "strings/string_table.h"
 #include "tools/instrument/input_range.h"
 #include "tools/instrument/property_editor.h"
 #include "window/instrument_view.h"

@@ -1,7 +1,7 @@
 #include "flights/flight_plan.h"
 #include "persistence/save_file.h"
 #include "shell/application_folder.h"
-#include "strings/tables.h"
+#include "strings/string_table.h"
 #include "tools/instrument/instrument_bench.h"
 #include "tools/output_file.h"
 #include "window/application.h"
