@@ -3,9 +3,9 @@
 #include "shell/form_1.h"
 #include "silent_world.h"
 #include "strings/string_table.h"
-#include "window/application.h"
-#include "window/main_window.h"
-#include "window/qt_outside_world.h"
+#include "window/frame/main_window.h"
+#include "window/frame/qt_outside_world.h"
+#include "window/widgets/dressing.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

@@ -20,16 +20,25 @@ if(TARNEL_FUZZ)
   target_compile_options(tarnel_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
-# tarnel_library(NAME core SOURCES a.cpp LINKS chart)
-#
-# The headers of a folder are included as "folder/header.h". Each library publishes an include root
-# that holds a link to its own folder alone, so an include against the arrows does not build.
+# tarnel_headers(core core PUBLIC): lets `target` include the headers of `folder`, a path in the
+# project, as "folder/header.h". The include root holds a link to that folder alone, so an include
+# against the arrows does not build.
+function(tarnel_headers target folder scope)
+  set(include_root ${CMAKE_BINARY_DIR}/include/${target})
+  cmake_path(GET folder PARENT_PATH parent)
+  file(MAKE_DIRECTORY ${include_root}/${parent})
+  file(CREATE_LINK ${PROJECT_SOURCE_DIR}/${folder} ${include_root}/${folder} SYMBOLIC)
+  target_include_directories(${target} ${scope} ${include_root})
+endfunction()
+
+# tarnel_library(NAME core SOURCES a.cpp LINKS chart). FOLDER is the folder's path in the project
+# where it is not the library's name.
 function(tarnel_library)
-  cmake_parse_arguments(LIB "" "NAME" "SOURCES;LINKS" ${ARGN})
+  cmake_parse_arguments(LIB "" "NAME;FOLDER" "SOURCES;LINKS" ${ARGN})
+  if(NOT LIB_FOLDER)
+    set(LIB_FOLDER ${LIB_NAME})
+  endif()
   add_library(${LIB_NAME} STATIC ${LIB_SOURCES})
-  set(include_root ${CMAKE_BINARY_DIR}/include/${LIB_NAME})
-  file(MAKE_DIRECTORY ${include_root})
-  file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR} ${include_root}/${LIB_NAME} SYMBOLIC)
-  target_include_directories(${LIB_NAME} PUBLIC ${include_root})
+  tarnel_headers(${LIB_NAME} ${LIB_FOLDER} PUBLIC)
   target_link_libraries(${LIB_NAME} PUBLIC ${LIB_LINKS} PRIVATE tarnel_options)
 endfunction()

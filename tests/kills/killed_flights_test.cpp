@@ -1,6 +1,6 @@
 #include "shell/form_1.h"
 #include "strings/string_table.h"
-#include "window/flight_guard.h"
+#include "window/frame/flight_guard.h"
 
 #include <QCoreApplication>
 #include <QTimer>

@@ -1,4 +1,4 @@
-#include "window/chart_dots.h"
+#include "window/chart/chart_dots.h"
 
 #include <QImage>
 #include <QPainter>

@@ -1,5 +1,5 @@
-#include "window/chart_labels.h"
-#include "window/line_clipping.h"
+#include "window/chart/chart_labels.h"
+#include "window/widgets/line_clipping.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
-#include "window/chart_view.h"
-#include "window/comment_card.h"
-#include "window/instrument_panel.h"
-#include "window/replay_bar.h"
+#include "window/chart/chart_view.h"
+#include "window/chart/comment_card.h"
+#include "window/frame/instrument_panel.h"
 #include "window/student_fixture.h"
+#include "window/widgets/replay_bar.h"
 
 #include <QCheckBox>
 #include <QLabel>

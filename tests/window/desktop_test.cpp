@@ -1,7 +1,7 @@
-#include "window/document_reader.h"
-#include "window/qt_outside_world.h"
+#include "window/frame/document_reader.h"
+#include "window/frame/qt_outside_world.h"
+#include "window/frame/window_place.h"
 #include "window/student_fixture.h"
-#include "window/window_place.h"
 
 #include <QDropEvent>
 #include <QFile>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "window/quiz_panel.h"
+#include "window/quiz/quiz_panel.h"
 #include "window/student_fixture.h"
 
 #include <cstdlib>

@@ -1,6 +1,6 @@
 #include "exercises/statistics.h"
 #include "persistence/lock_file.h"
-#include "window/file_settings.h"
+#include "window/frame/file_settings.h"
 
 #include <QElapsedTimer>
 #include <QTemporaryDir>

@@ -1,4 +1,4 @@
-#include "window/flight_guard.h"
+#include "window/frame/flight_guard.h"
 #include "window/student_fixture.h"
 
 #include <QLabel>

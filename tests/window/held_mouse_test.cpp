@@ -1,9 +1,9 @@
-#include "window/autopilot_module.h"
-#include "window/chart_view.h"
-#include "window/instrument_view.h"
-#include "window/knob_widget.h"
-#include "window/nav_module.h"
+#include "window/chart/chart_view.h"
+#include "window/dials/instrument_view.h"
+#include "window/radios/autopilot_module.h"
+#include "window/radios/nav_module.h"
 #include "window/student_fixture.h"
+#include "window/widgets/knob_widget.h"
 
 #include <QDialog>
 #include <QMouseEvent>

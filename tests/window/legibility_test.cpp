@@ -1,6 +1,6 @@
-#include "window/comment_card.h"
-#include "window/control_strip.h"
+#include "window/chart/comment_card.h"
 #include "window/legibility.h"
+#include "window/strip/control_strip.h"
 #include "window/student_fixture.h"
 
 #include <QStackedWidget>

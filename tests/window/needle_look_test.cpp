@@ -1,9 +1,9 @@
 #include "shell/instrument_legend.h"
-#include "window/instrument_header.h"
-#include "window/instrument_painter.h"
-#include "window/needle_swatch.h"
-#include "window/panel_look.h"
+#include "window/dials/instrument_header.h"
+#include "window/dials/instrument_painter.h"
+#include "window/dials/needle_swatch.h"
 #include "window/student_fixture.h"
+#include "window/widgets/panel_look.h"
 
 #include <QImage>
 #include <QPainter>

@@ -1,11 +1,11 @@
 #include "instruments/instrument_fixture.h"
 #include "strings/string_table.h"
-#include "window/autopilot_module.h"
-#include "window/dme_module.h"
-#include "window/instrument_view.h"
-#include "window/nav_module.h"
-#include "window/picture_store.h"
-#include "window/stopwatch_module.h"
+#include "window/dials/instrument_view.h"
+#include "window/radios/autopilot_module.h"
+#include "window/radios/dme_module.h"
+#include "window/radios/nav_module.h"
+#include "window/radios/stopwatch_module.h"
+#include "window/widgets/picture_store.h"
 
 #include <QImage>
 #include <QTemporaryDir>

@@ -1,10 +1,10 @@
-#include "window/cover_plate.h"
 #include "window/exercise_student.h"
 #include "window/legibility.h"
-#include "window/quiz_frame.h"
-#include "window/quiz_list.h"
-#include "window/quiz_option.h"
-#include "window/quiz_verdict.h"
+#include "window/quiz/quiz_frame.h"
+#include "window/quiz/quiz_option.h"
+#include "window/quiz/quiz_verdict.h"
+#include "window/widgets/cover_plate.h"
+#include "window/widgets/quiz_list.h"
 
 #include <QLineEdit>
 #include <QWheelEvent>

@@ -1,8 +1,8 @@
-#include "window/floating_gyro.h"
-#include "window/instrument_view.h"
-#include "window/knob_widget.h"
-#include "window/quiz_panel.h"
+#include "window/dials/floating_gyro.h"
+#include "window/dials/instrument_view.h"
+#include "window/quiz/quiz_panel.h"
 #include "window/student_fixture.h"
+#include "window/widgets/knob_widget.h"
 
 #include <QAccessible>
 #include <QComboBox>

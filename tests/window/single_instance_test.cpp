@@ -1,5 +1,5 @@
-#include "window/local_peer.h"
-#include "window/single_instance.h"
+#include "window/frame/local_peer.h"
+#include "window/frame/single_instance.h"
 
 #include <QFile>
 #include <QTemporaryDir>

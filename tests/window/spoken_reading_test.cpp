@@ -1,6 +1,6 @@
 #include "instruments/instrument_fixture.h"
-#include "window/instrument_view.h"
-#include "window/spoken_reading.h"
+#include "window/dials/instrument_view.h"
+#include "window/dials/spoken_reading.h"
 #include "window/student_fixture.h"
 
 namespace tarnel {

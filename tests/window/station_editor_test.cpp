@@ -1,4 +1,4 @@
-#include "window/chart_view.h"
+#include "window/chart/chart_view.h"
 #include "window/student_fixture.h"
 
 #include <QAction>

@@ -1,6 +1,6 @@
-#include "window/chart_view.h"
-#include "window/replay_bar.h"
+#include "window/chart/chart_view.h"
 #include "window/student_fixture.h"
+#include "window/widgets/replay_bar.h"
 
 #include <QCheckBox>
 #include <QLabel>

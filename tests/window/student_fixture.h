@@ -1,8 +1,8 @@
 #pragma once
 
 #include "strings/string_table.h"
-#include "window/application.h"
-#include "window/main_window.h"
+#include "window/frame/main_window.h"
+#include "window/widgets/dressing.h"
 
 #include <QAbstractButton>
 #include <QApplication>

@@ -1,5 +1,5 @@
-#include "window/chart_view.h"
-#include "window/instrument_view.h"
+#include "window/chart/chart_view.h"
+#include "window/dials/instrument_view.h"
 #include "window/student_fixture.h"
 
 #include <QComboBox>

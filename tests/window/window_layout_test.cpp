@@ -1,4 +1,4 @@
-#include "window/window_layout.h"
+#include "window/frame/window_layout.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "exercises/statistics.h"
 #include "support/sample_chart.h"
 #include "support/sample_session.h"
-#include "window/file_settings.h"
+#include "window/frame/file_settings.h"
 #include "window/student_fixture.h"
 
 #include <QTemporaryDir>

@@ -8,7 +8,7 @@
 #include "strings/string_table.h"
 #include "tools/fly/options.h"
 #include "tools/fly/picture_output.h"
-#include "tools/output_file.h"
+#include "tools/output/output_file.h"
 
 #include <iostream>
 #include <optional>

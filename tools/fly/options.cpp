@@ -2,7 +2,7 @@
 
 #include "core/number_text.h"
 #include "flights/flight_plan.h"
-#include "tools/output_file.h"
+#include "tools/output/output_file.h"
 
 namespace tarnel {
 

@@ -1,7 +1,8 @@
 #include "tools/fly/picture_output.h"
 
-#include "tools/output_file.h"
-#include "window/window_picture.h"
+#include "tools/output/output_file.h"
+#include "window/frame/window_picture.h"
+#include "window/widgets/picture_bytes.h"
 
 #include <QApplication>
 

@@ -5,7 +5,7 @@
 #include "strings/string_table.h"
 #include "tools/instrument/input_range.h"
 #include "tools/instrument/property_editor.h"
-#include "window/instrument_view.h"
+#include "window/dials/instrument_view.h"
 
 #include <QFormLayout>
 #include <QHBoxLayout>

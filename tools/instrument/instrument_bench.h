@@ -2,7 +2,7 @@
 
 #include "instruments/user_control_1.h"
 #include "strings/string_table.h"
-#include "window/picture_store.h"
+#include "window/widgets/picture_store.h"
 
 #include <QTimer>
 #include <QWidget>

@@ -3,9 +3,9 @@
 #include "shell/application_folder.h"
 #include "strings/string_table.h"
 #include "tools/instrument/instrument_bench.h"
-#include "tools/output_file.h"
-#include "window/application.h"
-#include "window/window_picture.h"
+#include "tools/output/output_file.h"
+#include "window/widgets/dressing.h"
+#include "window/widgets/picture_bytes.h"
 
 #include <QApplication>
 #include <QCommandLineParser>

@@ -1,0 +1,65 @@
+#include "window/chart/chart_controls.h"
+
+#include "window/chart/view_switch.h"
+#include "window/widgets/form_binding.h"
+#include "window/widgets/icons.h"
+#include "window/widgets/look.h"
+
+#include <QHBoxLayout>
+#include <QToolButton>
+
+#include <iterator>
+
+namespace tarnel {
+
+namespace {
+
+constexpr int zoomGap = 4;
+
+} // namespace
+
+ChartControls::ChartControls(Form1& owner, QWidget* parent) : QWidget(parent), form(owner) {
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(0);
+    views = new ViewSwitch(form, this);
+    row->addWidget(views);
+    row->addStretch(1);
+    zoomOut = addZoom("ZoomOut", Text::zoomOut, Text::zoomOutTip, -1);
+    zoomIn = addZoom("ZoomIn", Text::zoomIn, Text::zoomInTip, 1);
+    zoomOut->setIcon(signIcon(Sign::zoomOut, look::ink));
+    zoomIn->setIcon(signIcon(Sign::zoomIn, look::ink));
+    row->addWidget(zoomOut);
+    row->addSpacing(zoomGap);
+    row->addWidget(zoomIn);
+    refresh();
+}
+
+QToolButton* ChartControls::addZoom(const char* name, Text caption, Text tip, int steps) {
+    auto* button = new QToolButton(this);
+    button->setObjectName(QString::fromLatin1(name));
+    button->setAccessibleName(textOf(form.texts, caption));
+    button->setToolTip(textOf(form.texts, tip));
+    connect(button, &QToolButton::clicked, this,
+            [this, steps] { form.guarded([&] { form.stepScale(steps); }); });
+    return button;
+}
+
+/// On a very small chart the strip's page alone has the views.
+void ChartControls::resizeEvent(QResizeEvent* /*event*/) {
+    const int needed = views->sizeHint().width() + zoomOut->sizeHint().width() +
+                       zoomIn->sizeHint().width() + 2 * zoomGap;
+    views->setVisible(width() >= needed);
+}
+
+void ChartControls::refresh() {
+    views->refresh();
+    const int scale = form.UserControl11.c_MAPscale;
+    if (scale == shownScale)
+        return;
+    shownScale = scale;
+    zoomOut->setEnabled(scale > MapView::offeredScales[0]);
+    zoomIn->setEnabled(scale < MapView::offeredScales[std::size(MapView::offeredScales) - 1]);
+}
+
+} // namespace tarnel

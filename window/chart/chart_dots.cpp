@@ -1,0 +1,69 @@
+#include "window/chart/chart_dots.h"
+
+#include "window/widgets/look.h"
+
+#include <QPainter>
+
+#include <cmath>
+
+namespace tarnel {
+
+namespace {
+
+constexpr int places = 4; ///< within a pixel, across and down
+
+/// The whole pixel and the place within it.
+struct PixelPlace {
+    explicit PixelPlace(double at) {
+        const auto steps = static_cast<int>(std::lround(at * places));
+        pixel = static_cast<int>(std::floor(static_cast<double>(steps) / places));
+        place = steps - pixel * places;
+    }
+    int pixel = 0;
+    int place = 0;
+};
+
+} // namespace
+
+void ChartDots::makeCells(const Look& wanted) {
+    look = wanted;
+    const double diameter = wanted.diameter * wanted.pixelRatio;
+    side = static_cast<int>(std::ceil(diameter)) + 3; // room for the place, and a smooth edge
+    cells = QPixmap(side * places, side * places);
+    cells.fill(Qt::transparent);
+    QPainter painter(&cells);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(look::fromSurface(wanted.colour));
+    for (int across = 0; across < places; ++across)
+        for (int down = 0; down < places; ++down)
+            painter.drawEllipse(
+                QPointF(across * side + side / 2 + static_cast<double>(across) / places,
+                        down * side + side / 2 + static_cast<double>(down) / places),
+                diameter / 2, diameter / 2);
+    painter.end();
+    cells.setDevicePixelRatio(wanted.pixelRatio);
+}
+
+void ChartDots::paint(QPainter& painter, const ChartFrame& frame, const DotLayer& layer,
+                      double diameter) {
+    const std::vector<Dot>& dots = layer.all();
+    if (dots.empty())
+        return;
+    const Look wanted{diameter, frame.pixelRatio, dots.front().colour};
+    if (wanted != look)
+        makeCells(wanted);
+    const QRectF area = frame.paper.adjusted(-diameter, -diameter, diameter, diameter);
+    const double pixel = 1 / frame.pixelRatio;
+    for (const Dot& dot : dots) {
+        const QPointF at = frame.at({static_cast<double>(dot.x), static_cast<double>(dot.y)});
+        if (!area.contains(at))
+            continue;
+        const PixelPlace x(at.x() * frame.pixelRatio);
+        const PixelPlace y(at.y() * frame.pixelRatio);
+        painter.drawPixmap(QPointF((x.pixel - side / 2) * pixel, (y.pixel - side / 2) * pixel),
+                           cells, QRectF(x.place * side, y.place * side, side, side));
+    }
+}
+
+} // namespace tarnel

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "core/drawing_surface.h"
+#include "window/chart/chart_frame.h"
+
+#include <QPixmap>
+
+class QPainter;
+
+namespace tarnel {
+
+/// `ChartDots`: paints the dots of one layer from a pixmap that it keeps: a long flight has
+/// thousands, and each would cost as much as a line.
+class ChartDots {
+  public:
+    /// Dots of `diameter` logical pixels, to a quarter of the device's pixels.
+    void paint(QPainter& painter, const ChartFrame& frame, const DotLayer& layer, double diameter);
+
+  private:
+    struct Look {
+        double diameter = 0;
+        double pixelRatio = 0;
+        Colour colour = 0;
+        bool operator==(const Look&) const = default;
+    };
+
+    void makeCells(const Look& wanted);
+
+    Look look;
+    int side = 0;  ///< of a cell, device pixels
+    QPixmap cells; ///< the dot at each place within a pixel
+};
+
+} // namespace tarnel

@@ -1,0 +1,205 @@
+#include "window/chart/chart_view.h"
+
+#include "core/number_text.h"
+#include "core/rounding.h"
+#include "window/chart/reference_lamps.h"
+#include "window/widgets/look.h"
+#include "window/widgets/text_of.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QWheelEvent>
+
+#include <cmath>
+
+namespace tarnel {
+
+namespace {
+
+constexpr int wheelNotch = 120;
+
+ChartButton chartButton(Qt::MouseButton button) {
+    switch (button) {
+    case Qt::LeftButton:
+        return ChartButton::left;
+    case Qt::RightButton:
+        return ChartButton::right;
+    default:
+        return ChartButton::other;
+    }
+}
+
+/// Degrees and minutes with the letter of the hemisphere, to a tenth of a minute.
+QString angleText(double degrees, int digits, char positive, char negative) {
+    const auto tenths = static_cast<std::int64_t>(std::llround(std::abs(degrees) * 600));
+    return QStringLiteral("%1° %2′ %3")
+        .arg(QString::fromStdString(zeroPadded(tenths / 600, digits)),
+             QString::number(static_cast<double>(tenths % 600) / 10, 'f', 1),
+             QString(QLatin1Char(degrees < 0 ? negative : positive)));
+}
+
+} // namespace
+
+ChartView::ChartView(UserControl2& simulation, const StringTable& table, QWidget* parent)
+    : QWidget(parent), sim(simulation), texts(table), painter(simulation, table) {
+    lamps = new ReferenceLamps(sim, texts, this);
+    setFocusPolicy(Qt::TabFocus);
+    setMouseTracking(true);
+    setAccessibleName(spokenChart());
+    showCursor();
+}
+
+void ChartView::refresh() {
+    showCursor();
+    lamps->refresh();
+    speak();
+    if (shownRevision == sim.picture.surface.revision())
+        return;
+    shownRevision = sim.picture.surface.revision();
+    update();
+}
+
+/// The words are renewed even where a painting has come first; while nobody listens, only when the
+/// aircraft's place becomes a secret or is one no longer.
+void ChartView::speak() {
+    const std::pair now(sim.picture.surface.revision(), sim.placeIsSecret());
+    if (now == spoken || (!QAccessible::isActive() && now.second == spoken.second))
+        return;
+    spoken = now;
+    if (const QString name = spokenChart(); name != accessibleName())
+        setAccessibleName(name);
+}
+
+QString ChartView::spokenChart() const {
+    if (sim.c_AirplaneEN != 1 || sim.placeIsSecret())
+        return textOf(texts, Text::spokenChartHidden);
+    const GeoPosition at = sim.aircraft.published();
+    const QString position = angleText(at.latitude, 2, 'N', 'S') + QLatin1Char(' ') +
+                             angleText(at.longitude, 3, 'E', 'W');
+    const auto heading = static_cast<std::int64_t>(roundToEven(sim.aircraft.trueHeading)) % 360;
+    return textOf(texts, Text::spokenChart)
+        .arg(position, QString::fromStdString(zeroPadded(heading, 3)));
+}
+
+/// Also called for a part alone, when something that lies over the chart paints again: what is to
+/// be seen is noted where the whole chart is asked to paint.
+void ChartView::paintEvent(QPaintEvent* /*event*/) {
+    QPainter onWidget(this);
+    painter.paint(onWidget, side(), devicePixelRatioF());
+    if (!hasFocus())
+        return;
+    constexpr double ring = 2;
+    constexpr double inset = ring / 2;
+    onWidget.setPen(QPen(look::accent, ring));
+    onWidget.setBrush(Qt::NoBrush);
+    onWidget.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset),
+                             look::paperRadius, look::paperRadius);
+}
+
+void ChartView::resizeEvent(QResizeEvent* /*event*/) {
+    const ChartFrame frame(side(), sim.picture.size, devicePixelRatioF());
+    lamps->setGeometry(lampsPlate(frame).toAlignedRect());
+}
+
+void ChartView::showCursor() {
+    const bool overStation = pointer && stationAt(*pointer);
+    const bool canAct = sim.view.northUpMode && (sim.stopped() || sim.mouse.windTool());
+    const Qt::CursorShape wanted = overStation ? Qt::PointingHandCursor
+                                   : canAct    ? Qt::CrossCursor
+                                               : Qt::ArrowCursor;
+    if (cursor().shape() != wanted)
+        setCursor(wanted);
+}
+
+Point ChartView::toTwips(QPointF at) const {
+    const double twipsPerPixel = sim.picture.size / std::max(1.0, side());
+    return {at.x() * twipsPerPixel, at.y() * twipsPerPixel};
+}
+
+bool ChartView::mayEdit() const {
+    return sim.c_mapedit == 1 && sim.view.northUpMode && sim.stopped() && !sim.mouse.windTool();
+}
+
+/// The station that can be dragged and edited there.
+std::optional<Slot> ChartView::stationAt(QPointF at) const {
+    return mayEdit() ? sim.mouse.stationAt(toTwips(at)) : std::nullopt;
+}
+
+void ChartView::mousePressEvent(QMouseEvent* event) {
+    const std::optional<Slot> station = stationAt(event->position());
+    if (event->button() == Qt::RightButton && station && onStationMenu)
+        return onStationMenu(station, event->globalPosition().toPoint());
+    hold.begin();
+    guard([&] { sim.mouse.down(chartButton(event->button()), toTwips(event->position())); });
+    watchKeys();
+    refresh();
+}
+
+void ChartView::watchKeys() {
+    qApp->removeEventFilter(this);
+    if (sim.mouse.holds())
+        qApp->installEventFilter(this);
+}
+
+bool ChartView::eventFilter(QObject* watched, QEvent* event) {
+    const bool key = event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress;
+    if (!key || static_cast<QKeyEvent*>(event)->key() != Qt::Key_Escape || !sim.mouse.holds())
+        return QWidget::eventFilter(watched, event);
+    event->accept();
+    if (event->type() == QEvent::KeyPress) {
+        guard([this] { sim.mouse.takeBack(); });
+        watchKeys();
+        refresh();
+    }
+    return true;
+}
+
+void ChartView::mouseDoubleClickEvent(QMouseEvent* event) {
+    const std::optional<Slot> station = stationAt(event->position());
+    if (event->button() != Qt::LeftButton || !station || !onEditStation)
+        return mousePressEvent(event);
+    guard([&] { sim.mouse.takeBackDrag(); });
+    onEditStation(*station);
+}
+
+/// The mouse's part is done when its button goes down.
+void ChartView::contextMenuEvent(QContextMenuEvent* event) {
+    event->accept();
+    if (event->reason() == QContextMenuEvent::Keyboard && mayEdit() && onStationMenu)
+        onStationMenu({}, event->globalPos());
+}
+
+void ChartView::leaveEvent(QEvent* /*event*/) {
+    pointer.reset();
+}
+
+void ChartView::mouseMoveEvent(QMouseEvent* event) {
+    pointer = event->position();
+    guard([&] { sim.mouse.move(toTwips(event->position())); });
+    refresh();
+}
+
+void ChartView::mouseReleaseEvent(QMouseEvent* /*event*/) {
+    hold.end();
+    letGo();
+}
+
+void ChartView::letGo() {
+    guard([&] { sim.mouse.up(); });
+    watchKeys();
+    refresh();
+}
+
+void ChartView::wheelEvent(QWheelEvent* event) {
+    wheelRest += event->angleDelta().y();
+    const int notches = wheelRest / wheelNotch;
+    wheelRest -= notches * wheelNotch;
+    if (notches != 0 && onZoom)
+        onZoom(notches);
+    event->accept();
+}
+
+} // namespace tarnel

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "shell/form_1.h"
+#include "shell/instrument_legend.h"
+#include "window/widgets/form_binding.h"
+
+#include <QWidget>
+
+#include <vector>
+
+class QHBoxLayout;
+class QPainter;
+class QToolButton;
+
+namespace tarnel {
+
+/// The controls that belong to one instrument position.
+struct HeaderControls {
+    const PositionLinks& links;
+    OptionButton& smallSize;
+    OptionButton& largeSize;
+};
+
+/// `InstrumentHeader`: what stands above an instrument: its kind, what it shows on the chart, its
+/// size, and the legend of its needles.
+class InstrumentHeader : public QWidget {
+    Q_OBJECT
+
+  public:
+    InstrumentHeader(Form1& form, HeaderControls controls, FormBinding& binding,
+                     QWidget* parent = nullptr);
+
+    /// Brings the legend up to date.
+    void refresh();
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    QToolButton* addToggle(QHBoxLayout& row);
+    void followSize(QToolButton& button);
+    [[nodiscard]] bool hasSwatch(std::size_t part) const;
+    [[nodiscard]] int partWidth(std::size_t part, bool brief, const QFontMetrics& metrics) const;
+    [[nodiscard]] int legendWidth(bool brief, const QFontMetrics& metrics) const;
+    void paintPart(QPainter& painter, std::size_t part, bool brief, int left) const;
+
+    Form1& form;
+    HeaderControls controls;
+    std::vector<LegendPart> legend;
+    QToolButton* overlay = nullptr;
+    QToolButton* toggles = nullptr; ///< the last of them
+};
+
+} // namespace tarnel

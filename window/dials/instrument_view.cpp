@@ -1,0 +1,342 @@
+#include "window/dials/instrument_view.h"
+
+#include "window/widgets/knob_drawing.h"
+#include "window/widgets/panel_look.h"
+#include "window/widgets/text_of.h"
+
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QToolTip>
+#include <QWheelEvent>
+
+namespace tarnel {
+
+namespace {
+
+Qt::CursorShape cursorOver(InstrumentArea area, bool pressed) {
+    switch (area) {
+    case InstrumentArea::obsKnob:
+    case InstrumentArea::headingBugKnob:
+        return Qt::SizeHorCursor;
+    case InstrumentArea::selector:
+        return Qt::PointingHandCursor;
+    case InstrumentArea::card:
+    case InstrumentArea::headingBug:
+        return pressed ? Qt::ClosedHandCursor : Qt::OpenHandCursor;
+    case InstrumentArea::none:
+        break;
+    }
+    return Qt::ArrowCursor;
+}
+
+/// Over nothing that a release could click.
+constexpr Point offTheFace{-1, -1};
+
+} // namespace
+
+InstrumentView::InstrumentView(UserControl_1& control, PictureStore& store,
+                               const StringTable& table, QWidget* parent)
+    : QWidget(parent),
+      instrument(control),
+      pictures(store),
+      texts(table),
+      instrumentPainter(store),
+      areas(control.picture),
+      hold(*this, [this] { letGo(offTheFace); }) {
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    shown = present();
+    speak();
+}
+
+QSize InstrumentView::sizeHint() const {
+    constexpr int side = 344;
+    return {side, side};
+}
+
+InstrumentView::Shown InstrumentView::present() const {
+    return {instrument.picture.surface.revision(), instrument.Display, instrument.c_HDGbug,
+            instrument.c_MouseOBS, stations ? stations() : SpokenStations{}};
+}
+
+void InstrumentView::refresh() {
+    const Shown now = present();
+    if (now == shown)
+        return;
+    shown = now;
+    keepFocusUsable();
+    speak();
+    update();
+}
+
+/// The reading, behind the name of what has the keyboard.
+QString InstrumentView::spoken() const {
+    const QString reading =
+        QString::fromStdString(spokenReading(instrument, shown.stations, texts));
+    const auto behind = [&](Text knob) { return textOf(texts, knob) + ", " + reading; };
+    if (focusedArea() == InstrumentArea::obsKnob)
+        return behind(instrument.showsCourse() ? Text::spokenCourseKnob : Text::spokenCardKnob);
+    if (focusedArea() == InstrumentArea::headingBugKnob)
+        return behind(Text::spokenHeadingBugKnob);
+    if (focusedArea() == InstrumentArea::selector)
+        return behind(Text::spokenReceiverSelector);
+    return reading;
+}
+
+/// A covered instrument says nothing.
+void InstrumentView::speak() {
+    const QString name = textOf(texts, spokenKind(instrument.Display));
+    if (accessibleName() != name)
+        setAccessibleName(name);
+    const QString reading = isHidden() ? QString() : spoken();
+    if (accessibleDescription() != reading)
+        setAccessibleDescription(reading);
+}
+
+void InstrumentView::showEvent(QShowEvent* /*event*/) {
+    shown = present();
+    speak();
+}
+
+void InstrumentView::hideEvent(QHideEvent* /*event*/) {
+    if (isHidden())
+        setAccessibleDescription({});
+}
+
+Point InstrumentView::twipsAt(QPointF at) const {
+    const double twips = instrument.picture.size / std::max(side(), 1.0);
+    return {at.x() * twips, at.y() * twips};
+}
+
+void InstrumentView::change(const std::function<void()>& action) {
+    guard(action);
+    refresh();
+}
+
+void InstrumentView::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    instrumentPainter.paint(painter, instrument.picture, side());
+    paintKnobs(painter);
+    paintSelector(painter);
+}
+
+void InstrumentView::paintKnobs(QPainter& painter) {
+    constexpr double fullCircle = 360;
+    const double radius = InstrumentAreas::knobRadius(side());
+    for (const auto knob : {InstrumentArea::obsKnob, InstrumentArea::headingBugKnob}) {
+        if (!areas.visible(knob))
+            continue;
+        KnobLook knobLook;
+        knobLook.pointer = knob == InstrumentArea::obsKnob
+                               ? fullCircle - instrument.c_MouseOBS
+                               : static_cast<double>(instrument.c_HDGbug);
+        knobLook.hovered = hovered == knob || pressed == knob;
+        knobLook.pressed = pressed == knob;
+        knobLook.focused = ringedArea() == knob;
+        knobLook.dimmed = !areas.usable(knob);
+        paintKnob(painter, pictures, InstrumentAreas::knobCentre(knob, side()), radius, knobLook);
+    }
+}
+
+void InstrumentView::paintSelector(QPainter& painter) {
+    constexpr double roundingShare = 0.012;
+    constexpr double focusShare = 0.006;
+    constexpr double hoverShare = 0.004;
+    constexpr double light = 0.10;
+    constexpr double shade = 0.25;
+    constexpr double dim = 0.45;
+    constexpr auto area = InstrumentArea::selector;
+    const QRectF keys = InstrumentAreas::selectorKeys(side());
+    const double rounding = side() * roundingShare;
+    if (!areas.visible(area))
+        return;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    if (!areas.usable(area))
+        painter.setBrush(look::faded(look::bezelTop, dim));
+    else if (pressed == area)
+        painter.setBrush(look::faded(Qt::black, shade));
+    else
+        painter.setBrush(look::faded(Qt::white, hovered == area ? light : 0));
+    painter.drawRoundedRect(keys, rounding, rounding);
+    painter.setBrush(Qt::NoBrush);
+    if (ringedArea() == area)
+        painter.setPen(QPen(look::panelFocus, std::max(2.0, side() * focusShare)));
+    else if (hovered == area)
+        painter.setPen(QPen(look::panelAccent, std::max(1.0, side() * hoverShare)));
+    painter.drawRoundedRect(keys, rounding, rounding);
+}
+
+void InstrumentView::mousePressEvent(QMouseEvent* event) {
+    hold.begin();
+    change([this, event] { pressed = instrument.mouse.down(twipsAt(event->position())); });
+    showRing(false);
+    if (areas.usable(pressed))
+        focusArea(pressed);
+    setCursor(cursorOver(pressed, true));
+    update();
+}
+
+void InstrumentView::mouseMoveEvent(QMouseEvent* event) {
+    if (event->buttons() == Qt::NoButton) {
+        hover(event->position());
+        return;
+    }
+    change([this, event] {
+        instrument.mouse.move(twipsAt(event->position()), turningButton(event->buttons()));
+    });
+}
+
+void InstrumentView::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->buttons() != Qt::NoButton)
+        return;
+    hold.end();
+    letGo(twipsAt(event->position()));
+    hover(event->position());
+}
+
+void InstrumentView::letGo(Point at) {
+    change([this, at] { instrument.mouse.up(at); });
+    pressed = InstrumentArea::none;
+    update();
+}
+
+void InstrumentView::mouseDoubleClickEvent(QMouseEvent* event) {
+    hold.begin();
+    change([this, event] { instrument.mouse.doubleClick(twipsAt(event->position())); });
+}
+
+void InstrumentView::wheelEvent(QWheelEvent* event) {
+    const InstrumentArea area = instrument.mouse.areaAt(twipsAt(event->position()));
+    if (area == InstrumentArea::none) {
+        event->ignore();
+        return;
+    }
+    const int steps = notches.take(*event);
+    if (steps != 0)
+        change([this, area, steps] { instrument.mouse.stepKnob(area, steps); });
+    event->accept();
+}
+
+void InstrumentView::hover(QPointF at) {
+    setHovered(rect().contains(at.toPoint()) ? instrument.mouse.areaAt(twipsAt(at))
+                                             : InstrumentArea::none);
+}
+
+void InstrumentView::setHovered(InstrumentArea area) {
+    setCursor(cursorOver(area, false));
+    if (area == hovered)
+        return;
+    hovered = area;
+    update();
+}
+
+void InstrumentView::leaveEvent(QEvent* /*event*/) {
+    setHovered(InstrumentArea::none);
+}
+
+InstrumentArea InstrumentView::focusedArea() const {
+    return hasFocus() ? focused : InstrumentArea::none;
+}
+
+void InstrumentView::focusArea(InstrumentArea area) {
+    if (focused == area)
+        return;
+    focused = area;
+    speak();
+    update();
+}
+
+InstrumentArea InstrumentView::ringedArea() const {
+    return ringShown ? focusedArea() : InstrumentArea::none;
+}
+
+void InstrumentView::showRing(bool show) {
+    if (ringShown == show)
+        return;
+    ringShown = show;
+    update();
+}
+
+void InstrumentView::keepFocusUsable() {
+    if (!areas.usable(focused))
+        focused = areas.next(InstrumentArea::none, true);
+}
+
+void InstrumentView::focusInEvent(QFocusEvent* event) {
+    if (event->reason() == Qt::TabFocusReason)
+        focused = areas.next(InstrumentArea::none, true);
+    else if (event->reason() == Qt::BacktabFocusReason)
+        focused = areas.next(InstrumentArea::none, false);
+    ringShown = cameByKeyboard(*event);
+    keepFocusUsable();
+    speak();
+    update();
+}
+
+void InstrumentView::focusOutEvent(QFocusEvent* /*event*/) {
+    update();
+}
+
+bool InstrumentView::focusNextPrevChild(bool next) {
+    const InstrumentArea area =
+        areas.usable(focused) ? areas.next(focused, next) : InstrumentArea::none;
+    if (area == InstrumentArea::none)
+        return QWidget::focusNextPrevChild(next);
+    focusArea(area);
+    return true;
+}
+
+void InstrumentView::keyPressEvent(QKeyEvent* event) {
+    showRing(true);
+    const bool sideways = event->key() == Qt::Key_Left || event->key() == Qt::Key_Right;
+    if (const auto steps = stepsOfKey(*event)) {
+        change([this, steps] { instrument.mouse.stepKnob(focused, *steps); });
+    } else if (sideways) {
+        const InstrumentArea area = areas.next(focused, event->key() == Qt::Key_Right);
+        if (area != InstrumentArea::none)
+            focusArea(area);
+    } else if (isClickKey(*event)) {
+        clickFocused();
+    } else {
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void InstrumentView::clickFocused() {
+    if (focused == InstrumentArea::selector)
+        change([this] { instrument.mouse.stepKnob(InstrumentArea::selector, 1); });
+    else if (focused == InstrumentArea::headingBugKnob)
+        change([this] { instrument.mouse.doubleClick(areas.middle(focused)); });
+}
+
+QString InstrumentView::tipOf(InstrumentArea area) const {
+    switch (area) {
+    case InstrumentArea::obsKnob:
+    case InstrumentArea::card:
+        return textOf(texts, Text::knobTip) + QLatin1Char('\n') + textOf(texts, Text::knobHandsTip);
+    case InstrumentArea::headingBugKnob:
+    case InstrumentArea::headingBug:
+        return textOf(texts, Text::headingBugTip) + QLatin1Char('\n') +
+               textOf(texts, Text::knobHandsTip) + QLatin1Char('\n') +
+               textOf(texts, Text::presentHeadingTip);
+    case InstrumentArea::selector:
+        return textOf(texts, Text::receiverSelectorTip);
+    case InstrumentArea::none:
+        break;
+    }
+    return {};
+}
+
+bool InstrumentView::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip)
+        return QWidget::event(event);
+    const auto* help = static_cast<QHelpEvent*>(event);
+    QToolTip::showText(help->globalPos(), tipOf(instrument.mouse.areaAt(twipsAt(help->pos()))),
+                       this);
+    return true;
+}
+
+} // namespace tarnel

@@ -1,0 +1,127 @@
+#include "window/frame/application.h"
+
+#include "persistence/file_path.h"
+#include "persistence/save_file.h"
+#include "shell/application_folder.h"
+#include "window/frame/flight_guard.h"
+#include "window/frame/main_window.h"
+#include "window/frame/panel_accessibility.h"
+#include "window/frame/qt_outside_world.h"
+#include "window/frame/single_instance.h"
+#include "window/frame/window_place.h"
+#include "window/widgets/dressing.h"
+#include "window/widgets/text_of.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QMessageBox>
+#include <QScreen>
+#include <QStandardPaths>
+#include <QTextStream>
+#include <QTimer>
+
+#include <optional>
+
+namespace tarnel {
+
+namespace {
+
+/// The share of a large screen that the window takes at first; on a small one it takes all.
+constexpr double shareOfScreen = 0.86;
+constexpr QSize smallScreen{1366, 860};
+constexpr int otherHangs = 1;
+constexpr int usageIsWrong = 2;
+
+void openOnScreen(MainWindow& window) {
+    const QSize available = window.screen()->availableSize();
+    if (available.width() <= smallScreen.width() || available.height() <= smallScreen.height()) {
+        window.showMaximized();
+        return;
+    }
+    window.resize(available * shareOfScreen);
+    window.show();
+}
+
+/// Both languages share settings and scratch files.
+void nameApplication() {
+    QApplication::setApplicationName(QStringLiteral("tarnel"));
+    QApplication::setDesktopFileName(QStringLiteral("tarnel"));
+}
+
+QString userDataFolder() {
+    return QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
+}
+
+/// The copy of a practice flight is this user's.
+void useScratchFolder(Form1& form) {
+    const QString folder = userDataFolder();
+    if (QDir().mkpath(folder))
+        form.UserControl11.c_ScratchPath = folder.toStdString();
+}
+
+/// Ends a second start. The exit status.
+int leaveToOther(const StringTable& texts, SingleInstance::Start start) {
+    const bool hangs = start == SingleInstance::Start::otherHangs;
+    const QString told = textOf(texts, hangs ? Text::otherHangs : Text::alreadyRunning);
+    QTextStream(stderr) << told << '\n';
+    if (hangs)
+        QMessageBox::warning(nullptr, textOf(texts, Text::windowTitle), told);
+    return hangs ? otherHangs : 0;
+}
+
+void showAgain(MainWindow& window) {
+    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+    window.show();
+    window.raise();
+    window.activateWindow();
+}
+
+} // namespace
+
+int runApplication(int argc, char** argv, const StringTable& texts) {
+    makeFileSizeLimitAnError();
+    QApplication application(argc, argv);
+    nameApplication();
+    const QStringList words = QApplication::arguments();
+    if (words.size() > 2 || (words.size() == 2 && words[1].startsWith(QLatin1Char('-')))) {
+        QTextStream(stderr) << textOf(texts, Text::usage).arg(words[0]) << '\n';
+        return usageIsWrong;
+    }
+    // Qt would lose what is not UTF-8 in the name.
+    const std::string file = words.size() == 2 ? absolutePath(argv[1]) : std::string();
+    const std::string folder = applicationFolder();
+    dressApplication(texts, QString::fromStdString(folder));
+    translateDialogs(texts);
+    SingleInstance instance;
+    const SingleInstance::Start start = instance.start(file);
+    if (start != SingleInstance::Start::first)
+        return leaveToOther(texts, start);
+    installPanelAccessibility();
+    QtOutsideWorld outside;
+    Form1 form(texts, outside, folder);
+    useScratchFolder(form);
+    MainWindow window(form);
+    outside.setParent(&window);
+    const auto openIn = [&window](const std::string& path) {
+        if (!path.empty())
+            window.openFile(path);
+    };
+    instance.onOther = [&](const std::string& path) {
+        showAgain(window);
+        openIn(path);
+    };
+    window.onClose = [&] { keepPlace(window, outside.settings()); };
+    if (takePlace(window, outside.settings()))
+        window.show();
+    else
+        openOnScreen(window);
+    window.startTimers();
+    std::optional<FlightGuard> guard;
+    QTimer::singleShot(0, &window, [&] {
+        guard.emplace(form, userDataFolder() + QStringLiteral("/flights"));
+        openIn(file);
+    });
+    return QApplication::exec();
+}
+
+} // namespace tarnel

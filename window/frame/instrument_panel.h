@@ -1,0 +1,63 @@
+#pragma once
+
+#include "shell/form_1.h"
+#include "window/dials/spoken_reading.h"
+#include "window/frame/window_layout.h"
+#include "window/widgets/form_binding.h"
+#include "window/widgets/model_guard.h"
+#include "window/widgets/picture_store.h"
+
+#include <QWidget>
+
+#include <array>
+
+namespace tarnel {
+
+class AutopilotModule;
+class ChannelLamp;
+class CoverPlate;
+class DmeModule;
+class InstrumentHeader;
+class InstrumentView;
+class ModuleFrame;
+class NavModule;
+class StopwatchModule;
+
+/// `InstrumentPanel`: the dark half of the window: two instruments, the radios, the stopwatch and
+/// the autopilot.
+class InstrumentPanel : public QWidget {
+    Q_OBJECT
+
+  public:
+    InstrumentPanel(Form1& form, FormBinding& binding, PictureStore& pictures,
+                    const ModelGuard& guard, QWidget* parent = nullptr);
+
+    void layOut(const WindowLayout& layout);
+    void refresh();
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    void makeInstruments(FormBinding& binding, PictureStore& pictures, const ModelGuard& guard);
+    void makeModules(FormBinding& binding, PictureStore& pictures, const ModelGuard& guard);
+    [[nodiscard]] SpokenStations stationsOf(const InstrumentPosition& position) const;
+    void coverInstruments();
+    void showChannelLamps();
+    void layOutChannelLamp(std::size_t position, const QRect& bezel);
+
+    Form1& form;
+    std::array<InstrumentHeader*, 2> headers{};
+    std::array<InstrumentView*, 2> instruments{};
+    std::array<ChannelLamp*, 2> channelLamps{};
+    std::array<CoverPlate*, 2> plates{};
+    NavModule* nav1 = nullptr;
+    NavModule* nav2 = nullptr;
+    NavModule* adf = nullptr;
+    DmeModule* dme = nullptr;
+    StopwatchModule* stopwatch = nullptr;
+    AutopilotModule* autopilot = nullptr;
+    std::array<ModuleFrame*, 6> modules{};
+};
+
+} // namespace tarnel

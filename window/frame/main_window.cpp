@@ -1,0 +1,208 @@
+#include "window/frame/main_window.h"
+
+#include "window/chart/chart_controls.h"
+#include "window/chart/chart_view.h"
+#include "window/chart/comment_card.h"
+#include "window/chart/flight_signs.h"
+#include "window/chart/station_editing.h"
+#include "window/dials/floating_gyro.h"
+#include "window/frame/file_opener.h"
+#include "window/frame/instrument_panel.h"
+#include "window/frame/menu_tree.h"
+#include "window/quiz/quiz_panel.h"
+#include "window/radios/status_panels.h"
+#include "window/strip/control_strip.h"
+#include "window/widgets/look.h"
+#include "window/widgets/style_sheet.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QMenuBar>
+
+namespace tarnel {
+
+namespace {
+
+constexpr int couplingMilliseconds = 1;
+constexpr int autopilotMilliseconds = 200;
+/// A screen of 960 x 540 less the desktop's own bars.
+constexpr QSize smallestWindow{940, 480};
+constexpr QSize usualWindow{1280, 800};
+
+} // namespace
+
+MainWindow::MainWindow(Form1& owner)
+    : form(owner),
+      guard([&owner](const std::function<void()>& action) { owner.guarded(action); }),
+      binding(owner.texts, owner.state, guard),
+      pictures(QString::fromStdString(owner.UserControl11.c_MainAppPath.get())) {
+    setObjectName(QStringLiteral("Form1"));
+    setWindowTitle(textOf(form.texts, Text::windowTitle));
+    setContextMenuPolicy(Qt::NoContextMenu);
+    setMinimumSize(smallestWindow);
+    pictures.onMissing = [this](const QString& name) {
+        QTimer::singleShot(0, this, [this, name] { form.pictureMissing(name.toStdString()); });
+    };
+    makeMenus();
+    makeDesk();
+    opener = new FileOpener(form, *this);
+    flightSigns = new FlightSigns(form, *this);
+    form.beforeBox = [this] { refresh(); };
+    setStyleSheet(sheetFor(1)); // once for all widgets
+    resize(usualWindow);
+
+    couplingTimer.setTimerType(Qt::PreciseTimer);
+    couplingTimer.setInterval(couplingMilliseconds);
+    connect(&couplingTimer, &QTimer::timeout, this, &MainWindow::couplingTick);
+    simulationTimer.setTimerType(Qt::PreciseTimer);
+    connect(&simulationTimer, &QTimer::timeout, this, [this] { form.simulationTimer(); });
+    replayTimer.setTimerType(Qt::PreciseTimer);
+    connect(&replayTimer, &QTimer::timeout, this, [this] { form.Timer2(); });
+    autopilotTimer.setInterval(autopilotMilliseconds);
+    connect(&autopilotTimer, &QTimer::timeout, this, [this] { form.autopilotTimer(); });
+}
+
+MainWindow::~MainWindow() {
+    form.beforeBox = nullptr;
+}
+
+void MainWindow::makeMenus() {
+    MenuActions actions;
+    actions.exit = [this] { close(); };
+    actions.about = [this] { form.showAbout(); };
+    buildMenus(*menuBar(), form, binding, actions);
+}
+
+void MainWindow::makeDesk() {
+    desk = new QWidget(this);
+    desk->setObjectName(QStringLiteral("Desk"));
+    setCentralWidget(desk);
+    chart = new ChartView(form.UserControl11, form.texts, desk);
+    chart->guard = guard;
+    chart->onZoom = [this](int steps) { form.guarded([&] { form.stepScale(steps); }); };
+    stationEditing = std::make_unique<StationEditing>(form, *chart);
+    chartControls = new ChartControls(form, chart);
+    strip = new ControlStrip(form, binding, desk);
+    comment = new CommentCard(form, binding, desk);
+    panel = new InstrumentPanel(form, binding, pictures, guard, desk);
+    status = new StatusPanels(form, binding, desk);
+    quiz = new QuizPanel(form, binding, desk);
+    gyro = new additional_DG(form, pictures, this);
+}
+
+void MainWindow::openFile(const std::string& path) {
+    opener->open(path);
+}
+
+void MainWindow::startTimers() {
+    couplingTimer.start();
+    if (form.APControlFace1.c_startTimer == 1)
+        autopilotTimer.start();
+}
+
+PanelSizes MainWindow::panelSizes() const {
+    return {form.inst2.instrument.c_Large == 1, form.inst3.instrument.c_Large == 1};
+}
+
+/// The quiz takes the strip's place, and while a question stands open the comment's too.
+ColumnWishes MainWindow::columnWishes() const {
+    return {[this](int width) {
+                return quiz->runs() ? quiz->wantedHeight(width) : strip->wantedHeight(width);
+            },
+            [this](int width) {
+                return quiz->runs() ? quiz->wantedHeight(width) : strip->leastHeight();
+            },
+            [this](int width) { return comment->wantedHeight(width); },
+            [this](int width) { return form.questionOpen() ? 0 : comment->leastHeight(width); }};
+}
+
+void MainWindow::layOut() {
+    const int barHeight = static_cast<int>(look::statusHeight * shownScale);
+    const QSize body(desk->width(), desk->height() - barHeight);
+    const WindowLayout layout = layOutWindow(body, panelSizes(), columnWishes());
+    if (layout.uiScale != shownScale) {
+        shownScale = layout.uiScale;
+        setStyleSheet(sheetFor(shownScale));
+        QTimer::singleShot(0, this, &MainWindow::layOut);
+    }
+    shownSizes = panelSizes();
+    shownComments = comment->contents();
+    shownQuiz = quiz->contents();
+    shownOpen = form.questionOpen();
+    chart->setGeometry(layout.chart);
+    const int inset = look::overlayInset;
+    chartControls->setGeometry(inset, inset, layout.chart.width() - 2 * inset,
+                               chartControls->sizeHint().height());
+    strip->setGeometry(layout.strip);
+    strip->setVisible(!quiz->runs());
+    quiz->setGeometry(layout.strip);
+    comment->setGeometry(layout.comment);
+    comment->setVisible(!layout.comment.isEmpty());
+    panel->setGeometry(layout.panel);
+    panel->layOut(layout);
+    status->setGeometry(0, body.height(), desk->width(), barHeight);
+    pictures.sizesChanged();
+}
+
+void MainWindow::resizeEvent(QResizeEvent* event) {
+    QMainWindow::resizeEvent(event);
+    layOut();
+}
+
+/// What nothing else takes may mean something to the exercise that runs.
+void MainWindow::keyPressEvent(QKeyEvent* event) {
+    if (!quiz->takeKey(*event))
+        QMainWindow::keyPressEvent(event);
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    if (!form.flightDesk.mayClose()) {
+        event->ignore();
+        return;
+    }
+    event->accept();
+    if (onClose)
+        onClose();
+    QCoreApplication::quit();
+}
+
+void MainWindow::follow(QTimer& timer, bool runs, int interval) {
+    if (timer.interval() != interval)
+        timer.setInterval(interval);
+    if (runs != timer.isActive())
+        runs ? timer.start() : timer.stop();
+}
+
+/// Both intervals follow the rate that was chosen; each timer runs while what it moves does.
+void MainWindow::followClocks() {
+    const int interval = form.UserControl11.c_TimerSIMrate;
+    follow(simulationTimer, form.UserControl11.c_TimerEN == 1, interval);
+    follow(replayTimer, form.replayRuns(), interval);
+}
+
+void MainWindow::couplingTick() {
+    form.Timer1();
+    followClocks();
+    refresh();
+}
+
+void MainWindow::refresh() {
+    binding.refresh();
+    comment->refresh();
+    quiz->refresh();
+    // Without a quiz the keyboard would be with whatever comes next in the window.
+    if (shownQuiz != 0 && !quiz->runs() && focusWidget())
+        focusWidget()->clearFocus();
+    if (panelSizes() != shownSizes || form.questionOpen() != shownOpen ||
+        comment->contents() != shownComments || quiz->contents() != shownQuiz)
+        layOut();
+    chart->refresh();
+    chartControls->refresh();
+    strip->refresh();
+    panel->refresh();
+    gyro->refresh();
+    flightSigns->refresh();
+}
+
+} // namespace tarnel

@@ -1,0 +1,299 @@
+#include "window/frame/menu_tree.h"
+
+#include "shell/documents.h"
+#include "window/chart/flight_signs.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QMenu>
+#include <QMenuBar>
+
+#include <algorithm>
+#include <span>
+
+namespace tarnel {
+
+namespace {
+
+Text deedName(const HandStep& step) {
+    static constexpr Text names[] = {Text::deedPlace, Text::deedTurn, Text::deedStation,
+                                     Text::deedWind};
+    return names[static_cast<std::size_t>(step.deed)];
+}
+
+/// A sub menu can be opened while any of its items can be used.
+void followItems(QMenu& menu) {
+    const auto update = [&menu] {
+        const QList<QAction*> items = menu.actions();
+        menu.menuAction()->setEnabled(std::ranges::any_of(
+            items, [](const QAction* item) { return item->isEnabled() && !item->isSeparator(); }));
+    };
+    for (const QAction* item : menu.actions())
+        QObject::connect(item, &QAction::enabledChanged, &menu, update);
+    update();
+}
+
+class MenuBuilder {
+  public:
+    MenuBuilder(QMenuBar& target, Form1& owner, FormBinding& links)
+        : bar(target), form(owner), binding(links) {}
+
+    void buildFile(const MenuActions& actions);
+    void buildEdit();
+    void buildExercises();
+    void buildBook();
+    void buildView();
+    void buildKeys(QMenu& view);
+    void buildHelp(const MenuActions& actions);
+
+  private:
+    QMenu* menu(QWidget& parent, const char* name, Text text);
+    QAction* entry(QMenu& menu, const char* name, const QString& text);
+    QAction* bound(QMenu& menu, CommandButton& control, const QKeySequence& shortcut = {});
+    QAction* opening(QMenu& menu, const QString& name, Text text, std::function<void()> open);
+    void exerciseGroup(QMenu& menu, const char* name, Text header, Text first, Text last);
+    void practiceSessions(QMenu& menu, const char* name, Text header, Text prefix,
+                          ExerciseMenu::Practice& items);
+    void bookChapter(QMenu& menu, const BookChapter& chapter, int& page);
+    void approaches(QMenu& menu);
+    QString text(Text id) const { return textOf(form.texts, id).replace('&', "&&"); }
+
+    QMenuBar& bar;
+    Form1& form;
+    FormBinding& binding;
+};
+
+QMenu* MenuBuilder::menu(QWidget& parent, const char* name, Text id) {
+    auto* asBar = qobject_cast<QMenuBar*>(&parent);
+    QMenu* created =
+        asBar ? asBar->addMenu(text(id)) : static_cast<QMenu&>(parent).addMenu(text(id));
+    created->setObjectName(QString::fromLatin1(name));
+    return created;
+}
+
+QAction* MenuBuilder::entry(QMenu& parent, const char* name, const QString& caption) {
+    QAction* action = parent.addAction(caption);
+    action->setObjectName(QString::fromLatin1(name));
+    return action;
+}
+
+/// An item of the form; without a caption of its own it gets its text from the caller.
+QAction* MenuBuilder::bound(QMenu& parent, CommandButton& control, const QKeySequence& shortcut) {
+    QAction* action = parent.addAction(control.caption() ? text(*control.caption()) : QString());
+    action->setShortcut(shortcut);
+    binding.bind(control, *action);
+    return action;
+}
+
+/// An item that opens a document.
+QAction* MenuBuilder::opening(QMenu& parent, const QString& name, Text id,
+                              std::function<void()> open) {
+    QAction* action = entry(parent, name.toLatin1().constData(), text(id));
+    QObject::connect(action, &QAction::triggered, &bar,
+                     [this_form = &form, open = std::move(open)] { this_form->guarded(open); });
+    return action;
+}
+
+void MenuBuilder::buildFile(const MenuActions& actions) {
+    FileMenu& items = form.fileMenu;
+    QMenu* file = menu(bar, "mnufile", Text::menuFile);
+    bound(*file, items.newSession, QKeySequence::New);
+    bound(*file, items.loadSession, QKeySequence::Open);
+    bound(*file, items.loadOldSession);
+    bound(*file, items.saveSession, QKeySequence::Save);
+    bound(*file, items.saveSessionAs, Qt::CTRL | Qt::SHIFT | Qt::Key_S);
+    QMenu* flights = menu(*file, "mnuBringBack", Text::bringBackFlight);
+    binding.bind(form.flightDesk.menu, *flights->menuAction());
+    FlightSigns::fillMenu(form, *flights);
+    file->addSeparator();
+    bound(*file, items.loadChart);
+    bound(*file, items.saveChart);
+    bound(*file, items.saveChartAs);
+    binding.bind(items.encipher, *entry(*file, "fencrypt", text(Text::encipherFiles)));
+    file->addSeparator();
+    QAction* exit = entry(*file, "mnuExit", text(Text::exitProgram));
+    exit->setShortcut(QKeySequence::Quit);
+    QObject::connect(exit, &QAction::triggered, &bar, actions.exit);
+}
+
+/// The items say what they take back or do again.
+void MenuBuilder::buildEdit() {
+    EditMenu& items = form.editMenu;
+    QMenu* edit = menu(bar, "mnuEdit", Text::menuEdit);
+    QAction* undo = bound(*edit, items.undo, QKeySequence::Undo);
+    QAction* redo = bound(*edit, items.redo, Qt::CTRL | Qt::SHIFT | Qt::Key_Z);
+    const auto name = [this_form = &form](QAction& action, Text caption, const HandStep* step) {
+        QString text = textOf(this_form->texts, caption);
+        if (step)
+            text += QStringLiteral(": ") + textOf(this_form->texts, deedName(*step));
+        action.setText(text.replace('&', QStringLiteral("&&")));
+    };
+    QObject::connect(edit, &QMenu::aboutToShow, edit, [this_form = &form, undo, redo, name] {
+        const HandHistory& history = this_form->UserControl11.history;
+        name(*undo, Text::undo, history.undoable());
+        name(*redo, Text::redo, history.redoable());
+    });
+    edit->addSeparator();
+    binding.bind(form.stationPage.edit, *entry(*edit, "editChart", text(Text::editChart)));
+}
+
+/// The exercises of a sub menu, by their first and last item.
+void MenuBuilder::exerciseGroup(QMenu& parent, const char* name, Text header, Text first,
+                                Text last) {
+    QMenu* group = menu(parent, name, header);
+    const std::span<const ExerciseItem> items = exerciseItems();
+    const auto from = std::ranges::find(items, first, &ExerciseItem::text) - items.begin();
+    const auto to = std::ranges::find(items, last, &ExerciseItem::text) - items.begin();
+    for (auto i = from; i <= to; ++i)
+        bound(*group, *form.exerciseMenu.exercises[static_cast<std::size_t>(i)]);
+    followItems(*group);
+}
+
+void MenuBuilder::practiceSessions(QMenu& parent, const char* name, Text header, Text prefix,
+                                   ExerciseMenu::Practice& items) {
+    QMenu* list = menu(parent, name, header);
+    for (std::size_t i = 0; i < items.size(); ++i)
+        bound(*list, *items[i])->setText(text(prefix) + QString::number(i + 1));
+    followItems(*list);
+}
+
+void MenuBuilder::buildExercises() {
+    ExerciseMenu& items = form.exerciseMenu;
+    QMenu* exercises = menu(bar, "mnuOption", Text::menuExercises);
+    exerciseGroup(*exercises, "adfrmi", Text::exercisesAdfRmi, Text::exerciseAdfPosition,
+                  Text::exerciseQdr);
+    exerciseGroup(*exercises, "hsivor", Text::exercisesHsiVor, Text::exerciseHsiPosition,
+                  Text::exerciseDgHolding);
+    QMenu* practice = menu(*exercises, "adfvorprac", Text::practiceAdfVor);
+    practiceSessions(*practice, "vorprac", Text::practiceVor, Text::vorPracticePrefix,
+                     items.vorPractice);
+    practiceSessions(*practice, "adfprac", Text::practiceAdf, Text::adfPracticePrefix,
+                     items.adfPractice);
+    followItems(*practice);
+    bound(*exercises, *items.exercises.back());
+    exercises->addSeparator();
+    bound(*exercises, items.resetStatistics);
+    followItems(*exercises);
+}
+
+/// The items of a chapter open the pages of the table from `page` on.
+void MenuBuilder::bookChapter(QMenu& parent, const BookChapter& chapter, int& page) {
+    QMenu* list = menu(parent, chapter.name, chapter.header);
+    const int first = static_cast<int>(chapter.first);
+    for (int id = first; id <= static_cast<int>(chapter.last); ++id, ++page) {
+        const QString name = QString::fromLatin1(chapter.name) + QString::number(id - first + 1);
+        opening(*list, name, static_cast<Text>(id), [this_form = &form, index = page] {
+            this_form->openBook(this_form->texts.bookPage(index));
+        });
+    }
+}
+
+void MenuBuilder::approaches(QMenu& parent) {
+    QMenu* list = menu(parent, "approach", Text::menuApproachCharts);
+    const std::span<const ApproachChart> charts = approachCharts();
+    for (std::size_t i = 0; i < charts.size(); ++i)
+        opening(*list, QString::fromLatin1(charts[i].document).left(4), charts[i].name,
+                [this_form = &form, i] { this_form->openApproachChart(i); });
+}
+
+void MenuBuilder::buildBook() {
+    QMenu* book = menu(bar, "mnubuch", Text::menuBook);
+    opening(*book, QStringLiteral("bookStart"), Text::bookStart,
+            [this_form = &form] { this_form->openBook(0); });
+    book->addSeparator();
+    int page = 0;
+    for (const BookChapter& chapter : bookChapters())
+        bookChapter(*book, chapter, page);
+    book->addSeparator();
+    approaches(*book);
+}
+
+void MenuBuilder::buildView() {
+    QMenu* view = menu(bar, "mnuView", Text::menuView);
+    auto* views = new QActionGroup(view);
+    QAction* north = entry(*view, "northUp", text(Text::northUp));
+    QAction* heading = entry(*view, "headingUp", text(Text::headingUp));
+    for (QAction* action : {north, heading}) {
+        action->setCheckable(true);
+        views->addAction(action);
+    }
+    QObject::connect(view, &QMenu::aboutToShow, view, [this_form = &form, north, heading] {
+        const bool up = this_form->UserControl11.c_MAPnorthUP == 1;
+        (up ? north : heading)->setChecked(true);
+    });
+    const auto guarded = [this_form = &form](auto action) {
+        return [this_form, action] { this_form->guarded([&] { action(*this_form); }); };
+    };
+    QObject::connect(north, &QAction::triggered, &bar,
+                     guarded([](Form1& f) { f.setNorthUp(true); }));
+    QObject::connect(heading, &QAction::triggered, &bar,
+                     guarded([](Form1& f) { f.setNorthUp(false); }));
+    view->addSeparator();
+    buildKeys(*view);
+    view->addSeparator();
+    QAction* larger = entry(*view, "zoomIn", text(Text::zoomIn));
+    larger->setShortcut(QKeySequence::ZoomIn);
+    QObject::connect(larger, &QAction::triggered, &bar, guarded([](Form1& f) { f.stepScale(1); }));
+    QAction* smaller = entry(*view, "zoomOut", text(Text::zoomOut));
+    smaller->setShortcut(QKeySequence::ZoomOut);
+    QObject::connect(smaller, &QAction::triggered, &bar,
+                     guarded([](Form1& f) { f.stepScale(-1); }));
+    view->addSeparator();
+    binding.bind(form.floatingGyroBox, *entry(*view, "floatingGyro", text(Text::floatingGyro)));
+}
+
+/// The letters on the status panels. A field that takes text keeps them to itself.
+void MenuBuilder::buildKeys(QMenu& view) {
+    static constexpr std::pair<char, Text> keys[] = {
+        {'M', Text::keyStart},   {'P', Text::keyReplay},  {'H', Text::keyHide},
+        {'T', Text::keyTrace},   {'V', Text::keyVectors}, {'W', Text::keyWind},
+        {'R', Text::keyRadials},
+    };
+    for (const auto& [letter, caption] : keys) {
+        const QString key{QLatin1Char(letter)};
+        QAction* action = entry(view, "", text(caption));
+        action->setObjectName(QStringLiteral("key") + key);
+        action->setShortcut(QKeySequence(key));
+        action->setAutoRepeat(false);
+        QObject::connect(action, &QAction::triggered, &bar, [this_form = &form, which = letter] {
+            this_form->guarded([&] { this_form->pressKey(which); });
+        });
+    }
+}
+
+void MenuBuilder::buildHelp(const MenuActions& actions) {
+    QMenu* help = menu(bar, "mnuhelp", Text::menuHelp);
+    Form1* owner = &form;
+    const auto page = [owner](int index) {
+        return [owner, index] { owner->openBook(owner->texts.bookPage(index)); };
+    };
+    opening(*help, QStringLiteral("hilfeindex"), Text::helpIndex, [owner] { owner->openHelp(); });
+    QMenu* introduction = menu(*help, "intromain", Text::introduction);
+    bound(*introduction, form.exerciseMenu.introduction1);
+    bound(*introduction, form.exerciseMenu.introduction2);
+    followItems(*introduction);
+    opening(*help, QStringLiteral("userguide"), Text::userGuide,
+            [owner] { owner->openUserGuide(); });
+    opening(*help, QStringLiteral("bookAbbreviations"), Text::bookAbbreviations,
+            page(abbreviationsPage));
+    opening(*help, QStringLiteral("bookIndex"), Text::bookIndex, page(bookIndexPage));
+    opening(*help, QStringLiteral("webqxr"), Text::productPage,
+            [owner] { owner->openProductPage(); });
+    help->addSeparator();
+    QAction* about = entry(*help, "test", text(Text::aboutTarnel));
+    QObject::connect(about, &QAction::triggered, &bar, actions.about);
+}
+
+} // namespace
+
+void buildMenus(QMenuBar& bar, Form1& form, FormBinding& binding, const MenuActions& actions) {
+    MenuBuilder builder(bar, form, binding);
+    builder.buildFile(actions);
+    builder.buildEdit();
+    builder.buildExercises();
+    builder.buildBook();
+    builder.buildView();
+    builder.buildHelp(actions);
+}
+
+} // namespace tarnel

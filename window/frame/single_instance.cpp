@@ -1,0 +1,141 @@
+#include "window/frame/single_instance.h"
+
+#include "window/frame/local_peer.h"
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QLocalSocket>
+#include <QStandardPaths>
+#include <QSysInfo>
+
+#include <sys/stat.h>
+#include <thread>
+#include <unistd.h>
+#include <utility>
+
+namespace tarnel {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr qsizetype longestMessage = 1 << 14; ///< bytes, more than any path takes
+constexpr int mostConnections = 32;           ///< at a time
+constexpr int messageMilliseconds = 1000;     ///< in which a message has to be there
+constexpr char answer = '\1';
+
+bool isUsersAlone(const std::string& folder) {
+    constexpr mode_t others = 077;
+    struct stat found {};
+    return ::lstat(folder.c_str(), &found) == 0 && S_ISDIR(found.st_mode) &&
+           found.st_uid == ::geteuid() && (found.st_mode & others) == 0;
+}
+
+/// Different for each display, and for each computer that shares the folder.
+std::string nameOnDisplay() {
+    QByteArray display = qgetenv("WAYLAND_DISPLAY");
+    if (display.isEmpty())
+        display = qgetenv("DISPLAY");
+    const QByteArray where = QSysInfo::machineHostName().toUtf8() + '\n' + display;
+    constexpr qsizetype enough = 16;
+    return "tarnel-" + QCryptographicHash::hash(where, QCryptographicHash::Sha256)
+                           .toHex()
+                           .left(enough)
+                           .toStdString();
+}
+
+} // namespace
+
+std::string SingleInstance::usersFolder() {
+    const std::string runtime = qgetenv("XDG_RUNTIME_DIR").toStdString();
+    if (runtime.starts_with('/') && isUsersAlone(runtime))
+        return runtime;
+    constexpr mode_t usersAlone = 0700;
+    const QString cache = QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation);
+    const std::string folder = cache.toStdString() + "/tarnel-run";
+    if (!QDir().mkpath(cache) || (::mkdir(folder.c_str(), usersAlone) != 0 && errno != EEXIST))
+        return {};
+    return isUsersAlone(folder) ? folder : std::string();
+}
+
+SingleInstance::SingleInstance(const std::string& folder)
+    : base(folder.empty() ? std::string() : folder + "/" + nameOnDisplay()) {}
+
+SingleInstance::~SingleInstance() {
+    if (lock)
+        ::unlink(socketPath().c_str());
+}
+
+/// The first one may hold the lock before it listens; and it may end while this one waits.
+SingleInstance::Start SingleInstance::start(const std::string& path,
+                                            std::chrono::milliseconds patience) {
+    constexpr auto pause = 20ms;
+    constexpr int triesForALock = 5;
+    const auto end = std::chrono::steady_clock::now() + patience;
+    struct stat found {};
+    int triesWithoutFile = 0;
+    while (!base.empty() && triesWithoutFile < triesForALock) {
+        if (auto taken = LockFile::take(lockPath())) {
+            lock = std::move(taken);
+            listen();
+            break;
+        }
+        if (handOver(socketPath(), path.size() < longestMessage ? path : std::string(), end))
+            return Start::handedOver;
+        if (std::chrono::steady_clock::now() >= end)
+            return Start::otherHangs;
+        triesWithoutFile = ::lstat(lockPath().c_str(), &found) == 0 ? 0 : triesWithoutFile + 1;
+        std::this_thread::sleep_for(pause);
+    }
+    return Start::first;
+}
+
+/// Where no socket can be made the program still runs.
+void SingleInstance::listen() {
+    QObject::connect(&server, &QLocalServer::newConnection, &server, [this] {
+        while (QLocalSocket* socket = server.nextPendingConnection())
+            accept(*socket);
+    });
+    const int descriptor = listeningSocket(socketPath());
+    if (descriptor >= 0)
+        server.listen(descriptor);
+}
+
+/// Who is another user, one too many, or slow, is hung up on.
+void SingleInstance::accept(QLocalSocket& socket) {
+    ++openConnections;
+    QObject::connect(&socket, &QLocalSocket::disconnected, &server, [this, &socket] {
+        --openConnections;
+        socket.deleteLater();
+    });
+    if (openConnections > mostConnections ||
+        !isOfSameUser(static_cast<int>(socket.socketDescriptor()))) {
+        socket.abort();
+        return;
+    }
+    socket.setReadBufferSize(longestMessage);
+    QTimer::singleShot(messageMilliseconds, &socket, [&socket] { socket.abort(); });
+    QObject::connect(&socket, &QLocalSocket::readyRead, &socket,
+                     [this, &socket] { receive(socket); });
+    receive(socket);
+}
+
+/// The message ends with the byte 0. It is answered before anything is opened: that may show a box.
+void SingleInstance::receive(QLocalSocket& socket) {
+    const QByteArray message = socket.peek(longestMessage);
+    const qsizetype size = message.indexOf('\0');
+    if (size < 0) {
+        if (message.size() == longestMessage)
+            socket.abort();
+        return;
+    }
+    socket.readAll();
+    QObject::disconnect(&socket, &QLocalSocket::readyRead, nullptr, nullptr);
+    socket.write(&answer, 1);
+    socket.flush();
+    socket.disconnectFromServer();
+    if (onOther)
+        onOther(message.left(size).toStdString());
+}
+
+} // namespace tarnel

@@ -1,0 +1,108 @@
+#include "window/quiz/quiz_flight_bar.h"
+
+#include "window/widgets/quiz_measures.h"
+#include "window/widgets/icons.h"
+#include "window/widgets/look.h"
+#include "window/widgets/replay_bar.h"
+#include "window/widgets/segment_row.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace tarnel {
+
+namespace {
+
+constexpr int rowGap = 8;
+constexpr int roomForSpeeds = 500; ///< px at text scale 1, so that the replay's bar stays long
+
+/// Keeps the place of `widget` while it is hidden, so that its neighbours stay where they are.
+void keepPlace(QWidget& widget) {
+    QSizePolicy policy = widget.sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    widget.setSizePolicy(policy);
+}
+
+} // namespace
+
+QuizFlightBar::QuizFlightBar(Form1& owner, FormBinding& binding, QWidget* parent)
+    : QWidget(parent), form(owner) {
+    auto* rows = new QVBoxLayout(this);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(rowGap);
+    rows->addLayout(flightRow = makeFlightRow(binding));
+    rows->addLayout(replayRow = makeReplayRow(binding));
+    binding.follow([this] { follow(); });
+}
+
+QBoxLayout* QuizFlightBar::makeFlightRow(FormBinding& binding) {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(look::gap);
+    startButton = new QPushButton(this);
+    startButton->setProperty("primary", true);
+    binding.bind(form.startButton, *startButton);
+    row->addWidget(startButton);
+    speeds = segmentRow(
+        binding, {&form.rateHalf, &form.rateReal, &form.rateDouble, &form.rateQuadruple}, this);
+    row->addWidget(speeds, 1);
+    return row;
+}
+
+QBoxLayout* QuizFlightBar::makeReplayRow(FormBinding& binding) {
+    auto* row = new QHBoxLayout;
+    addSign(*row, binding, form.replayPage.play, Sign::play);
+    addSign(*row, binding, form.replayPage.stop, Sign::stop);
+    auto* bar = new ReplayBar(this);
+    keepPlace(*bar);
+    binding.bind(form.replayPage.bar, *bar);
+    row->addWidget(bar, 1);
+    auto* clock = new QLabel(this);
+    clock->setProperty("secondary", true);
+    binding.bind(form.replayPage.clock, *clock);
+    row->addWidget(clock);
+    backButton = new QPushButton(this);
+    backButton->setProperty("quiz", true);
+    binding.bind(form.backButton, *backButton);
+    row->addWidget(backButton);
+    return row;
+}
+
+void QuizFlightBar::addSign(QBoxLayout& row, FormBinding& binding, OptionButton& control,
+                            Sign sign) {
+    auto* button = new QToolButton(this);
+    button->setIcon(signIcon(sign, look::ink));
+    binding.bind(control, *button);
+    row.addWidget(button);
+}
+
+void QuizFlightBar::follow() {
+    const Sign sign = form.simulationRuns() ? Sign::stop : Sign::play;
+    const QColor ink = form.startButton.enabled() ? Qt::white : look::secondaryInk;
+    startButton->setIcon(signIcon(sign, ink));
+    startButton->setVisible(form.QAform1.c_QAFly > 0);
+}
+
+int QuizFlightBar::heightIn(int width) {
+    placeSpeeds(form.QAform1.c_QAFly > 0 || width < roomForSpeeds * quiz::scaleOf(*this));
+    return sizeHint().height();
+}
+
+void QuizFlightBar::placeSpeeds(bool besideStart) {
+    if (besideStart == speedsBesideStart)
+        return;
+    speedsBesideStart = besideStart;
+    (besideStart ? replayRow : flightRow)->removeWidget(speeds);
+    if (besideStart)
+        flightRow->addWidget(speeds, 1);
+    else
+        replayRow->insertWidget(replayRow->indexOf(backButton), speeds);
+}
+
+QWidget* QuizFlightBar::firstControl() const {
+    return form.QAform1.c_QAFly > 0 ? startButton : backButton;
+}
+
+} // namespace tarnel

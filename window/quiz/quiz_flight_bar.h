@@ -1,0 +1,44 @@
+#pragma once
+
+#include "shell/form_1.h"
+#include "window/widgets/form_binding.h"
+
+#include <QWidget>
+
+class QBoxLayout;
+class QPushButton;
+
+namespace tarnel {
+
+enum class Sign;
+
+/// `QuizFlightBar`: what a student needs while he flies a question or watches its solution: start,
+/// speeds, the replay's place and the way back. To watch, one line is enough if it is wide.
+class QuizFlightBar : public QWidget {
+    Q_OBJECT
+
+  public:
+    QuizFlightBar(Form1& form, FormBinding& binding, QWidget* parent);
+
+    /// The height that it takes at a width.
+    [[nodiscard]] int heightIn(int width);
+    /// What the student uses first: start in his own flight, else the way back.
+    [[nodiscard]] QWidget* firstControl() const;
+
+  private:
+    [[nodiscard]] QBoxLayout* makeFlightRow(FormBinding& binding);
+    [[nodiscard]] QBoxLayout* makeReplayRow(FormBinding& binding);
+    void addSign(QBoxLayout& row, FormBinding& binding, OptionButton& control, Sign sign);
+    void follow();
+    void placeSpeeds(bool besideStart);
+
+    Form1& form;
+    QBoxLayout* flightRow = nullptr;
+    QBoxLayout* replayRow = nullptr;
+    QWidget* speeds = nullptr;
+    bool speedsBesideStart = true;
+    QPushButton* startButton = nullptr;
+    QPushButton* backButton = nullptr;
+};
+
+} // namespace tarnel

@@ -1,0 +1,96 @@
+#include "window/quiz/quiz_option.h"
+
+#include "window/widgets/quiz_measures.h"
+#include "window/widgets/look.h"
+
+#include <QPainter>
+
+namespace tarnel {
+
+namespace {
+
+constexpr double digitShare = 0.77; ///< of the text's height
+constexpr double brokenShare = 0.88;
+constexpr int digitGap = 6;
+constexpr int padding = 7;
+constexpr int sparedPadding = 6; ///< where room is short
+
+} // namespace
+
+QuizOption::QuizOption(int number, QWidget* parent)
+    : QPushButton(parent), digit(QString::number(number)) {
+    setProperty("choice", true);
+}
+
+QFont QuizOption::smallFont(double share) const {
+    QFont small = font();
+    small.setPixelSize(qRound(QFontInfo(small).pixelSize() * share));
+    return small;
+}
+
+QString QuizOption::shownText() const {
+    return text().replace(QStringLiteral("&&"), QStringLiteral("&"));
+}
+
+/// What digit, gap and padding take of the width.
+int QuizOption::digitPart() const {
+    return QFontMetrics(smallFont(digitShare)).horizontalAdvance(digit) +
+           qRound((digitGap + 2 * padding) * quiz::scaleOf(*this));
+}
+
+int QuizOption::lineWidth() const {
+    ensurePolished();
+    return digitPart() + fontMetrics().horizontalAdvance(shownText());
+}
+
+int QuizOption::tightWidth() const {
+    return lineWidth() - qRound(sparedPadding * quiz::scaleOf(*this));
+}
+
+int QuizOption::brokenWidth() const {
+    ensurePolished();
+    const QFontMetrics metrics(smallFont(brokenShare));
+    const QStringList words = shownText().split(QLatin1Char(' '));
+    int narrowest = tightWidth();
+    for (qsizetype i = 1; i < words.size(); ++i) {
+        const int first = metrics.horizontalAdvance(words.first(i).join(QLatin1Char(' ')));
+        const int second = metrics.horizontalAdvance(words.sliced(i).join(QLatin1Char(' ')));
+        narrowest = qMin(narrowest, digitPart() + qMax(first, second) + 1);
+    }
+    return narrowest;
+}
+
+/// Digit and text stand in the middle as one.
+void QuizOption::paintText(QPainter& painter) const {
+    const double scale = quiz::scaleOf(*this);
+    const bool oneLine = width() >= tightWidth();
+    const int wide = oneLine ? lineWidth() : brokenWidth();
+    const int left = qMax(4, (width() - wide) / 2 + qRound(padding * scale));
+    const QRect line = rect().adjusted(left, 0, 0, 0);
+    painter.setPen(isEnabled() ? look::secondaryInk : look::unit);
+    painter.setFont(smallFont(digitShare));
+    painter.drawText(line, Qt::AlignVCenter | Qt::AlignLeft, digit);
+    const int textLeft = painter.fontMetrics().horizontalAdvance(digit) + qRound(digitGap * scale);
+    painter.setPen(isEnabled() ? look::ink : look::unit);
+    painter.setFont(oneLine ? font() : smallFont(brokenShare));
+    painter.drawText(line.adjusted(textLeft, 0, oneLine ? 0 : -2, 0),
+                     Qt::AlignVCenter | Qt::AlignLeft | (oneLine ? 0 : Qt::TextWordWrap),
+                     shownText());
+}
+
+void QuizOption::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const bool active = isEnabled() && (underMouse() || hasFocus());
+    const double edge = hasFocus() ? 2 : 1;
+    painter.setPen(QPen(active ? look::accent : isEnabled() ? look::line : look::hairline, edge));
+    painter.setBrush(!isEnabled() ? look::card
+                     : isDown()   ? look::hairline
+                     : hasFocus() ? look::onPaper(look::accent, 0.08)
+                                  : look::paper);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(edge / 2, edge / 2, -edge / 2, -edge / 2),
+                            look::controlRadius, look::controlRadius);
+    paintText(painter);
+}
+
+} // namespace tarnel

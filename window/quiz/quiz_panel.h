@@ -1,0 +1,66 @@
+#pragma once
+
+#include "shell/form_1.h"
+#include "window/widgets/form_binding.h"
+
+#include <QWidget>
+
+#include <vector>
+
+namespace tarnel {
+
+class QuizFlightBar;
+class QuizFrame;
+class QuizRow;
+
+/// `QuizPanel`: shows the running exercise below the chart, and takes it by keyboard: digits answer
+/// the row that has the keyboard, or the first open one, and Enter goes on.
+class QuizPanel : public QWidget {
+    Q_OBJECT
+
+  public:
+    QuizPanel(Form1& form, FormBinding& binding, QWidget* parent = nullptr);
+
+    /// To be called after the binding's `refresh`.
+    void refresh();
+
+    /// Whether an exercise runs, so that the panel is to be shown.
+    [[nodiscard]] bool runs() const { return active != nullptr; }
+    /// The height that it wants at a width. An exercise never wants less for a question than for
+    /// one before, so that the window keeps still.
+    [[nodiscard]] int wantedHeight(int width) const;
+    /// A number that differs when `runs` or `wantedHeight` may do so; cheap.
+    [[nodiscard]] int contents() const { return shownHeight; }
+
+    /// Does what a key means to the exercise that runs. False if it means nothing.
+    bool takeKey(const QKeyEvent& event);
+
+  protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+  private:
+    QuizFrame* runningFrame();
+    void show(QuizFrame* frame);
+    void measure();
+    void followQuestion();
+    void focusAnswer(const QuizRow* after);
+    void focusFlight();
+    bool enter();
+
+    Form1& form;
+    FormBinding& binding;
+    std::vector<QuizFrame*> frames;
+    QuizFlightBar* flightBar = nullptr;
+    QuizFrame* active = nullptr;
+    std::uint64_t shown = 0;
+    int shownHeight = 0;
+    int tallest = 0; ///< of the questions of this exercise, at the present width
+    int tallestWidth = 0;
+    bool folded = false;
+    bool flightAwaitsFocus = false;
+    QString question;
+    std::vector<bool> wasOpen; ///< by row
+};
+
+} // namespace tarnel

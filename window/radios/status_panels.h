@@ -1,0 +1,32 @@
+#pragma once
+
+#include "shell/form_1.h"
+#include "window/widgets/form_binding.h"
+
+#include <QTimer>
+#include <QWidget>
+
+#include <vector>
+
+class QLabel;
+
+namespace tarnel {
+
+/// `StatusPanels`: the status bar: session, modes and flight time side by side.
+class StatusPanels : public QWidget {
+    Q_OBJECT
+
+  public:
+    StatusPanels(Form1& form, FormBinding& binding, QWidget* parent = nullptr);
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+  private:
+    std::vector<QLabel*> panels;
+    QLabel* notice; ///< lies over them for a moment
+    QTimer noticeEnd;
+};
+
+} // namespace tarnel

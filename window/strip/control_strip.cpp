@@ -1,0 +1,188 @@
+#include "window/strip/control_strip.h"
+
+#include "window/strip/strip_chart_page.h"
+#include "window/strip/strip_replay_page.h"
+#include "window/strip/strip_station_page.h"
+#include "window/strip/strip_wind_page.h"
+#include "window/widgets/card.h"
+#include "window/widgets/choice_button.h"
+#include "window/widgets/icons.h"
+#include "window/widgets/look.h"
+#include "window/widgets/segment_row.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <array>
+
+namespace tarnel {
+
+namespace {
+
+constexpr int rowGap = 5;
+constexpr int tabPadding = 16;
+
+/// Narrower strips do without the words before the speeds and the read-outs.
+constexpr int roomForCaptions = 420;
+
+} // namespace
+
+ControlStrip::ControlStrip(Form1& owner, FormBinding& links, QWidget* parent)
+    : QWidget(parent), form(owner), binding(links) {
+    tellKeys();
+    auto* rows = new QVBoxLayout(this);
+    rows->setContentsMargins(look::cardInset, look::cardInset - 2, look::cardInset,
+                             look::cardInset - 2);
+    rows->setSpacing(rowGap);
+    rows->addLayout(makeFlightRow());
+    rows->addLayout(makeTabRow());
+    rows->addWidget(makePages(), 1);
+    startButton->setIcon(signIcon(Sign::play, Qt::white));
+    startButton->setFocus();
+}
+
+/// The letters on the status panels, in the tips of what does the same.
+void ControlStrip::tellKeys() {
+    binding.tellKey(form.startButton, 'M');
+    binding.tellKey(form.replayPage.play, 'P');
+    binding.tellKey(form.replayPage.stop, 'P');
+    binding.tellKey(form.replayPage.hide, 'H');
+    binding.tellKey(form.chartPage.hide, 'H');
+    binding.tellKey(form.chartPage.trace, 'T');
+    binding.tellKey(form.chartPage.vectors, 'V');
+    binding.tellKey(form.windPage.none, 'W');
+    binding.tellKey(form.windPage.manual, 'W');
+    binding.tellKey(form.windPage.random, 'W');
+    binding.tellKey(form.radialCycleButton, 'R');
+}
+
+QHBoxLayout* ControlStrip::makeFlightRow() {
+    auto* row = new QHBoxLayout;
+    startButton = new QPushButton(this);
+    startButton->setProperty("primary", true);
+    binding.bind(form.startButton, *startButton);
+    row->addWidget(startButton);
+    row->addSpacing(8);
+    speedCaption = captioned(Text::speed);
+    row->addWidget(speedCaption);
+    row->addWidget(
+        segmentRow(binding, {&form.rateHalf, &form.rateReal, &form.rateDouble, &form.rateQuadruple},
+                   this),
+        1);
+    return row;
+}
+
+QHBoxLayout* ControlStrip::makeTabRow() {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(0);
+    for (OptionButton* page :
+         {&form.pages.chart, &form.pages.replay, &form.pages.wind, &form.pages.stations})
+        addTab(*row, *page);
+    row->addStretch(1);
+    addReadout(*row, Text::autopilotSpeed, form.speedReadout, Text::unitKnots);
+    row->addSpacing(12);
+    addReadout(*row, Text::turnRate, form.turnReadout, Text::unitDegreesPerSecond);
+    return row;
+}
+
+void ControlStrip::addTab(QHBoxLayout& row, OptionButton& page) {
+    auto* tab = new ChoiceButton(tabPadding, this);
+    tab->setProperty("tab", true);
+    binding.bind(page, *tab);
+    row.addWidget(tab);
+}
+
+void ControlStrip::addReadout(QHBoxLayout& row, Text name, TextPanel& readout, Text unit) {
+    constexpr int beforeUnit = 4;
+    readoutCaptions.push_back(captioned(name));
+    row.addWidget(readoutCaptions.back());
+    row.addSpacing(beforeUnit);
+    auto* value = new QLabel(this);
+    value->setProperty("readout", true);
+    binding.bind(readout, *value);
+    row.addWidget(value);
+    row.addSpacing(beforeUnit);
+    row.addWidget(captioned(unit));
+}
+
+QScrollArea* ControlStrip::makePages() {
+    scroll = new QScrollArea(this);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidgetResizable(true);
+    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroll->setMinimumHeight(1); // the strip measures the pages itself
+    stack = new QStackedWidget;
+    pages = {new StripChartPage(form, binding, stack), new StripReplayPage(form, binding, stack),
+             new StripWindPage(form, binding, stack), new StripStationPage(form, binding, stack)};
+    for (StripPage* page : pages)
+        stack->addWidget(page);
+    scroll->setWidget(stack);
+    return scroll;
+}
+
+QLabel* ControlStrip::captioned(Text text) {
+    auto* label = new QLabel(textOf(form.texts, text), this);
+    label->setProperty("secondary", true);
+    return label;
+}
+
+void ControlStrip::refresh() {
+    const std::array order = {&form.pages.chart, &form.pages.replay, &form.pages.wind,
+                              &form.pages.stations};
+    for (std::size_t i = 0; i < order.size(); ++i)
+        if (order[i]->chosen())
+            stack->setCurrentIndex(static_cast<int>(i));
+    pages[static_cast<std::size_t>(stack->currentIndex())]->refresh();
+    const bool runs = form.simulationRuns();
+    if (runs == startShowsStop)
+        return;
+    startShowsStop = runs;
+    startButton->setIcon(signIcon(runs ? Sign::stop : Sign::play, Qt::white));
+}
+
+int ControlStrip::wantedHeight(int width) const {
+    const QMargins margins = layout()->contentsMargins();
+    const int inner = width - margins.left() - margins.right();
+    int tallest = 0;
+    for (const StripPage* page : pages)
+        tallest = std::max(tallest, page->heightForWidth(inner));
+    return heightWith(tallest);
+}
+
+int ControlStrip::leastHeight() const {
+    constexpr int lines = 2;
+    constexpr int lineGap = 3;
+    const int line = startButton->sizeHint().height();
+    return heightWith(lines * line - lineGap);
+}
+
+int ControlStrip::heightWith(int page) const {
+    const QMargins margins = layout()->contentsMargins();
+    int height = margins.top() + margins.bottom() + page;
+    for (int i = 0; i + 1 < layout()->count(); ++i)
+        height += layout()->itemAt(i)->sizeHint().height() + rowGap;
+    return height;
+}
+
+void ControlStrip::resizeEvent(QResizeEvent*) {
+    const bool room = width() >= roomForCaptions;
+    speedCaption->setVisible(room);
+    for (QLabel* caption : readoutCaptions)
+        caption->setVisible(room);
+}
+
+void ControlStrip::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    paintCard(painter, rect());
+    painter.setPen(look::hairline);
+    const int line = scroll->y() - rowGap;
+    painter.drawLine(look::cardInset, line, width() - look::cardInset, line);
+}
+
+} // namespace tarnel

@@ -1,0 +1,71 @@
+#include "window/strip/strip_replay_page.h"
+
+#include "window/widgets/icons.h"
+#include "window/widgets/look.h"
+#include "window/widgets/replay_bar.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace tarnel {
+
+namespace {
+
+constexpr int buttonGap = 4;
+constexpr int gapBeforeBar = 10;
+
+} // namespace
+
+StripReplayPage::StripReplayPage(Form1& owner, FormBinding& links, QWidget* parent)
+    : StripPage(owner, links, parent) {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(buttonGap);
+    addSign(*row, form.replayPage.play, Sign::play);
+    addSign(*row, form.replayPage.stop, Sign::stop);
+    addSign(*row, form.replayPage.loop, Sign::loop);
+    addSign(*row, form.replayPage.interpolate, Sign::interpolate);
+    row->addSpacing(gapBeforeBar);
+    row->addWidget(makeTimeline(), 1);
+    lines->addLayout(row);
+    lines->addSpacing(buttonGap);
+    WrapLayout* boxes = addColumns();
+    addBox(*boxes, form.replayPage.hide);
+    addBox(*boxes, form.replayPage.lock);
+    addBox(*boxes, form.commentPanel.write);
+    finish();
+}
+
+template <class Control>
+void StripReplayPage::addSign(QBoxLayout& row, Control& control, Sign sign) {
+    auto* button = new QToolButton(this);
+    button->setIcon(signIcon(sign, look::ink));
+    binding.bind(control, *button);
+    row.addWidget(button);
+}
+
+QWidget* StripReplayPage::makeTimeline() {
+    // It keeps its place while hidden, so that the buttons stay where they are.
+    auto* place = new QWidget(this);
+    auto* around = new QHBoxLayout(place);
+    around->setContentsMargins(0, 0, 0, 0);
+    timeline = new QWidget(place);
+    around->addWidget(timeline);
+    auto* row = new QHBoxLayout(timeline);
+    row->setContentsMargins(0, 0, 0, 0);
+    auto* bar = new ReplayBar(timeline);
+    binding.bind(form.replayPage.bar, *bar);
+    row->addWidget(bar, 1);
+    auto* clock = new QLabel(timeline);
+    clock->setProperty("secondary", true);
+    binding.bind(form.replayPage.clock, *clock);
+    row->addWidget(clock);
+    return place;
+}
+
+void StripReplayPage::refresh() {
+    timeline->setVisible(form.replayPage.bar.visible());
+}
+
+} // namespace tarnel

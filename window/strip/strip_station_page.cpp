@@ -1,0 +1,75 @@
+#include "window/strip/strip_station_page.h"
+
+#include "chart/chart_picture.h"
+
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace tarnel {
+
+namespace {
+
+constexpr int gapBetweenStations = 6;
+constexpr int gapAfterBar = 6;
+
+/// The name of a station's colour in the style sheet.
+QString colourName(std::size_t slot) {
+    const Colour colour = slotColour(slot);
+    return colour == chartColour::first    ? QStringLiteral("First")
+           : colour == chartColour::second ? QStringLiteral("Second")
+                                           : QStringLiteral("Localizer");
+}
+
+void showText(QLabel& label, const std::string& text) {
+    if (const QString shown = QString::fromStdString(text); label.text() != shown)
+        label.setText(shown);
+}
+
+} // namespace
+
+StripStationPage::StripStationPage(Form1& owner, FormBinding& links, QWidget* parent)
+    : StripPage(owner, links, parent) {
+    auto* columns = addColumns(gapBetweenStations);
+    for (std::size_t i = 0; i < slotCount; ++i)
+        columns->addWidget(makeStation(i));
+    // What nothing answers to rests.
+    CheckBox& edit = form.stationPage.edit;
+    edit.setEnabled(static_cast<bool>(edit.onClick));
+    addBox(*addLine(), edit);
+    refresh();
+    finish();
+}
+
+QLabel* StripStationPage::addLabel(QLayout& column, const char* property) {
+    auto* label = new QLabel(this);
+    label->setProperty(property, true);
+    column.addWidget(label);
+    return label;
+}
+
+QWidget* StripStationPage::makeStation(std::size_t index) {
+    auto* tile = new QWidget(this);
+    tile->setAttribute(Qt::WA_StyledBackground);
+    tile->setObjectName(QStringLiteral("Station") + colourName(index));
+    auto* column = new QVBoxLayout(tile);
+    column->setContentsMargins(gapAfterBar, 0, 0, 0);
+    column->setSpacing(0);
+    stations[index] = {addLabel(*column, "readout"), addLabel(*column, "secondary")};
+    stations[index].identifier->setObjectName(QStringLiteral("Name") + colourName(index));
+    const StationPage::Switches switches = form.stationPage.switches()[index];
+    for (CheckBox* control : {switches.station, switches.dme})
+        if (control)
+            addBox(*column, *control);
+    column->addStretch(1);
+    return tile;
+}
+
+void StripStationPage::refresh() {
+    for (std::size_t i = 0; i < slotCount; ++i) {
+        const StationProperties& station = form.UserControl11.slot(static_cast<Slot>(i));
+        showText(*stations[i].identifier, station.name.get());
+        showText(*stations[i].frequency, station.frequency.get());
+    }
+}
+
+} // namespace tarnel

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "window/strip/strip_page.h"
+
+namespace tarnel {
+
+class WindEntry;
+
+/// `StripWindPage`: where the wind comes from, and what is shown of it.
+class StripWindPage : public StripPage {
+    Q_OBJECT
+
+  public:
+    StripWindPage(Form1& form, FormBinding& binding, QWidget* parent = nullptr);
+    void refresh() override;
+
+  private:
+    WindEntry* entry = nullptr;
+};
+
+} // namespace tarnel

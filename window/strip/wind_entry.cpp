@@ -1,0 +1,82 @@
+#include "window/strip/wind_entry.h"
+
+#include "window/widgets/text_of.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSignalBlocker>
+#include <QSpinBox>
+
+#include <cmath>
+
+namespace tarnel {
+
+namespace {
+
+constexpr int highestDirection = 359;
+constexpr int highestSpeed = 200; ///< the mouse draws hardly more across the chart
+constexpr int step = 5;
+constexpr int gapBetweenFields = 12;
+
+bool isTypedInto(const QSpinBox& field) {
+    const auto* editor = field.findChild<QLineEdit*>();
+    return field.hasFocus() && editor && editor->isModified();
+}
+
+void showValue(QSpinBox& field, int value, bool told) {
+    const QString shownAtZero = told ? QString() : QStringLiteral(" ");
+    if (isTypedInto(field) || (field.value() == value && field.specialValueText() == shownAtZero))
+        return;
+    const QSignalBlocker quiet(&field);
+    field.setSpecialValueText(shownAtZero);
+    field.setValue(value);
+}
+
+} // namespace
+
+WindEntry::WindEntry(Form1& owner, QWidget* parent) : QWidget(parent), form(owner) {
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    direction = addField("WindDirection", Text::windDirectionEntry, Text::unitDegreeSign);
+    direction->setRange(0, highestDirection);
+    direction->setWrapping(true);
+    row->addSpacing(gapBetweenFields);
+    speed = addField("WindSpeed", Text::windSpeedEntry, Text::unitKnots);
+    speed->setRange(0, highestSpeed);
+    speed->setSuffix(QLatin1Char(' ') + speed->suffix());
+}
+
+QSpinBox* WindEntry::addField(const char* name, Text caption, Text unit) {
+    auto* label = new QLabel(textOf(form.texts, caption), this);
+    label->setProperty("secondary", true);
+    auto* field = new QSpinBox(this);
+    field->setObjectName(QString::fromLatin1(name));
+    field->setAccessibleName(label->text());
+    field->setSuffix(textOf(form.texts, unit));
+    field->setSingleStep(step);
+    field->setKeyboardTracking(false);
+    label->setBuddy(field);
+    connect(field, &QSpinBox::valueChanged, this, &WindEntry::take);
+    connect(field, &QSpinBox::editingFinished, this,
+            [field] { field->findChild<QLineEdit*>()->setModified(false); });
+    layout()->addWidget(label);
+    layout()->addWidget(field);
+    return field;
+}
+
+void WindEntry::take() {
+    form.guarded([this] {
+        form.setManualWind(direction->value(), static_cast<std::int16_t>(speed->value()));
+    });
+}
+
+void WindEntry::refresh() {
+    const bool told = form.windIsTold();
+    const Wind wind = told ? form.UserControl11.wind : Wind{};
+    showValue(*direction, static_cast<int>(std::lround(wind.direction)) % (highestDirection + 1),
+              told);
+    showValue(*speed, wind.speed, told);
+}
+
+} // namespace tarnel

@@ -1,0 +1,210 @@
+#include "window/widgets/form_binding.h"
+
+#include "window/widgets/quiz_list.h"
+#include "window/widgets/replay_bar.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSignalBlocker>
+
+namespace tarnel {
+
+QString nameOf(const FormControl& control) {
+    const auto name = control.name();
+    return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
+}
+
+namespace {
+
+/// A box shows the value 2 as partly ticked; another button has no such state.
+void showValue(QAbstractButton& button, int value) {
+    const QSignalBlocker quiet(&button);
+    if (auto* box = qobject_cast<QCheckBox*>(&button))
+        box->setCheckState(value == 0   ? Qt::Unchecked
+                           : value == 1 ? Qt::Checked
+                                        : Qt::PartiallyChecked);
+    else
+        button.setChecked(value == 1);
+}
+
+} // namespace
+
+FormBinding::FormBinding(const StringTable& words, const FormState& state, ModelGuard guard,
+                         QObject* parent)
+    : QObject(parent), texts(words), form(state), guarded(std::move(guard)) {}
+
+void FormBinding::follow(std::function<void()> update) {
+    update();
+    updates.push_back(std::move(update));
+}
+
+QString FormBinding::captionOf(const FormControl& control) const {
+    return control.caption() ? textOf(texts, *control.caption()) : QString();
+}
+
+QString FormBinding::tipOf(const FormControl& control) const {
+    const QString tip = textOf(texts, *control.tip());
+    const auto letter = letters.find(&control);
+    return letter == letters.end() ? tip
+                                   : tip + QStringLiteral(" [%1]").arg(QLatin1Char(letter->second));
+}
+
+void FormBinding::showCommon(const FormControl& control, QWidget& widget) const {
+    if (widget.objectName().isEmpty())
+        widget.setObjectName(nameOf(control));
+    widget.setVisible(control.visible());
+    widget.setEnabled(control.enabled());
+    if (control.tip())
+        widget.setToolTip(tipOf(control));
+    if (control.caption())
+        widget.setAccessibleName(captionOf(control));
+}
+
+void FormBinding::bind(CommandButton& control, QAbstractButton& button) {
+    connect(&button, &QAbstractButton::clicked, this,
+            [this, &control] { guarded([&control] { control.click(); }); });
+    follow([this, &control, &button] {
+        showCommon(control, button);
+        button.setText(captionOf(control));
+    });
+}
+
+void FormBinding::bind(CommandButton& control, QAction& action) {
+    connect(&action, &QAction::triggered, this,
+            [this, &control] { guarded([&control] { control.click(); }); });
+    action.setObjectName(nameOf(control));
+    follow([&control, &action] { action.setEnabled(control.enabled()); });
+}
+
+void FormBinding::bind(CheckBox& control, QAbstractButton& button) {
+    bind(control, button, [&control] { control.click(); });
+}
+
+void FormBinding::bind(CheckBox& control, QAbstractButton& button, std::function<void()> click) {
+    button.setCheckable(true);
+    connect(&button, &QAbstractButton::clicked, this,
+            [this, &control, &button, click = std::move(click)] {
+                guarded(click);
+                showValue(button, control.value());
+            });
+    follow([this, &control, &button] {
+        showCommon(control, button);
+        button.setText(captionOf(control));
+        showValue(button, control.value());
+    });
+}
+
+void FormBinding::bind(CheckBox& control, QAction& action) {
+    action.setCheckable(true);
+    connect(&action, &QAction::triggered, this, [this, &control, &action] {
+        guarded([&control] { control.click(); });
+        action.setChecked(control.value() == 1);
+    });
+    follow([&control, &action] {
+        action.setEnabled(control.enabled());
+        action.setChecked(control.value() == 1);
+    });
+}
+
+void FormBinding::bind(OptionButton& control, QAbstractButton& button) {
+    bindOption(control, button, [this, &control] { return captionOf(control); });
+}
+
+/// Its text comes from a file: an ampersand there is no mark of a key.
+void FormBinding::bind(TextOption& control, QAbstractButton& button) {
+    bindOption(control, button, [&control] {
+        return QString::fromStdString(control.text())
+            .replace(QLatin1Char('&'), QStringLiteral("&&"));
+    });
+}
+
+void FormBinding::bindOption(OptionButton& control, QAbstractButton& button,
+                             std::function<QString()> caption) {
+    button.setCheckable(true);
+    connect(&button, &QAbstractButton::clicked, this, [this, &control, &button] {
+        guarded([&control] { control.click(); });
+        button.setChecked(control.chosen());
+    });
+    follow([this, &control, &button, caption = std::move(caption)] {
+        showCommon(control, button);
+        button.setText(caption());
+        button.setChecked(control.chosen());
+    });
+}
+
+void FormBinding::bind(SelectionList& control, QComboBox& list) {
+    for (const Text entry : control.entries())
+        list.addItem(textOf(texts, entry));
+    connect(&list, &QComboBox::activated, this,
+            [this, &control](int index) { guarded([&] { control.pick(index); }); });
+    follow([this, &control, &list] {
+        showCommon(control, list);
+        if (control.tip())
+            list.setAccessibleName(textOf(texts, *control.tip()));
+        list.setCurrentIndex(control.index());
+    });
+}
+
+void FormBinding::bind(TextList& control, QuizList& list) {
+    list.onBrowse = [this, &control](int index) {
+        guarded([&control, index] { control.select(index); });
+    };
+    list.onConfirm = [this, &control](int index) {
+        guarded([&control, index] { control.pick(index); });
+    };
+    follow([this, &control, &list] {
+        showCommon(control, list);
+        QStringList entries;
+        for (const std::string& entry : control.entries())
+            entries << QString::fromStdString(entry);
+        list.setEntries(entries);
+        list.setCurrentIndex(control.index());
+    });
+}
+
+void FormBinding::bind(TextPanel& control, QLabel& label) {
+    label.setTextFormat(Qt::PlainText);
+    follow([this, &control, &label] {
+        showCommon(control, label);
+        label.setText(QString::fromStdString(control.text()));
+        if (!control.tipText().empty())
+            label.setToolTip(QString::fromStdString(control.tipText()));
+        else if (!control.tip() && !label.wordWrap())
+            label.setToolTip(label.text());
+    });
+}
+
+void FormBinding::bind(ScrollBar& control, ReplayBar& bar) {
+    bar.onScroll = [this, &control](int value) {
+        guarded([&control, value] { control.scrollTo(value); });
+    };
+    follow([this, &control, &bar] {
+        showCommon(control, bar);
+        bar.showPlace(control.max(), control.value());
+    });
+}
+
+void FormBinding::bind(TextField& control, QLineEdit& field) {
+    connect(&field, &QLineEdit::textEdited, this, [this, &control](const QString& text) {
+        guarded([&control, &text] { control.type(text.toStdString()); });
+    });
+    follow([this, &control, &field] {
+        showCommon(control, field);
+        if (const QString text = QString::fromStdString(control.text()); text != field.text())
+            field.setText(text);
+    });
+}
+
+void FormBinding::refresh() {
+    if (shown == form.revision())
+        return;
+    shown = form.revision();
+    for (const auto& update : updates)
+        update();
+}
+
+} // namespace tarnel

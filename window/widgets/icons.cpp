@@ -1,0 +1,141 @@
+#include "window/widgets/icons.h"
+
+#include <QIconEngine>
+#include <QPainter>
+#include <QPainterPath>
+
+namespace tarnel {
+
+namespace {
+
+/// Signs are drawn on a grid of this many units.
+constexpr double grid = 16;
+
+QPainterPath triangle(QPointF a, QPointF b, QPointF c) {
+    QPainterPath path(a);
+    path.lineTo(b);
+    path.lineTo(c);
+    path.closeSubpath();
+    return path;
+}
+
+void paintLoop(QPainter& painter) {
+    painter.drawArc(QRectF(3.5, 3.5, 9, 9), 20 * 16, 300 * 16);
+    painter.fillPath(triangle({13.8, 2.6}, {13.8, 7.2}, {9.4, 6.4}), painter.pen().color());
+}
+
+void paintInterpolate(QPainter& painter) {
+    QPainterPath curve(QPointF(2, 11));
+    curve.cubicTo(QPointF(6, 3), QPointF(9, 14), QPointF(14, 5));
+    painter.drawPath(curve);
+    painter.setBrush(painter.pen().color());
+    for (const QPointF dot : {QPointF(2, 11), QPointF(7.6, 8.4), QPointF(14, 5)})
+        painter.drawEllipse(dot, 1.3, 1.3);
+}
+
+void paintRadial(QPainter& painter) {
+    painter.drawLine(QPointF(5, 11), QPointF(14, 2));
+    QPen dashed = painter.pen();
+    dashed.setDashPattern({1.2, 1.6});
+    const QPen solid = painter.pen();
+    painter.setPen(dashed);
+    painter.drawLine(QPointF(5, 11), QPointF(1.5, 14.5));
+    painter.setPen(solid);
+    painter.setBrush(solid.color());
+    painter.drawEllipse(QPointF(5, 11), 2.1, 2.1);
+}
+
+void paintPointer(QPainter& painter) {
+    painter.drawEllipse(QPointF(8, 8), 6.4, 6.4);
+    painter.drawLine(QPointF(5.4, 12), QPointF(9.4, 6));
+    painter.fillPath(triangle({11, 3.4}, {11, 7.2}, {7.6, 5}), painter.pen().color());
+}
+
+void paintEnlarge(QPainter& painter) {
+    painter.drawPolyline(QPolygonF{QPointF(9.5, 2.5), QPointF(13.5, 2.5), QPointF(13.5, 6.5)});
+    painter.drawLine(QPointF(13.2, 2.8), QPointF(9, 7));
+    painter.drawPolyline(QPolygonF{QPointF(6.5, 13.5), QPointF(2.5, 13.5), QPointF(2.5, 9.5)});
+    painter.drawLine(QPointF(2.8, 13.2), QPointF(7, 9));
+}
+
+void paintGyro(QPainter& painter) {
+    painter.drawEllipse(QPointF(8, 8), 6.4, 6.4);
+    painter.drawLine(QPointF(8, 4.5), QPointF(8, 11.5));
+    painter.drawLine(QPointF(5, 7.4), QPointF(11, 7.4));
+    painter.drawLine(QPointF(6.6, 11), QPointF(9.4, 11));
+}
+
+void paintLens(QPainter& painter, bool plus) {
+    painter.drawLine(QPointF(3.5, 8), QPointF(12.5, 8));
+    if (plus)
+        painter.drawLine(QPointF(8, 3.5), QPointF(8, 12.5));
+}
+
+void paintOnGrid(QPainter& painter, Sign sign, const QColor& colour) {
+    switch (sign) {
+    case Sign::play:
+        painter.fillPath(triangle({4.5, 3}, {13, 8}, {4.5, 13}), colour);
+        return;
+    case Sign::stop:
+        painter.fillRect(QRectF(4, 4, 8, 8), colour);
+        return;
+    case Sign::loop:
+        return paintLoop(painter);
+    case Sign::interpolate:
+        return paintInterpolate(painter);
+    case Sign::radial:
+        return paintRadial(painter);
+    case Sign::pointer:
+        return paintPointer(painter);
+    case Sign::enlarge:
+        return paintEnlarge(painter);
+    case Sign::gyro:
+        return paintGyro(painter);
+    case Sign::zoomIn:
+    case Sign::zoomOut:
+        return paintLens(painter, sign == Sign::zoomIn);
+    }
+}
+
+/// Paints a sign at the size and in the state that is asked for.
+class SignEngine : public QIconEngine {
+  public:
+    SignEngine(Sign which, const QColor& ink) : sign(which), colour(ink) {}
+
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
+        QColor ink = colour;
+        if (mode == QIcon::Disabled)
+            ink.setAlphaF(0.35F);
+        paintSign(*painter, sign, rect, ink);
+    }
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+        QPixmap image(size);
+        image.fill(Qt::transparent);
+        QPainter painter(&image);
+        paint(&painter, QRect(QPoint(), size), mode, state);
+        return image;
+    }
+    [[nodiscard]] QIconEngine* clone() const override { return new SignEngine(*this); }
+
+  private:
+    Sign sign;
+    QColor colour;
+};
+
+} // namespace
+
+void paintSign(QPainter& painter, Sign sign, const QRectF& square, const QColor& colour) {
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(square.topLeft());
+    painter.scale(square.width() / grid, square.height() / grid);
+    painter.setPen(QPen(colour, 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    paintOnGrid(painter, sign, colour);
+    painter.restore();
+}
+
+QIcon signIcon(Sign sign, const QColor& colour) {
+    return QIcon(new SignEngine(sign, colour));
+}
+
+} // namespace tarnel

@@ -1,0 +1,59 @@
+#include "window/widgets/numeral_shapes.h"
+
+#include "window/widgets/panel_look.h"
+
+#include <QTransform>
+
+#include <cmath>
+#include <numbers>
+
+namespace tarnel {
+
+namespace {
+
+constexpr double pointTwips = 20;
+constexpr double outlineEm = 100;  ///< large, since outlines are hinted to whole pixels
+constexpr double edgeShare = 0.09; ///< of an em, around a numeral
+constexpr double cardinalWeight =
+    look::card_share::cardinalHeight / look::card_share::numeralHeight;
+
+bool isCardinal(const std::string& caption) {
+    return !caption.empty() && caption.front() > '9';
+}
+
+/// Degrees clockwise from the top, seen from the middle.
+double bearingOf(Point place, double middle) {
+    const double turn = std::atan2(place.x - middle, middle - place.y);
+    return turn * 180 / std::numbers::pi;
+}
+
+} // namespace
+
+const TurnedNumeral& NumeralShapes::outline(const std::string& caption) {
+    const auto found = outlines.find(caption);
+    if (found != outlines.end())
+        return found->second;
+    QPainterPath path;
+    path.addText(0, 0, look::font(outlineEm, QFont::Bold), QString::fromStdString(caption));
+    const QPointF middle = path.boundingRect().center();
+    QTransform toOneEm = QTransform::fromScale(1 / outlineEm, 1 / outlineEm);
+    toOneEm.translate(-middle.x(), -middle.y());
+    QPainterPathStroker stroker;
+    stroker.setWidth(2 * edgeShare * outlineEm);
+    stroker.setJoinStyle(Qt::RoundJoin);
+    const QPainterPath edge = stroker.createStroke(path).united(path);
+    return outlines[caption] = {toOneEm.map(path), toOneEm.map(edge)};
+}
+
+TurnedNumeral NumeralShapes::turned(const Label& numeral, double size, double scale) {
+    const double weight = isCardinal(numeral.caption) ? cardinalWeight : 1;
+    const double em = numeral.fontPoints * pointTwips * weight;
+    QTransform toPlace = QTransform::fromScale(scale, scale);
+    toPlace.translate(numeral.anchor.x, numeral.anchor.y);
+    toPlace.rotate(bearingOf(numeral.anchor, size / 2));
+    toPlace.scale(em, em);
+    const TurnedNumeral& upright = outline(numeral.caption);
+    return {toPlace.map(upright.body), toPlace.map(upright.edge)};
+}
+
+} // namespace tarnel

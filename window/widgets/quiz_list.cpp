@@ -1,0 +1,157 @@
+#include "window/widgets/quiz_list.h"
+
+#include "window/widgets/quiz_measures.h"
+#include "window/widgets/look.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+namespace tarnel {
+
+namespace {
+
+constexpr int pageOfEntries = 6;
+constexpr int typingPause = 1200; ///< ms after which typing starts anew
+constexpr double arrowWidth = 8;
+constexpr double inset = 10;
+
+/// Whether a key writes a character here, which then is no shortcut of the window.
+bool writes(const QKeyEvent& event) {
+    const auto others = event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
+    return !others && !event.text().isEmpty() && event.text().at(0).isLetterOrNumber();
+}
+
+} // namespace
+
+QuizList::QuizList(QWidget* parent) : QComboBox(parent) {
+    setProperty("quiz", true);
+    setFocusPolicy(Qt::StrongFocus);
+    constexpr int entriesShown = 12;
+    setMaxVisibleItems(entriesShown);
+    connect(this, &QComboBox::activated, this, [this] { confirm(); });
+}
+
+void QuizList::setEntries(const QStringList& entries) {
+    if (entries == shown)
+        return;
+    shown = entries;
+    clear();
+    addItems(entries);
+    updateGeometry();
+}
+
+QSize QuizList::sizeHint() const {
+    int widest = 0;
+    for (int i = 0; i < count(); ++i)
+        widest = qMax(widest, fontMetrics().horizontalAdvance(itemText(i)));
+    const double scale = quiz::scaleOf(*this);
+    return {widest + qRound((3 * inset + arrowWidth) * scale), qRound(quiz::answerHeight * scale)};
+}
+
+void QuizList::confirm() {
+    if (onConfirm)
+        onConfirm(currentIndex());
+}
+
+void QuizList::browse(int entry) {
+    if (count() == 0)
+        return;
+    const int there = qBound(0, entry, count() - 1);
+    setCurrentIndex(there);
+    if (onBrowse)
+        onBrowse(there);
+}
+
+bool QuizList::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride && writes(static_cast<QKeyEvent&>(*event))) {
+        event->accept();
+        return true;
+    }
+    return QComboBox::event(event);
+}
+
+bool QuizList::step(int key) {
+    switch (key) {
+    case Qt::Key_Up:
+        browse(currentIndex() - 1);
+        return true;
+    case Qt::Key_Down:
+        browse(currentIndex() + 1);
+        return true;
+    case Qt::Key_PageUp:
+        browse(currentIndex() - pageOfEntries);
+        return true;
+    case Qt::Key_PageDown:
+        browse(currentIndex() + pageOfEntries);
+        return true;
+    case Qt::Key_Home:
+        browse(0);
+        return true;
+    case Qt::Key_End:
+        browse(count() - 1);
+        return true;
+    default:
+        return false;
+    }
+}
+
+void QuizList::keyPressEvent(QKeyEvent* event) {
+    const bool opens = event->key() == Qt::Key_Space || event->key() == Qt::Key_F4 ||
+                       event->modifiers() == Qt::AltModifier;
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (enter && currentIndex() > 0)
+        return confirm();
+    if (enter || (opens && event->key() != Qt::Key_Alt))
+        return showPopup();
+    if (step(event->key()))
+        return;
+    if (writes(*event))
+        return type(event->text());
+    event->ignore();
+}
+
+void QuizList::type(const QString& character) {
+    if (!sinceTyped.isValid() || sinceTyped.elapsed() > typingPause)
+        typed.clear();
+    sinceTyped.start();
+    typed += character;
+    int entry = findText(typed, Qt::MatchStartsWith);
+    if (entry < 0) {
+        typed = character;
+        entry = findText(typed, Qt::MatchStartsWith);
+    }
+    if (entry < 0 && character.at(0).isDigit() && character.toInt() < count())
+        entry = character.toInt();
+    if (entry > 0)
+        browse(entry);
+}
+
+void QuizList::wheelEvent(QWheelEvent* event) {
+    event->ignore();
+}
+
+void QuizList::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (!isEnabled())
+        painter.setOpacity(look::disabledOpacity);
+    const double scale = quiz::scaleOf(*this);
+    const double edge = hasFocus() ? 2 : 1;
+    painter.setPen(
+        QPen(hasFocus() || (underMouse() && isEnabled()) ? look::accent : look::line, edge));
+    painter.setBrush(hasFocus() ? look::onPaper(look::accent, 0.08) : look::paper);
+    const QRectF area = QRectF(rect()).adjusted(edge / 2, edge / 2, -edge / 2, -edge / 2);
+    painter.drawRoundedRect(area, look::controlRadius, look::controlRadius);
+    painter.setPen(currentIndex() > 0 ? look::ink : look::secondaryInk);
+    painter.drawText(area.adjusted(inset * scale, 0, 0, 0), Qt::AlignVCenter | Qt::AlignLeft,
+                     currentText());
+    const double half = arrowWidth * scale / 2;
+    const QPointF middle(area.right() - inset * scale - half, area.center().y());
+    painter.setPen(
+        QPen(look::secondaryInk, 1.6 * scale, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPolyline(QPolygonF{middle + QPointF(-half, -half / 2),
+                                   middle + QPointF(0, half / 2),
+                                   middle + QPointF(half, -half / 2)});
+}
+
+} // namespace tarnel

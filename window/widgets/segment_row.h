@@ -1,0 +1,15 @@
+#pragma once
+
+#include "window/widgets/form_binding.h"
+
+#include <initializer_list>
+
+class QWidget;
+
+namespace tarnel {
+
+/// The buttons of a group side by side, joined to one bar, the chosen one raised.
+[[nodiscard]] QWidget* segmentRow(FormBinding& binding,
+                                  std::initializer_list<OptionButton*> options, QWidget* parent);
+
+} // namespace tarnel

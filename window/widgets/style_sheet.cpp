@@ -1,0 +1,185 @@
+#include "window/widgets/style_sheet.h"
+
+#include "chart/chart_picture.h"
+#include "window/widgets/panel_look.h"
+
+#include <QHash>
+#include <QRegularExpression>
+
+#include <cmath>
+
+namespace tarnel {
+
+namespace {
+
+/// Colours stand as $names, lengths in pixels at scale 1 as {n}.
+constexpr const char* sheet = R"(
+* { font-family: "Liberation Sans", "Arial", sans-serif; font-size: {13}px; }
+QMainWindow, QWidget#Desk { background: $desktop; }
+QMenuBar { background: $bar; color: $ink; padding: {2}px {8}px; border-bottom: 1px solid $line; }
+QMenuBar::item { padding: {4}px {10}px; border-radius: {4}px; background: transparent; }
+QMenuBar::item:selected:enabled { background: $hairline; }
+QMenuBar::item:disabled { color: $unit; }
+QMenu { background: $card; color: $ink; border: 1px solid $line; padding: {4}px; }
+QMenu::item { padding: {4}px {26}px {4}px {22}px; border-radius: {3}px; }
+QMenu::item:selected:enabled { background: $accent; color: white; }
+QMenu::item:disabled { color: $unit; }
+QMenu::separator { height: 1px; background: $hairline; margin: {4}px {6}px; }
+QToolTip { background: $card; color: $ink; border: 1px solid $line; padding: {3}px; }
+
+QLabel { color: $ink; background: transparent; }
+QLabel[secondary="true"] { color: $secondaryInk; font-size: {12}px; }
+QLabel:disabled { color: $unit; }
+QLabel[readout="true"] { font-size: {13}px; font-weight: bold; }
+QLabel[comment="true"] { font-size: {15}px; }
+QScrollArea, QScrollArea > QWidget > QStackedWidget { background: transparent; }
+QScrollArea#Frame3 { background: transparent; border: 1px solid transparent; border-radius: {3}px; }
+QScrollArea#Frame3:focus { border-color: $accent; }
+QCheckBox { font-size: {12}px; }
+
+QWidget#StationFirst { border-left: {2}px solid $first; }
+QWidget#StationSecond { border-left: {2}px solid $second; }
+QWidget#StationLocalizer { border-left: {2}px solid $localizer; }
+QLabel#NameFirst { color: $first; }
+QLabel#NameSecond { color: $second; }
+QLabel#NameLocalizer { color: $localizer; }
+
+QPushButton { background: $paper; color: $ink; border: 1px solid $line; border-radius: {5}px;
+  padding: 0 {10}px; min-height: {24}px; max-height: {24}px; font-size: {12}px; }
+QPushButton { outline: none; }
+QPushButton:hover { border-color: $accent; }
+QPushButton:pressed { background: $hairline; }
+QPushButton:focus { border: 2px solid $accent; padding: 0 {9}px; }
+QPushButton:disabled { background: $card; color: $unit; border-color: $hairline; }
+QPushButton[primary="true"] { background: $accent; color: white; border: 1px solid $accentDeep;
+  font-weight: bold; font-size: {13}px; min-width: {96}px; min-height: {26}px; max-height: {26}px; }
+QPushButton[primary="true"]:hover { background: $accentLight; }
+QPushButton[primary="true"]:pressed { background: $accentDeep; }
+QPushButton[primary="true"]:focus { border: 2px solid $ink; }
+QPushButton[primary="true"]:disabled { background: $hairline; color: $secondaryInk;
+  border-color: $line; }
+QPushButton[segment] { background: $desktop; border-radius: 0; border-left-width: 0;
+  padding: 0 {4}px; }
+QPushButton[segment]:hover { background: $paper; }
+QPushButton[segment="first"] { border-left-width: 1px; border-top-left-radius: {5}px;
+  border-bottom-left-radius: {5}px; }
+QPushButton[segment="last"] { border-top-right-radius: {5}px; border-bottom-right-radius: {5}px; }
+QPushButton[segment]:checked { background: $paper; color: $accent; font-weight: bold;
+  border: {2}px solid $accent; border-radius: {5}px; padding: 0 {3}px; }
+QPushButton[segment]:checked:focus { background: $tint; }
+QPushButton[segment]:focus:!checked { border: 1px solid $accent; color: $accent; }
+QPushButton[segment]:disabled { background: $card; color: $unit; border-color: $line; }
+QPushButton[segment]:checked:disabled { background: $card; color: $secondaryInk;
+  border-color: $line; }
+
+QPushButton[tab="true"] { background: transparent; border: none; border-radius: 0;
+  border-bottom: {2}px solid transparent; padding: 0 {4}px;
+  min-height: {22}px; max-height: {22}px; }
+QPushButton[tab="true"]:hover { color: $accent; }
+QPushButton[tab="true"]:checked { color: $accent; font-weight: bold; border-bottom-color: $accent; }
+QPushButton[tab="true"]:disabled { color: $unit; border-bottom-color: transparent; }
+QPushButton[tab="true"]:focus { background: $hairline; border-top-left-radius: {4}px;
+  border-top-right-radius: {4}px; }
+QPushButton[tab="true"]:disabled { color: $unit; border-bottom-color: transparent; }
+
+QSpinBox { font-size: {12}px; min-height: {24}px; }
+QSpinBox:disabled { color: $unit; }
+QLineEdit { background: $paper; color: $ink; border: 1px solid $line;
+  border-radius: {5}px; padding: 0 {6}px; min-height: {24}px; max-height: {24}px;
+  font-size: {12}px; selection-background-color: $accent; selection-color: white; }
+QLineEdit:hover { border-color: $accent; }
+QLineEdit:focus { border: 2px solid $accent; padding: 0 {5}px; }
+QLineEdit:disabled { background: $card; color: $unit; border-color: $hairline; }
+
+QToolButton { background: $paper; border: 1px solid $line; border-radius: {5}px;
+  min-width: {26}px; min-height: {24}px; max-height: {24}px; }
+QToolButton:hover:enabled { border-color: $accent; }
+QToolButton:pressed { background: $hairline; }
+QToolButton:focus { border: 2px solid $accent; }
+QToolButton:checked { background: $tint; border-color: $accent; }
+QToolButton:disabled { background: $card; border-color: $hairline; }
+
+QSlider { min-height: {18}px; max-height: {18}px; background: transparent; }
+QSlider::groove:horizontal { height: {4}px; border-radius: {2}px; background: $line; }
+QSlider::sub-page:horizontal { background: $accent; border-radius: {2}px; }
+QSlider::handle:horizontal { width: {13}px; height: {13}px; margin: -{5}px 0;
+  border-radius: {7}px; background: $paper; border: 1px solid $unit; }
+QSlider::add-page:horizontal { background: transparent; }
+QSlider::sub-page:horizontal:disabled { background: transparent; }
+QSlider::handle:horizontal:disabled { background: $card; border-color: $line; }
+
+QComboBox[dark="true"] QAbstractItemView { background: $moduleBottom; color: $caption;
+  border: 1px solid $bezelTop; selection-background-color: $accent; outline: none; }
+
+QToolButton[dark="true"] { background: $moduleTop; border: 1px solid $bezelTop;
+  min-width: {22}px; max-width: {22}px; min-height: {22}px; max-height: {22}px; }
+QToolButton[dark="true"]:hover { border-color: $unit; }
+QToolButton[dark="true"]:pressed { background: $panelBottom; }
+QToolButton[dark="true"]:checked { background: $accent; border-color: $panelFocus; }
+QToolButton[dark="true"]:focus { border: 2px solid $panelFocus; }
+QToolButton[dark="true"]:disabled { background: $panelBottom; border-color: $moduleTop; }
+
+QLabel[quizTitle="true"] { font-size: {15}px; font-weight: bold; }
+QLabel[quizTask="true"] { font-weight: bold; }
+QLabel[notice="true"] { color: $wrong; }
+QLabel[shut="true"] { color: $unit; }
+QPushButton[quiz="true"] { min-height: {26}px; max-height: {26}px; min-width: {56}px; }
+QPushButton[choice="true"] { min-height: {28}px; max-height: {28}px; font-size: {13}px; }
+QLineEdit[quiz="true"] { min-height: {28}px; max-height: {28}px; font-size: {13}px; }
+QComboBox[quiz="true"] QAbstractItemView { background: $paper; color: $ink; border: 1px solid $line;
+  selection-background-color: $accent; selection-color: white; outline: none; }
+
+QWidget#StatusPanels { background: $bar; border-top: 1px solid $line; }
+QWidget#StatusPanels QLabel { font-size: {12}px; padding-left: {10}px; }
+QWidget#StatusPanels QLabel#StatusNotice { background: $bar; font-weight: bold; }
+QWidget#StatusPanels QLabel#FlightTime { padding-right: {10}px; }
+)";
+
+const QHash<QString, QColor>& colours() {
+    static const QHash<QString, QColor> byName = {
+        {QStringLiteral("desktop"), look::desktop},
+        {QStringLiteral("bar"), look::bars},
+        {QStringLiteral("card"), look::card},
+        {QStringLiteral("paper"), look::paper},
+        {QStringLiteral("line"), look::line},
+        {QStringLiteral("hairline"), look::hairline},
+        {QStringLiteral("ink"), look::ink},
+        {QStringLiteral("secondaryInk"), look::secondaryInk},
+        {QStringLiteral("accent"), look::accent},
+        {QStringLiteral("tint"), look::onPaper(look::accent, 0.15)},
+        {QStringLiteral("accentDeep"), look::accent.darker(130)},
+        {QStringLiteral("accentLight"), look::accent.lighter(115)},
+        {QStringLiteral("first"), look::fromSurface(chartColour::first)},
+        {QStringLiteral("second"), look::fromSurface(chartColour::second)},
+        {QStringLiteral("localizer"), look::localizer},
+        {QStringLiteral("wrong"), look::wrong},
+        {QStringLiteral("unit"), look::unit},
+        {QStringLiteral("moduleTop"), look::moduleTop},
+        {QStringLiteral("moduleBottom"), look::moduleBottom},
+        {QStringLiteral("bezelTop"), look::bezelTop.lighter(125)},
+        {QStringLiteral("panelBottom"), look::panelBottom},
+        {QStringLiteral("caption"), look::caption},
+        {QStringLiteral("panelFocus"), look::panelAccent},
+    };
+    return byName;
+}
+
+} // namespace
+
+QString sheetFor(double scale) {
+    static const QRegularExpression token(QStringLiteral(R"(\$(\w+)|\{(\d+)\})"));
+    const QString source = QString::fromLatin1(sheet);
+    QString result;
+    qsizetype last = 0;
+    for (const auto& match : token.globalMatch(source)) {
+        result += source.mid(last, match.capturedStart() - last);
+        last = match.capturedEnd();
+        if (match.hasCaptured(1))
+            result += colours().value(match.captured(1)).name();
+        else
+            result += QString::number(std::lround(match.captured(2).toDouble() * scale));
+    }
+    return result + source.mid(last);
+}
+
+} // namespace tarnel
