@@ -2,6 +2,7 @@
 
 #include "exercises/val_str.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace tarnel {
@@ -19,6 +20,13 @@ std::vector<WordOffer> sides(StudyColumn word) {
     return {{Text::windLeft, {{word, "left"}, {word, "links"}}},
             {Text::windZero, {{word, "-"}}},
             {Text::windRight, {{word, "right"}, {word, "rechts"}}}};
+}
+
+/// As a record writes a time: 1.05 for a minute and five seconds.
+std::string minutesAndSeconds(const std::string& minutes, const std::string& seconds) {
+    constexpr std::size_t digits = 2;
+    const std::string zeros(digits - std::min(digits, seconds.size()), '0');
+    return (minutes.empty() ? "0" : minutes) + "." + zeros + seconds;
 }
 
 std::vector<ExerciseRow> windRows() {
@@ -67,7 +75,8 @@ bool WindExercise::timeIsRight(const std::string& minutes, const std::string& se
 
 std::string WindExercise::given(const Pick& pick) const {
     if (pick.row == timeRow)
-        return pick.typed[0] + "." + pick.typed[1] + " " + text(Text::unitMinutesSeconds);
+        return minutesAndSeconds(pick.typed[0], pick.typed[1]) + " " +
+               text(Text::unitMinutesSeconds);
     return Exercise::given(pick) + " " + pick.typed[0];
 }
 

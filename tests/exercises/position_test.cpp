@@ -153,7 +153,7 @@ TEST_F(PositionTest, StandardVorComparesTheTextAndReplaysWhenAllIsRight) {
 
 TEST_F(PositionTest, OrientationComparesTextsAndStartsAtRandom) {
     start(10, "30", "360", "090");
-    EXPECT_EQ(title(), "ORIENTIERUNG ÜBUNGEN ( 1 von 1)");
+    EXPECT_EQ(title(), "ORIENTIERUNGSÜBUNGEN ( 1 von 1)");
     EXPECT_EQ(get<CheckBox>("Check1").value(), 1);
     pick("Combo1", "030");
     EXPECT_TRUE(wrong("Text11"));

@@ -150,7 +150,7 @@ TEST_F(QuizTest, EachExerciseHasItsPanelFileTitleAndStem) {
         {7, "qdr.sty", "Frame20", "Command9", "qdr", "QDR ÜBUNGEN"},
         {8, "wind.sty", "Frame29", "Command12", "wind", "WIND ÜBUNGEN"},
         {9, "dmearc.sty", "Frame2", "Command28", "dmearc", "DME ARC ÜBUNGEN"},
-        {10, "orientation.sty", "Frame1", "Command1", "hsipos", "ORIENTIERUNG ÜBUNGEN"},
+        {10, "orientation.sty", "Frame1", "Command1", "hsipos", "ORIENTIERUNGSÜBUNGEN"},
     };
     for (const auto& [type, file, frame, nextButton, stem, name] : table) {
         SCOPED_TRACE(type);

@@ -130,8 +130,10 @@ TEST_F(WindTest, TheFirstRowMustBeAnsweredFirst) {
     type("Text6", "0");
     click("Option53");
     EXPECT_EQ(right("Label35"), "- 0") << "only the first row is shut";
-    type("Text7", "1.5");
+    type("Text7", "1");
+    type("Text8", "5");
     click("Option58");
+    EXPECT_EQ(form.activePanel()->rows[3]->given(), "1.05 min.sec") << "as a record writes it";
     EXPECT_EQ(takeResult(), 0);
     click("Command12");
     EXPECT_EQ(store.stat("wind_bad"), "2");

@@ -1,5 +1,6 @@
 #include "window/chart/chart_view.h"
 #include "window/dials/instrument_view.h"
+#include "window/radios/dme_selector.h"
 #include "window/student_fixture.h"
 
 #include <QComboBox>
@@ -125,27 +126,90 @@ TEST_F(Student, TheSwitchOfTheViewRepaintsTheWholeChartAtRest) {
     }
 }
 
-// On every page of the strip, on the panel, over the chart and in the menu bar.
+// On every page of the strip, on the panel, over the chart, in the menu bar, and whatever rests
+// while a question stands open.
 TEST_F(Student, WhatIsDisabledLooksDisabled) {
     open();
-    const auto changesItsLook = [](QWidget& shown, auto& disabled) {
+    const auto changesItsLook = [](QWidget& shown, auto& control) {
         const QImage before = shown.grab().toImage();
-        disabled.setEnabled(false);
+        control.setEnabled(!control.isEnabled());
         const QImage after = shown.grab().toImage();
-        disabled.setEnabled(true);
+        control.setEnabled(!control.isEnabled());
         return before != after;
+    };
+    const auto expectSigns = [&](const char* where, auto isMeant) {
+        int count = 0;
+        for (auto* widget : window->findChildren<QWidget*>())
+            if (widget->isVisible() && isMeant(*widget)) {
+                EXPECT_TRUE(changesItsLook(*widget, *widget))
+                    << where << qPrintable(widget->objectName())
+                    << widget->metaObject()->className();
+                ++count;
+            }
+        return count;
     };
     for (const char* page : {"PageChart", "PageReplay", "PageWind", "PageStations"}) {
         click(page);
-        for (auto* widget : window->findChildren<QWidget*>())
-            if (widget->isVisible() && widget->isEnabled() &&
-                (qobject_cast<QAbstractButton*>(widget) || qobject_cast<QComboBox*>(widget))) {
-                EXPECT_TRUE(changesItsLook(*widget, *widget))
-                    << qPrintable(widget->objectName()) << " " << widget->metaObject()->className();
-            }
+        expectSigns(page, [](const QWidget& widget) {
+            return widget.isEnabled() && (qobject_cast<const QAbstractButton*>(&widget) ||
+                                          qobject_cast<const QComboBox*>(&widget));
+        });
     }
     for (QAction* menu : window->menuBar()->actions())
         EXPECT_TRUE(changesItsLook(*window->menuBar(), *menu)) << qPrintable(menu->text());
+    form->exerciseMenu.exercises.front()->click();
+    settle();
+    EXPECT_FALSE(window->findChild<DmeSelector*>()->isEnabled());
+    EXPECT_GE(expectSigns("question ",
+                          [](const QWidget& widget) {
+                              return !widget.isEnabled() && widget.parentWidget()->isEnabled();
+                          }),
+              9);
+}
+
+// Whatever comes and goes below it, at the sizes where the window has the room.
+TEST_F(Student, TheChartKeepsItsSize) {
+    for (const StringTable* texts : {&germanTable(), &englishTable()})
+        for (const QSize size : {QSize(1280, 800), QSize(1440, 900), QSize(1920, 1080)}) {
+            open(*texts, size);
+            const auto* chart = window->findChild<ChartView*>();
+            const int width = chart->width();
+            const auto expectStill = [&](const std::string& state) {
+                settle();
+                EXPECT_EQ(chart->width(), width) << state << " at " << size.width();
+            };
+            click("WriteComments");
+            expectStill("author's strip");
+            click("WriteComments");
+            form->exerciseMenu.adfPractice[2]->click();
+            expectStill("practice flight");
+            for (std::size_t item = 0; item < form->exerciseMenu.exercises.size(); ++item) {
+                if (static_cast<int>(item) == 4) // the large HSI takes its room from the chart
+                    continue;
+                form->exerciseMenu.exercises[item]->click();
+                ExercisePanel& panel = *form->QAform1.activePanel();
+                const std::string name = panel.frame.text();
+                expectStill("question of " + name);
+                for (const auto& row : panel.rows)
+                    if (row->list)
+                        row->list->pick(1);
+                    else if (row->state() == RowState::open)
+                        row->options.front()->click();
+                expectStill("answers of " + name);
+                panel.solutionButton.click();
+                expectStill("solution of " + name);
+                panel.nextButton.click();
+                expectStill("next of " + name);
+                panel.flyButton.click();
+                form->startButton.click();
+                fly(2);
+                expectStill("flight in " + name);
+                form->startButton.click();
+                panel.cancelButton.click();
+                settle();
+            }
+            expectStill("end");
+        }
 }
 
 TEST_F(Student, OpensAndClosesTheFloatingGyro) {

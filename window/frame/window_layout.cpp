@@ -19,7 +19,13 @@ constexpr double highestFoot = 270;
 
 constexpr int smallestChart = 160;
 constexpr double usefulChart = 320;     ///< below that the strip scrolls first
-constexpr double narrowestColumn = 384; ///< a smaller chart stands in its middle
+constexpr double narrowestColumn = 408; ///< a smaller chart stands in its middle
+/// In a window of this height the chart leaves the room below it that exercises and comments need,
+/// so that it keeps its size when one comes or goes. In a lower one it is the larger without.
+constexpr double steadyBody = 740;
+constexpr double steadyFoot = 258;
+constexpr double steadyFootOfNarrowColumn = 284; ///< their texts take more lines there
+constexpr double narrowColumn = 480;
 constexpr double headerHeight = 32;
 constexpr double panelReferenceWidth = 712;
 constexpr double largeToSmall = 1.35;
@@ -41,6 +47,12 @@ double footOf(QSize body, double uiScale) {
     const double height = body.height() / uiScale;
     return uiScale *
            std::clamp(usualFoot + footShare * (height - usualBody), lowestFoot, highestFoot);
+}
+
+double steadyFootOf(QSize body, double uiScale, int columnWidth) {
+    if (body.height() < steadyBody * uiScale)
+        return 0;
+    return uiScale * (columnWidth < narrowColumn * uiScale ? steadyFootOfNarrowColumn : steadyFoot);
 }
 
 int whole(double value) {
@@ -81,6 +93,7 @@ class PanelLayout {
         chooseRows(panel);
         const auto [width2, width3] = bezelWidths(tallestBezel(panel));
         const double slack = inner - margin - width2 - width3;
+        spare = slack / 6;
         const double left2 = margin + slack / 3;
         const double left3 = left2 + width2 + margin + slack / 3;
         const double bottom = margin + head + std::max(width2, width3);
@@ -119,12 +132,13 @@ class PanelLayout {
         return {std::floor(std::min(first, tallest)), std::floor(std::min(second, tallest))};
     }
 
-    /// The instruments stand on one line at their lower edges.
+    /// The instruments stand on one line at their lower edges. A header has half of the room that
+    /// lies free on either side.
     void placeInstrument(std::size_t index, double left, double side, double bottom) {
         const double instrumentTop = bottom - side;
         layout.instruments[index] = {whole(left), whole(instrumentTop), whole(side), whole(side)};
-        layout.headers[index] = {whole(left), whole(instrumentTop - head), whole(side),
-                                 whole(head - margin / 2)};
+        layout.headers[index] = {whole(left - spare), whole(instrumentTop - head),
+                                 whole(side + 2 * spare), whole(head - margin / 2)};
     }
 
     void placeModules(double top, double height) {
@@ -157,6 +171,7 @@ class PanelLayout {
     double margin = look::gap;
     double inner = 0;
     double head = 0;
+    double spare = 0; ///< that a header has on either side of its instrument
 };
 
 /// Chart, strip and comment below each other in a column of `width`. The comment stands in the
@@ -169,8 +184,9 @@ void layOutChart(WindowLayout& layout, QSize body, int width, const ColumnWishes
     const int leastComment = wishes.leastComment(width);
     const int forComment = leastComment > 0 ? margin + leastComment : 0;
     const auto chartOver = [&](int foot) { return bottom - 2 * margin - foot; };
-    const int foot = std::max(
-        {whole(footOf(body, layout.uiScale)), leastStrip + forComment, forComment > 0 ? 0 : strip});
+    const int foot = std::max({whole(footOf(body, layout.uiScale)),
+                               whole(steadyFootOf(body, layout.uiScale, width)),
+                               leastStrip + forComment, forComment > 0 ? 0 : strip});
     const int useful =
         std::min(whole(usefulChart * layout.uiScale), chartOver(leastStrip + forComment));
     const int side = std::clamp(std::max(chartOver(foot), useful), smallestChart, width);

@@ -1,8 +1,8 @@
 #include "window/quiz/quiz_flight_bar.h"
 
-#include "window/widgets/quiz_measures.h"
 #include "window/widgets/icons.h"
 #include "window/widgets/look.h"
+#include "window/widgets/quiz_measures.h"
 #include "window/widgets/replay_bar.h"
 #include "window/widgets/segment_row.h"
 
@@ -65,6 +65,7 @@ QBoxLayout* QuizFlightBar::makeReplayRow(FormBinding& binding) {
     row->addWidget(clock);
     backButton = new QPushButton(this);
     backButton->setProperty("quiz", true);
+    keepPlace(*backButton);
     binding.bind(form.backButton, *backButton);
     row->addWidget(backButton);
     return row;
@@ -87,6 +88,9 @@ void QuizFlightBar::follow() {
 
 int QuizFlightBar::heightIn(int width) {
     placeSpeeds(form.QAform1.c_QAFly > 0 || width < roomForSpeeds * quiz::scaleOf(*this));
+    // While it is hidden nobody tells its rows what has become empty.
+    for (QLayout* each : std::initializer_list<QLayout*>{flightRow, replayRow, layout()})
+        each->invalidate();
     return sizeHint().height();
 }
 

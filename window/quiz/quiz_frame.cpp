@@ -1,9 +1,9 @@
 #include "window/quiz/quiz_frame.h"
 
 #include "window/quiz/quiz_flight_bar.h"
-#include "window/widgets/quiz_measures.h"
 #include "window/quiz/quiz_row.h"
 #include "window/widgets/look.h"
+#include "window/widgets/quiz_measures.h"
 #include "window/widgets/tick_box.h"
 
 #include <QLabel>
@@ -19,7 +19,7 @@ namespace {
 
 // In pixels at text scale 1.
 constexpr int inset = 10;
-constexpr int partGap = 6;
+constexpr int partGap = 5;
 constexpr int buttonGap = 8;
 constexpr int titleGap = 6;
 constexpr int statisticGap = 16;
@@ -189,8 +189,22 @@ int QuizFrame::buttonHeight() const {
     return next->sizeHint().height();
 }
 
+/// Room for the bar is kept from the beginning, so that nothing moves when it comes: the rows are
+/// compact then.
 int QuizFrame::wantedHeight(int width) const {
-    return arrange(QSize(width, 0), false);
+    const int now = arrange(QSize(width, 0), false);
+    return flightBar && !hasBar() ? std::max(now, watchedHeight(width)) : now;
+}
+
+int QuizFrame::watchedHeight(int frameWidth) const {
+    const int width = frameWidth - 2 * scaled(inset);
+    const int gap = scaled(partGap);
+    int top = arrangeHeader(scaled(inset - 2), width, false) + gap;
+    top = arrangeTexts(top, width, false);
+    for (const QuizRow* row : questions)
+        if (row->asked())
+            top += row->compactHeightFor(width) + scaled(quiz::compactGap);
+    return top + gap + flightBar->heightIn(width) + gap + buttonHeight() + scaled(inset);
 }
 
 int QuizFrame::arrange(QSize size, bool placing) const {
@@ -199,8 +213,7 @@ int QuizFrame::arrange(QSize size, bool placing) const {
     int top = arrangeHeader(scaled(inset - 2), width, placing) + gap;
     top = arrangeTexts(top, width, placing);
     const int bottom = size.height() - scaled(inset) - buttonHeight();
-    // The room is kept from the beginning, so that nothing moves when the bar comes.
-    const int forBar = flightBar && (hasBar() || !placing) ? flightBar->heightIn(width) : 0;
+    const int forBar = hasBar() ? flightBar->heightIn(width) : 0;
     const int bar = forBar > 0 ? forBar + gap : 0;
     if (!flown)
         top = arrangeRows(top, width, bottom - bar, placing);
@@ -245,13 +258,20 @@ int QuizFrame::arrangeHeader(int top, int width, bool placing) const {
     return headerLine;
 }
 
+/// The rule stands beside what is known, or below it where that is too long.
 int QuizFrame::arrangeTexts(int top, int width, bool placing) const {
+    const int forRule = rule->fontMetrics().horizontalAdvance(rule->text()) + scaled(statisticGap);
+    const bool beside = !rule->isHidden() && !known->isHidden() &&
+                        known->sizeHint().width() + scaled(statisticGap) + forRule <= width;
     for (QLabel* text : {notice, task, known, rule}) {
-        if (text->isHidden())
+        if (text->isHidden() || (text == rule && beside))
             continue;
-        const int tall = text->heightForWidth(width);
+        const int wide = text == known && beside ? width - forRule : width;
+        const int tall = text->heightForWidth(wide);
         if (placing)
-            text->setGeometry(scaled(inset), top, width, tall);
+            text->setGeometry(scaled(inset), top, wide, tall);
+        if (placing && wide < width)
+            rule->setGeometry(scaled(inset) + wide, top, forRule, tall);
         top += tall + scaled(partGap);
     }
     return top;
@@ -280,7 +300,7 @@ int QuizFrame::promptWidth(int width) const {
 /// What is left of the height is spread between the rows.
 int QuizFrame::arrangeRows(int top, int width, int bottom, bool placing) const {
     const int forPrompt = promptWidth(width);
-    const int gap = scaled(watched ? quiz::compactGap : quiz::answerGap);
+    const int gap = scaled(watched ? quiz::compactGap : quiz::rowGap);
     const int start = top;
     int count = 0;
     for (const QuizRow* row : questions) {

@@ -66,6 +66,7 @@ class QuizFrame : public QWidget {
 
     /// Places everything in a card of `size`, or only measures. The height that is needed.
     int arrange(QSize size, bool place) const;
+    [[nodiscard]] int watchedHeight(int frameWidth) const;
     int arrangeHeader(int top, int width, bool place) const;
     int arrangeTexts(int top, int width, bool place) const;
     int arrangeRows(int top, int width, int bottom, bool place) const;

@@ -1,9 +1,9 @@
 #include "window/quiz/quiz_row.h"
 
-#include "window/widgets/quiz_measures.h"
 #include "window/quiz/quiz_option.h"
 #include "window/quiz/quiz_verdict.h"
 #include "window/widgets/quiz_list.h"
+#include "window/widgets/quiz_measures.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -264,6 +264,12 @@ int QuizRow::rowHeight() const {
 int QuizRow::heightFor(int width, int wanted) const {
     const int forText = promptPart(width, wanted) - scaled(numberWidth);
     return std::max(rowHeight(), prompt->heightForWidth(forText));
+}
+
+/// Verdicts leave half of the row.
+int QuizRow::compactHeightFor(int width) const {
+    const int forText = width / 2 - scaled(numberWidth);
+    return std::max(scaled(quiz::compactHeight), prompt->heightForWidth(forText));
 }
 
 void QuizRow::layOut(const QRect& place, int wanted) {

@@ -52,6 +52,8 @@ class QuizRow : public QWidget {
     [[nodiscard]] int brokenAnswersWidth() const;
     /// The height at a width, of which the prompt has a part.
     [[nodiscard]] int heightFor(int width, int promptWidth) const;
+    /// The height that it will have beside a replay, unless a long answer breaks more lines.
+    [[nodiscard]] int compactHeightFor(int width) const;
     /// Takes a place, with so much of it for the prompt; less if the answers need it.
     void layOut(const QRect& place, int promptWidth);
 

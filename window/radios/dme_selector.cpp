@@ -83,6 +83,8 @@ void DmeSelector::change(const std::function<void()>& action) {
 }
 
 void DmeSelector::refresh() {
+    setEnabled(face.c_OnOff == 1);
+    switchKnob.setDimmed(!isEnabled());
     switchKnob.setPointer(degreesOf(face.mode()));
     switchKnob.setValueText(words[static_cast<std::size_t>(face.mode())]);
     if (shown == face.mode())
@@ -142,6 +144,7 @@ void DmeSelector::paintEvent(QPaintEvent* /*event*/) {
     const double rim = knobSide() / 2;
     constexpr double markFrom = 0.9;
     constexpr double markStrength = 0.6;
+    painter.setOpacity(isEnabled() ? 1 : look::dimmedOpacity);
     for (const DmeMode mode : modes) {
         const bool chosen = mode == face.mode();
         const QRectF area = wordArea(mode);

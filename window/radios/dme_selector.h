@@ -21,6 +21,7 @@ class DmeSelector : public QWidget {
     DmeSelector(DMEControlFace& dme, PictureStore& pictures, const StringTable& texts,
                 QWidget* parent = nullptr);
 
+    /// Rests while the DME is switched off.
     void refresh();
     void setScale(double scale);
     /// The width that suits a height.

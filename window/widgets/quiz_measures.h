@@ -7,7 +7,8 @@
 namespace tarnel::quiz {
 
 inline constexpr int answerHeight = 30;
-inline constexpr int answerGap = 5;      ///< between the answers of a row, and between rows
+inline constexpr int answerGap = 5;      ///< between the answers of a row
+inline constexpr int rowGap = 4;         ///< between rows
 inline constexpr int compactHeight = 22; ///< of a row that can't be answered, beside a replay
 inline constexpr int compactGap = 3;
 
