@@ -1,7 +1,7 @@
 #include "window/quiz/quiz_verdict.h"
 
-#include "window/widgets/quiz_measures.h"
 #include "window/widgets/look.h"
+#include "window/widgets/quiz_measures.h"
 
 #include <QPainter>
 

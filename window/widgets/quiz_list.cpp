@@ -1,7 +1,7 @@
 #include "window/widgets/quiz_list.h"
 
-#include "window/widgets/quiz_measures.h"
 #include "window/widgets/look.h"
+#include "window/widgets/quiz_measures.h"
 
 #include <QKeyEvent>
 #include <QPainter>
