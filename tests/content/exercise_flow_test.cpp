@@ -359,23 +359,6 @@ TEST_F(ExerciseShell, IsAsItWasAfterTenExercises) {
     EXPECT_TRUE(form.simulationRuns());
 }
 
-TEST_F(ExerciseShell, AnExerciseStopsAFlightAndCountsItsAnswers) {
-    form.startButton.click();
-    fly(3);
-    EXPECT_FALSE(form.exerciseMenu.exercises[1]->enabled()); // rests in flight
-    form.startButton.click();
-    start(1);
-    panel().randomBox.set(0);
-    answer(*panel().rows[0], 0, "075");
-    click(panel().nextButton);
-    EXPECT_THAT(panel().statistic.text(), testing::HasSubstr("Versuche: 1"));
-    EXPECT_THAT(panel().frame.text(), testing::HasSubstr("( 1 von"));
-    click(panel().cancelButton);
-    form.exerciseMenu.resetStatistics.click();
-    start(1);
-    EXPECT_THAT(panel().statistic.text(), testing::HasSubstr("Versuche: 0"));
-}
-
 TEST_F(ExerciseShell, AMissingSessionIsToldAndTheQuestionCanBePassed) {
     std::string name = (fs::temp_directory_path() / "tarnel-XXXXXX").string();
     const fs::path bare = mkdtemp(name.data());

@@ -1,9 +1,10 @@
 #pragma once
 
-#include "content/study_file.h"
 #include "core/stations.h"
+#include "exercises/study_file.h"
 #include "flights/flight_csv.h"
 #include "flights/flight_plan.h"
+#include "strings/string_table.h"
 
 #include <array>
 #include <cstddef>
@@ -12,6 +13,21 @@
 #include <vector>
 
 namespace tarnel {
+
+/// A language of the study files: how its files are named and the words that answers are judged by.
+struct StudyLanguage {
+    std::string prefix;       ///< of a file's name
+    const StringTable& texts; ///< of the lists that answers are picked from
+    std::string left, right;
+    std::string grows, shrinks, stays; ///< the angle of an intercept, where German has "ss"
+};
+
+/// German, then English.
+[[nodiscard]] const std::vector<StudyLanguage>& studyLanguages();
+
+/// The shipped questions of an exercise. Expects that the file has no line but theirs, each with a
+/// tag of its own and ended by CR LF.
+[[nodiscard]] std::vector<StudyRecord> writtenQuestions(const StudyLanguage& language, int type);
 
 /// The first turn of a flight.
 struct FirstTurn {
@@ -51,9 +67,8 @@ struct FlownQuestion {
 /// Expects a direction written with three digits, 000 to 360, within a degree of `degrees`.
 void expectDirection(const std::string& written, double degrees);
 
-/// Calls `check` for each record of an exercise in both languages, with its flight.
-void forEachQuestion(const std::string& stem,
-                     const std::function<void(const StudyLanguage&, const WrittenQuestion&,
-                                              const FlownQuestion&)>& check);
+/// Calls `check` for each question of an exercise in both languages, with its flight.
+void forEachQuestion(int type, const std::function<void(const StudyLanguage&, const StudyRecord&,
+                                                        const FlownQuestion&)>& check);
 
 } // namespace tarnel

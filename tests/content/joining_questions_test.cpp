@@ -10,6 +10,8 @@
 namespace tarnel {
 namespace {
 
+using enum StudyColumn;
+
 using testing::HasSubstr;
 
 constexpr double degree = 3.14159265358979323846 / 180;
@@ -42,15 +44,16 @@ Entry entryOf(double heading, double inbound, bool rightTurns) {
     return {"offset", offset, heading == offset ? "maintain" : heading > offset ? "left" : "right"};
 }
 
-void expectHolding(const WrittenQuestion& record, const FlownQuestion& flown, Slot station) {
-    const double heading = record.number("a1");
-    const double inbound = record.number("a2");
-    expectDirection(record.text("a1"), flown.asked().heading);
-    expectDirection(record.text("a1"), radialAt(flown.asked(), station) + 180);
+/// The entry of the holding that a question asks for, flown as it should be.
+Entry expectHolding(const StudyRecord& record, const FlownQuestion& flown, Slot station) {
+    const double heading = std::stod(record[ans1]);
+    const double inbound = std::stod(record[ans2]);
+    expectDirection(record[ans1], flown.asked().heading);
+    expectDirection(record[ans1], radialAt(flown.asked(), station) + 180);
     EXPECT_LT(heading, 360);
-    EXPECT_THAT(record.text("qc"), HasSubstr(flown.identifier(station)));
-    const Entry entry = entryOf(heading, inbound, record.text("a3") == "Standard");
-    ASSERT_FALSE(entry.name.empty());
+    EXPECT_THAT(record[qc], HasSubstr(flown.identifier(station)));
+    const Entry entry = entryOf(heading, inbound, record[ans3] == "Standard");
+    EXPECT_FALSE(entry.name.empty());
     FirstTurn turn = flown.firstTurn();
     if (entry.side == "maintain") {
         EXPECT_GT(turn.tick, 90 * ticksPerSecond); // the station and most of a minute behind it
@@ -70,18 +73,16 @@ void expectHolding(const WrittenQuestion& record, const FlownQuestion& flown, Sl
     const FlightRow& end = flown.rows.back();
     EXPECT_LT(std::abs(turnBetween(end.heading, radialAt(end, station) + 180)), 10);
     EXPECT_LT(std::abs(turnBetween(end.heading, inbound)), 60);
+    return entry;
 }
 
 TEST(HoldingQuestions, AreEnteredAsTheirAnswersSay) {
-    for (const char* stem : {"hsihld", "dghld"}) {
+    for (const bool gyro : {false, true}) {
         std::set<std::string> entries;
         forEachQuestion(
-            stem, [&](const auto&, const WrittenQuestion& record, const FlownQuestion& flown) {
-                const bool gyro = std::string(stem) == "dghld";
-                expectHolding(record, flown, gyro ? flown.adfStation() : flown.navStation());
-                const bool standard = record.text("a3") == "Standard";
-                const Entry entry = entryOf(record.number("a1"), record.number("a2"), standard);
-                entries.insert(entry.name + record.text("a3"));
+            gyro ? 4 : 3, [&](const auto&, const StudyRecord& record, const FlownQuestion& flown) {
+                const Slot station = gyro ? flown.adfStation() : flown.navStation();
+                entries.insert(expectHolding(record, flown, station).name + record[ans3]);
             });
         EXPECT_EQ(entries.size(), 6U) << "three entries, to the right and to the left";
     }
@@ -92,45 +93,43 @@ std::string angleTrend(const StudyLanguage& language, double first, double later
     constexpr double steady = 0.3;
     constexpr double seen = 1.5;
     EXPECT_TRUE(std::abs(later - first) < steady || std::abs(later - first) > seen);
-    return std::abs(later - first) < steady ? language.interceptStays
-           : later > first                  ? language.interceptGrows
-                                            : language.interceptShrinks;
+    return std::abs(later - first) < steady ? language.stays
+           : later > first                  ? language.grows
+                                            : language.shrinks;
 }
 
-void expectIntercept(const StudyLanguage& language, const WrittenQuestion& record,
+void expectIntercept(const StudyLanguage& language, const StudyRecord& record,
                      const FlownQuestion& flown, bool inbound) {
-    const bool beacon = record.text("qa").find("NDB") != std::string::npos;
+    const bool beacon = record[qa].find("NDB") != std::string::npos;
     const Slot station = beacon ? flown.adfStation() : flown.navStation();
     const auto bearing = [&](const FlightRow& row) {
         return circle(radialAt(row, station) + (inbound ? 180 : 0));
     };
-    const double required = record.number("qa");
-    const double actual = record.number("a1");
-    EXPECT_THAT(record.text("qa"), HasSubstr(flown.identifier(station)));
-    expectDirection(record.text("a1"), bearing(flown.asked()));
+    const double required = std::stod(record[qa]);
+    const double actual = std::stod(record[ans1]);
+    EXPECT_THAT(record[qa], HasSubstr(flown.identifier(station)));
+    expectDirection(record[ans1], bearing(flown.asked()));
 
     const FirstTurn turn = flown.firstTurn();
     const bool turnsAtOnce = turn.tick < 30 * ticksPerSecond;
-    EXPECT_EQ(record.text("a3"), turnsAtOnce ? turn.side : "maintain");
+    EXPECT_EQ(record[ans3], turnsAtOnce ? turn.side : "maintain");
     const double heading = turnsAtOnce ? turn.heading : flown.asked().heading;
-    expectDirection(record.text("a6"), heading);
+    expectDirection(record[ans6], heading);
     const auto angle = [&](const FlightRow& row) {
         return std::abs(turnBetween(bearing(row), required));
     };
     const std::size_t held = turnsAtOnce ? turn.tick : 16 * ticksPerSecond;
-    EXPECT_EQ(record.text("a2"),
-              angleTrend(language, angle(flown.asked()), angle(flown.rows[held])));
+    EXPECT_EQ(record[ans2], angleTrend(language, angle(flown.asked()), angle(flown.rows[held])));
 
     if (required == actual) {
         EXPECT_FALSE(inbound); // there is no button for it
-        EXPECT_EQ(record.text("a4"), "maintain");
+        EXPECT_EQ(record[ans4], "maintain");
         EXPECT_NEAR(heading, actual, 1);
     } else {
         // "Above" and "below" must be meant without passing north.
         const double limit = inbound ? actual : required;
         EXPECT_LT(std::abs(heading - limit), 180);
-        EXPECT_EQ(record.text("a4"),
-                  heading > limit ? language.interceptGrows : language.interceptShrinks);
+        EXPECT_EQ(record[ans4], heading > limit ? language.grows : language.shrinks);
     }
     EXPECT_NEAR(turnBetween(bearing(flown.rows.back()), required), 0, 1);
     EXPECT_NEAR(turnBetween(flown.rows.back().heading, required), 0, 1);
@@ -139,8 +138,8 @@ void expectIntercept(const StudyLanguage& language, const WrittenQuestion& recor
 TEST(InterceptQuestions, AreFlownOntoTheRequiredBearing) {
     for (const bool inbound : {true, false}) {
         forEachQuestion(
-            inbound ? "qdm" : "qdr",
-            [&](const StudyLanguage& language, const WrittenQuestion& record,
+            inbound ? 6 : 7,
+            [&](const StudyLanguage& language, const StudyRecord& record,
                 const FlownQuestion& flown) { expectIntercept(language, record, flown, inbound); });
     }
 }
@@ -162,10 +161,10 @@ std::size_t lastTurn(const FlownQuestion& flown) {
     return tick;
 }
 
-void expectArcKept(const WrittenQuestion& record, const FlownQuestion& flown, std::size_t from,
+void expectArcKept(const StudyRecord& record, const FlownQuestion& flown, std::size_t from,
                    std::size_t until) {
     const Slot station = flown.navStation();
-    const double distance = numberBehind(record.text("qc"), "ARC ");
+    const double distance = numberBehind(record[qc], "ARC ");
     for (std::size_t tick = from; tick <= until; ++tick) {
         const FlightRow& row = flown.rows[tick];
         EXPECT_NEAR((station == Slot::vor1 ? row.vor1 : row.vor2).dme, distance, 0.7) << tick;
@@ -173,39 +172,38 @@ void expectArcKept(const WrittenQuestion& record, const FlownQuestion& flown, st
     const double around =
         turnBetween(radialAt(flown.rows[from], station), radialAt(flown.rows[until], station));
     EXPECT_GT(std::abs(around), 12);
-    const bool against = record.text("qc").find("gegen") != std::string::npos ||
-                         record.text("qc").find("counter") != std::string::npos;
+    const bool against = record[qc].find("gegen") != std::string::npos ||
+                         record[qc].find("counter") != std::string::npos;
     EXPECT_EQ(against, around < 0);
 }
 
 TEST(ArcQuestions, AreJoinedKeptAndLeft) {
-    forEachQuestion(
-        "dmearc", [](const auto&, const WrittenQuestion& record, const FlownQuestion& flown) {
-            const Slot station = flown.navStation();
-            const double final = numberBehind(record.text("qc"), "inal ");
-            EXPECT_THAT(record.text("qc"), HasSubstr(flown.identifier(station)));
-            EXPECT_EQ(flown.plan.start.dme, flown.plan.start.nav1);
-            EXPECT_EQ(flown.plan.start.obs3, final);
+    forEachQuestion(9, [](const auto&, const StudyRecord& record, const FlownQuestion& flown) {
+        const Slot station = flown.navStation();
+        const double final = numberBehind(record[qc], "inal ");
+        EXPECT_THAT(record[qc], HasSubstr(flown.identifier(station)));
+        EXPECT_EQ(flown.plan.start.dme, flown.plan.start.nav1);
+        EXPECT_EQ(flown.plan.start.obs3, final);
 
-            const bool joined = record.text("a1") == "maintain"; // already on the arc
-            const FirstTurn turn = flown.firstTurn();
-            if (!joined) {
-                EXPECT_EQ(record.text("a1"), turn.side);
-            }
-            expectDirection(record.text("a2"), joined ? flown.asked().heading : turn.heading);
-            std::size_t level = joined ? FlownQuestion::firstSampleTick : turn.tick;
-            while (flown.rows[level].turnRate != 0)
-                ++level;
-            const std::size_t lead = lastTurn(flown);
-            expectArcKept(record, flown, level, lead);
+        const bool joined = record[ans1] == "maintain"; // already on the arc
+        const FirstTurn turn = flown.firstTurn();
+        if (!joined) {
+            EXPECT_EQ(record[ans1], turn.side);
+        }
+        expectDirection(record[ans2], joined ? flown.asked().heading : turn.heading);
+        std::size_t level = joined ? FlownQuestion::firstSampleTick : turn.tick;
+        while (flown.rows[level].turnRate != 0)
+            ++level;
+        const std::size_t lead = lastTurn(flown);
+        expectArcKept(record, flown, level, lead);
 
-            expectDirection(record.text("a3"), radialAt(flown.rows[lead], station));
-            const double ahead = std::abs(turnBetween(record.number("a3"), final + 180));
-            EXPECT_GE(ahead, 4);
-            EXPECT_LE(ahead, 12);
-            EXPECT_NEAR(turnBetween(flown.rows.back().heading, final), 0, 1);
-            EXPECT_NEAR(turnBetween(radialAt(flown.rows.back(), station) + 180, final), 0, 2);
-        });
+        expectDirection(record[ans3], radialAt(flown.rows[lead], station));
+        const double ahead = std::abs(turnBetween(std::stod(record[ans3]), final + 180));
+        EXPECT_GE(ahead, 4);
+        EXPECT_LE(ahead, 12);
+        EXPECT_NEAR(turnBetween(flown.rows.back().heading, final), 0, 1);
+        EXPECT_NEAR(turnBetween(radialAt(flown.rows.back(), station) + 180, final), 0, 2);
+    });
 }
 
 } // namespace

@@ -11,6 +11,8 @@
 namespace tarnel {
 namespace {
 
+using enum StudyColumn;
+
 using testing::Contains;
 using testing::HasSubstr;
 
@@ -73,69 +75,65 @@ void expectPickable(const std::string& direction) {
     EXPECT_LT(std::stoi(direction), 360) << direction;
 }
 
-void expectRadialAndQdm(const WrittenQuestion& record, const FlownQuestion& flown) {
+void expectRadialAndQdm(const StudyRecord& record, const FlownQuestion& flown) {
     const Slot station = flown.navStation();
     const double radial = radialAt(flown.asked(), station);
-    for (const char* prompt : {"qa", "qb"})
-        EXPECT_THAT(record.text(prompt), HasSubstr(flown.identifier(station)));
-    expectPickable(record.text("a1"));
-    expectPickable(record.text("a2"));
-    expectDirection(record.text("a1"), radial);
-    expectDirection(record.text("a2"), radial + 180);
+    for (const StudyColumn prompt : {qa, qb})
+        EXPECT_THAT(record[prompt], HasSubstr(flown.identifier(station)));
+    expectPickable(record[ans1]);
+    expectPickable(record[ans2]);
+    expectDirection(record[ans1], radial);
+    expectDirection(record[ans2], radial + 180);
     // Beyond the end of the scale the radial could not be read.
     EXPECT_LT(std::abs(needleMove(flown).first), fullScale - 1);
 }
 
 TEST(HsiQuestions, TellWhereTheBarGoes) {
-    forEachQuestion("hsi", [](const StudyLanguage& language, const WrittenQuestion& record,
-                              const FlownQuestion& flown) {
+    forEachQuestion(1, [](const StudyLanguage& language, const StudyRecord& record,
+                          const FlownQuestion& flown) {
         expectRadialAndQdm(record, flown);
-        EXPECT_NE(record.text("a1"), "355"); // the first list has no such item
-        EXPECT_EQ(acceptedTexts(record.text("a3")), barMoves(language.texts, flown));
+        EXPECT_NE(record[ans1], "355"); // the first list has no such item
+        EXPECT_EQ(acceptedTexts(record[ans3]), barMoves(language.texts, flown));
     });
 }
 
 TEST(VorQuestions, TellWhereTheNeedleGoes) {
-    forEachQuestion("stdvor", [](const StudyLanguage& language, const WrittenQuestion& record,
-                                 const FlownQuestion& flown) {
+    forEachQuestion(2, [](const StudyLanguage& language, const StudyRecord& record,
+                          const FlownQuestion& flown) {
         expectRadialAndQdm(record, flown);
         const double change = needleMove(flown).change;
         EXPECT_TRUE(std::abs(change) < steady || std::abs(change) > seen) << change;
-        EXPECT_EQ(record.text("a3"), language.texts[std::abs(change) < steady ? Text::moveNone
-                                                    : change > 0              ? Text::moveRight
-                                                                              : Text::moveLeft]);
+        EXPECT_EQ(record[ans3], language.texts[std::abs(change) < steady ? Text::moveNone
+                                               : change > 0              ? Text::moveRight
+                                                                         : Text::moveLeft]);
     });
 }
 
 /// Four different offers, the right one among them.
-void expectOffered(const WrittenQuestion& record, const std::string& stem,
-                   const std::string& answer) {
-    std::set<std::string> offers;
-    for (const char number : {'1', '2', '3', '4'})
-        offers.insert(record.text(stem + number));
-    EXPECT_EQ(offers.size(), 4U) << stem;
+void expectOffered(const std::set<std::string>& offers, const std::string& answer) {
+    EXPECT_EQ(offers.size(), 4U) << answer;
     EXPECT_THAT(offers, Contains(answer));
 }
 
 TEST(AdfQuestions, TellBearingsAndTheirTrend) {
-    forEachQuestion("adfpos", [](const StudyLanguage& language, const WrittenQuestion& record,
-                                 const FlownQuestion& flown) {
+    forEachQuestion(5, [](const StudyLanguage& language, const StudyRecord& record,
+                          const FlownQuestion& flown) {
         const Slot station = flown.adfStation();
         const double radial = radialAt(flown.asked(), station);
-        expectDirection(record.text("a1"), radial);
-        expectDirection(record.text("a3"), radial + 180);
-        expectDirection(record.text("a5"), radial + 180 - flown.asked().heading);
-        expectOffered(record, "qr", record.text("a1"));
-        expectOffered(record, "qm", record.text("a3"));
-        expectOffered(record, "rb", record.text("a5"));
+        expectDirection(record[ans1], radial);
+        expectDirection(record[ans3], radial + 180);
+        expectDirection(record[ans5], radial + 180 - flown.asked().heading);
+        expectOffered({record[qa], record[qb], record[qc], record[qd]}, record[ans1]);
+        expectOffered({record[qe], record[qf], record[qg], record[qh]}, record[ans3]);
+        expectOffered({record[qi], record[qj], record[qk], record[ql]}, record[ans5]);
 
         const double last = radialAt(flown.rows.back(), station);
         const double change = turnBetween(radial, last);
         const std::string_view trend = language.texts[std::abs(change) < steady ? Text::trendSame
                                                       : change > 0              ? Text::trendLarger
                                                                    : Text::trendSmaller];
-        EXPECT_EQ(record.text("a2"), trend);
-        EXPECT_EQ(record.text("a4"), trend);
+        EXPECT_EQ(record[ans2], trend);
+        EXPECT_EQ(record[ans4], trend);
         // A value that passes north would grow and get smaller at once.
         EXPECT_EQ(circle(last) > circle(radial), change > 0);
         EXPECT_EQ(circle(last + 180) > circle(radial + 180), change > 0);
@@ -145,22 +143,21 @@ TEST(AdfQuestions, TellBearingsAndTheirTrend) {
 TEST(OrientationQuestions, TellWhatTheChartShows) {
     const std::set<std::string> list = {"030", "045", "060", "090", "120", "135", "150", "180",
                                         "210", "225", "240", "270", "300", "315", "330", "360"};
-    forEachQuestion(
-        "orientation", [&](const auto&, const WrittenQuestion& record, const FlownQuestion& flown) {
-            for (const char* answer : {"a1", "a2", "a3"})
-                EXPECT_THAT(list, Contains(record.text(answer)));
-            EXPECT_THAT(record.text("qa"), HasSubstr(flown.identifier(Slot::vor1)));
-            EXPECT_THAT(record.text("qb"), HasSubstr(flown.identifier(Slot::vor2)));
-            const FlightRow& asked = flown.asked();
-            expectDirection(record.text("a1"), asked.vor1.radial);
-            expectDirection(record.text("a2"), asked.vor2.radial + 180);
-            const bool heading = record.text("qc").find("HDG") != std::string::npos;
-            if (!heading) {
-                EXPECT_THAT(record.text("qc"), HasSubstr(flown.identifier(Slot::vor1)));
-            }
-            expectDirection(record.text("a3"),
-                            heading ? asked.heading : asked.vor1.radial + 180 - asked.heading);
-        });
+    forEachQuestion(10, [&](const auto&, const StudyRecord& record, const FlownQuestion& flown) {
+        for (const StudyColumn answer : {ans1, ans2, ans3})
+            EXPECT_THAT(list, Contains(record[answer]));
+        EXPECT_THAT(record[qa], HasSubstr(flown.identifier(Slot::vor1)));
+        EXPECT_THAT(record[qb], HasSubstr(flown.identifier(Slot::vor2)));
+        const FlightRow& asked = flown.asked();
+        expectDirection(record[ans1], asked.vor1.radial);
+        expectDirection(record[ans2], asked.vor2.radial + 180);
+        const bool heading = record[qc].find("HDG") != std::string::npos;
+        if (!heading) {
+            EXPECT_THAT(record[qc], HasSubstr(flown.identifier(Slot::vor1)));
+        }
+        expectDirection(record[ans3],
+                        heading ? asked.heading : asked.vor1.radial + 180 - asked.heading);
+    });
 }
 
 } // namespace

@@ -7,6 +7,8 @@
 namespace tarnel {
 namespace {
 
+using enum StudyColumn;
+
 constexpr double degree = 3.14159265358979323846 / 180;
 constexpr double zero = 0.05; ///< what is nothing when written in tenths
 
@@ -42,31 +44,29 @@ double secondsOf(const std::string& text) {
 }
 
 TEST(WindQuestions, AreSolvedByTheWindTriangle) {
-    forEachQuestion("wind", [](const StudyLanguage& language, const WrittenQuestion& record,
-                               const FlownQuestion& flown) {
+    forEachQuestion(8, [](const StudyLanguage& language, const StudyRecord& record,
+                          const FlownQuestion& flown) {
         const FlightRow& asked = flown.asked();
         const double inbound = *flown.plan.start.obs3;
-        EXPECT_EQ(record.number("qa"), asked.windDirection);
-        EXPECT_EQ(record.number("qb"), asked.windSpeed);
+        EXPECT_EQ(std::stod(record[qa]), asked.windDirection);
+        EXPECT_EQ(std::stod(record[qb]), asked.windSpeed);
         const WindTriangle wind = triangleOf(asked, inbound);
-        EXPECT_NEAR(record.number("a1"), std::abs(wind.head), 0.1);
-        EXPECT_NEAR(record.number("a3"), std::abs(wind.fromRight), 0.1);
-        EXPECT_NEAR(record.number("a5"), std::abs(wind.correction), 0.1);
-        EXPECT_EQ(record.text("a2"), std::abs(wind.head) < zero ? "-"
-                                     : wind.head > 0            ? "Head"
-                                                                : "Tail");
-        EXPECT_EQ(record.text("a4"), side(language, wind.fromRight));
-        EXPECT_EQ(record.text("a6"), side(language, wind.fromRight));
+        EXPECT_NEAR(std::stod(record[ans1]), std::abs(wind.head), 0.1);
+        EXPECT_NEAR(std::stod(record[ans3]), std::abs(wind.fromRight), 0.1);
+        EXPECT_NEAR(std::stod(record[ans5]), std::abs(wind.correction), 0.1);
+        EXPECT_EQ(record[ans2], std::abs(wind.head) < zero ? "-" : wind.head > 0 ? "Head" : "Tail");
+        EXPECT_EQ(record[ans4], side(language, wind.fromRight));
+        EXPECT_EQ(record[ans6], side(language, wind.fromRight));
         // "Zero" is right only for a plain 0.
-        EXPECT_EQ(record.text("a2") == "-", record.text("a1") == "0");
-        EXPECT_EQ(record.text("a4") == "-", record.text("a3") == "0");
+        EXPECT_EQ(record[ans2] == "-", record[ans1] == "0");
+        EXPECT_EQ(record[ans4] == "-", record[ans3] == "0");
         // The outbound leg is as long over the ground as a minute inbound.
-        EXPECT_NEAR(secondsOf(record.text("a7")), 60 * wind.inboundSpeed / wind.outboundSpeed, 1);
+        EXPECT_NEAR(secondsOf(record[ans7]), 60 * wind.inboundSpeed / wind.outboundSpeed, 1);
     });
 }
 
 TEST(WindQuestions, AreFlownAlongTheInboundCourse) {
-    forEachQuestion("wind", [](const auto&, const WrittenQuestion&, const FlownQuestion& flown) {
+    forEachQuestion(8, [](const auto&, const StudyRecord&, const FlownQuestion& flown) {
         const double inbound = *flown.plan.start.obs3;
         const WindTriangle wind = triangleOf(flown.asked(), inbound);
         const Slot station = flown.navStation();

@@ -32,6 +32,9 @@ TEST(Recording, WarnsTwiceAndStartsOver) {
                                              std::pair(5980, BufferWarning::full)));
     EXPECT_EQ(recording.sampleIndex(), 1);
     EXPECT_EQ(recording.at(1).traceTAS, 77); // until overwritten
+    recording.edit(1).traceComment = 2;
+    recording.write(Sample{}, noComment);
+    EXPECT_EQ(recording.at(1).traceComment, 2) << "a comment stays with its sample";
     recording.clear();
     EXPECT_EQ(recording.sampleIndex(), 0);
     EXPECT_EQ(recording.at(1).traceTAS, 0);

@@ -68,55 +68,45 @@ TEST_F(RecorderTest, ParkedAircraftOverwritesItsSample) {
 }
 
 TEST_F(RecorderTest, SampleHoldsTheWholeState) {
+    const struct {
+        const char* name;
+        std::int16_t value;
+        std::int16_t Sample::*field;
+    } settings[] = {{"c_inst2", 2, &Sample::traceInst2},
+                    {"c_inst3", 4, &Sample::traceInst3},
+                    {"c_Inst2NAVselect", 2, &Sample::traceInst2NAVselect},
+                    {"c_Inst3NAVselect", 1, &Sample::traceInst3NAVselect},
+                    {"c_Inst2_ADFCardselect", 2, &Sample::traceInst2ADFCard},
+                    {"c_Inst3_ADFCardselect", 1, &Sample::traceInst3ADFCard},
+                    {"c_NAV1freq", 2, &Sample::traceNAV1freq},
+                    {"c_NAV2freq", 1, &Sample::traceNAV2freq},
+                    {"c_ADFfreq", 1, &Sample::traceADFfreq},
+                    {"c_DMEfreq", 2, &Sample::traceDMEfreq},
+                    {"c_APhdg", 301, &Sample::traceAPhdg},
+                    {"c_APtas", 140, &Sample::traceAPtas},
+                    {"c_APalt", 5500, &Sample::traceAPalt},
+                    {"c_HDGbug", 302, &Sample::traceHDGbug},
+                    {"Turn_Rate", -1, &Sample::traceTurnRate},
+                    {"c_TAS", 140, &Sample::traceTAS},
+                    {"c_LocCrs1", 83, &Sample::traceLocCourse}};
     sim.wind = {222.5, 17};
-    sim.c_LocCrs1 = 83;
     sim.c_obsI2 = 11;
     sim.c_obsI3 = 250;
-    const std::pair<const char*, int> set[] = {{"c_inst2", 2},
-                                               {"c_inst3", 4},
-                                               {"c_Inst2NAVselect", 2},
-                                               {"c_Inst3NAVselect", 1},
-                                               {"c_NAV1freq", 2},
-                                               {"c_NAV2freq", 1},
-                                               {"c_Inst2_ADFCardselect", 2},
-                                               {"c_ADFfreq", 1},
-                                               {"c_DMEfreq", 2},
-                                               {"c_APhdg", 301},
-                                               {"c_APtas", 140},
-                                               {"c_APalt", 5500},
-                                               {"c_HDGbug", 302},
-                                               {"Turn_Rate", -1}};
-    for (const auto& [name, value] : set)
+    start(0, 300);
+    for (const auto& [name, value, field] : settings)
         ASSERT_TRUE(sim.properties.find(name)->setText(std::to_string(value))) << name;
-    sim.c_Timer_on_off = 1;
-    start(140, 300);
     tick(3);
     const Sample& sample = sim.recording.at(sim.recording.sampleIndex());
+    for (const auto& [name, value, field] : settings)
+        EXPECT_EQ(sample.*field, value) << name;
     EXPECT_NEAR(sample.traceHeading, 299, 0.001);
     EXPECT_LT(milesBetween({sample.traceLat, sample.traceLon}, place()), 0.06);
     EXPECT_EQ(sample.traceFlightSeconds, static_cast<int>(sim.clock.flightSeconds));
-    EXPECT_EQ(sample.traceTAS, 140);
-    EXPECT_EQ(sample.traceTurnRate, -1);
     EXPECT_EQ(sample.traceStations[4], toPlain(sim.stations[4].position));
-    EXPECT_EQ(sample.traceLocCourse, 83);
     EXPECT_EQ(sample.traceWindDirection, 222); // a tie
     EXPECT_EQ(sample.traceWindSpeed, 17);
     EXPECT_EQ(sample.traceObsI2, 11);
     EXPECT_EQ(sample.traceObsI3, 250);
-    EXPECT_EQ(sample.traceInst2, 2);
-    EXPECT_EQ(sample.traceInst3, 4);
-    EXPECT_EQ(sample.traceInst2NAVselect, 2);
-    EXPECT_EQ(sample.traceInst3NAVselect, 1);
-    EXPECT_EQ(sample.traceInst2ADFCard, 2);
-    EXPECT_EQ(sample.traceInst3ADFCard, 1);
-    EXPECT_EQ(sample.traceNAV1freq, 2);
-    EXPECT_EQ(sample.traceNAV2freq, 1);
-    EXPECT_EQ(sample.traceADFfreq, 1);
-    EXPECT_EQ(sample.traceDMEfreq, 2);
-    EXPECT_EQ(sample.traceAPhdg, 301);
-    EXPECT_EQ(sample.traceAPtas, 140);
-    EXPECT_EQ(sample.traceAPalt, 5500);
-    EXPECT_EQ(sample.traceHDGbug, 302);
 }
 
 TEST_F(RecorderTest, CoursesAreRecordedTrueWithTheHeadingUp) {

@@ -50,12 +50,6 @@ TEST_F(FlightTest, WindComesFromItsDirection) {
     EXPECT_EQ(sim.c_ApMinutes2, 0); // drifting is not flying
 }
 
-TEST_F(FlightTest, ParkedAircraftStaysForAnHour) {
-    start(0, 90);
-    tick(hour);
-    EXPECT_LT(milesBetween({49, 11}, place()), 0.00002);
-}
-
 TEST_F(FlightTest, HeadingGoesRoundTheCompass) {
     struct Case {
         double heading;
@@ -130,13 +124,6 @@ TEST_F(FlightTest, SettingAPropertyNeverMovesTheAircraft) {
     EXPECT_EQ(sim.aircraft.trueHeading, heading);
     tick(1);
     EXPECT_NEAR(milesBetween(before, place()), 120.0 / 3600 / 3, 0.00001);
-}
-
-TEST_F(FlightTest, StoppedClockMovesNothing) {
-    start(120);
-    sim.c_TimerEN = 0;
-    sim.SimStep();
-    EXPECT_EQ(place(), (GeoPosition{49, 11}));
 }
 
 RC_GTEST_FIXTURE_PROP(FlightTest, TrackAndSpeedAreThoseOfTheFlight, ()) {

@@ -91,6 +91,7 @@ TEST_F(HandHistoryTest, TheFlightThatAPressEndedComesBackWhole) {
     drag(ChartButton::left, {1000, 1000}, {900, 900});
     sim.mouse.down(ChartButton::left, {3000, 3000});
     sim.mouse.takeBack();
+    EXPECT_TRUE(sim.reference.empty());
     EXPECT_TRUE(sim.undo());
     EXPECT_EQ(place(), there);
     EXPECT_EQ(sim.c_TraceBufferMax, samples);
@@ -101,6 +102,9 @@ TEST_F(HandHistoryTest, TheFlightThatAPressEndedComesBackWhole) {
     tick(4);
     EXPECT_EQ(sim.c_TraceBufferMax, 21) << "it goes on from there";
     EXPECT_FALSE(sim.undo()) << "not in flight";
+    sim.setWind({90, 40});
+    sim.c_TimerEN = 0;
+    EXPECT_FALSE(sim.undo()) << "nor what was done there";
 }
 
 TEST_F(HandHistoryTest, AMovedStationIsWrittenFromThePresentSampleOn) {

@@ -14,17 +14,6 @@ class WindTest : public SimulationTest {
     }
 };
 
-TEST_F(WindTest, DriftsAFlightNorthToTheEast) {
-    sim.setWind({270, 20});
-    start(120, 0);
-    tick(hour);
-    const CourseDistance made = CourseAndDistance({49, 11}, place());
-    EXPECT_NEAR(made.course, std::atan2(20, 120) * 180 / M_PI, 0.1);
-    EXPECT_NEAR(made.distance, std::hypot(120, 20), 0.3);
-    EXPECT_EQ(sim.speedVectors.groundTrack, 9);
-    EXPECT_NEAR(sim.speedVectors.groundSpeed, 122, 1);
-}
-
 TEST_F(WindTest, ModesHideDrawAndRecall) {
     sim.c_WindSetEN = 3;
     EXPECT_EQ(sim.c_wind.get(), "0/0"); // none was ever set

@@ -139,16 +139,5 @@ TEST_F(WindTest, TheFirstRowMustBeAnsweredFirst) {
     EXPECT_EQ(store.stat("wind_bad"), "2");
 }
 
-TEST_F(WindTest, ShowsItsSolution) {
-    start();
-    click("Command11");
-    EXPECT_EQ(takeResult(), 6);
-    EXPECT_EQ(answer("Label34", solutionColours), "Head 20");
-    EXPECT_EQ(answer("Label37", solutionColours), "1.30 min.sec");
-    EXPECT_FALSE(get<TextField>("Text8").visible());
-    EXPECT_FALSE(option("Option58").visible());
-    EXPECT_EQ(get<FormFrame>("Frame29").height(), 1100);
-}
-
 } // namespace
 } // namespace tarnel

@@ -52,19 +52,6 @@ std::vector<FlownRow> fly(const std::string& plan) {
     return flownRows(readPlan(plan, "plan.toml"));
 }
 
-TEST(ScriptedFlight, BecomesASessionWithItsComments) {
-    ScriptedFlight flight(
-        readPlan("seconds = 20\n[[event]]\nat = 5\ncomment = \"MUN 060°\"\n", "plan.toml"),
-        englishTable(), TARNEL_DATA_FOLDER);
-    flight.fly(20, [] {});
-    const SessionFile session = readSession(flight.form().UserControl11.sessionBytes());
-    EXPECT_FALSE(session.problem);
-    ASSERT_EQ(session.samples.size(), 15U);
-    EXPECT_EQ(session.comments.at(0), "MUN 060°");
-    EXPECT_EQ(session.samples.front().traceComment, -1);
-    EXPECT_EQ(session.samples.back().traceComment, 0);
-}
-
 TEST(ScriptedFlight, BeginsAsThePlanSays) {
     const FlownRow start = fly(busyPlan).front();
     EXPECT_EQ(start.text("tick"), "0");
@@ -78,6 +65,8 @@ TEST(ScriptedFlight, BeginsAsThePlanSays) {
     EXPECT_EQ(start.text("inst2_needle2"), start.text("nav2_radial"));
     EXPECT_EQ(start.text("inst3_type"), "RMI");
     EXPECT_NEAR(start.number("inst3_needle2"), start.number("nav4_radial") - 180 - 350, 1e-9);
+    ScriptedFlight turned = flightOf(readPlan("seconds = 1\nnorth_up = false", "plan.toml"));
+    EXPECT_EQ(turned.form().UserControl11.c_MAPnorthUP, 0);
 }
 
 TEST(ScriptedFlight, FollowsTheChartWhereThePlanIsSilent) {

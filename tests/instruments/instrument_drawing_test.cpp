@@ -165,17 +165,6 @@ TEST(InstrumentDrawing, hsiTurnsWithCourseAndHeading) {
     expectAt(picture.Line24.to, middle, 3470 - 3470 * 0.71);
 }
 
-TEST(InstrumentDrawing, localizerPinsAndWraps) {
-    PanelInstrument vor(InstrumentKind::vor);
-    vor.feed(89, 90, -6, 0, -6); // half of full scale to the right
-    EXPECT_NEAR(vor.picture.Line13.from.x, 1927.375 + 366.2, 0.51);
-    vor.feed(126, 90, 0, 0); // as a VOR: 36 degrees left
-    EXPECT_EQ(vor.reading().deviation, -36);
-    EXPECT_NEAR(vor.picture.Line13.from.x, 1195, 0.51);
-    vor.feed(126, 90, -6, 0, -6); // out of coverage: frozen at -36, taken as 324
-    EXPECT_NEAR(vor.picture.Line13.from.x, 2660, 0.51);
-}
-
 TEST(InstrumentDrawing, headingBugTurnsWithTheCard) {
     PanelInstrument dg(InstrumentKind::dg);
     dg.c_HDGbug = 90;

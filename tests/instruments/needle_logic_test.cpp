@@ -88,24 +88,5 @@ RC_GTEST_PROP(NeedleLogic, barPointsToTheCourseLine, ()) {
     RC_ASSERT((reading.flag == FlagState::from) == ahead);
 }
 
-TEST(NeedleLogic, bearingsGoClockwiseFromTheTop) {
-    struct Bearing {
-        ChartPoint to;
-        double course, length;
-    };
-    const Bearing cases[] = {{{0, 50}, 0, 5},          {{0, -50}, 180, 5},
-                             {{0, 0}, 0, 0},           {{30, 0}, 90, 3},
-                             {{-30, 0}, 270, 3},       {{30, 30}, 45, 4.2426},
-                             {{30, -30}, 135, 4.2426}, {{-30, 30}, 315, 4.2426}};
-    for (const Bearing& c : cases) {
-        const Polar polar = VectorAngleLength(10, {0, 0}, c.to);
-        EXPECT_NEAR(polar.course, c.course, 1e-4);
-        EXPECT_NEAR(polar.distance, c.length, 1e-4);
-    }
-    const Point right = Rotate(90, {10, 10}, {10, 0});
-    EXPECT_NEAR(right.x, 20, 1e-6);
-    EXPECT_NEAR(right.y, 10, 1e-6);
-}
-
 } // namespace
 } // namespace tarnel

@@ -7,6 +7,7 @@
 #include <rapidcheck/gtest.h>
 
 #include <iterator>
+#include <map>
 
 namespace tarnel {
 namespace {
@@ -60,16 +61,6 @@ TEST(ChartReader, ReadsAGoodFileByteForByte) {
     EXPECT_EQ(chart.locCourse, 83);
 }
 
-TEST(ChartReader, LineEndsMakeNoDifference) {
-    const auto lines = sampleChartLines();
-    std::string text = joinLines(lines, lines.size(), "\n");
-    text.pop_back(); // and the last line may lack its own
-    const ChartFile chart = readChart(text);
-    EXPECT_FALSE(chart.problem);
-    EXPECT_EQ(chart.stations[0].frequency, "112.30");
-    EXPECT_EQ(chart.locCourse, 83);
-}
-
 TEST(ChartReader, KnowsEveryStateCode) {
     constexpr StationState vorStates[] = {
         {false, false, false}, {true, true, false},  {true, true, true},  {true, false, false},
@@ -110,12 +101,17 @@ TEST(ChartReader, TakesScalesFromHalfToFour) {
 
 TEST(ChartReader, GoesByPositionAndNotByTag) {
     auto lines = sampleChartLines();
+    lines[4] = ":n1id:,K\xD6LN@r";
     for (std::size_t i = 1; i < 16; ++i)
         lines[i].replace(0, 3, "zzz");
     lines.erase(lines.begin() + 16); // no scale: the next line is the latitude
-    const ChartFile chart = readChart(joinLines(lines, lines.size()));
+    std::string text = joinLines(lines, lines.size(), "\n");
+    text.pop_back(); // the last line may lack its end
+    const ChartFile chart = readChart(text);
     EXPECT_FALSE(chart.problem);
+    EXPECT_EQ(chart.stations[2].identifier, "KÖLN");
     EXPECT_EQ(chart.stations[4].identifier, "ILS EAST");
+    EXPECT_EQ(chart.locCourse, 83);
     EXPECT_FALSE(chart.mapScaleTwips);
     EXPECT_EQ(chart.aircraft, (GeoPosition{48.25, 11.5}));
 }
@@ -142,48 +138,18 @@ TEST(ChartReader, LabelCodesThatMeanNothingStandAbove) {
 }
 
 TEST(ChartReader, NamesTheLineWhereAFileIsTruncated) {
-    constexpr auto id = FileField::identifier;
-    constexpr auto freq = FileField::frequency;
-    constexpr auto lat = FileField::latitude;
-    constexpr auto lon = FileField::longitude;
+    const std::map<char, FileField> fields = {
+        {'i', FileField::identifier},     {'f', FileField::frequency},
+        {'s', FileField::stationState},   {'n', FileField::ndbState},
+        {'m', FileField::mapCentre},      {'a', FileField::latitude},
+        {'o', FileField::longitude},      {'h', FileField::heading},
+        {'c', FileField::localizerCourse}};
     // What line 17 holds is told by its tag, so without it the latitude is missed.
-    constexpr FileField missed[lineCount] = {
-        id,
-        freq,
-        id,
-        freq,
-        id,
-        freq,
-        id,
-        freq,
-        id,
-        freq,
-        FileField::stationState,
-        FileField::stationState,
-        FileField::ndbState,
-        FileField::ndbState,
-        FileField::stationState,
-        FileField::mapCentre,
-        lat,
-        lat,
-        lon,
-        FileField::heading,
-        lon,
-        lat,
-        lon,
-        lat,
-        lon,
-        lat,
-        lon,
-        lat,
-        lon,
-        lat,
-        FileField::localizerCourse,
-    };
+    const std::string missed = "ifififififssnnsmaaohoaoaoaoaoac";
     const auto lines = sampleChartLines();
     for (std::size_t kept = 1; kept < lineCount; ++kept) {
         const ChartFile chart = readChart(joinLines(lines, kept));
-        const FileProblem expected{static_cast<int>(kept) + 1, missed[kept], true};
+        const FileProblem expected{static_cast<int>(kept) + 1, fields.at(missed[kept]), true};
         EXPECT_EQ(chart.problem, expected) << kept;
         EXPECT_EQ(chart.stations[0].identifier, "ALB");
         EXPECT_EQ(chart.aircraft.has_value(), kept >= 19) << kept;
@@ -227,11 +193,6 @@ TEST(ChartReader, EncipheredFileReadsAsThePlainOne) {
               (FileProblem{4, FileField::key, false}));
     EXPECT_EQ(readChart(encipheredChart(chartWith(19, "east"))).problem,
               (FileProblem{23, FileField::longitude, false}));
-}
-
-TEST(ChartReader, TextsAreReadInEitherEncoding) {
-    for (const char* line : {":n1id:,K\xD6LN@r", ":n1id:,KÖLN@r"})
-        EXPECT_EQ(readChart(chartWith(5, line)).stations[2].identifier, "KÖLN");
 }
 
 TEST(ChartWriter, WritesEveryLineByteForByte) {
@@ -299,21 +260,6 @@ RC_GTEST_PROP(ChartWriter, SavedLoadedAndSavedAgainTheBytesAreTheSame, ()) {
     const std::string twice = writeChart(throughDegreesAndMinutes(readChart(once)), {});
     RC_ASSERT(twice == once);
     RC_ASSERT(writeChart(readChart(writeChart(readChart(once), 42)), {}) == once);
-}
-
-RC_GTEST_PROP(ChartReader, ChangedBytesNeverGiveAChartThatCannotBeFlown, ()) {
-    const auto lines = sampleChartLines();
-    std::string text = joinLines(lines, lines.size());
-    const int changes = *rc::gen::inRange(1, 12);
-    for (int i = 0; i < changes; ++i)
-        text[*rc::gen::inRange<std::size_t>(0, text.size())] =
-            *rc::gen::element('\0', '\n', '\r', '@', ':', '-', '9', '.', 'e', '"', '\xff');
-    const ChartFile chart = readChart(text);
-    if (chart.aircraft)
-        RC_ASSERT(std::abs(chart.aircraft->latitude) <= 89);
-    if (chart.mapScaleTwips)
-        RC_ASSERT(*chart.mapScaleTwips >= 125 && *chart.mapScaleTwips <= 1000);
-    RC_ASSERT(chart.problem || chart.locCourse);
 }
 
 } // namespace

@@ -281,6 +281,7 @@ TEST(SessionFile, WhatIsNoNumberIsWrittenSoThatTheRestCanBeRead) {
     session.samples[0].traceHeading = 5e-324;
     const SessionFile read = readSession(writeSession(session, {}));
     EXPECT_FALSE(read.problem);
+    EXPECT_EQ(read.mapCenterSelect, 1);
     EXPECT_EQ(read.samples.at(0).traceObsI2, 0);
     EXPECT_EQ(read.samples.at(0).traceHeading, 5e-324);
 }

@@ -323,15 +323,5 @@ TEST_F(FlightKeeperTest, ASituationSetUpByHandIsSavedAndFound) {
     }
 }
 
-TEST_F(FlightKeeperTest, PlacingTheAircraftDropsTheReference) {
-    fly(40);
-    saveAs("mine.ts");
-    load("mine.ts");
-    ASSERT_TRUE(sim().referenceReading.known);
-    sim().placeAircraft(ChartPoint{1000, 2000});
-    fly(10);
-    EXPECT_FALSE(sim().referenceReading.known);
-}
-
 } // namespace
 } // namespace tarnel

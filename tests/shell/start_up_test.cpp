@@ -13,7 +13,6 @@ TEST(StartUp, RestsPausedOnTheDefaultChart) {
     Form1& form = trainer.form;
     EXPECT_TRUE(trainer.world.boxes.empty());
     EXPECT_FALSE(form.simulationRuns());
-    EXPECT_EQ(form.UserControl11.c_TimerEN, 0);
     EXPECT_EQ(form.inst2.type, rmi);
     EXPECT_EQ(form.inst3.type, hsi);
     EXPECT_EQ(form.inst1.instrument.Display, rmi);
@@ -45,7 +44,9 @@ TEST(StartUp, ChartFrequenciesReachTheFaces) {
     Trainer trainer;
     trainer.sim().slot(Slot::vor2).frequency = "117.15";
     trainer.sim().slot(Slot::ndb1).frequency = "400";
+    trainer.sim().slot(Slot::localizer).frequency = "110.90";
     trainer.couple(1);
+    EXPECT_EQ(trainer.form.NAVControlFace1.c_Freq3.get(), "110.90");
     EXPECT_EQ(trainer.form.NAVControlFace1.c_Freq2.get(), "117.15");
     EXPECT_EQ(trainer.form.DMEControlFace1.c_Freq2.get(), "117.15");
     EXPECT_EQ(trainer.form.ADFControlFace1.c_Freq1.get(), "400");

@@ -2,12 +2,8 @@
 #include "window/chart/comment_card.h"
 #include "window/frame/instrument_panel.h"
 #include "window/student_fixture.h"
-#include "window/widgets/replay_bar.h"
 
-#include <QCheckBox>
 #include <QLabel>
-#include <QLineEdit>
-#include <gmock/gmock.h>
 
 namespace tarnel {
 namespace {
@@ -15,44 +11,12 @@ namespace {
 class CommentStudent : public Student {
   protected:
     QLabel& comment() { return find<QLabel>("Text2"); }
-    void write(const char* text) {
-        if (!findShown<QCheckBox>("WriteComments").isChecked())
-            click("WriteComments");
-        QTest::keyClicks(&findShown<QLineEdit>("Text8"), QString::fromLatin1(text));
-        click("CommentStart");
-    }
     QRect placeOf(QWidget& widget) { return {widget.mapTo(window.get(), QPoint()), widget.size()}; }
     template <class Widget>
     Widget& the() {
         return *window->findChild<Widget*>();
     }
 };
-
-TEST_F(CommentStudent, WritesACommentInFlightAndReadsItInTheReplay) {
-    open();
-    click("Command6");
-    fly(10);
-    write("Turn left now");
-    EXPECT_EQ(find("CommentStart").text(), "Stop");
-    fly(10);
-    click("CommentStart");
-    EXPECT_EQ(findShown<QLineEdit>("Text8").text(), "");
-    EXPECT_EQ(findShown<QLabel>("Label13").text(), "2");
-    fly(10);
-    click("Command6");
-    EXPECT_FALSE(comment().isVisible());
-
-    auto& bar = findShown<ReplayBar>("HScroll1");
-    bar.setValue(12);
-    settle();
-    ASSERT_TRUE(comment().isVisible());
-    EXPECT_EQ(comment().text(), "Turn left now");
-    EXPECT_GE(QFontInfo(comment().font()).pixelSize(), 15);
-    click("Command12");
-    bar.setValue(13);
-    settle();
-    EXPECT_FALSE(comment().isVisible());
-}
 
 // Comments come and go with the samples: nothing may move for it, and no instrument be covered.
 TEST_F(CommentStudent, ReadsACommentBelowTheChartWhileTheWindowKeepsStill) {
