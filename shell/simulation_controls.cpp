@@ -69,6 +69,7 @@ void Form1::enableControls() {
         for (FormControl* control : std::initializer_list<FormControl*>{
                  &links->typeList, &links->channelButton, &links->overlayBox, &links->radialBox})
             control->setEnabled(!fixed);
+    practicePanel.frame.setEnabled(resting);
     const bool free = resting && !exerciseUp;
     stationPage.edit.setEnabled(free);
     for (CommandButton* item : fileMenu.items())

@@ -187,6 +187,8 @@ TEST_F(QuizPanelTest, FliesTheQuestionAndComesBack) {
     press(Qt::Key_Return);
     EXPECT_TRUE(form->simulationRuns());
     EXPECT_EQ(inQuiz<QAbstractButton>("Command6").text(), "Stop SIM");
+    EXPECT_FALSE(inQuiz("ReplayClock").isVisible()) << "it would stand still";
+    EXPECT_FALSE(find<QWidget>("Frame2").isEnabled()) << "a flight is kept or called back at rest";
     fly(5);
     choose("Command7");
     EXPECT_FALSE(form->simulationRuns());
@@ -279,7 +281,7 @@ void expectWholeTexts(const QuizPanel& quiz, bool inOneLine, const std::string& 
 // Nothing is cut off or overlaps, fresh, judged, revealed or folded; the panel stays where it is.
 TEST_F(QuizPanelTest, HasRoomForEveryFrame) {
     for (const StringTable* texts : {&germanTable(), &englishTable()})
-        for (const QSize size : {QSize(980, 660), QSize(1024, 768), QSize(1280, 800)})
+        for (const QSize size : {QSize(960, 540), QSize(1024, 768), QSize(1280, 800)})
             for (const Item item : {Item::adfPosition, Item::qdm, Item::hsiPosition,
                                     Item::hsiHolding, Item::wind, Item::orientation}) {
                 const std::string where = " " + std::to_string(static_cast<int>(item)) + " at " +

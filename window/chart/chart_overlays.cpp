@@ -32,6 +32,7 @@ constexpr double plateOpacity = 0.85;
 constexpr double lampsWidth = 152;
 constexpr double lampsHeight = 34;
 constexpr double lampsGap = 6; ///< above the scale bar
+constexpr double smallestSideWithLamps = 250;
 
 constexpr double arrowHalfLength = 13;
 constexpr double arrowHalfWidth = 6;
@@ -196,6 +197,8 @@ void paintScaleBar(QPainter& painter, const ChartFrame& frame, const ScaleBar& s
 
 QRectF lampsPlate(const ChartFrame& frame) {
     const double scale = frame.textScale;
+    if (frame.side < smallestSideWithLamps * scale)
+        return {};
     const double scaleBar = barPadding + barHeight + numbersHeight;
     const QSizeF size(lampsWidth * scale, lampsHeight * scale);
     return {QPointF(look::overlayInset, frame.side - look::overlayInset -

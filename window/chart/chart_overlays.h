@@ -30,7 +30,8 @@ struct ScaleBar {
 void paintScaleBar(QPainter& painter, const ChartFrame& frame, const ScaleBar& scale,
                    const QString& unit);
 
-/// Where the lamps of the reference stand: above the scale bar.
+/// Where the lamps of the reference stand: above the scale bar. Empty on a chart that is too small
+/// for them.
 [[nodiscard]] QRectF lampsPlate(const ChartFrame& frame);
 
 /// What the north arrow covers.

@@ -128,6 +128,7 @@ void CommentCard::refresh() {
     mark->setVisible(written && form.commentPanel.mark.visible());
     writer->setVisible(writes);
     practice->setVisible(form.practicePanel.frame.visible());
+    practice->setEnabled(form.practicePanel.frame.enabled());
     const QString spoken =
         textOf(form.texts, Text::comment) + QStringLiteral(": ") + comment->text();
     if (written && place->accessibleName() != spoken)

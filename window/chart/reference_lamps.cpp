@@ -51,9 +51,8 @@ ReferenceLamps::ReferenceLamps(const UserControl2& simulation, const StringTable
 
 void ReferenceLamps::refresh() {
     const ReferenceReading& reading = sim.referenceReading;
-    if (reading.known == isHidden())
-        setVisible(reading.known);
-    if (!reading.known)
+    setVisible(reading.known && width() > 0);
+    if (isHidden())
         return;
     const QString spoken = textOf(texts, Text::referenceTrack) + QLatin1Char(' ') +
                            QString::number(reading.distance, 'f', 1) + QLatin1Char(' ') +

@@ -12,6 +12,8 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace tarnel {
 
 namespace {
@@ -59,8 +61,9 @@ QBoxLayout* QuizFlightBar::makeReplayRow(FormBinding& binding) {
     keepPlace(*bar);
     binding.bind(form.replayPage.bar, *bar);
     row->addWidget(bar, 1);
-    auto* clock = new QLabel(this);
+    clock = new QLabel(this);
     clock->setProperty("secondary", true);
+    keepPlace(*clock);
     binding.bind(form.replayPage.clock, *clock);
     row->addWidget(clock);
     backButton = new QPushButton(this);
@@ -84,14 +87,23 @@ void QuizFlightBar::follow() {
     const QColor ink = form.startButton.enabled() ? Qt::white : look::secondaryInk;
     startButton->setIcon(signIcon(sign, ink));
     startButton->setVisible(form.QAform1.c_QAFly > 0);
+    clock->setVisible(form.replayPage.bar.visible());
 }
 
 int QuizFlightBar::heightIn(int width) {
-    placeSpeeds(form.QAform1.c_QAFly > 0 || width < roomForSpeeds * quiz::scaleOf(*this));
-    // While it is hidden nobody tells its rows what has become empty.
-    for (QLayout* each : std::initializer_list<QLayout*>{flightRow, replayRow, layout()})
-        each->invalidate();
-    return sizeHint().height();
+    const bool starts = form.QAform1.c_QAFly > 0;
+    placeSpeeds(starts || width < roomForSpeeds * quiz::scaleOf(*this));
+    const QWidget& first = starts ? *static_cast<QWidget*>(startButton) : *speeds;
+    return briefHeight() + (speedsBesideStart ? rowGap + first.sizeHint().height() : 0);
+}
+
+/// Said by its tallest parts: a layout that is hidden does not notice what has become empty.
+int QuizFlightBar::briefHeight() const {
+    return std::max(backButton->sizeHint().height(), speeds->sizeHint().height());
+}
+
+void QuizFlightBar::setBrief(bool brief) {
+    speeds->setVisible(!brief);
 }
 
 void QuizFlightBar::placeSpeeds(bool besideStart) {

@@ -20,8 +20,13 @@ class QuizFlightBar : public QWidget {
   public:
     QuizFlightBar(Form1& form, FormBinding& binding, QWidget* parent);
 
-    /// The height that it takes at a width.
+    /// The height that it takes at a width, with the speeds.
     [[nodiscard]] int heightIn(int width);
+    /// The height without the speeds.
+    [[nodiscard]] int briefHeight() const;
+    /// Leaves the speeds out, or takes them in again: a low window has no room for them beside a
+    /// solution.
+    void setBrief(bool brief);
     /// What the student uses first: start in his own flight, else the way back.
     [[nodiscard]] QWidget* firstControl() const;
 
@@ -36,6 +41,7 @@ class QuizFlightBar : public QWidget {
     QBoxLayout* flightRow = nullptr;
     QBoxLayout* replayRow = nullptr;
     QWidget* speeds = nullptr;
+    QLabel* clock = nullptr;
     bool speedsBesideStart = true;
     QPushButton* startButton = nullptr;
     QPushButton* backButton = nullptr;

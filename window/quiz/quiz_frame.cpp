@@ -199,7 +199,7 @@ int QuizFrame::wantedHeight(int width) const {
 int QuizFrame::watchedHeight(int frameWidth) const {
     const int width = frameWidth - 2 * scaled(inset);
     const int gap = scaled(partGap);
-    int top = arrangeHeader(scaled(inset - 2), width, false) + gap;
+    int top = arrangeHeader(scaled(inset - 2), width, false, true) + gap;
     top = arrangeTexts(top, width, false);
     for (const QuizRow* row : questions)
         if (row->asked())
@@ -207,13 +207,21 @@ int QuizFrame::watchedHeight(int frameWidth) const {
     return top + gap + flightBar->heightIn(width) + gap + buttonHeight() + scaled(inset);
 }
 
+/// In a window too low for all of it the speeds of a replay and the statistic give way.
 int QuizFrame::arrange(QSize size, bool placing) const {
     const int width = size.width() - 2 * scaled(inset);
     const int gap = scaled(partGap);
-    int top = arrangeHeader(scaled(inset - 2), width, placing) + gap;
+    const bool cramped = placing && arrange(size, false) > size.height();
+    const bool counts = !cramped || !boxBesideButtons(width);
+    int top = arrangeHeader(scaled(inset - 2), width, placing, counts) + gap;
     top = arrangeTexts(top, width, placing);
     const int bottom = size.height() - scaled(inset) - buttonHeight();
-    const int forBar = hasBar() ? flightBar->heightIn(width) : 0;
+    const bool brief = cramped && !flown;
+    if (placing && flightBar)
+        flightBar->setBrief(brief);
+    const int forBar = !hasBar() ? 0
+                       : brief   ? flightBar->briefHeight()
+                                 : flightBar->heightIn(width);
     const int bar = forBar > 0 ? forBar + gap : 0;
     if (!flown)
         top = arrangeRows(top, width, bottom - bar, placing);
@@ -227,16 +235,16 @@ int QuizFrame::arrange(QSize size, bool placing) const {
     return top + buttonHeight() + scaled(inset);
 }
 
-int QuizFrame::headerWidth() const {
-    return title->sizeHint().width() + scaled(titleGap) + place->sizeHint().width() +
-           scaled(statisticGap) + statistic->sizeHint().width();
+int QuizFrame::headerWidth(bool counts) const {
+    const int forStatistic = counts ? scaled(statisticGap) + statistic->sizeHint().width() : 0;
+    return title->sizeHint().width() + scaled(titleGap) + place->sizeHint().width() + forStatistic;
 }
 
-/// Title and statistic in one line, or in two where that is too long. The box for random order
-/// stands in the second line if the buttons leave it no room.
-int QuizFrame::arrangeHeader(int top, int width, bool placing) const {
+/// Title and, if it `counts`, statistic in one line, or in two where that is too long. The box for
+/// random order stands in the second line if the buttons leave it no room.
+int QuizFrame::arrangeHeader(int top, int width, bool placing, bool counts) const {
     const bool beside = boxBesideButtons(width);
-    const bool oneLine = beside && headerWidth() <= width;
+    const bool oneLine = beside && headerWidth(counts) <= width;
     const int left = scaled(inset);
     const int tall = title->sizeHint().height();
     const int below =
@@ -245,6 +253,7 @@ int QuizFrame::arrangeHeader(int top, int width, bool placing) const {
     const int bottom = oneLine ? top + tall : second + below;
     if (!placing)
         return bottom + scaled(3);
+    statistic->setVisible(counts);
     title->setGeometry(left, top, title->sizeHint().width(), tall);
     place->setGeometry(left + title->width() + scaled(titleGap), top, place->sizeHint().width(),
                        tall);
@@ -293,8 +302,9 @@ int QuizFrame::promptWidth(int width) const {
     const int besideLines = width - inLine - scaled(inset);
     const int besideBroken = width - broken - scaled(inset);
     const int twoLines = qRound(twoLineShare * prompts);
-    return std::min(prompts,
-                    besideLines >= twoLines ? besideLines : std::min(besideBroken, twoLines));
+    const int least = watched ? qRound(quiz::leastPromptShare * width) : 0;
+    const int beside = besideLines >= twoLines ? besideLines : std::min(besideBroken, twoLines);
+    return std::min(prompts, std::max(least, beside));
 }
 
 /// What is left of the height is spread between the rows.

@@ -67,12 +67,12 @@ class QuizFrame : public QWidget {
     /// Places everything in a card of `size`, or only measures. The height that is needed.
     int arrange(QSize size, bool place) const;
     [[nodiscard]] int watchedHeight(int frameWidth) const;
-    int arrangeHeader(int top, int width, bool place) const;
+    int arrangeHeader(int top, int width, bool place, bool counts) const;
     int arrangeTexts(int top, int width, bool place) const;
     int arrangeRows(int top, int width, int bottom, bool place) const;
     void placeButtons(int top, int width) const;
     [[nodiscard]] int promptWidth(int width) const;
-    [[nodiscard]] int headerWidth() const;
+    [[nodiscard]] int headerWidth(bool counts) const;
     [[nodiscard]] int buttonsWidth() const;
     [[nodiscard]] int buttonHeight() const;
     [[nodiscard]] bool boxBesideButtons(int width) const;

@@ -253,8 +253,10 @@ int QuizRow::brokenAnswersWidth() const {
     return roomFor(widgetsWidth(&QuizOption::brokenWidth));
 }
 
+/// A prompt keeps its part of the row beside the longest verdicts.
 int QuizRow::promptPart(int width, int wanted) const {
-    return std::min(wanted, width - brokenAnswersWidth() - scaled(columnGap));
+    const int least = compact ? qRound(quiz::leastPromptShare * width) : 0;
+    return std::min(wanted, std::max(least, width - brokenAnswersWidth() - scaled(columnGap)));
 }
 
 int QuizRow::rowHeight() const {

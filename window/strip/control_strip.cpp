@@ -25,7 +25,7 @@ namespace tarnel {
 
 namespace {
 
-constexpr int rowGap = 5;
+constexpr int rowGap = 3;
 constexpr int tabPadding = 16;
 
 /// Narrower strips do without the words before the speeds and the read-outs.

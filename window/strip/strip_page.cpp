@@ -10,7 +10,7 @@ namespace tarnel {
 namespace {
 
 constexpr int gapInLine = 8;
-constexpr int gapDown = 3;
+constexpr int gapDown = 2;
 constexpr int gapBetweenBoxes = 1;
 
 } // namespace
