@@ -45,7 +45,7 @@ bool InstrumentMouse::usable(InstrumentArea area) const {
         return false;
     if (area == InstrumentArea::headingBug)
         return instrument.picture.Line17to23.front().visible;
-    return area == InstrumentArea::card && instrument.showsCourse();
+    return area == InstrumentArea::card && instrument.turnsCourse();
 }
 
 bool InstrumentMouse::onNumeral(Point at) const {

@@ -29,6 +29,7 @@ void UserControl_1::switchDisplay() {
     if (const auto shown = kind())
         square = CardSquare(picture.size, cardScaleOf(*shown));
     lastAngle = -1;
+    lockKnobs();
     Initialize_Display();
     UpdateInstrument();
 }
@@ -38,8 +39,10 @@ void UserControl_1::resize() {
 }
 
 void UserControl_1::lockKnobs() {
-    for (KnobArea* knob : {&picture.Image2, &picture.Image3, &picture.Image4})
-        picture.surface.set(knob->enabled, c_DisableKnobs != 0);
+    const bool free = c_DisableKnobs != 0;
+    picture.surface.set(picture.Image2.enabled, free);
+    picture.surface.set(picture.Image3.enabled, free);
+    picture.surface.set(picture.Image4.enabled, free && (turnsCourse() || !showsCourse()));
 }
 
 void UserControl_1::loadBackground() {

@@ -51,6 +51,11 @@ class UserControl_1 {
     [[nodiscard]] bool showsCourse() const {
         return is(InstrumentKind::vor) || is(InstrumentKind::hsi);
     }
+    /// Whether the hand may turn that course. The arrow of an HSI on a localizer shows the
+    /// localizer's, and one that is not seen is not turned.
+    [[nodiscard]] bool turnsCourse() const {
+        return showsCourse() && !(is(InstrumentKind::hsi) && c_LOCEN < 0);
+    }
 
     /// Shows a message box. May be empty.
     std::function<void(const std::string&)> showMessage;
@@ -73,7 +78,7 @@ class UserControl_1 {
     Property<std::string> c_LabelText4{properties, "c_LabelText4", "0"};
     Property<std::string> c_LabelText5{properties, "c_LabelText5", "0"};
     Property<std::string> c_LabelText6{properties, "c_LabelText6", "0"};
-    Property<double> c_LOCEN{properties, "c_LOCEN"};
+    Property<double> c_LOCEN{properties, "c_LOCEN", 0, [this] { lockKnobs(); }};
     Property<double> c_OBS_x{properties, "c_OBS_x", 0, [this] { UpdateInstrument(); }};
     Property<std::string> Picture{properties, "Picture"};
     Property<std::int16_t> c_Large{properties, "c_Large", 0, [this] { resize(); }};

@@ -228,5 +228,25 @@ TEST(InstrumentMouse, hiddenKnobsTakeNoMouse) {
     EXPECT_EQ(dg.mouse.down(obsKnob), InstrumentArea::none);
 }
 
+// Its arrow stands on the localizer's course; the VOR indicator's card still shows the one turned.
+TEST(InstrumentMouse, aCourseThatALocalizerHidesIsNotTurned) {
+    for (const auto& [kind, turns] :
+         {std::pair{InstrumentKind::hsi, false}, {InstrumentKind::vor, true}}) {
+        PanelInstrument instrument(kind);
+        instrument.mouse.down(obsKnob);
+        instrument.c_LOCEN = -8.5;
+        instrument.mouse.move(besides(obsKnob, 400), MouseButton::left);
+        instrument.mouse.up(obsKnob);
+        EXPECT_EQ(instrument.c_OBSKnobchange, turns) << "held already";
+        instrument.mouse.stepKnob(InstrumentArea::obsKnob, 1);
+        instrument.mouse.click(instrument.picture.Label1[3].anchor);
+        EXPECT_EQ(instrument.c_OBSKnobchange, turns);
+        EXPECT_EQ(instrument.picture.Image4.enabled, turns);
+        instrument.c_LOCEN = 0;
+        instrument.mouse.click(instrument.picture.Label1[3].anchor);
+        EXPECT_EQ(instrument.c_OBSKnobchange, 1);
+    }
+}
+
 } // namespace
 } // namespace tarnel

@@ -33,13 +33,26 @@ class HeldMouse : public Student {
                     QApplication::processEvents();
                 },
                 [](QWidget& widget) {
-                    QEvent away(QEvent::WindowDeactivate);
-                    QApplication::sendEvent(widget.window(), &away);
-                },
-                [](QWidget& widget) {
                     widget.hide();
                     widget.show();
-                }};
+                },
+                [](QWidget& widget) {
+                    widget.setEnabled(false);
+                    widget.setEnabled(true);
+                },
+                [](QWidget& widget) { // the button came up elsewhere
+                    QMouseEvent move(QEvent::MouseMove, QPointF(1, 1), QPointF(1, 1), Qt::NoButton,
+                                     Qt::NoButton, {});
+                    QApplication::sendEvent(&widget, &move);
+                },
+                [](QWidget& widget) { tell(*widget.window(), QEvent::WindowDeactivate); },
+                [](QWidget& widget) { tell(widget, QEvent::FocusOut); },
+                [](QWidget& widget) { tell(widget, QEvent::UngrabMouse); }};
+    }
+    static void tell(QWidget& widget, QEvent::Type type) {
+        QFocusEvent away(QEvent::FocusOut, Qt::OtherFocusReason);
+        QEvent other(type);
+        QApplication::sendEvent(&widget, type == QEvent::FocusOut ? &away : &other);
     }
 };
 
@@ -49,7 +62,9 @@ TEST_F(HeldMouse, LostWithoutAReleaseEndsRatesAndDrags) {
     auto& hsi = find<InstrumentView>("UserControl13_1");
     auto& chart = *window->findChild<ChartView*>();
     auto& receiver = *find<NavModule>("NAVControlFace1").findChild<KnobWidget*>();
+    int way = 0;
     for (const auto& lose : losses()) {
+        SCOPED_TRACE(way++);
         form->APControlFace1.c_TAS = 120;
         holdAndMove(speed, {20, 20}, 40);
         form->autopilotTimer();

@@ -214,8 +214,11 @@ TEST(NavModuleTest, WheelKeysClickAndDragStepTheFrequency) {
     EXPECT_EQ(knob.valueText(), "116.25");
     QTest::keyClick(&knob, Qt::Key_Down);
     EXPECT_EQ(face.c_SetFreq, 0);
-    QTest::mouseClick(&knob, Qt::LeftButton, {}, knob.rect().center());
-    EXPECT_EQ(face.c_SetFreq, 1);
+    QTest::mousePress(&knob, Qt::LeftButton, {}, knob.rect().center());
+    EXPECT_EQ(face.c_SetFreq, 0);
+    QTest::mouseRelease(&knob, Qt::LeftButton, {}, knob.rect().center());
+    QTest::mouseClick(&knob, Qt::RightButton, {}, knob.rect().center());
+    EXPECT_EQ(face.c_SetFreq, 1) << "on the release of the left button alone";
     dragRight(knob, {4, knob.height() / 2}, 50, Qt::LeftButton); // 750 twips from its rim
     EXPECT_EQ(face.c_SetFreq, 2);
     dragRight(knob, knob.rect().center(), 100, Qt::LeftButton); // and from its middle

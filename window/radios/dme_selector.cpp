@@ -176,9 +176,10 @@ void DmeSelector::mouseMoveEvent(QMouseEvent* event) {
     change([this, at] { face.selectorMove(at); });
 }
 
-void DmeSelector::mouseReleaseEvent(QMouseEvent* /*event*/) {
+void DmeSelector::mouseReleaseEvent(QMouseEvent* event) {
+    const bool mayClick = event->button() == Qt::LeftButton;
     hold.end();
-    change([this] { face.selectorUp(); });
+    change([this, mayClick] { mayClick ? face.selectorUp() : face.selectorLost(); });
 }
 
 } // namespace tarnel

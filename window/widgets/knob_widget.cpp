@@ -95,14 +95,17 @@ void KnobWidget::mouseReleaseEvent(QMouseEvent* event) {
     hold.end();
     show(&KnobLook::pressed, false);
     show(&KnobLook::hovered, rect().contains(event->position().toPoint()));
-    if (release)
-        release();
+    endPress(event->button() == Qt::LeftButton);
 }
 
 void KnobWidget::letGo() {
     show(&KnobLook::pressed, false);
     show(&KnobLook::hovered, false);
-    if (lost)
+    endPress(false);
+}
+
+void KnobWidget::endPress(bool mayClick) {
+    if (lost && !mayClick)
         lost();
     else if (release)
         release();

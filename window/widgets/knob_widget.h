@@ -38,7 +38,9 @@ class KnobWidget : public QWidget {
     std::function<void(Point)> press;
     std::function<void(Point, MouseButton)> move;
     std::function<void()> release;
-    std::function<void()> lost; ///< the mouse was taken away; without this call a release
+    /// The mouse was taken away, or another button than the left one came up: no click. Without
+    /// this call a release.
+    std::function<void()> lost;
     std::function<void()> doubleClick;
     std::function<void(int)> step; ///< by wheel and keys
 
@@ -68,6 +70,7 @@ class KnobWidget : public QWidget {
     }
     void paintScale(QPainter& painter) const;
     void letGo();
+    void endPress(bool mayClick);
 
     PictureStore& pictures;
     KnobLook knob;

@@ -14,6 +14,8 @@ void MouseHold::begin() {
     window = widget.window();
     widget.installEventFilter(this);
     window->installEventFilter(this);
+    tracked = widget.hasMouseTracking();
+    widget.setMouseTracking(true); // else a move without a button does not come
 }
 
 void MouseHold::end() {
@@ -21,6 +23,7 @@ void MouseHold::end() {
         return;
     widget.removeEventFilter(this);
     window->removeEventFilter(this);
+    widget.setMouseTracking(tracked);
     window = nullptr;
 }
 

@@ -31,6 +31,7 @@ class MouseHold : public QObject {
     QWidget& widget;
     std::function<void()> onLost;
     QObject* window = nullptr; ///< of the widget, while it holds the mouse
+    bool tracked = false;      ///< it has moves without a button, too, while it does not
 };
 
 } // namespace tarnel
