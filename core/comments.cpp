@@ -15,7 +15,7 @@ const std::string& Comments::text(int index) const {
 
 void Comments::setText(int index, std::string text_) {
     if (text(index) != text_)
-        ++changeCount;
+        changeCount.note();
     const_cast<std::string&>(text(index)) = std::move(text_);
     free = std::max(free, static_cast<std::int16_t>(index + 1));
 }
@@ -26,9 +26,15 @@ void Comments::reuse() {
 }
 
 void Comments::clear() {
-    const std::uint64_t changesNow = changeCount + 1;
-    *this = Comments{};
-    changeCount = changesNow;
+    goBackTo(Comments{});
+    changeCount.note();
+}
+
+void Comments::goBackTo(const Comments& earlier) {
+    ChangeCount counted = changeCount;
+    counted.goBackTo(earlier.changeCount);
+    *this = earlier;
+    changeCount = counted;
 }
 
 std::string Comments::shownText(std::int16_t index) const {

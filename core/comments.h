@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/change_count.h"
+
 #include <array>
 #include <cstdint>
 #include <string>
@@ -28,8 +30,10 @@ class Comments {
     void clear();
     /// Takes the marking back to the first entry: all are free again, and keep their texts.
     void reuse();
-    /// A number that grows with every change of a text.
-    [[nodiscard]] std::uint64_t changes() const { return changeCount; }
+    /// What it held earlier is there again.
+    void goBackTo(const Comments& earlier);
+    /// Numbers the texts: see `ChangeCount`.
+    [[nodiscard]] std::uint64_t changes() const { return changeCount.value(); }
 
     std::int16_t commentCount = 0;                 ///< the entry being written: the next free one
     std::int16_t currentCommentIndex = noComment;  ///< the comment of the present sample
@@ -39,7 +43,7 @@ class Comments {
   private:
     std::array<std::string, count> texts;
     std::int16_t free = 0;
-    std::uint64_t changeCount = 0;
+    ChangeCount changeCount;
 };
 
 } // namespace tarnel

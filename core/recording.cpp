@@ -23,7 +23,7 @@ const Sample& Recording::at(int index) const {
 }
 
 Sample& Recording::edit(int index) {
-    ++changeCount;
+    changeCount.note();
     return const_cast<Sample&>(at(index));
 }
 
@@ -36,7 +36,7 @@ void Recording::setNewest(std::int16_t index) {
     if (index < newest)
         giveUp();
     if (index != newest)
-        ++changeCount;
+        changeCount.note();
     newest = index;
 }
 
@@ -45,6 +45,14 @@ bool Recording::tickIsSample() {
     if (++sampleTick > ticksPerSecond)
         sampleTick = 0;
     return sampleTick == ticksPerSecond;
+}
+
+void Recording::goBackTo(const Recording& earlier) {
+    giveUp();
+    samples = earlier.samples;
+    newest = earlier.newest;
+    sampleTick = earlier.sampleTick;
+    changeCount.goBackTo(earlier.changeCount);
 }
 
 BufferWarning Recording::advance() {
@@ -60,7 +68,7 @@ void Recording::clear() {
     giveUp();
     std::fill(samples.begin(), samples.end(), Sample{});
     newest = 0;
-    ++changeCount;
+    changeCount.note();
 }
 
 void Recording::write(const Sample& sample, std::int16_t comment) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/change_count.h"
 #include "core/comments.h"
 #include "core/geo_position.h"
 #include "core/stations.h"
@@ -65,8 +66,8 @@ class Recording {
     [[nodiscard]] const Sample& at(int index) const;
     /// The same sample to be changed.
     [[nodiscard]] Sample& edit(int index);
-    /// A number that grows with every change of what is recorded.
-    [[nodiscard]] std::uint64_t changes() const { return changeCount; }
+    /// Numbers what is recorded: see `ChangeCount`.
+    [[nodiscard]] std::uint64_t changes() const { return changeCount.value(); }
 
     /// Called before samples are lost, while all of them are still there. Every way of losing them
     /// comes by here.
@@ -94,6 +95,9 @@ class Recording {
     /// east, without heading, times and comment.
     void cutAfter(std::int16_t index);
 
+    /// What it held earlier is there again, in the place of what it holds.
+    void goBackTo(const Recording& earlier);
+
     /// Makes sample `index` the newest.
     void setNewest(std::int16_t index);
 
@@ -104,7 +108,7 @@ class Recording {
     std::vector<Sample> samples;
     std::int16_t newest = 1;
     std::int16_t sampleTick = 0;
-    std::uint64_t changeCount = 0;
+    ChangeCount changeCount;
 };
 
 } // namespace tarnel

@@ -13,6 +13,14 @@ namespace tarnel {
 /// What the next start does with the recording: nothing, clear it, or cut it at the sample shown.
 enum class ResumeMode { goOn, clear, cut };
 
+/// Tells the states of the flight in memory apart; one that is brought back has its own again.
+struct FlightVersion {
+    std::uint64_t recording = 0; ///< counts of changes
+    std::uint64_t comments = 0;
+    std::uint64_t stations = 0;
+    bool operator==(const FlightVersion&) const = default;
+};
+
 /// A whole flight as it lies in memory, with all that a placed aircraft ends.
 struct FlightInMemory {
     Recording recording;
@@ -35,6 +43,7 @@ struct FlightInMemory {
     std::string currentComment;
     std::string sessionFileName;
     std::string sessionNamedByUser;
+    FlightVersion versionInFile;
 };
 
 } // namespace tarnel

@@ -46,11 +46,8 @@ const HandStep* HandHistory::undo() {
     return step;
 }
 
-const HandStep* HandHistory::redo() {
-    const HandStep* step = redoable();
-    if (step)
-        ++done;
-    return step;
+HandStep* HandHistory::redo() {
+    return redoable() ? &steps[done++] : nullptr;
 }
 
 void HandHistory::forgetUndone() {

@@ -63,7 +63,7 @@ class HandHistory {
     [[nodiscard]] const HandStep* redoable() const;
     /// Moves over a step, which the caller brings about; null if there is none.
     const HandStep* undo();
-    const HandStep* redo();
+    HandStep* redo();
 
     /// Forgets the steps that were taken back.
     void forgetUndone();

@@ -34,10 +34,14 @@ HandStep UserControl2::beginStep(Deed deed, Slot slot) const {
     step.deed = deed;
     step.slot = slot;
     step.before = handState();
-    if (deed == Deed::placeAircraft && resumeMode != ResumeMode::clear &&
-        recording.sampleIndex() > 1)
-        step.flight = std::make_shared<const FlightInMemory>(flightInMemory());
+    if (deed == Deed::placeAircraft)
+        step.flight = flightThatEnds();
     return step;
+}
+
+/// The flight that the next place of the aircraft ends; null if there is none.
+std::shared_ptr<const FlightInMemory> UserControl2::flightThatEnds() const {
+    return flown() ? std::make_shared<const FlightInMemory>(flightInMemory()) : nullptr;
 }
 
 bool UserControl2::finishStep(HandStep step) {
@@ -86,9 +90,11 @@ void UserControl2::putBack(const HandStep& step) {
 
 bool UserControl2::redo() {
     mouse.cancel();
-    const HandStep* step = stopped() ? history.redo() : nullptr;
+    HandStep* step = stopped() ? history.redo() : nullptr;
     if (!step)
         return false;
+    if (step->flight)
+        step->flight = flightThatEnds(); // it may have changed since
     bringAbout(*step, step->after);
     if (step->deed == Deed::moveStation && !step->recorded.empty()) {
         const auto station = static_cast<std::size_t>(step->slot);
@@ -137,16 +143,32 @@ void UserControl2::putBackStation(const HandStep& step) {
 }
 
 FlightInMemory UserControl2::flightInMemory() const {
-    return {recording,     comments,         reference,         referenceReading,  clock,
-            resumeMode,    replaySample,     c_TraceBufferMax,  c_FlyEN,           c_replayInstLock,
-            c_RepeatValue, c_ApMinutes,      c_ApSeconds,       c_ApHours2,        c_ApMinutes2,
-            c_ApSeconds2,  c_CurrentComment, c_SessionFileName, sessionNamedByUser};
+    return {recording,
+            comments,
+            reference,
+            referenceReading,
+            clock,
+            resumeMode,
+            replaySample,
+            c_TraceBufferMax,
+            c_FlyEN,
+            c_replayInstLock,
+            c_RepeatValue,
+            c_ApMinutes,
+            c_ApSeconds,
+            c_ApHours2,
+            c_ApMinutes2,
+            c_ApSeconds2,
+            c_CurrentComment,
+            c_SessionFileName,
+            sessionNamedByUser,
+            versionInFile};
 }
 
 /// The flight that a placed aircraft has ended is there again, as if nothing had happened.
 void UserControl2::putBackFlight(const FlightInMemory& flight, const SplitPosition& place) {
-    recording = flight.recording;
-    comments = flight.comments;
+    recording.goBackTo(flight.recording);
+    comments.goBackTo(flight.comments);
     reference = flight.reference;
     referenceReading = flight.referenceReading;
     clock = flight.clock;
@@ -164,6 +186,7 @@ void UserControl2::putBackFlight(const FlightInMemory& flight, const SplitPositi
     c_CurrentComment.setIfChanged(flight.currentComment);
     c_SessionFileName.setIfChanged(flight.sessionFileName);
     sessionNamedByUser = flight.sessionNamedByUser;
+    versionInFile = flight.versionInFile;
     aircraft.placeAt(place);
     view.placeAircraft(aircraft);
     redrawTrace();

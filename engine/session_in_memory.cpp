@@ -43,8 +43,8 @@ SessionFile UserControl2::session() const {
     return session;
 }
 
-std::uint64_t UserControl2::flightVersion() const {
-    return recording.changes() + comments.changes() + stationChanges;
+FlightVersion UserControl2::flightVersion() const {
+    return {recording.changes(), comments.changes(), stationChanges};
 }
 
 bool UserControl2::flightUnsaved() const {

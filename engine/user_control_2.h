@@ -88,8 +88,7 @@ class UserControl2 {
     [[nodiscard]] std::string sessionBytes();
     /// Takes a flight that has no file of its own, as a session that the user opened.
     void takeFlight(const SessionFile& flight, const ReferenceTrack& track);
-    /// A number that grows with every change of the flight in memory.
-    [[nodiscard]] std::uint64_t flightVersion() const;
+    [[nodiscard]] FlightVersion flightVersion() const;
     /// Whether a flight was recorded or changed that no file of the user's has as it is now.
     [[nodiscard]] bool flightUnsaved() const;
     /// Saves the flight aside, as a `c_saveSession` of 3 does. False, with a box, if that failed.
@@ -351,6 +350,7 @@ class UserControl2 {
     std::vector<std::pair<std::int16_t, GeoPosition>> recordStation(Slot slot);
     void putBackStation(const HandStep& step);
     [[nodiscard]] FlightInMemory flightInMemory() const;
+    [[nodiscard]] std::shared_ptr<const FlightInMemory> flightThatEnds() const;
     void putBackFlight(const FlightInMemory& flight, const SplitPosition& place);
 
     void moveAircraft();
@@ -388,7 +388,7 @@ class UserControl2 {
     std::string chartNamedByUser; ///< the path that a save may overwrite unasked
     std::string sessionNamedByUser;
     std::uint64_t stationChanges = 0; ///< of names, frequencies and places
-    std::uint64_t versionInFile = 0;  ///< the `flightVersion` that was loaded or saved last
+    FlightVersion versionInFile;      ///< the `flightVersion` that was loaded or saved last
     bool secretPlace = false;
     Wind lastWind;
     bool chanceWindTold = true;

@@ -141,6 +141,7 @@ void Form1::leaveExercise() {
         UserControl11.c_HscrollRepeatValue = 1;
     followReplayBar();
     pushPanelState();
+    replayIndex = 0;
     replayPage.lock.set(0);
     UserControl11.c_TrackDelta = 0;
     UserControl11.c_SessionFileName = UserControl11.newSessionName;

@@ -32,7 +32,7 @@ void FlightKeeper::useShelf(const std::string& folder) {
 }
 
 bool FlightKeeper::worthKeeping() const {
-    const std::uint64_t version = sim.flightVersion();
+    const FlightVersion version = sim.flightVersion();
     const auto samples = static_cast<std::size_t>(sim.recording.sampleIndex());
     return shelf && sim.flightUnsaved() && version != keptVersion &&
            secondsOfSamples(samples) >= leastSeconds;
@@ -81,7 +81,7 @@ void FlightKeeper::keepCopy() {
         return;
     finishCopy();
     writeWaiting();
-    const std::uint64_t version = sim.flightVersion();
+    const FlightVersion version = sim.flightVersion();
     if (!worthKeeping() || version == copiedVersion)
         return;
     copiedVersion = version;
@@ -103,7 +103,7 @@ void FlightKeeper::finishCopy() {
     const auto failure = copying->end.get();
     copying.reset();
     if (failure) {
-        copiedVersion = 0;
+        copiedVersion = FlightVersion{};
         tell(*failure);
     } else if (allWritten()) {
         failureTold = false;

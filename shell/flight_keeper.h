@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/run_time_error.h"
+#include "engine/flight_in_memory.h"
 #include "persistence/flight_shelf.h"
 #include "shell/outside_world.h"
 
@@ -73,8 +74,8 @@ class FlightKeeper {
     std::unique_ptr<FlightShelf> shelf;
     std::vector<ShelvedFlight> unwritten; ///< the oldest first
     std::optional<ShelvedFlight> offered;
-    std::uint64_t keptVersion = 0;              ///< the `flightVersion` that was put aside last
-    std::optional<std::uint64_t> copiedVersion; ///< the one that the copy has; 0 if that is unknown
+    std::optional<FlightVersion> keptVersion;   ///< the `flightVersion` that was put aside last
+    std::optional<FlightVersion> copiedVersion; ///< the one of the copy; {} if that is unknown
     struct Writing;
     std::unique_ptr<Writing> copying; ///< null while no copy is being written
     bool failureTold = false;

@@ -352,7 +352,7 @@ class Form1 : private SimulationMessages {
     std::int16_t traceOn = 0;
     std::int16_t vectorMode = 0;    ///< 0 off, 1 the wind triangle, 2 the turns ahead
     std::int16_t replayOn = 0;      ///< -1 while the replay runs
-    std::int16_t replayIndex = 1;   ///< the sample shown
+    std::int16_t replayIndex = 1;   ///< the sample shown; 0 if it was not gone to by hand
     std::int16_t replaySubStep = 0; ///< the quarter of the way to the next one
     std::int16_t blinkCounter = 0;
     std::int16_t locCourse = 0;

@@ -67,7 +67,7 @@ void Form1::moveReplayBar() {
 /// A flight that begins to be looked at is locked, so that looking changes nothing in it. Who wants
 /// to write over it unlocks it then.
 void Form1::lockReplay() {
-    if (!UserControl11.inReplay())
+    if (!UserControl11.inReplay() || replayIndex == 0)
         replayPage.lock.set(1);
 }
 

@@ -215,6 +215,9 @@ TEST_P(ExerciseFlow, IsAskedAnsweredShownAndLeft) {
     EXPECT_THAT(panel().statistic.text(), testing::HasSubstr("Richtige: 1"));
     EXPECT_THAT(panel().frame.text(), testing::HasSubstr("( 2 von 1"));
     click(panel().cancelButton);
+    form.inst2TypeList.pick(form.inst2.type % 5);
+    form.replayPage.bar.scrollTo(2);
+    EXPECT_FALSE(form.UserControl11.flightUnsaved()) << "looked at, not written over";
 }
 
 class FlownExercise : public ExerciseFlow {};

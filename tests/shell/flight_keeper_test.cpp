@@ -323,5 +323,36 @@ TEST_F(FlightKeeperTest, ASituationSetUpByHandIsSavedAndFound) {
     }
 }
 
+// What was saved meanwhile must not make a changed flight look saved, nor a kept one new.
+TEST_F(FlightKeeperTest, AFlightThatUndoBringsBackIsAsUnsavedAsBefore) {
+    for (const bool saved : {false, true}) {
+        SCOPED_TRACE(saved);
+        start();
+        const std::size_t before = keeper().flights().size();
+        fly(40);
+        if (saved)
+            saveAs("mine.ts");
+        for (int i = 0; i < 2; ++i) {
+            sim().mouse.down(ChartButton::left, {1000, 2000});
+            sim().mouse.up();
+            saveAs("task.ts");
+            form->editMenu.undo.click();
+            couple();
+            EXPECT_EQ(sim().flightUnsaved(), !saved);
+        }
+        form->editMenu.redo.click();
+        form->editMenu.undo.click();
+        EXPECT_EQ(keeper().flights().size(), before + (saved ? 0 : 1));
+        for (int i = 0; i < 9; ++i) {
+            form->UserControl11.comments.setText(0, std::to_string(i));
+            EXPECT_TRUE(sim().flightUnsaved()) << i;
+        }
+        form->editMenu.redo.click();
+        form->editMenu.undo.click();
+        EXPECT_EQ(sim().comments.text(0), "8");
+        EXPECT_EQ(keeper().flights().size(), before + (saved ? 1 : 2));
+    }
+}
+
 } // namespace
 } // namespace tarnel

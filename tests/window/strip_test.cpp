@@ -135,6 +135,18 @@ TEST_F(StripStudent, IsNotToldAWindByChanceBeforeAskingForIt) {
     settle();
     EXPECT_EQ(sim().c_wind.get(), "5/0") << "a step on an empty field counts from 0";
     EXPECT_EQ(direction.text(), "5°");
+
+    clickShown("Option14");
+    for (const auto key : {Qt::Key_Backspace, Qt::Key_0}) {
+        speed.setFocus();
+        speed.selectAll();
+        ASSERT_NE(sim().c_wind.get(), "0/0");
+        QTest::keyClick(&speed, key);
+        QTest::keyClick(&speed, Qt::Key_Return);
+        settle();
+    }
+    EXPECT_EQ(sim().c_wind.get(), "0/0") << "a 0 is a figure";
+    EXPECT_EQ(speed.text(), "0 kt");
 }
 
 TEST_F(StripStudent, SeesBehindABoxWhatItSays) {

@@ -2,6 +2,7 @@
 
 #include "persistence/file_path.h"
 #include "persistence/save_file.h"
+#include "persistence/scratch_folder.h"
 #include "shell/application_folder.h"
 #include "window/frame/flight_guard.h"
 #include "window/frame/main_window.h"
@@ -13,7 +14,6 @@
 #include "window/widgets/text_of.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QMessageBox>
 #include <QScreen>
 #include <QStandardPaths>
@@ -42,7 +42,7 @@ void openOnScreen(MainWindow& window) {
     window.show();
 }
 
-/// Both languages share settings and scratch files.
+/// Both languages share settings and flights.
 void nameApplication() {
     QApplication::setApplicationName(QStringLiteral("tarnel"));
     QApplication::setDesktopFileName(QStringLiteral("tarnel"));
@@ -50,13 +50,6 @@ void nameApplication() {
 
 QString userDataFolder() {
     return QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
-}
-
-/// The copy of a practice flight is this user's.
-void useScratchFolder(Form1& form) {
-    const QString folder = userDataFolder();
-    if (QDir().mkpath(folder))
-        form.UserControl11.c_ScratchPath = folder.toStdString();
 }
 
 /// Ends a second start. The exit status.
@@ -99,7 +92,9 @@ int runApplication(int argc, char** argv, const StringTable& texts) {
     installPanelAccessibility();
     QtOutsideWorld outside;
     Form1 form(texts, outside, folder);
-    useScratchFolder(form);
+    const ScratchFolder scratch(userDataFolder().toStdString());
+    if (!scratch.path().empty())
+        form.UserControl11.c_ScratchPath = scratch.path();
     MainWindow window(form);
     outside.setParent(&window);
     const auto openIn = [&window](const std::string& path) {

@@ -8,6 +8,7 @@
 #include <QSignalBlocker>
 #include <QSpinBox>
 
+#include <algorithm>
 #include <cmath>
 
 namespace tarnel {
@@ -19,17 +20,34 @@ constexpr int highestSpeed = 200; ///< the mouse draws hardly more across the ch
 constexpr int step = 5;
 constexpr int gapBetweenFields = 12;
 
+constexpr int untold = -1; ///< stands for no figure, so that a typed 0 is one
+
+/// A field of the wind. A step on one without a figure counts from 0.
+class WindField : public QSpinBox {
+  public:
+    using QSpinBox::QSpinBox;
+    void stepBy(int steps) override {
+        {
+            const QSignalBlocker quiet(this);
+            setSpecialValueText({});
+            setValue(std::max(value(), 0)); // below its range it would wrap
+            setMinimum(0);
+        }
+        QSpinBox::stepBy(steps);
+    }
+};
+
 bool isTypedInto(const QSpinBox& field) {
     const auto* editor = field.findChild<QLineEdit*>();
     return field.hasFocus() && editor && editor->isModified();
 }
 
-void showValue(QSpinBox& field, int value, bool told) {
-    const QString shownAtZero = told ? QString() : QStringLiteral(" ");
-    if (isTypedInto(field) || (field.value() == value && field.specialValueText() == shownAtZero))
+void showValue(QSpinBox& field, int value) {
+    if (isTypedInto(field) || field.value() == value)
         return;
     const QSignalBlocker quiet(&field);
-    field.setSpecialValueText(shownAtZero);
+    field.setSpecialValueText(value == untold ? QStringLiteral(" ") : QString());
+    field.setMinimum(std::min(value, 0));
     field.setValue(value);
 }
 
@@ -50,7 +68,7 @@ WindEntry::WindEntry(Form1& owner, QWidget* parent) : QWidget(parent), form(owne
 QSpinBox* WindEntry::addField(const char* name, Text caption, Text unit) {
     auto* label = new QLabel(textOf(form.texts, caption), this);
     label->setProperty("secondary", true);
-    auto* field = new QSpinBox(this);
+    auto* field = new WindField(this);
     field->setObjectName(QString::fromLatin1(name));
     field->setAccessibleName(label->text());
     field->setSuffix(textOf(form.texts, unit));
@@ -67,16 +85,17 @@ QSpinBox* WindEntry::addField(const char* name, Text caption, Text unit) {
 
 void WindEntry::take() {
     form.guarded([this] {
-        form.setManualWind(direction->value(), static_cast<std::int16_t>(speed->value()));
+        form.setManualWind(std::max(direction->value(), 0),
+                           static_cast<std::int16_t>(std::max(speed->value(), 0)));
     });
 }
 
 void WindEntry::refresh() {
     const bool told = form.windIsTold();
-    const Wind wind = told ? form.UserControl11.wind : Wind{};
-    showValue(*direction, static_cast<int>(std::lround(wind.direction)) % (highestDirection + 1),
-              told);
-    showValue(*speed, wind.speed, told);
+    const Wind& wind = form.UserControl11.wind;
+    const int degrees = static_cast<int>(std::lround(wind.direction)) % (highestDirection + 1);
+    showValue(*direction, told ? degrees : untold);
+    showValue(*speed, told ? wind.speed : untold);
 }
 
 } // namespace tarnel
