@@ -25,7 +25,6 @@ ChartPicture::ChartPicture() {
         StationSymbol& symbol = symbols[slot];
         symbol.area.width = symbol.area.height = symbolSize;
         symbol.leader.colour = symbol.name.colour = slotColour(slot);
-        symbol.name.opaque = true;
     }
     paintRadials(radialsI2);
     paintRadials(radialsI3);

@@ -1,11 +1,12 @@
 #pragma once
 
+#include "core/aircraft.h"
 #include "core/drawing_surface.h"
 #include "core/stations.h"
 
 #include <array>
 #include <cstdint>
-#include <string>
+#include <vector>
 
 namespace tarnel {
 
@@ -67,6 +68,14 @@ struct WindLine {
     Label speed;
 };
 
+/// How a station that is dragged lies to another one.
+struct StationBearing {
+    Slot other = Slot::vor1;
+    double distance = 0; ///< NM, to a tenth
+    double bearing = 0;  ///< whole degrees from that one, 0 up to 360
+    bool operator==(const StationBearing&) const = default;
+};
+
 /// `Picture1`: everything that stands on the chart, in twips.
 struct ChartPicture {
     ChartPicture();
@@ -81,8 +90,10 @@ struct ChartPicture {
     SpeedVectorLines speedVectors;
     HeadingLine heading;
     WindLine windLine;
-    Label windLabel;      ///< the wind beside the airplane
-    Label stationReadout; ///< distances and bearings of a station that is dragged, one a line
+    Label windLabel;                             ///< the wind beside the airplane
+    Wind windTold;                               ///< what it says
+    Label stationReadout;                        ///< of a station that is dragged
+    std::vector<StationBearing> stationBearings; ///< what it says, one a line
     Label help;
     double milesPer500Twips = 2; ///< the scale label
     DotLayer trace{surface};

@@ -54,7 +54,6 @@ struct Label {
     Colour colour = 0;
     Colour back = 0xFFFFFF;
     bool centred = false;
-    bool opaque = false;
     bool visible = false;
     bool operator==(const Label&) const = default;
 };

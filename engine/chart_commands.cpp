@@ -98,7 +98,6 @@ void UserControl2::resetView() {
 }
 
 void UserControl2::switchEditing() {
-    c_EditChart = c_mapedit;
     mouse.cancel();
     if (c_mapedit != 1 || !hasCommentMarks())
         return;

@@ -164,22 +164,20 @@ void ChartMouse::takeBackDrag() {
 /// The symbol's centre follows the pointer. The bearings are those of the dragged station from each
 /// other one.
 void ChartMouse::dragStation(Point at) {
-    static constexpr const char* tags[] = {"(VOR1)", "(VOR2)", " (NDB1)", " (NDB2)", " (LOC1)"};
     const auto dragged = static_cast<std::size_t>(*draggedStation);
     sim.placeStation(*draggedStation, rounded(at, sim.picture.size));
     const Point from = sim.stations[dragged].place.wide;
-    std::string text;
+    std::vector<StationBearing> bearings;
     for (std::size_t i = 0; i < slotCount; ++i) {
         if (i == dragged)
             continue;
         const Point to = sim.stations[i].place.wide;
         const Polar polar = polarOf(to.x - from.x, from.y - to.y, sim.view.plot.mapScaleTwips);
         const double bearing = polar.course < 180 ? polar.course + 180 : polar.course - 180;
-        text += (text.empty() ? "" : "\n") + numberText(roundTo(polar.distance, 1)) + "NM " +
-                numberText(std::floor(bearing)) + "°" + tags[i];
+        bearings.push_back({static_cast<Slot>(i), roundTo(polar.distance, 1), std::floor(bearing)});
     }
     DrawingSurface& surface = sim.picture.surface;
-    surface.set(sim.picture.stationReadout.caption, text);
+    surface.set(sim.picture.stationBearings, bearings);
     surface.place(sim.picture.stationReadout, {at.x + labelGap, at.y + labelGap});
     surface.show(sim.picture.stationReadout, true);
 }
@@ -196,7 +194,7 @@ void ChartMouse::showHeadingLine(Point at) {
     surface.place(heading.name, {at.x + labelGap, at.y - 2 * labelHeight});
     surface.place(heading.value, {at.x + labelGap, at.y - labelHeight});
     const auto degrees = static_cast<std::int16_t>(roundToEven(sim.c_HDG));
-    surface.set(heading.value.caption, zeroPadded(degrees, 3) + "°");
+    surface.set(heading.value.caption, zeroPadded(degrees, 3));
     surface.show(heading.line, true);
     surface.show(heading.name, true);
     surface.show(heading.value, true);
@@ -235,7 +233,7 @@ void ChartMouse::showWindLine(Point at) {
     surface.place(wind.name, {at.x + labelGap, at.y - 3 * labelHeight});
     surface.place(wind.direction, {at.x + labelGap, at.y - 2 * labelHeight});
     surface.place(wind.speed, {at.x + labelGap, at.y - labelHeight});
-    surface.set(wind.direction.caption, numberText(sim.wind.direction) + "°");
+    surface.set(wind.direction.caption, numberText(sim.wind.direction));
     surface.set(wind.speed.caption, numberText(std::int64_t{sim.wind.speed}));
     for (Line* line : {&wind.line, &wind.headLeft, &wind.headRight})
         surface.show(*line, true);

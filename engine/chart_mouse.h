@@ -46,7 +46,6 @@ class ChartMouse {
     /// A locked mouse does nothing.
     void setLocked(bool lock);
 
-    [[nodiscard]] bool headingTool() const { return tool == Tool::heading; }
     [[nodiscard]] bool windTool() const { return tool == Tool::wind; }
 
     /// Called with the heading that the bug takes: the one that was just drawn, whole degrees 0 to

@@ -55,8 +55,7 @@ void UserControl2::showWindLabel() {
         return;
     const Point airplane = aircraft.place.wide;
     picture.surface.place(picture.windLabel, {airplane.x + gap, airplane.y - gap});
-    picture.surface.set(picture.windLabel.caption, numberText(wind.direction) + "°" +
-                                                       numberText(std::int64_t{wind.speed}) + "kt");
+    picture.surface.set(picture.windTold, wind);
 }
 
 void UserControl2::showTurnsAhead() {

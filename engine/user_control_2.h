@@ -240,7 +240,6 @@ class UserControl2 {
 
     // Chart editing: 1 lets the mouse drag stations; samples lose the marks of their comments.
     Property<std::int16_t> c_mapedit{properties, "c_mapedit", 0, [this] { switchEditing(); }};
-    Property<std::int16_t> c_EditChart{properties, "c_EditChart"};
 
     // Files. 1 asks the user for a name, 2 takes the present one, 3 is the temporary session in
     // `c_ScratchPath`; each goes back to 0. A save by the present name asks too unless the user

@@ -10,7 +10,7 @@ enum class DmeMode { freq, r1, r2 };
 /// `DMEControlFace`: the DME: a receiver's face with a selector and readouts of distance and speed.
 class DMEControlFace : public RadioFace {
   public:
-    DMEControlFace() : RadioFace(readoutPlaces::frequency, 0, false) {}
+    DMEControlFace() : RadioFace(readoutPlaces::frequency, 0) {}
 
     /// "--.-" is no signal.
     void ShowDistance(std::string_view text);

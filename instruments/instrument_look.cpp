@@ -60,7 +60,6 @@ void dressTexts(InstrumentPicture& picture, InstrumentKind kind) {
     dressText(surface, picture.Label2_4, 0x8080FF, large, kind == InstrumentKind::vor);
     dressText(surface, picture.Text1, 0x0000FF, small, false);
     surface.set<std::string>(picture.Text1.caption, "O\nF\nF");
-    surface.set(picture.Text1.opaque, true);
 }
 
 void showKnobs(InstrumentPicture& picture, InstrumentKind kind) {

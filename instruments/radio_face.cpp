@@ -28,8 +28,8 @@ bool FacePress::upright(Point at) const {
     return std::abs(at.y - start.y) > std::abs(at.x - start.x);
 }
 
-RadioFace::RadioFace(std::span<const std::size_t> places, std::int16_t slots, bool outerClicks)
-    : frequency(surface, places), outerAreaClicks(outerClicks) {
+RadioFace::RadioFace(std::span<const std::size_t> places, std::int16_t slots)
+    : frequency(surface, places) {
     c_NumberOfFreqs.publish(slots);
 }
 
@@ -66,8 +66,7 @@ void RadioFace::turnDial(std::int32_t slot) {
         c_SetFreq = slot;
 }
 
-void RadioFace::mouseDown(KnobArea area, Point at) {
-    pressedArea = area;
+void RadioFace::mouseDown(Point at) {
     press.press(at);
     dragStartX = toInt16(at.x);
 }
@@ -94,7 +93,7 @@ void RadioFace::mouseLost() {
 }
 
 void RadioFace::mouseUp() {
-    if (press.release() && (pressedArea == KnobArea::inner || outerAreaClicks))
+    if (press.release())
         stepUp();
 }
 

@@ -33,15 +33,12 @@ class FacePress {
     bool held = false;
 };
 
-/// A receiver's face: it holds up to three frequencies, and its knob chooses among them. Knob
-/// positions are twips from the left upper corner of the area pressed.
+/// A receiver's face: it holds up to three frequencies, and its knob chooses among them. A click
+/// steps up; a drag steps once for every 700 twips to the right (up) or left (down). Positions are
+/// twips from the left upper corner of the knob.
 class RadioFace {
   public:
-    /// The areas of the knob: `inner` is `Image1`, `outer` the second one. A drag on either steps
-    /// once for every 700 twips to the right (up) or left (down).
-    enum class KnobArea { inner, outer };
-
-    void mouseDown(KnobArea area, Point at);
+    void mouseDown(Point at);
     void mouseMove(Point at);
     void mouseUp();
     void mouseLost(); ///< the press ended without being a click
@@ -71,8 +68,7 @@ class RadioFace {
     Property<std::int16_t> c_NAVFace{properties, "c_NAVFace", 1, [this] { surface.touch(); }};
 
   protected:
-    /// `outerClicks` says whether a click on the outer area steps too.
-    RadioFace(std::span<const std::size_t> places, std::int16_t slots, bool outerClicks);
+    RadioFace(std::span<const std::size_t> places, std::int16_t slots);
 
     /// The text of a slot, 0 to 3; empty for any other.
     [[nodiscard]] std::string_view slotText(std::int32_t slot) const;
@@ -87,8 +83,6 @@ class RadioFace {
     void turnDial(std::int32_t slot);
     void dragTo(double x);
 
-    const bool outerAreaClicks;
-    KnobArea pressedArea = KnobArea::inner;
     FacePress press;
     std::int16_t dragStartX = 0;
     std::int32_t dragStep = 0;
@@ -97,13 +91,13 @@ class RadioFace {
 /// `NAVControlFace`: a NAV receiver with five digits.
 class NAVControlFace : public RadioFace {
   public:
-    NAVControlFace() : RadioFace(readoutPlaces::frequency, 1, true) {}
+    NAVControlFace() : RadioFace(readoutPlaces::frequency, 1) {}
 };
 
 /// `ADFControlFace`: an ADF receiver with three digits.
 class ADFControlFace : public RadioFace {
   public:
-    ADFControlFace() : RadioFace(readoutPlaces::threeDigits, 1, true) {}
+    ADFControlFace() : RadioFace(readoutPlaces::threeDigits, 1) {}
 };
 
 } // namespace tarnel

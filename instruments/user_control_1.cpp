@@ -134,7 +134,6 @@ void UserControl_1::VOR(double course, double courseX, double heading, double ra
 void UserControl_1::showFlag(const NeedleReading& needle, bool localizer) {
     DrawingSurface& surface = picture.surface;
     const bool abeam = needle.sector == Sector::abeam;
-    surface.set(picture.Label2_4.opaque, abeam);
     surface.set<std::string>(picture.Label2_4.caption, abeam ? "/////" : "");
     surface.show(picture.Text1, abeam && is(InstrumentKind::hsi));
     for (Line& side : picture.Line15)

@@ -44,7 +44,7 @@ TEST_F(ChartMouseTest, NothingHappensRunningOrWithTheHeadingUp) {
              {ChartButton::left, ChartButton::right, ChartButton::other}) {
             sim.mouse.down(button, {1000, 1000});
             sim.mouse.move({1500, 1000});
-            EXPECT_FALSE(sim.mouse.headingTool());
+            EXPECT_FALSE(sim.picture.help.visible);
             sim.mouse.up();
         }
         EXPECT_EQ(place(), before);
@@ -77,15 +77,14 @@ TEST_F(ChartMouseTest, HeadingToolDrawsWholeDegrees) {
         std::int16_t heading;
         const char* caption;
     };
-    constexpr Case cases[] = {{{3405, 1000}, 0, "000°"},
-                              {{5405, 3405}, 90, "090°"},
-                              {{4405, 4412}, 135, "135°"},
-                              {{3401, 2405}, 0, "000°"}, // 359.8
-                              {{1405, 3405}, 270, "270°"}};
+    constexpr Case cases[] = {{{3405, 1000}, 0, "000"},
+                              {{5405, 3405}, 90, "090"},
+                              {{4405, 4412}, 135, "135"},
+                              {{3401, 2405}, 0, "000"}, // 359.8
+                              {{1405, 3405}, 270, "270"}};
     std::vector<std::int16_t> drawn;
     sim.mouse.headingDrawn = [&](std::int16_t heading) { drawn.push_back(heading); };
     sim.mouse.down(ChartButton::right, {3405, 3405}); // on the aircraft: no direction
-    EXPECT_TRUE(sim.mouse.headingTool());
     EXPECT_TRUE(sim.picture.help.visible);
     EXPECT_TRUE(drawn.empty());
     for (const Case& c : cases) {
@@ -104,7 +103,7 @@ TEST_F(ChartMouseTest, HeadingToolDrawsWholeDegrees) {
     EXPECT_FALSE(sim.picture.help.visible);
     click(ChartButton::right, {3405, 3405}); // once more puts the tool away
     click(ChartButton::right, {3405, 3405});
-    EXPECT_FALSE(sim.mouse.headingTool());
+    EXPECT_FALSE(sim.picture.help.visible);
 }
 
 } // namespace

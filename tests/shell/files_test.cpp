@@ -290,7 +290,8 @@ TEST_F(FilesTest, AChartComesBackWithTheStationsAsTheyWereMoved) {
     sim().mouse.down(ChartButton::left, symbol);
     sim().mouse.move({sim().stations[1].place.wide.x - 1000, sim().stations[1].place.wide.y});
     EXPECT_TRUE(sim().picture.stationReadout.visible);
-    EXPECT_THAT(sim().picture.stationReadout.caption, HasSubstr("NM 270°(VOR2)"));
+    EXPECT_EQ(sim().picture.stationBearings[0].other, Slot::vor2);
+    EXPECT_EQ(sim().picture.stationBearings[0].bearing, 270);
     EXPECT_NE(sim().slot(Slot::vor1).radial, radial);
     sim().mouse.up();
     EXPECT_FALSE(sim().picture.stationReadout.visible);

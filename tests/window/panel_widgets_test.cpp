@@ -264,7 +264,7 @@ TEST_F(DmeModuleTest, SwitchTurnsByClickWheelAndDrag) {
 }
 
 TEST_F(DmeModuleTest, FrequencyStepsOnlyWhileItIsItsOwn) {
-    SteppedDigits& digits = module.frequencyDigits();
+    auto& digits = *module.findChild<SteppedDigits*>();
     turnWheel(digits, digits.rect().center(), oneNotch);
     EXPECT_EQ(face.c_SetFreq, 1);
     QTest::mouseClick(&digits, Qt::RightButton);

@@ -127,7 +127,7 @@ TEST_F(StationEditorTest, TheContextMenuSwitchesAndEditsWithoutTheHeadingTool) {
     const auto menu = [this] { return window->findChild<QMenu*>(QStringLiteral("StationMenu")); };
     QTest::mouseClick(chart, Qt::RightButton, {}, symbol(Slot::localizer));
     ASSERT_NE(menu(), nullptr);
-    EXPECT_FALSE(form->UserControl11.mouse.headingTool());
+    EXPECT_FALSE(form->UserControl11.picture.help.visible);
     menu()->findChild<QAction*>(QStringLiteral("Dme5On"))->trigger();
     settle();
     EXPECT_EQ(properties(Slot::localizer).dmeEnabled.get(), off);

@@ -291,20 +291,20 @@ std::array<QRectF, 2> paintSpeedVectors(QPainter& painter, const ChartFrame& fra
 }
 
 void paintHeadingLine(QPainter& painter, const ChartFrame& frame, const HeadingLine& heading,
-                      const QString& name) {
+                      const ToolTexts& texts) {
     if (heading.line.visible)
         paintArrow(painter, frame, frame.along(heading.line),
                    look::fromSurface(heading.line.colour), airWidth);
     if (!heading.name.visible && !heading.value.visible)
         return;
-    const PlateRow rows[] = {
-        {name, look::secondaryInk},
-        {QString::fromStdString(heading.value.caption), look::fromSurface(heading.value.colour)}};
+    const PlateRow rows[] = {{texts.name, look::secondaryInk},
+                             {QString::fromStdString(heading.value.caption) + texts.degrees,
+                              look::fromSurface(heading.value.colour)}};
     paintRows(painter, frame, heading.name.anchor, rows);
 }
 
 void paintWindLine(QPainter& painter, const ChartFrame& frame, const WindLine& wind,
-                   const WindTexts& texts) {
+                   const ToolTexts& texts) {
     const QPen pen(look::fromSurface(wind.line.colour), windWidth * frame.symbolScale,
                    Qt::SolidLine, Qt::RoundCap);
     for (const Line* line : {&wind.line, &wind.headLeft, &wind.headRight})
@@ -314,7 +314,7 @@ void paintWindLine(QPainter& painter, const ChartFrame& frame, const WindLine& w
         return;
     const PlateRow rows[] = {
         {texts.name, look::secondaryInk},
-        {QString::fromStdString(wind.direction.caption), pen.color()},
+        {QString::fromStdString(wind.direction.caption) + texts.degrees, pen.color()},
         {QString::fromStdString(wind.speed.caption) + QLatin1Char(' ') + texts.unit, pen.color()}};
     paintRows(painter, frame, wind.name.anchor, rows);
 }

@@ -36,17 +36,20 @@ std::array<QRectF, 2> paintSpeedVectors(QPainter& painter, const ChartFrame& fra
                                         const SpeedVectorLines& lines, const VectorTexts& texts,
                                         std::span<const QRectF> occupied);
 
+/// The lettering beside the line that a tool draws.
+struct ToolTexts {
+    QString name;
+    QString degrees; ///< the sign behind the direction
+    QString unit;    ///< behind the speed
+};
+
 /// The line of the heading tool with its two labels on one plate.
 void paintHeadingLine(QPainter& painter, const ChartFrame& frame, const HeadingLine& heading,
-                      const QString& name);
+                      const ToolTexts& texts);
 
 /// The line along which the wind blows while it is drawn, with its head and its labels on one
 /// plate.
-struct WindTexts {
-    QString name;
-    QString unit; ///< behind the speed
-};
 void paintWindLine(QPainter& painter, const ChartFrame& frame, const WindLine& wind,
-                   const WindTexts& texts);
+                   const ToolTexts& texts);
 
 } // namespace tarnel

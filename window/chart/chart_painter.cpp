@@ -294,7 +294,9 @@ void ChartPainter::paintWindLabel(QPainter& painter, const Areas& occupied) {
     if (!label.visible)
         return;
     const QString text =
-        textOf(texts, Text::chartWindPrefix) + QString::fromStdString(label.caption);
+        textOf(texts, Text::chartWindPrefix) + QString::number(sim.picture.windTold.direction) +
+        textOf(texts, Text::unitDegreeSign) + QString::number(sim.picture.windTold.speed) +
+        textOf(texts, Text::unitKnots);
     const QFontMetricsF metrics(frame.lineFont);
     const QSizeF size(metrics.horizontalAdvance(text) + 2 * windPadding, metrics.height() + 2);
     double best = std::numeric_limits<double>::infinity();
@@ -317,9 +319,11 @@ void ChartPainter::paintWindLabel(QPainter& painter, const Areas& occupied) {
 }
 
 void ChartPainter::paintOverlays(QPainter& painter, const ScaleBar& scale) const {
-    paintHeadingLine(painter, frame, sim.picture.heading, textOf(texts, Text::chartHeading));
+    const QString degrees = textOf(texts, Text::unitDegreeSign);
+    paintHeadingLine(painter, frame, sim.picture.heading,
+                     {textOf(texts, Text::chartHeading), degrees, {}});
     paintWindLine(painter, frame, sim.picture.windLine,
-                  {textOf(texts, Text::chartWind), textOf(texts, Text::unitKnots)});
+                  {textOf(texts, Text::chartWind), degrees, textOf(texts, Text::unitKnots)});
     paintScaleBar(painter, frame, scale, textOf(texts, Text::unitNauticalMiles));
     paintNorthArrow(painter, frame, rotation(), textOf(texts, Text::chartNorth));
     const Label& help = sim.picture.help;
@@ -327,7 +331,7 @@ void ChartPainter::paintOverlays(QPainter& painter, const ScaleBar& scale) const
         paintHelp(
             painter, frame,
             textOf(texts, sim.mouse.windTool() ? Text::helpDrawWind : Text::helpSelectHeading));
-    paintStationReadout(painter, frame, sim.picture.stationReadout);
+    paintStationReadout(painter, frame, sim.picture, texts);
     paintPaperEdge(painter, frame);
 }
 

@@ -32,13 +32,11 @@ ChartButton chartButton(Qt::MouseButton button) {
     }
 }
 
-/// Degrees and minutes with the letter of the hemisphere, to a tenth of a minute.
-QString angleText(double degrees, int digits, char positive, char negative) {
+/// Fills degrees and minutes, to a tenth of a minute, into the text of a hemisphere.
+QString angleText(double degrees, int digits, const QString& hemisphere) {
     const auto tenths = static_cast<std::int64_t>(std::llround(std::abs(degrees) * 600));
-    return QStringLiteral("%1° %2′ %3")
-        .arg(QString::fromStdString(zeroPadded(tenths / 600, digits)),
-             QString::number(static_cast<double>(tenths % 600) / 10, 'f', 1),
-             QString(QLatin1Char(degrees < 0 ? negative : positive)));
+    return hemisphere.arg(QString::fromStdString(zeroPadded(tenths / 600, digits)),
+                          QString::number(static_cast<double>(tenths % 600) / 10, 'f', 1));
 }
 
 } // namespace
@@ -77,8 +75,10 @@ QString ChartView::spokenChart() const {
     if (sim.c_AirplaneEN != 1 || sim.placeIsSecret())
         return textOf(texts, Text::spokenChartHidden);
     const GeoPosition at = sim.aircraft.published();
-    const QString position = angleText(at.latitude, 2, 'N', 'S') + QLatin1Char(' ') +
-                             angleText(at.longitude, 3, 'E', 'W');
+    const Text latitude = at.latitude < 0 ? Text::placeSouth : Text::placeNorth;
+    const Text longitude = at.longitude < 0 ? Text::placeWest : Text::placeEast;
+    const QString position = angleText(at.latitude, 2, textOf(texts, latitude)) + QLatin1Char(' ') +
+                             angleText(at.longitude, 3, textOf(texts, longitude));
     const auto heading = static_cast<std::int64_t>(roundToEven(sim.aircraft.trueHeading)) % 360;
     return textOf(texts, Text::spokenChart)
         .arg(position, QString::fromStdString(zeroPadded(heading, 3)));

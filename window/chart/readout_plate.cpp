@@ -1,9 +1,12 @@
 #include "window/chart/readout_plate.h"
 
+#include "core/number_text.h"
+#include "core/rounding.h"
+#include "shell/signal_name.h"
 #include "window/widgets/look.h"
+#include "window/widgets/text_of.h"
 
 #include <QPainter>
-#include <QStringList>
 
 #include <algorithm>
 #include <array>
@@ -21,14 +24,16 @@ constexpr double edgeMargin = 3;
 constexpr double plateOpacity = 0.94;
 constexpr int columnCount = 3;
 
-/// Distance, bearing and station of a line such as "12.3NM 045°(VOR1)".
+/// Distance, bearing and station, such as "12.3 NM", "045°" and "VOR 1".
 using Columns = std::array<QString, columnCount>;
 
-Columns columnsOf(const QString& line) {
-    const QString distance = line.section(QLatin1Char(' '), 0, 0);
-    const QString rest = line.section(QLatin1Char(' '), 1);
-    const QString bearing = rest.section(QLatin1Char('('), 0, 0).trimmed();
-    return {distance, bearing, rest.section(QLatin1Char('('), 1).remove(QLatin1Char(')'))};
+Columns columnsOf(const StationBearing& line, const StringTable& texts) {
+    constexpr int bearingDigits = 3;
+    return {QString::number(line.distance, 'f', 1) + QLatin1Char(' ') +
+                textOf(texts, Text::unitNauticalMiles),
+            QString::fromStdString(zeroPadded(toInt16(line.bearing), bearingDigits)) +
+                textOf(texts, Text::unitDegreeSign),
+            textOf(texts, signalName(line.other))};
 }
 
 /// Beside the anchor; on its other side where the paper ends.
@@ -40,15 +45,17 @@ double besidePointer(double anchor, double length, double side) {
 
 } // namespace
 
-void paintStationReadout(QPainter& painter, const ChartFrame& frame, const Label& readout) {
+void paintStationReadout(QPainter& painter, const ChartFrame& frame, const ChartPicture& picture,
+                         const StringTable& texts) {
+    const Label& readout = picture.stationReadout;
     if (!readout.visible)
         return;
     painter.setFont(frame.frequencyFont);
     const QFontMetricsF metrics(painter.font(), painter.device());
     std::array<double, columnCount> widths{};
     std::vector<Columns> rows;
-    for (const QString& line : QString::fromStdString(readout.caption).split(QLatin1Char('\n'))) {
-        rows.push_back(columnsOf(line));
+    for (const StationBearing& line : picture.stationBearings) {
+        rows.push_back(columnsOf(line, texts));
         for (std::size_t i = 0; i < columnCount; ++i)
             widths[i] = std::max(widths[i], metrics.horizontalAdvance(rows.back()[i]));
     }

@@ -25,7 +25,6 @@ class DmeModule : public ModuleFrame {
     std::function<std::optional<SpokenStation>()> station;
 
     [[nodiscard]] DmeSelector& selector() { return sourceSelector; }
-    [[nodiscard]] SteppedDigits& frequencyDigits() { return frequency; }
 
   protected:
     void placeParts(const QRectF& body) override;

@@ -31,9 +31,7 @@ NavModule::NavModule(RadioFace& receiver, const ReceiverTexts& captions, Picture
 }
 
 void NavModule::connectKnob() {
-    frequencyKnob.press = [this](Point at) {
-        change([this, at] { face.mouseDown(RadioFace::KnobArea::inner, at); });
-    };
+    frequencyKnob.press = [this](Point at) { change([this, at] { face.mouseDown(at); }); };
     frequencyKnob.move = [this](Point at, MouseButton /*held*/) {
         change([this, at] { face.mouseMove(at); });
     };
