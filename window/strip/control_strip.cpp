@@ -26,6 +26,7 @@ namespace tarnel {
 namespace {
 
 constexpr int rowGap = 3;
+constexpr int gapInRow = 5;
 constexpr int tabPadding = 16;
 
 /// Narrower strips do without the words before the speeds and the read-outs.
@@ -64,6 +65,7 @@ void ControlStrip::tellKeys() {
 
 QHBoxLayout* ControlStrip::makeFlightRow() {
     auto* row = new QHBoxLayout;
+    row->setSpacing(gapInRow);
     startButton = new QPushButton(this);
     startButton->setProperty("primary", true);
     binding.bind(form.startButton, *startButton);
