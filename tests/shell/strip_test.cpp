@@ -133,6 +133,7 @@ TEST_F(StripTest, ALockedReplayShowsAllThatWasSeen) {
     form.APControlFace1.c_ALT = 9000.0;
     form.inst2.instrument.c_ADFCardselect = fixedCard;
     couple();
+    EXPECT_EQ(sim().c_Altitude, 6000) << "pinned, whatever the autopilot says";
 
     scrollTo(5);
     EXPECT_EQ(form.replayPage.lock.value(), 1) << "looking at a flight locks it";
