@@ -10,10 +10,15 @@ namespace {
 
 using testing::HasSubstr;
 
-TEST(HeadingBug, EverySourceReachesAllOthers) {
-    Trainer trainer;
-    Form1& form = trainer.form;
-    const auto bugs = [&form] {
+using HeadingBug = TrainerTest;
+using PractiseArea = TrainerTest;
+using RunTimeErrors = TrainerTest;
+using Stopwatch = TrainerTest;
+using Strip = TrainerTest;
+using Panel = TrainerTest;
+
+TEST_F(HeadingBug, EverySourceReachesAllOthers) {
+    const auto bugs = [this] {
         return std::vector<double>{
             form.APControlFace1.c_HDG, double(form.inst2.instrument.c_HDGbug),
             double(form.inst3.instrument.c_HDGbug), double(form.UserControl_DG.c_HDGbug),
@@ -22,7 +27,7 @@ TEST(HeadingBug, EverySourceReachesAllOthers) {
     form.floatingGyroBox.click();
     int expected = 0;
     const auto expectAll = [&](const char* source) {
-        trainer.couple(1);
+        couple(1);
         EXPECT_THAT(bugs(), testing::Each(double(expected))) << source;
     };
     form.APControlFace1.stepHeading(expected = 40);
@@ -54,32 +59,30 @@ std::string digitsOf(const DigitReadout& readout) {
     return text;
 }
 
-class DmeTest : public testing::Test {
+class DmeTest : public TrainerTest {
   protected:
     /// The frequency, the distance and the speed of one station, after a single coupling.
     void expectStation(Slot slot, const char* when) {
-        trainer.couple(1);
-        const StationProperties& station = trainer.sim().slot(slot);
+        couple(1);
+        const StationProperties& station = sim().slot(slot);
         std::string frequency = station.frequency;
         frequency.erase(frequency.find('.'), 1);
         EXPECT_EQ(digitsOf(dme.frequency), frequency) << when;
         EXPECT_EQ(dme.c_DMEnm, std::lround(station.dme * 10)) << when;
         const Slot speed = slot == Slot::vor1 ? Slot::vor1 : Slot::localizer;
-        EXPECT_EQ(dme.c_DMEkt, trainer.sim().slot(speed).dmeGroundSpeed) << when;
+        EXPECT_EQ(dme.c_DMEkt, sim().slot(speed).dmeGroundSpeed) << when;
     }
 
-    Trainer trainer;
-    Form1& form = trainer.form;
     DMEControlFace& dme = form.DMEControlFace1;
 };
 
 TEST_F(DmeTest, FrequencyAndDistanceAreOfOneStation) {
-    trainer.placeAt(48.05, 11.5, 20);
-    trainer.start();
-    trainer.fly(20);
+    placeAt(48.05, 11.5, 20);
+    start();
+    fly(20);
     std::set<std::int16_t> speeds;
     for (const Slot slot : {Slot::vor1, Slot::vor2, Slot::localizer})
-        speeds.insert(trainer.sim().slot(slot).dmeGroundSpeed);
+        speeds.insert(sim().slot(slot).dmeGroundSpeed);
     ASSERT_EQ(speeds.size(), 3);
     expectStation(Slot::vor1, "own");
     dme.stepUp();
@@ -89,7 +92,7 @@ TEST_F(DmeTest, FrequencyAndDistanceAreOfOneStation) {
     form.NAVControlFace2.c_SetFreq = 2;
     dme.selectMode(DmeMode::r2);
     expectStation(Slot::localizer, "R2");
-    trainer.fly(20);
+    fly(20);
     form.startButton.click();
 
     // A locked replay shows what was recorded, wherever the selector stands.
@@ -108,76 +111,57 @@ TEST_F(DmeTest, FrequencyAndDistanceAreOfOneStation) {
 }
 
 TEST_F(DmeTest, ShowsWholeMilesFarOutAndZeroWhenSwitchedOff) {
-    trainer.placeAt(50.2, 11.8, 0);
-    EXPECT_EQ(digitsOf(dme.distance), std::to_string(int(trainer.sim().slot(Slot::vor1).dme)));
-    trainer.placeAt(70, 11.8, 0);
+    placeAt(50.2, 11.8, 0);
+    EXPECT_EQ(digitsOf(dme.distance), std::to_string(int(sim().slot(Slot::vor1).dme)));
+    placeAt(70, 11.8, 0);
     EXPECT_EQ(digitsOf(dme.distance) + digitsOf(dme.speed), "------") << "more than three digits";
-    trainer.sim().slot(Slot::vor1).dmeEnabled = off;
-    trainer.couple(1);
+    sim().slot(Slot::vor1).dmeEnabled = off;
+    couple(1);
     EXPECT_EQ(digitsOf(dme.distance) + digitsOf(dme.speed), "000000");
-    EXPECT_TRUE(trainer.world.boxes.empty());
+    EXPECT_TRUE(world.boxes.empty());
 }
 
-TEST(PractiseArea, StopsTheFlightOnceWithItsMessage) {
-    Trainer trainer;
-    trainer.placeAt(48.17, 13.2, 90);
-    trainer.start();
-    trainer.fly(600);
-    ASSERT_EQ(trainer.world.boxes.size(), 1);
-    EXPECT_THAT(trainer.world.boxes[0], HasSubstr("You are outside of the practise Area."));
-    EXPECT_FALSE(trainer.form.simulationRuns());
-    EXPECT_EQ(trainer.form.modePanel.text(), "Pause [M]ode");
-    EXPECT_NEAR(trainer.sim().slot(Slot::vor2).dme, 80.1, 0.11);
+TEST_F(PractiseArea, StopsTheFlightOnceWithItsMessage) {
+    placeAt(48.17, 13.2, 90);
+    start();
+    fly(600);
+    ASSERT_EQ(world.boxes.size(), 1);
+    EXPECT_THAT(world.boxes[0], HasSubstr("You are outside of the practise Area."));
+    EXPECT_FALSE(form.simulationRuns());
+    EXPECT_EQ(form.modePanel.text(), "Pause [M]ode");
+    EXPECT_NEAR(sim().slot(Slot::vor2).dme, 80.1, 0.11);
 }
 
-TEST(RunTimeErrors, PauseTheFlightAndAreToldOnce) {
-    Trainer trainer;
-    trainer.start();
-    trainer.sim().c_LocCrs1 = 1e9;
-    trainer.couple(5);
-    ASSERT_EQ(trainer.world.boxes.size(), 1);
-    EXPECT_THAT(trainer.world.boxes[0], HasSubstr("6"));
-    EXPECT_FALSE(trainer.form.simulationRuns());
-    trainer.sim().c_LocCrs1 = 83;
-    trainer.start();
-    trainer.fly(3);
-    EXPECT_TRUE(trainer.form.simulationRuns());
-    EXPECT_EQ(trainer.world.boxes.size(), 1);
+TEST_F(RunTimeErrors, PauseTheFlightAndAreToldOnce) {
+    start();
+    sim().c_LocCrs1 = 1e9;
+    couple(5);
+    ASSERT_EQ(world.boxes.size(), 1);
+    EXPECT_THAT(world.boxes[0], HasSubstr("6"));
+    EXPECT_FALSE(form.simulationRuns());
+    sim().c_LocCrs1 = 83;
+    start();
+    fly(3);
+    EXPECT_TRUE(form.simulationRuns());
+    EXPECT_EQ(world.boxes.size(), 1);
 }
 
-TEST(Stopwatch, RunsStopsAndResetsAtOnceWhenPaused) {
-    Trainer trainer;
-    trainer.form.stopwatchStartButton.click();
-    trainer.start();
-    trainer.fly(65.5);
-    EXPECT_EQ(trainer.form.tvsmtimer1.minsec.get(), "01.05");
-    trainer.form.stopwatchStartButton.click();
-    trainer.fly(10);
-    EXPECT_EQ(trainer.form.tvsmtimer1.minsec.get(), "01.05");
-    trainer.form.startButton.click();
-    trainer.form.stopwatchResetButton.click();
-    trainer.couple(1);
-    EXPECT_EQ(trainer.form.tvsmtimer1.minsec.get(), "00.00");
-    EXPECT_EQ(trainer.form.flightTimePanel.text(), "0h1min15sec");
+TEST_F(Stopwatch, RunsStopsAndResetsAtOnceWhenPaused) {
+    form.stopwatchStartButton.click();
+    start();
+    fly(65.5);
+    EXPECT_EQ(form.tvsmtimer1.minsec.get(), "01.05");
+    form.stopwatchStartButton.click();
+    fly(10);
+    EXPECT_EQ(form.tvsmtimer1.minsec.get(), "01.05");
+    form.startButton.click();
+    form.stopwatchResetButton.click();
+    couple(1);
+    EXPECT_EQ(form.tvsmtimer1.minsec.get(), "00.00");
+    EXPECT_EQ(form.flightTimePanel.text(), "0h1min15sec");
 }
 
-TEST(Strip, HideAndTraceKeepEachOther) {
-    Trainer trainer;
-    Form1& form = trainer.form;
-    form.replayPage.hide.click();
-    EXPECT_EQ(trainer.sim().c_AirplaneEN, 0);
-    EXPECT_EQ(trainer.sim().c_TraceEN, 0);
-    EXPECT_EQ(form.hidePanel.text(), "[H]ide ON");
-    form.chartPage.trace.click();
-    form.replayPage.hide.click();
-    EXPECT_EQ(trainer.sim().c_TraceEN, 0) << "the trace was switched off meanwhile";
-    form.chartPage.trace.click();
-    EXPECT_EQ(trainer.sim().c_TraceEN, 1);
-}
-
-TEST(Strip, LockTakesTheKnobsAndDialsButNotTheAutopilot) {
-    Trainer trainer;
-    Form1& form = trainer.form;
+TEST_F(Strip, LockTakesTheKnobsAndDialsButNotTheAutopilot) {
     form.replayPage.lock.click();
     const std::initializer_list<RadioFace*> radios{&form.NAVControlFace1, &form.NAVControlFace2,
                                                    &form.ADFControlFace1, &form.DMEControlFace1};
@@ -188,7 +172,7 @@ TEST(Strip, LockTakesTheKnobsAndDialsButNotTheAutopilot) {
     }
     form.inst3.instrument.mouse.stepKnob(InstrumentArea::obsKnob, 5);
     form.APControlFace1.stepHeading(5);
-    trainer.couple();
+    couple();
     EXPECT_EQ(form.inst3.obsHsi, 0);
     EXPECT_EQ(form.APControlFace1.c_HDG, 5);
     form.replayPage.lock.click();
@@ -196,24 +180,20 @@ TEST(Strip, LockTakesTheKnobsAndDialsButNotTheAutopilot) {
     EXPECT_EQ(form.NAVControlFace1.c_SetFreq, 1);
 }
 
-TEST(Strip, EachRateHasItsOwnPace) {
-    Trainer trainer;
-    Form1& form = trainer.form;
+TEST_F(Strip, EachRateHasItsOwnPace) {
     for (const auto& [rate, milliseconds] :
          std::initializer_list<std::pair<OptionButton*, int>>{{&form.rateHalf, 666},
                                                               {&form.rateReal, 333},
                                                               {&form.rateDouble, 166},
                                                               {&form.rateQuadruple, 83}}) {
         rate->click();
-        EXPECT_EQ(trainer.sim().c_TimerSIMrate, milliseconds);
+        EXPECT_EQ(sim().c_TimerSIMrate, milliseconds);
     }
 }
 
-TEST(Panel, OneInstrumentHoldsTheObsOfAVor) {
-    Trainer trainer;
-    Form1& form = trainer.form;
+TEST_F(Panel, OneInstrumentHoldsTheObsOfAVor) {
     const auto holder = [&] {
-        trainer.couple(1);
+        couple(1);
         return std::pair(form.inst2ChannelButton.caption() == Text::channelObs,
                          form.inst3ChannelButton.caption() == Text::channelObs);
     };
@@ -231,13 +211,12 @@ TEST(Panel, OneInstrumentHoldsTheObsOfAVor) {
     EXPECT_EQ(holder(), std::pair(true, false)) << "VOR 2 is taken over, too";
 }
 
-TEST(Panel, LargeDisplayReloadsItsPictureAndShrinksTheChart) {
-    Trainer trainer;
-    trainer.form.inst3Large.click();
-    EXPECT_THAT(trainer.form.inst3.instrument.picture.Image1.file, HasSubstr("g.jpg"));
-    EXPECT_LT(trainer.sim().c_CenterTwips, 3405);
-    trainer.form.inst3Small.click();
-    EXPECT_EQ(trainer.sim().c_CenterTwips, 3405);
+TEST_F(Panel, LargeDisplayReloadsItsPictureAndShrinksTheChart) {
+    form.inst3Large.click();
+    EXPECT_THAT(form.inst3.instrument.picture.Image1.file, HasSubstr("g.jpg"));
+    EXPECT_LT(sim().c_CenterTwips, 3405);
+    form.inst3Small.click();
+    EXPECT_EQ(sim().c_CenterTwips, 3405);
 }
 
 } // namespace

@@ -1,4 +1,3 @@
-#include "persistence/file_bytes.h"
 #include "shell/trainer_fixture.h"
 
 #include <gmock/gmock.h>
@@ -8,56 +7,17 @@ namespace {
 
 using testing::HasSubstr;
 
-/// A world whose user picks the files that he is told to.
-struct PickingWorld : NotedWorld {
-    std::optional<std::string> chooseFile(const FileQuestion& question) override {
-        questions.push_back(question);
-        return chosen;
-    }
-    std::vector<FileQuestion> questions;
-    std::optional<std::string> chosen;
-};
-
-class FilesTest : public testing::Test {
+class FilesTest : public TrainerWithFiles {
   protected:
-    FilesTest() {
-        std::filesystem::create_directories(folder.path + "/default/sessions");
-        std::filesystem::copy(TARNEL_DATA_FOLDER "/default.map", folder.path + "/default.map");
-        form = std::make_unique<Form1>(englishTable(), world, folder.path);
-    }
-    void couple(int ticks = 3) {
-        for (int i = 0; i < ticks; ++i)
-            form->Timer1();
-    }
-    void fly(int seconds) {
-        form->startButton.click();
-        for (int i = 0; i < 3 * seconds; ++i) {
-            form->simulationTimer();
-            couple();
-        }
-        form->startButton.click();
-        couple();
-    }
-    void saveAs(const std::string& name) {
-        world.chosen = folder.path + "/" + name;
-        form->fileMenu.saveSessionAs.click();
-    }
+    /// As the menu does.
     void load(const std::string& name) {
         world.chosen = folder.path + "/" + name;
         form->guarded([this] { form->fileMenu.loadSession.click(); });
         couple();
     }
-    [[nodiscard]] std::string bytes(const std::string& name) const {
-        return readFileBytes(folder.path + "/" + name, 1 << 24);
-    }
     void write(const std::string& name, const std::string& text) const {
         std::ofstream(folder.path + "/" + name, std::ios::binary) << text;
     }
-    UserControl2& sim() { return form->UserControl11; }
-
-    ApplicationFolder folder;
-    PickingWorld world;
-    std::unique_ptr<Form1> form;
 };
 
 TEST_F(FilesTest, ASessionComesBackAsItWasAndRestsOnItsLastSample) {

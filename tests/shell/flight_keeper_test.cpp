@@ -1,4 +1,3 @@
-#include "persistence/file_bytes.h"
 #include "shell/trainer_fixture.h"
 
 #include <gmock/gmock.h>
@@ -9,52 +8,15 @@ namespace {
 namespace fs = std::filesystem;
 using testing::HasSubstr;
 
-/// A trainer with a shelf, whose user picks the files that he is told to.
-class FlightKeeperTest : public testing::Test {
+/// A trainer with a shelf.
+class FlightKeeperTest : public TrainerWithFiles {
   protected:
-    struct PickingWorld : NotedWorld {
-        std::optional<std::string> chooseFile(const FileQuestion& question) override {
-            asked += question.saves ? 1 : 0;
-            return chosen;
-        }
-        std::int64_t secondsNow() override { return ++seconds; }
-        std::int64_t seconds = 1767225600;
-        std::optional<std::string> chosen;
-        int asked = 0;
-    };
-
-    FlightKeeperTest() {
-        fs::create_directories(folder.path + "/default/sessions");
-        fs::copy(TARNEL_DATA_FOLDER "/default.map", folder.path + "/default.map");
-        start();
-    }
+    FlightKeeperTest() { start(); }
     /// Starts the trainer, as often as told.
     void start() {
         form.reset();
         form = std::make_unique<Form1>(englishTable(), world, folder.path);
         keeper().useShelf(folder.path + "/flights");
-    }
-    void couple() {
-        for (int i = 0; i < 3; ++i)
-            form->Timer1();
-    }
-    void fly(int seconds) {
-        form->startButton.click();
-        for (int i = 0; i < 3 * seconds; ++i) {
-            form->simulationTimer();
-            form->Timer1();
-        }
-        form->startButton.click();
-        couple();
-    }
-    void saveAs(const std::string& name) {
-        world.chosen = folder.path + "/" + name;
-        form->fileMenu.saveSessionAs.click();
-        world.chosen.reset();
-    }
-    void load(const std::string& name) {
-        form->openFile(folder.path + "/" + name);
-        couple();
     }
     void save() { form->fileMenu.saveSession.click(); }
     [[nodiscard]] std::vector<Sample> recorded() {
@@ -68,11 +30,6 @@ class FlightKeeperTest : public testing::Test {
         couple();
     }
     FlightKeeper& keeper() { return form->flightDesk.keeper; }
-    UserControl2& sim() { return form->UserControl11; }
-
-    ApplicationFolder folder;
-    PickingWorld world;
-    std::unique_ptr<Form1> form;
 };
 
 TEST_F(FlightKeeperTest, NoWayOfLeavingAFlightLosesIt) {
@@ -258,7 +215,7 @@ TEST_F(FlightKeeperTest, ANameHoldsForTheFlightThatItWasGivenTo) {
          [this] {
              form->fileMenu.newSession.click();
              saveAs("mine.ts");
-             world.asked = 0;
+             world.questions.clear();
              fly(40);
          }},
     };
@@ -267,18 +224,18 @@ TEST_F(FlightKeeperTest, ANameHoldsForTheFlightThatItWasGivenTo) {
         start();
         fly(40);
         saveAs("mine.ts");
-        world.asked = 0;
+        world.questions.clear();
         change();
         save();
-        EXPECT_EQ(world.asked, 1);
+        EXPECT_EQ(world.questions.size(), 1U);
     }
     start();
     fly(40);
     saveAs("mine.ts");
     fly(8); // goes on
-    world.asked = 0;
+    world.questions.clear();
     save();
-    EXPECT_EQ(world.asked, 0);
+    EXPECT_TRUE(world.questions.empty());
     EXPECT_FALSE(sim().flightUnsaved());
 }
 
@@ -313,8 +270,7 @@ TEST_F(FlightKeeperTest, ASituationSetUpByHandIsSavedAndFound) {
         EXPECT_NEAR(toPlain(inSlot(sim().stations, Slot::ndb1).position).latitude, station.latitude,
                     1e-9);
         save();
-        EXPECT_EQ(readFileBytes(folder.path + "/task.ts", 1 << 20).find("---"),
-                  readFileBytes(folder.path + "/task.ts", 1 << 20).rfind("---"));
+        EXPECT_EQ(bytes("task.ts").find("---"), bytes("task.ts").rfind("---"));
         form->setManualWind(90, 20); // and changed a day later
         couple();
         save();

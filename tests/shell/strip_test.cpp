@@ -2,12 +2,10 @@
 
 #include <gmock/gmock.h>
 
-#include <cstdlib>
-
 namespace tarnel {
 namespace {
 
-class StripTest : public testing::Test, protected Trainer {
+class StripTest : public TrainerTest {
   protected:
     /// A flight of `seconds`, then a pause.
     void record(double seconds) {
@@ -209,6 +207,10 @@ TEST_F(StripTest, BothHideBoxesHideAllThatGivesThePlaceAway) {
     EXPECT_EQ(sim().c_TraceEN, 1);
     EXPECT_EQ(form.vectorsPanel.text(), "[V]-Vectors Type1");
     EXPECT_FALSE(sim().picture.trace.all().empty());
+    form.replayPage.hide.click();
+    form.chartPage.trace.click(); // is switched off meanwhile, and stays so
+    form.replayPage.hide.click();
+    EXPECT_EQ(sim().c_TraceEN, 0);
 }
 
 TEST_F(StripTest, LettersDoWhatThePanelsSay) {

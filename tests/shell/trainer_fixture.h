@@ -1,5 +1,6 @@
 #pragma once
 
+#include "persistence/file_bytes.h"
 #include "shell/form_1.h"
 #include "strings/string_table.h"
 
@@ -81,6 +82,61 @@ struct Trainer {
 
     NotedWorld world;
     Form1 form;
+};
+
+/// A test with such a trainer.
+class TrainerTest : public testing::Test, protected Trainer {};
+
+/// A world whose user picks the files that he is told to.
+struct PickingWorld : NotedWorld {
+    std::optional<std::string> chooseFile(const FileQuestion& question) override {
+        questions.push_back(question);
+        return chosen;
+    }
+    std::int64_t secondsNow() override { return ++seconds; }
+    std::int64_t seconds = 1767225600;
+    std::vector<FileQuestion> questions;
+    std::optional<std::string> chosen;
+};
+
+/// A trainer in a folder of its own, at rest.
+class TrainerWithFiles : public testing::Test {
+  protected:
+    TrainerWithFiles() {
+        std::filesystem::create_directories(folder.path + "/default/sessions");
+        std::filesystem::copy(TARNEL_DATA_FOLDER "/default.map", folder.path + "/default.map");
+        form = std::make_unique<Form1>(englishTable(), world, folder.path);
+    }
+    void couple(int ticks = 3) {
+        for (int i = 0; i < ticks; ++i)
+            form->Timer1();
+    }
+    void fly(int seconds) {
+        form->startButton.click();
+        for (int i = 0; i < 3 * seconds; ++i) {
+            form->simulationTimer();
+            couple();
+        }
+        form->startButton.click();
+        couple();
+    }
+    void saveAs(const std::string& name) {
+        world.chosen = folder.path + "/" + name;
+        form->fileMenu.saveSessionAs.click();
+        world.chosen.reset();
+    }
+    void load(const std::string& name) {
+        form->openFile(folder.path + "/" + name);
+        couple();
+    }
+    [[nodiscard]] std::string bytes(const std::string& name) const {
+        return readFileBytes(folder.path + "/" + name, 1 << 24);
+    }
+    UserControl2& sim() { return form->UserControl11; }
+
+    ApplicationFolder folder;
+    PickingWorld world;
+    std::unique_ptr<Form1> form;
 };
 
 } // namespace tarnel
