@@ -86,6 +86,19 @@ class ExerciseTest : public ::testing::Test {
     }
     std::string right(std::string_view name) { return answer(name, rightColours); }
     bool wrong(std::string_view name) { return answer(name, wrongColours) == "FALSCH"; }
+    /// The same after a click on an option, or a pick of an entry from a list.
+    template <class... Given>
+    std::string rightAfter(std::string_view name, Given... given) {
+        give(given...);
+        return right(name);
+    }
+    template <class... Given>
+    bool wrongAfter(std::string_view name, Given... given) {
+        give(given...);
+        return wrong(name);
+    }
+    void give(std::string_view option) { click(option); }
+    void give(std::string_view list, std::string_view entry) { pick(list, entry); }
 
     /// The request to the tick, taken as the tick takes it.
     int takeResult() {

@@ -29,15 +29,13 @@ TEST_F(HeadingExercisesTest, HoldingComputesItsAnswers) {
         offers, std::vector<std::string>{"090", "150", "180", "210", "270"}));
     EXPECT_EQ(caption("Option6") + caption("Option8") + caption("Option10"), "090180270");
 
-    click("Option13");
-    EXPECT_EQ(right("Label8"), "offset");
-    click(outboundOptions[std::ranges::find(offers, "180") - offers.begin()]);
-    EXPECT_EQ(right("Label9"), " 180");
-    click("Option7");
-    EXPECT_EQ(right("Label10"), " 150");
+    EXPECT_EQ(rightAfter("Label8", "Option13"), "offset");
+    EXPECT_EQ(
+        rightAfter("Label9", outboundOptions[std::ranges::find(offers, "180") - offers.begin()]),
+        " 180");
+    EXPECT_EQ(rightAfter("Label10", "Option7"), " 150");
     EXPECT_EQ(takeResult(), 0);
-    click("Option14");
-    EXPECT_EQ(right("Label11"), "left");
+    EXPECT_EQ(rightAfter("Label11", "Option14"), "left");
     EXPECT_EQ(takeResult(), 6);
 }
 
@@ -45,12 +43,9 @@ TEST_F(HeadingExercisesTest, HoldingWrongAndItsSolution) {
     start(4, many({{ans1, "100"}, {ans2, "180"}, {ans3, "Left"}}));
     EXPECT_EQ(title(), "DG HOLDING ÜBUNGEN ( 1 von 8)");
     EXPECT_EQ(caption("Option8"), "360");
-    click("Option12");
-    EXPECT_TRUE(wrong("Label8")) << "direct: 280 from the inbound course";
-    click("Option6");
-    EXPECT_TRUE(wrong("Label10"));
-    click("Option16");
-    EXPECT_TRUE(wrong("Label11"));
+    EXPECT_TRUE(wrongAfter("Label8", "Option12")) << "direct: 280 from the inbound course";
+    EXPECT_TRUE(wrongAfter("Label10", "Option6"));
+    EXPECT_TRUE(wrongAfter("Label11", "Option16"));
     click("Command27");
     EXPECT_EQ(takeResult(), 6);
     EXPECT_EQ(answer("Label8", solutionColours), "direct");
@@ -62,16 +57,13 @@ TEST_F(HeadingExercisesTest, HoldingWrongAndItsSolution) {
 
     click("Command28");
     EXPECT_EQ(get<FormFrame>("Frame2").height(), 4250);
-    click("Option8");
-    EXPECT_EQ(right("Label10"), " 0") << "360 on the button is judged as 0";
+    EXPECT_EQ(rightAfter("Label10", "Option8"), " 0") << "360 on the button is judged as 0";
 }
 
 TEST_F(HeadingExercisesTest, ARecordsNorthIsNorthHoweverItIsWritten) {
     start(3, many({{ans1, "360"}, {ans2, "360"}, {ans3, "Standard"}}));
-    click("Option11");
-    EXPECT_EQ(right("Label8"), "direct");
-    click("Option8");
-    EXPECT_EQ(right("Label10"), " 180");
+    EXPECT_EQ(rightAfter("Label8", "Option11"), "direct");
+    EXPECT_EQ(rightAfter("Label10", "Option8"), " 180");
     start(6, many({{ans1, "360"}}));
     for (const char* name : {"Option50", "Option49", "Option48", "Option46"})
         if (caption(name) == "360")
@@ -95,12 +87,9 @@ TEST_F(HeadingExercisesTest, InterceptJudgesItsFourRows) {
     EXPECT_TRUE(
         std::ranges::is_permutation(offers, std::vector<std::string>{"085", "355", "175", "005"}));
     EXPECT_EQ(right("Label27"), "355");
-    click("Option38");
-    EXPECT_EQ(right("Label25"), "grösser");
-    click("Option43");
-    EXPECT_EQ(right("Label26"), "right");
-    click("Option36");
-    EXPECT_EQ(right("Label24"), "maintain");
+    EXPECT_EQ(rightAfter("Label25", "Option38"), "grösser");
+    EXPECT_EQ(rightAfter("Label26", "Option43"), "right");
+    EXPECT_EQ(rightAfter("Label24", "Option36"), "maintain");
     EXPECT_EQ(takeResult(), 6);
 }
 
@@ -113,16 +102,12 @@ TEST_F(HeadingExercisesTest, InterceptKnowsItsWords) {
                  {"decrease", "Option40"}, {"kleiner", "Option40"}};
     for (const auto& [angle, button] : words) {
         start(7, many({{ans1, "010"}, {ans2, angle}, {ans3, "rechts"}, {ans4, "kleiner"}}));
-        click(button);
-        EXPECT_EQ(right("Label25"), angle);
+        EXPECT_EQ(rightAfter("Label25", button), angle);
     }
-    click("Option43");
-    EXPECT_TRUE(wrong("Label26")) << "turns are English in every language";
-    click("Option37");
-    EXPECT_EQ(right("Label24"), "kleiner");
+    EXPECT_TRUE(wrongAfter("Label26", "Option43")) << "turns are English in every language";
+    EXPECT_EQ(rightAfter("Label24", "Option37"), "kleiner");
     start(7, many({{ans1, "010"}, {ans2, "größer"}}));
-    click("Option38");
-    EXPECT_TRUE(wrong("Label25")) << "here the word has a double s";
+    EXPECT_TRUE(wrongAfter("Label25", "Option38")) << "here the word has a double s";
 }
 
 TEST_F(HeadingExercisesTest, QdrNamesItsUpperOfferPerQuestion) {
@@ -158,8 +143,7 @@ TEST_F(HeadingExercisesTest, DmeArcTiesItsTwoRowsToOneDraw) {
         }
         EXPECT_EQ(right("Label9"), "0") << "as the record writes it";
         EXPECT_EQ(right("Label10"), "7");
-        click("Option12");
-        EXPECT_EQ(right("Label8"), "maintain");
+        EXPECT_EQ(rightAfter("Label8", "Option12"), "maintain");
         EXPECT_EQ(takeResult(), 6) << "three rows";
     }
 }
@@ -171,8 +155,7 @@ TEST_F(HeadingExercisesTest, TheFourthRowIsGoneInADmeArcAndBackInAHolding) {
     option("Option14").choose();
     option("Option46").choose();
     EXPECT_FALSE(label("Label11").visible()) << "nor is a click from elsewhere judged";
-    click("Option13");
-    EXPECT_TRUE(wrong("Label8"));
+    EXPECT_TRUE(wrongAfter("Label8", "Option13"));
     click("Command27");
     EXPECT_EQ(answer("Label10", solutionColours), "20");
     EXPECT_FALSE(label("Label11").visible());

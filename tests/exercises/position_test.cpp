@@ -27,12 +27,10 @@ TEST_F(PositionTest, HsiAsksThreeListsAndEndsWithTheThird) {
     EXPECT_EQ(label("Text1").colours(), (LabelColours{0xFFFFFF, 0x806000}));
     EXPECT_EQ(list("Combo1").index(), 0);
 
-    pick("Combo1", "090");
-    EXPECT_EQ(right("Text11"), "090");
+    EXPECT_EQ(rightAfter("Text11", "Combo1", "090"), "090");
     EXPECT_EQ(label("Text1").colours(), (LabelColours{0x00FF00, 0x806000}));
     EXPECT_FALSE(list("Combo1").visible());
-    pick("Combo2", "005");
-    EXPECT_EQ(right("Text12"), "5") << "as the record writes it";
+    EXPECT_EQ(rightAfter("Text12", "Combo2", "005"), "5") << "as the record writes it";
     EXPECT_EQ(takeResult(), 0);
     pick("Combo3", "Nach links");
     EXPECT_EQ(takeResult(), 6);
@@ -42,8 +40,7 @@ TEST_F(PositionTest, HsiAsksThreeListsAndEndsWithTheThird) {
         pick(name, entry);
     EXPECT_EQ(takeResult(), 0) << "only the third ends it";
     start(2, "90", "90", "+Nach links+Nach rechts+");
-    pick("Combo3", "Nach links");
-    EXPECT_TRUE(wrong("Text13")) << "a standard VOR has one answer";
+    EXPECT_TRUE(wrongAfter("Text13", "Combo3", "Nach links")) << "a standard VOR has one answer";
     start(2, "90", "90", "Bleibt gleich");
     for (const auto& [name, entry] :
          {std::pair("Combo1", "090"), {"Combo2", "090"}, {"Combo3", "Bleibt gleich"}})
@@ -54,8 +51,7 @@ TEST_F(PositionTest, HsiAsksThreeListsAndEndsWithTheThird) {
 
 TEST_F(PositionTest, AWrongPickShowsItAndCannotBeMended) {
     start(1, "090", "5", "Nach links");
-    pick("Combo2", "010");
-    EXPECT_TRUE(wrong("Text12"));
+    EXPECT_TRUE(wrongAfter("Text12", "Combo2", "010"));
     EXPECT_EQ(label("Text2").colours(), (LabelColours{0xFFFFFF, 0x0000FF}));
     list("Combo2").pick(2);
     EXPECT_TRUE(wrong("Text12"));
@@ -147,10 +143,8 @@ TEST_F(PositionTest, OrientationComparesTextsAndStartsAtRandom) {
     start(10, "30", "360", "090");
     EXPECT_EQ(title(), "ORIENTIERUNGSÜBUNGEN ( 1 von 1)");
     EXPECT_EQ(get<CheckBox>("Check1").value(), 1);
-    pick("Combo1", "030");
-    EXPECT_TRUE(wrong("Text11"));
-    pick("Combo2", "360");
-    EXPECT_EQ(right("Text12"), "360");
+    EXPECT_TRUE(wrongAfter("Text11", "Combo1", "030"));
+    EXPECT_EQ(rightAfter("Text12", "Combo2", "360"), "360");
     click("Command1");
     EXPECT_EQ(store.stat("hsipos_bad 0"), "1") << "counted with HSI positions";
     start(1, "0", "0", "");
@@ -182,25 +176,20 @@ TEST_F(PositionTest, AdfJudgesValuesByTextAndTrendsByWord) {
     EXPECT_EQ(label("Label20").text(), "Wie lautet Ihr QDR ?");
     EXPECT_EQ(caption("Option22") + caption("Option20") + caption("Option23"), "090110120");
     EXPECT_EQ(caption("Option28") + caption("Option17"), "größerkleiner");
-    click("Option20");
-    EXPECT_EQ(right("Label14"), "110");
+    EXPECT_EQ(rightAfter("Label14", "Option20"), "110");
     EXPECT_FALSE(option("Option22").visible());
     EXPECT_FALSE(option("Option20").chosen());
     click("Option28");
     click("Option29");
-    click("Option17");
-    EXPECT_EQ(right("Label13"), "kleiner");
+    EXPECT_EQ(rightAfter("Label13", "Option17"), "kleiner");
     EXPECT_EQ(takeResult(), 0);
     click("Option27");
     EXPECT_EQ(takeResult(), 6) << "in any order";
 
     adf("größer", "kleiner");
-    click("Option21");
-    EXPECT_TRUE(wrong("Label14"));
-    click("Option33");
-    EXPECT_TRUE(wrong("Label22"));
-    click("Option19");
-    EXPECT_TRUE(wrong("Label13"));
+    EXPECT_TRUE(wrongAfter("Label14", "Option21"));
+    EXPECT_TRUE(wrongAfter("Label22", "Option33"));
+    EXPECT_TRUE(wrongAfter("Label13", "Option19"));
     click("Command7");
     EXPECT_EQ(takeResult(), 1);
     EXPECT_EQ(answer("Label13", solutionColours), "kleiner");
@@ -208,16 +197,12 @@ TEST_F(PositionTest, AdfJudgesValuesByTextAndTrendsByWord) {
 
     // The English word of the QDM trend is looked for in the column of the QDR trend.
     adf("increase", "decrease");
-    click("Option28");
-    EXPECT_EQ(right("Label22"), "increase");
-    click("Option19");
-    EXPECT_EQ(right("Label13"), "decrease");
+    EXPECT_EQ(rightAfter("Label22", "Option28"), "increase");
+    EXPECT_EQ(rightAfter("Label13", "Option19"), "decrease");
     adf("remain constant", "gleich");
-    click("Option18");
-    EXPECT_EQ(right("Label13"), "gleich");
+    EXPECT_EQ(rightAfter("Label13", "Option18"), "gleich");
     adf("grösser", "");
-    click("Option28");
-    EXPECT_TRUE(wrong("Label22")) << "here the word has its ß";
+    EXPECT_TRUE(wrongAfter("Label22", "Option28")) << "here the word has its ß";
 }
 
 } // namespace

@@ -5,7 +5,6 @@
 #include "exercises/val_str.h"
 
 #include <gtest/gtest.h>
-#include <rapidcheck.h>
 #include <rapidcheck/gtest.h>
 
 #include <algorithm>

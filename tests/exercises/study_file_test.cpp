@@ -1,7 +1,6 @@
 #include "exercises/study_file.h"
 
 #include <gtest/gtest.h>
-#include <rapidcheck.h>
 #include <rapidcheck/gtest.h>
 
 #include <string>

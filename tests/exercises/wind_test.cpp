@@ -60,21 +60,17 @@ TEST_F(WindTest, ARowsButtonsComeAliveWithTyping) {
 TEST_F(WindTest, AllRightInOrder) {
     start();
     type("Text4", "21");
-    click("Option47");
-    EXPECT_EQ(right("Label34"), "Head 20");
+    EXPECT_EQ(rightAfter("Label34", "Option47"), "Head 20");
     EXPECT_FALSE(get<TextField>("Text4").visible());
     EXPECT_FALSE(get<TextPanel>("Label43").visible());
     type("Text5", "10");
-    click("Option54");
-    EXPECT_EQ(right("Label36"), "links 10");
+    EXPECT_EQ(rightAfter("Label36", "Option54"), "links 10");
     type("Text6", "0");
-    click("Option53");
-    EXPECT_EQ(right("Label35"), "- 0");
+    EXPECT_EQ(rightAfter("Label35", "Option53"), "- 0");
     type("Text7", "1");
     type("Text8", "30");
     EXPECT_EQ(takeResult(), 0);
-    click("Option58");
-    EXPECT_EQ(right("Label37"), "1.30 min.sec");
+    EXPECT_EQ(rightAfter("Label37", "Option58"), "1.30 min.sec");
     EXPECT_EQ(takeResult(), 6);
 }
 
@@ -118,18 +114,15 @@ TEST_F(WindTest, TheFirstRowMustBeAnsweredFirst) {
     EXPECT_FALSE(get<TextField>("Text4").enabled());
     type("Text4", "21");
     EXPECT_FALSE(option("Option47").enabled());
-    click("Option47");
-    EXPECT_EQ(right("Label34"), "hidden");
+    EXPECT_EQ(rightAfter("Label34", "Option47"), "hidden");
     EXPECT_EQ(first.verdict(), Verdict::notYet);
     click("Command12");
     EXPECT_EQ(first.state(), RowState::open);
     EXPECT_EQ(takeResult(), 2);
     type("Text5", "10");
-    click("Option54");
-    EXPECT_EQ(right("Label36"), "links 10");
+    EXPECT_EQ(rightAfter("Label36", "Option54"), "links 10");
     type("Text6", "0");
-    click("Option53");
-    EXPECT_EQ(right("Label35"), "- 0") << "only the first row is shut";
+    EXPECT_EQ(rightAfter("Label35", "Option53"), "- 0") << "only the first row is shut";
     type("Text7", "1");
     type("Text8", "5");
     click("Option58");

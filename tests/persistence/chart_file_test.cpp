@@ -3,7 +3,6 @@
 #include "support/sample_chart.h"
 
 #include <gtest/gtest.h>
-#include <rapidcheck.h>
 #include <rapidcheck/gtest.h>
 
 #include <iterator>
@@ -79,23 +78,20 @@ TEST(ChartReader, KnowsEveryStateCode) {
 }
 
 TEST(ChartReader, TakesScalesFromHalfToFour) {
-    struct Case {
-        const char* text;
-        std::optional<std::int16_t> twips;
-    };
-    const Case cases[] = {{"0.5", std::int16_t{1000}},
-                          {"4", std::int16_t{125}},
-                          {"3", std::int16_t{167}},
-                          {".8", std::int16_t{625}},
-                          {"0.4", {}},
-                          {"4.1", {}},
-                          {"-2", {}},
-                          {"0", {}}};
-    for (const Case& c : cases) {
-        const ChartFile chart = readChart(chartWith(17, std::string(":ms:,") + c.text));
-        EXPECT_EQ(chart.mapScaleTwips, c.twips) << c.text;
-        EXPECT_FALSE(chart.problem) << c.text;
-        EXPECT_EQ(chart.locCourse, 83) << c.text;
+    const std::pair<const char*, std::optional<std::int16_t>> cases[] = {
+        {"0.5", std::int16_t{1000}},
+        {"4", std::int16_t{125}},
+        {"3", std::int16_t{167}},
+        {".8", std::int16_t{625}},
+        {"0.4", {}},
+        {"4.1", {}},
+        {"-2", {}},
+        {"0", {}}};
+    for (const auto& [text, twips] : cases) {
+        const ChartFile chart = readChart(chartWith(17, std::string(":ms:,") + text));
+        EXPECT_EQ(chart.mapScaleTwips, twips) << text;
+        EXPECT_FALSE(chart.problem) << text;
+        EXPECT_EQ(chart.locCourse, 83) << text;
     }
 }
 

@@ -73,22 +73,17 @@ TEST(OlderSession, StopsAtTheLineThatIsWrong) {
         ASSERT_EQ(session.problem.has_value(), kept != 48) << kept;
         EXPECT_EQ(session.samples.size(), kept < 48 ? 0U : 1U) << kept;
     }
-    struct Case {
-        std::size_t line;
-        const char* text;
-        FileProblem problem;
-    };
-    const Case cases[] = {
+    const std::tuple<std::size_t, const char*, FileProblem> cases[] = {
         {2, "***********", {2, FileField::stationState, false}},
         {7, ":mc:,99999", {7, FileField::mapCentre, false}},
         {8, "91", {8, FileField::latitude, false}},
         {51, "north", {51, FileField::degrees, false}},
         {54, "1e9", {54, FileField::airspeed, false}},
     };
-    for (const Case& c : cases) {
+    for (const auto& [line, text, problem] : cases) {
         auto lines = complete;
-        lines[c.line - 1] = c.text;
-        EXPECT_EQ(readLines(lines).problem, c.problem) << c.line;
+        lines[line - 1] = text;
+        EXPECT_EQ(readLines(lines).problem, problem) << line;
     }
 }
 

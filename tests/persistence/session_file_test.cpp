@@ -85,22 +85,17 @@ TEST(SessionFile, NumbersOfEarlierInstallationsAreTaken) {
         text[headSize + 3] = whole;
         return readSession(joinLines(text, text.size()));
     };
-    struct Case {
-        const char* number;
-        const char* whole;
-        double latitude;
-        int minutes;
-    };
-    constexpr Case cases[] = {{" .5", " 7 ", 0.5, 7},
-                              {"\"48.25\"", "\"7\"", 48.25, 7},
-                              {"-.5", "+7", -0.5, 7},
-                              {"1.25E-02", "6.5", 0.0125, 6},
-                              {" -12.5 ", "-7.5", -12.5, -8}};
-    for (const Case& c : cases) {
-        const SessionFile session = lines(c.number, c.whole);
-        ASSERT_EQ(session.samples.size(), 1U) << c.number << ' ' << c.whole;
-        EXPECT_EQ(session.samples[0].traceLat, c.latitude);
-        EXPECT_EQ(session.samples[0].traceStopMinutes, c.minutes);
+    const std::tuple<const char*, const char*, double, int> cases[] = {
+        {" .5", " 7 ", 0.5, 7},
+        {"\"48.25\"", "\"7\"", 48.25, 7},
+        {"-.5", "+7", -0.5, 7},
+        {"1.25E-02", "6.5", 0.0125, 6},
+        {" -12.5 ", "-7.5", -12.5, -8}};
+    for (const auto& [number, whole, latitude, minutes] : cases) {
+        const SessionFile session = lines(number, whole);
+        ASSERT_EQ(session.samples.size(), 1U) << number << ' ' << whole;
+        EXPECT_EQ(session.samples[0].traceLat, latitude);
+        EXPECT_EQ(session.samples[0].traceStopMinutes, minutes);
     }
 }
 
@@ -172,29 +167,23 @@ TEST(SessionFile, NamesTheLineThatIsWrong) {
 }
 
 TEST(SessionFile, TextsHaveABoundAndWhatIsWrittenKeepsIt) {
-    struct Case {
-        std::size_t line;
-        std::string tag;
-        std::string end;
-        int longest;
-        FileField expected;
-    };
-    const Case cases[] = {{2, ":c:", "", 4000, FileField::comment},
-                          {3, ":v1id:,", "@u", 40, FileField::identifier},
-                          {6, ":v2fr:,", "", 40, FileField::frequency}};
+    const std::tuple<std::size_t, std::string, std::string, int, FileField> cases[] = {
+        {2, ":c:", "", 4000, FileField::comment},
+        {3, ":v1id:,", "@u", 40, FileField::identifier},
+        {6, ":v2fr:,", "", 40, FileField::frequency}};
     const auto letters = [](int count) {
         std::string text;
         for (int i = 0; i < count; ++i)
             text += "ü";
         return text;
     };
-    for (const Case& c : cases) {
+    for (const auto& [line, tag, end, longest, expected] : cases) {
         const auto with = [&](int count) {
-            return readSession(sessionWith(c.line, c.tag + letters(count) + c.end));
+            return readSession(sessionWith(line, tag + letters(count) + end));
         };
-        EXPECT_FALSE(with(c.longest).problem) << c.line;
-        EXPECT_EQ(with(c.longest + 1).problem,
-                  (FileProblem{static_cast<int>(c.line), c.expected, false}));
+        EXPECT_FALSE(with(longest).problem) << line;
+        EXPECT_EQ(with(longest + 1).problem,
+                  (FileProblem{static_cast<int>(line), expected, false}));
     }
     SessionFile session = readSession(sessionText(1));
     session.comments[0] = letters(4001);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/recording.h"
+#include "support/sample_chart.h"
 
 #include <string>
 #include <vector>
@@ -9,25 +10,10 @@ namespace tarnel {
 
 /// The lines of a session with two comments, before its samples.
 inline std::vector<std::string> sessionHeadLines() {
-    return {":c:Intercept, then \"turn\"",
-            ":c:---",
-            ":v1id:,ALB@u",
-            ":v1fr:,112.30",
-            ":v2id:,BRK@r",
-            ":v2fr:,108.40",
-            ":n1id:,CA@l",
-            ":n1fr:,338",
-            ":n2id:,DU@d",
-            ":n2fr:,369",
-            ":loid:,ILS",
-            ":lofr:,108.70",
-            ":n1:,2",
-            ":n2:,5",
-            ":n3:,1",
-            ":n4:,2",
-            ":n1:,4",
-            ":mc:,2",
-            ":ms:,2"};
+    return linesOf(":c:Intercept, then \"turn\"|:c:---|"
+                   ":v1id:,ALB@u|:v1fr:,112.30|:v2id:,BRK@r|:v2fr:,108.40|"
+                   ":n1id:,CA@l|:n1fr:,338|:n2id:,DU@d|:n2fr:,369|:loid:,ILS|:lofr:,108.70|"
+                   ":n1:,2|:n2:,5|:n3:,1|:n4:,2|:n1:,4|:mc:,2|:ms:,2");
 }
 
 /// The 41 lines of a sample in which every field differs, and the last line.
