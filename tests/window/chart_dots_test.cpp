@@ -4,8 +4,6 @@
 #include <QPainter>
 #include <gtest/gtest.h>
 
-#include <cmath>
-
 namespace tarnel {
 namespace {
 

@@ -157,19 +157,6 @@ TEST_F(InstrumentViewTest, PaintsAgainOnlyWhenSomethingMoved) {
     EXPECT_EQ(paintsAfter([this] { hsi.c_MouseOBS = 200; }), 1) << "its knob has turned";
 }
 
-TEST(PictureStoreTest, SaysOnceThatAPictureIsMissing) {
-    QStringList missing;
-    PictureStore pictures("no such folder");
-    pictures.onMissing = [&missing](const QString& name) { missing << name; };
-    PanelInstrument hsi(InstrumentKind::hsi);
-    InstrumentView view(hsi, pictures, englishTable());
-    view.resize(300, 300);
-    view.grab();
-    view.resize(400, 400);
-    view.grab();
-    EXPECT_EQ(missing.count("pictures/qxrhsi1.jpg"), 1);
-}
-
 TEST(PictureStoreTest, FindsNamesInAnyCaseWithEitherSlashAndKeepsThemPerSize) {
     const QTemporaryDir folder;
     QImage picture(8, 8, QImage::Format_RGB32);

@@ -6,7 +6,6 @@
 #include "window/widgets/cover_plate.h"
 #include "window/widgets/quiz_list.h"
 
-#include <QLineEdit>
 #include <QWheelEvent>
 #include <gmock/gmock.h>
 
@@ -121,23 +120,6 @@ TEST_F(QuizPanelTest, TheWheelAndTheMouseOverAListAnswerNothing) {
     list.activated(12);
     settle();
     EXPECT_EQ(verdict("Text12"), "055");
-}
-
-TEST_F(QuizPanelTest, AllRightReplaysTheFlight) {
-    begin(Item::adfPosition, germanTable());
-    choose("Option21");
-    EXPECT_EQ(verdict("Label14"), "110");
-    choose("Option28");
-    press(Qt::Key_3);
-    EXPECT_EQ(verdict("Label16"), "255");
-    choose("Option17");
-    EXPECT_FALSE(form->replayRuns());
-    press(Qt::Key_4);
-    EXPECT_EQ(verdict("Label15"), "330");
-    EXPECT_TRUE(form->replayRuns());
-    EXPECT_EQ(focus(), "Command6");
-    EXPECT_TRUE(inQuiz("HScroll1").isVisible());
-    EXPECT_TRUE(inQuiz("Command7").isVisible());
 }
 
 // Digits answer the row with the keyboard, or the first open one from anywhere in the window.

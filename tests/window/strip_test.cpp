@@ -8,19 +8,17 @@
 #include <QStackedWidget>
 #include <gmock/gmock.h>
 
-#include <cmath>
-
 namespace tarnel {
 namespace {
 
 /// A student at the control strip.
 class StripStudent : public Student {
   protected:
+    void SetUp() override { open(); }
     UserControl2& sim() { return form->UserControl11; }
     int page() { return window->findChild<QStackedWidget*>()->currentIndex(); }
     /// A flight of so many seconds, at rest, with the replay before it.
-    void openAfterFlight(int seconds = 60) {
-        open();
+    void record(int seconds = 60) {
         click("Command6");
         fly(seconds);
         click("Command6");
@@ -32,7 +30,6 @@ class StripStudent : public Student {
 };
 
 TEST_F(StripStudent, TurnsThePagesAndKeepsStartAndSpeedInSight) {
-    open();
     EXPECT_EQ(page(), 1);
     const char* const tabs[] = {"PageChart", "PageReplay", "PageWind", "PageStations"};
     for (int i = 3; i >= 0; --i) {
@@ -48,7 +45,7 @@ TEST_F(StripStudent, TurnsThePagesAndKeepsStartAndSpeedInSight) {
 
 // What a button does is the form's; here each one reaches it and shows what came of it.
 TEST_F(StripStudent, ClicksThroughAllButtonsOfThePages) {
-    openAfterFlight();
+    record();
     int clicked = 0;
     for (const char* tab : {"PageChart", "PageWind", "PageStations", "PageReplay"}) {
         clickShown(tab);
@@ -79,7 +76,6 @@ TEST_F(StripStudent, ClicksThroughAllButtonsOfThePages) {
 }
 
 TEST_F(StripStudent, SeesTheFlightAndTheReplayMoveByThemselves) {
-    open();
     window->startTimers();
     form->rateQuadruple.click();
     click("Command6");
@@ -91,7 +87,6 @@ TEST_F(StripStudent, SeesTheFlightAndTheReplayMoveByThemselves) {
 }
 
 TEST_F(StripStudent, EntersTheWind) {
-    open();
     clickShown("PageWind");
     auto& direction = findShown<QSpinBox>("WindDirection");
     auto& speed = findShown<QSpinBox>("WindSpeed");
@@ -116,7 +111,6 @@ TEST_F(StripStudent, EntersTheWind) {
 }
 
 TEST_F(StripStudent, IsNotToldAWindByChanceBeforeAskingForIt) {
-    open();
     sim().clockSeed = [] { return 7U; };
     clickShown("PageWind");
     form->setManualWind(270, 20);
@@ -150,7 +144,6 @@ TEST_F(StripStudent, IsNotToldAWindByChanceBeforeAskingForIt) {
 }
 
 TEST_F(StripStudent, SeesBehindABoxWhatItSays) {
-    open();
     click("Command6");
     std::vector<std::string> shown;
     world.behind = [&] {
@@ -167,7 +160,6 @@ TEST_F(StripStudent, SeesBehindABoxWhatItSays) {
 }
 
 TEST_F(StripStudent, DrawsTheWindOnTheChart) {
-    open();
     clickShown("PageWind");
     clickShown("Command3");
     auto* chart = window->findChild<ChartView*>();
@@ -184,7 +176,7 @@ TEST_F(StripStudent, DrawsTheWindOnTheChart) {
 }
 
 TEST_F(StripStudent, DragsTheReplayBar) {
-    openAfterFlight(120);
+    record(120);
     auto& bar = findShown<ReplayBar>("HScroll1");
     const int last = form->replayPage.bar.max();
     ASSERT_GT(last, 80);
@@ -232,7 +224,7 @@ TEST(ReplayBarTest, AsksOncePerFrameWhileDragging) {
 }
 
 TEST_F(StripStudent, SeesTheLampsOnlyWithAReference) {
-    openAfterFlight(8);
+    record(8);
     auto& lamps = find<QWidget>("ReferenceLamps");
     EXPECT_FALSE(lamps.isVisible());
     for (int i = 1; i <= 3; ++i) {

@@ -4,7 +4,6 @@
 #include "window/student_fixture.h"
 
 #include <QComboBox>
-#include <QLabel>
 #include <QMenuBar>
 #include <QScreen>
 #include <gmock/gmock.h>
