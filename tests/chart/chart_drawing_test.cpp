@@ -146,19 +146,14 @@ TEST_F(ChartDrawingTest, LocalizersFeatherTurnsWithTheChart) {
 }
 
 TEST_F(ChartDrawingTest, SymbolTellsWhichFacilitiesAreOn) {
-    struct Case {
-        bool station;
-        bool dme;
-        SymbolImage image;
-    };
-    constexpr Case cases[] = {{true, true, SymbolImage::stationAndDme},
-                              {true, false, SymbolImage::stationOnly},
-                              {false, true, SymbolImage::dmeOnly},
-                              {false, false, SymbolImage::none}};
-    for (const Case& c : cases) {
-        showStation(picture, 1, c.station, c.dme);
-        EXPECT_EQ(picture.symbols[1].image, c.image);
-        EXPECT_EQ(picture.symbols[1].visible, c.image != SymbolImage::none);
+    const std::tuple<bool, bool, SymbolImage> cases[] = {{true, true, SymbolImage::stationAndDme},
+                                                         {true, false, SymbolImage::stationOnly},
+                                                         {false, true, SymbolImage::dmeOnly},
+                                                         {false, false, SymbolImage::none}};
+    for (const auto& [station, dme, image] : cases) {
+        showStation(picture, 1, station, dme);
+        EXPECT_EQ(picture.symbols[1].image, image);
+        EXPECT_EQ(picture.symbols[1].visible, image != SymbolImage::none);
     }
 }
 

@@ -1,7 +1,6 @@
 #include "chart/map_view.h"
 
 #include <gtest/gtest.h>
-#include <rapidcheck.h>
 #include <rapidcheck/gtest.h>
 
 #include <cmath>
@@ -10,15 +9,12 @@ namespace tarnel {
 namespace {
 
 TEST(MapView, ScaleLabelIsMilesPer500Twips) {
-    struct Case {
-        std::int16_t twips;
-        double miles;
-    };
-    constexpr Case cases[] = {{125, 4}, {167, 3}, {250, 2}, {333, 1.5}, {500, 1}, {1000, 0.5}};
+    const std::pair<std::int16_t, double> cases[] = {{125, 4},   {167, 3}, {250, 2},
+                                                     {333, 1.5}, {500, 1}, {1000, 0.5}};
     MapView view;
-    for (const Case& c : cases) {
-        view.plot.mapScaleTwips = c.twips;
-        EXPECT_DOUBLE_EQ(view.scaleLabelMiles(), c.miles);
+    for (const auto& [twips, miles] : cases) {
+        view.plot.mapScaleTwips = twips;
+        EXPECT_DOUBLE_EQ(view.scaleLabelMiles(), miles);
     }
 }
 

@@ -58,14 +58,10 @@ TEST_F(TraceDotsTest, KeepOffTheUpperAndLeftEdgeWithTheHeadingUp) {
     record(3);                                      // 1 and 3 are drawn
     recording.edit(1).traceLat = 49 + 3.19 / 60.04; // 215 twips from the edge
     recording.edit(3).traceLat = 49 + 3.22 / 60.04; // 185
-    struct Case {
-        double heading;
-        std::size_t drawn;
-    };
-    constexpr Case cases[] = {{0, 1}, {90, 1}, {180, 2}, {270, 2}};
-    for (const Case& c : cases) {
-        DrawReplayTrace(picture, view, recording, c.heading);
-        EXPECT_EQ(dots(), c.drawn) << c.heading;
+    const std::pair<double, std::size_t> cases[] = {{0, 1}, {90, 1}, {180, 2}, {270, 2}};
+    for (const auto& [heading, drawn] : cases) {
+        DrawReplayTrace(picture, view, recording, heading);
+        EXPECT_EQ(dots(), drawn) << heading;
     }
     view.northUpMode = true;
     DrawReplayTrace(picture, view, recording, 0);

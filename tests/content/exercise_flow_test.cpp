@@ -220,7 +220,14 @@ TEST_P(ExerciseFlow, IsAskedAnsweredShownAndLeft) {
     EXPECT_FALSE(form.UserControl11.flightUnsaved()) << "looked at, not written over";
 }
 
-class FlownExercise : public ExerciseFlow {};
+class FlownExercise : public ExerciseFlow {
+  protected:
+    void flyQuestion() {
+        click(panel().flyButton);
+        form.startButton.click();
+        fly(5);
+    }
+};
 
 TEST_P(FlownExercise, IsFlownByTheStudentAndComesBack) {
     couple();
@@ -250,23 +257,17 @@ TEST_P(FlownExercise, IsFlownByTheStudentAndComesBack) {
     EXPECT_EQ(form.UserControl11.c_TraceBufferMax, samples); // the solution is there again
     expectHidden();
 
-    click(panel().flyButton);
-    form.startButton.click();
-    fly(5);
+    flyQuestion();
     click(panel().solutionButton);
     EXPECT_FALSE(form.simulationRuns());
     EXPECT_TRUE(form.replayRuns());
     EXPECT_EQ(form.UserControl11.c_TraceBufferMax, samples);
     watch();
-    click(panel().flyButton);
-    form.startButton.click();
-    fly(5);
+    flyQuestion();
     click(panel().nextButton); // from the midst of a flight
     EXPECT_FALSE(form.simulationRuns());
     expectHidden();
-    click(panel().flyButton);
-    form.startButton.click();
-    fly(5);
+    flyQuestion();
     click(panel().cancelButton);
     EXPECT_FALSE(form.exerciseRuns());
     EXPECT_FALSE(form.simulationRuns());

@@ -3,7 +3,6 @@
 #include "core/run_time_error.h"
 
 #include <gtest/gtest.h>
-#include <rapidcheck.h>
 #include <rapidcheck/gtest.h>
 
 #include <cmath>
@@ -13,21 +12,16 @@ namespace tarnel {
 namespace {
 
 TEST(MapToPolar, KnowsItsQuadrants) {
-    struct Case {
-        ChartPoint to;
-        double course;
-        double distance;
-    };
     // From (100, 100) with y upwards, 250 twips a unit.
-    constexpr Case cases[] = {
+    const std::tuple<ChartPoint, double, double> cases[] = {
         {{100, 100}, 0, 0},          {{100, 350}, 0, 1},         {{350, 350}, 45, 1.4142136},
         {{350, 100}, 90, 1},         {{400, -300}, 143.1301, 2}, {{100, -150}, 180, 1},
         {{-200, -300}, 216.8699, 2}, {{-150, 100}, 270, 1},      {{-200, 500}, 323.1301, 2},
     };
-    for (const Case& c : cases) {
-        const Polar polar = MapToPolar(250, {100, 100}, c.to);
-        EXPECT_NEAR(polar.course, c.course, 0.0001) << c.to.x << ' ' << c.to.y;
-        EXPECT_NEAR(polar.distance, c.distance, 0.0001) << c.to.x << ' ' << c.to.y;
+    for (const auto& [to, course, distance] : cases) {
+        const Polar polar = MapToPolar(250, {100, 100}, to);
+        EXPECT_NEAR(polar.course, course, 0.0001) << to.x << ' ' << to.y;
+        EXPECT_NEAR(polar.distance, distance, 0.0001) << to.x << ' ' << to.y;
     }
     EXPECT_THROW((void)MapToPolar(250, {-20000, 0}, {20000, 0}), RunTimeError);
 }

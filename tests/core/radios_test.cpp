@@ -44,22 +44,18 @@ TEST_F(RadiosTest, OverTheStationTheDmeReadsTheHeight) {
 }
 
 TEST_F(RadiosTest, RadialIsTheBearingFromTheStation) {
-    struct Case {
-        SplitPosition station;
-        double radial;
-    };
     // Off the reference point by miles, seen from it.
-    const Case cases[] = {
+    const std::pair<SplitPosition, double> cases[] = {
         {{{49, 10}, {11, 0}}, 180},
         {{{48, 50}, {11, 0}}, 0},
         {{{49, 0}, {11, 15}}, 270},
         {{{49, 0}, {10, 45}}, 90},
     };
-    for (const Case& c : cases) {
-        stations[vor1].position = c.station;
-        stations[ndb1].position = c.station;
+    for (const auto& [station, radial] : cases) {
+        stations[vor1].position = station;
+        stations[ndb1].position = station;
         const RadioReadings readings = measure();
-        EXPECT_NEAR(readings.radial[vor1], c.radial, 0.05);
+        EXPECT_NEAR(readings.radial[vor1], radial, 0.05);
         EXPECT_EQ(readings.radial[ndb1], readings.radial[vor1]);
         EXPECT_EQ(readings.dme[ndb1], 0); // an NDB has none
     }
@@ -77,16 +73,13 @@ TEST_F(RadiosTest, FarStationsKeepTheirTrueRadialAtEveryScale) {
 }
 
 TEST_F(RadiosTest, DmeSpeedIsTheShareAlongTheLine) {
-    struct Case {
-        std::int16_t track;
-        std::int16_t speed;
-    };
-    constexpr Case cases[] = {{360, 120}, {180, 120}, {90, 0}, {270, 0}, {60, 60}, {135, 85}};
+    const std::pair<std::int16_t, std::int16_t> cases[] = {{360, 120}, {180, 120}, {90, 0},
+                                                           {270, 0},   {60, 60},   {135, 85}};
     stations[vor1].position = {{49, 20}, {11, 0}};
     inputs.groundSpeed = 120;
-    for (const Case& c : cases) {
-        inputs.groundTrack = c.track;
-        EXPECT_EQ(measure().dmeGroundSpeed[vor1], c.speed) << c.track;
+    for (const auto& [track, speed] : cases) {
+        inputs.groundTrack = track;
+        EXPECT_EQ(measure().dmeGroundSpeed[vor1], speed) << track;
     }
     EXPECT_EQ(measure().dmeGroundSpeed[ndb1], 0);
 }
@@ -111,26 +104,19 @@ TEST_F(RadiosTest, LocalizerRadialIsMeasuredOnTheEarth) {
 }
 
 TEST(SpeedVectors, ReadTrackAndSpeedAtEveryScale) {
-    struct Case {
-        double heading;
-        std::int16_t tas;
-        double windCourse;
-        std::int16_t windSpeed;
-        std::int16_t track;
-        std::int16_t speed;
-    };
-    constexpr Case cases[] = {
-        {0, 120, 0, 0, 360, 120},     {90, 120, 0, 0, 90, 120},   {180, 120, 0, 0, 180, 120},
-        {270, 120, 0, 0, 270, 120},   {45, 100, 0, 0, 45, 100},   {0, 0, 0, 0, 360, 0},
-        {0, 120, 180, 20, 360, 100},  {0, 120, 90, 120, 45, 170}, {0, 0, -150, 30, 210, 30},
-        {300, 90, -60, 30, 300, 120},
-    };
+    const std::tuple<double, std::int16_t, double, std::int16_t, std::int16_t, std::int16_t>
+        cases[] = {
+            {0, 120, 0, 0, 360, 120},     {90, 120, 0, 0, 90, 120},   {180, 120, 0, 0, 180, 120},
+            {270, 120, 0, 0, 270, 120},   {45, 100, 0, 0, 45, 100},   {0, 0, 0, 0, 360, 0},
+            {0, 120, 180, 20, 360, 100},  {0, 120, 90, 120, 45, 170}, {0, 0, -150, 30, 210, 30},
+            {300, 90, -60, 30, 300, 120},
+        };
     for (const std::int16_t scale : scales) {
-        for (const Case& c : cases) {
-            const SpeedVectors read = layOutSpeedVectors({3405, 3405}, c.heading, c.tas,
-                                                         c.windCourse, c.windSpeed, scale);
-            EXPECT_EQ(read.groundTrack, c.track) << c.heading << " at " << scale;
-            EXPECT_NEAR(read.groundSpeed, c.speed, 1) << c.heading << " at " << scale;
+        for (const auto& [heading, tas, windCourse, windSpeed, track, speed] : cases) {
+            const SpeedVectors read =
+                layOutSpeedVectors({3405, 3405}, heading, tas, windCourse, windSpeed, scale);
+            EXPECT_EQ(read.groundTrack, track) << heading << " at " << scale;
+            EXPECT_NEAR(read.groundSpeed, speed, 1) << heading << " at " << scale;
         }
     }
 }

@@ -2,7 +2,6 @@
 #include "core/run_time_error.h"
 
 #include <gtest/gtest.h>
-#include <rapidcheck.h>
 #include <rapidcheck/gtest.h>
 
 #include <cmath>
@@ -12,19 +11,14 @@ namespace tarnel {
 namespace {
 
 TEST(Rounding, TiesGoToTheEvenNumber) {
-    struct Case {
-        double value;
-        int digits;
-        double expected;
-    };
-    constexpr Case cases[] = {
+    const std::tuple<double, int, double> cases[] = {
         {0.5, 0, 0},           {1.5, 0, 2},        {2.5, 0, 2},        {-2.5, 0, -2},
         {-3.5, 0, -4},         {2.51, 0, 3},       {0.25, 1, 0.2},     {0.75, 1, 0.8},
         {1.6447, 1, 1.6},      {12.125, 2, 12.12}, {12.375, 2, 12.38}, {-0.125, 2, -0.12},
         {500.0 / 333, 1, 1.5},
     };
-    for (const Case& c : cases)
-        EXPECT_DOUBLE_EQ(roundTo(c.value, c.digits), c.expected) << c.value << " to " << c.digits;
+    for (const auto& [value, digits, expected] : cases)
+        EXPECT_DOUBLE_EQ(roundTo(value, digits), expected) << value << " to " << digits;
 }
 
 TEST(Rounding, IntegersEndWhereTheirTypeEnds) {
@@ -47,14 +41,11 @@ TEST(Rounding, IntegersEndWhereTheirTypeEnds) {
 }
 
 TEST(IntoCircle, KeepsBothEndsAndTurnsTheRest) {
-    struct Case {
-        double angle;
-        double expected;
-    };
-    constexpr Case cases[] = {{0, 0},    {360, 360},    {360.5, 0.5},      {720, 360},
-                              {-360, 0}, {-0.5, 359.5}, {-720.25, 359.75}, {1085, 5}};
-    for (const Case& c : cases)
-        EXPECT_DOUBLE_EQ(intoCircle(c.angle), c.expected) << c.angle;
+    const std::pair<double, double> cases[] = {
+        {0, 0},    {360, 360},    {360.5, 0.5},      {720, 360},
+        {-360, 0}, {-0.5, 359.5}, {-720.25, 359.75}, {1085, 5}};
+    for (const auto& [angle, expected] : cases)
+        EXPECT_DOUBLE_EQ(intoCircle(angle), expected) << angle;
     EXPECT_TRUE(std::isinf(intoCircle(std::numeric_limits<double>::infinity())));
 }
 

@@ -2,7 +2,6 @@
 #include "core/sailing.h"
 
 #include <gtest/gtest.h>
-#include <rapidcheck.h>
 #include <rapidcheck/gtest.h>
 
 #include <cmath>

@@ -72,29 +72,24 @@ TEST_F(ChartMouseTest, DragEndsWhenTheClockStarts) {
 }
 
 TEST_F(ChartMouseTest, HeadingToolDrawsWholeDegrees) {
-    struct Case {
-        Point at;
-        std::int16_t heading;
-        const char* caption;
-    };
-    constexpr Case cases[] = {{{3405, 1000}, 0, "000"},
-                              {{5405, 3405}, 90, "090"},
-                              {{4405, 4412}, 135, "135"},
-                              {{3401, 2405}, 0, "000"}, // 359.8
-                              {{1405, 3405}, 270, "270"}};
+    const std::tuple<Point, std::int16_t, const char*> cases[] = {{{3405, 1000}, 0, "000"},
+                                                                  {{5405, 3405}, 90, "090"},
+                                                                  {{4405, 4412}, 135, "135"},
+                                                                  {{3401, 2405}, 0, "000"}, // 359.8
+                                                                  {{1405, 3405}, 270, "270"}};
     std::vector<std::int16_t> drawn;
     sim.mouse.headingDrawn = [&](std::int16_t heading) { drawn.push_back(heading); };
     sim.mouse.down(ChartButton::right, {3405, 3405}); // on the aircraft: no direction
     EXPECT_TRUE(sim.picture.help.visible);
     EXPECT_TRUE(drawn.empty());
-    for (const Case& c : cases) {
-        sim.mouse.move(c.at);
-        EXPECT_EQ(sim.c_HDG, c.heading);
-        EXPECT_EQ(sim.aircraft.trueHeading, c.heading);
+    for (const auto& [at, heading, caption] : cases) {
+        sim.mouse.move(at);
+        EXPECT_EQ(sim.c_HDG, heading);
+        EXPECT_EQ(sim.aircraft.trueHeading, heading);
         ASSERT_FALSE(drawn.empty());
-        EXPECT_EQ(drawn.back(), c.heading);
-        EXPECT_EQ(sim.picture.heading.value.caption, c.caption);
-        EXPECT_EQ(sim.picture.heading.line.to, c.at);
+        EXPECT_EQ(drawn.back(), heading);
+        EXPECT_EQ(sim.picture.heading.value.caption, caption);
+        EXPECT_EQ(sim.picture.heading.line.to, at);
         EXPECT_TRUE(sim.picture.heading.line.visible);
     }
     EXPECT_EQ(place(), (GeoPosition{49, 11}));

@@ -51,18 +51,13 @@ TEST_F(FlightTest, WindComesFromItsDirection) {
 }
 
 TEST_F(FlightTest, HeadingGoesRoundTheCompass) {
-    struct Case {
-        double heading;
-        std::int16_t turnRate;
-        double after;
-    };
-    constexpr Case cases[] = {
+    const std::tuple<double, std::int16_t, double> cases[] = {
         {359.5, 3, 0.5}, {0.5, -3, 359.5}, {359, 3, 0}, {100, 1, 100.0 + 1.0 / 3}, {10, 0, 10}};
-    for (const Case& c : cases) {
-        start(120, c.heading);
-        sim.Turn_Rate = c.turnRate;
+    for (const auto& [heading, turnRate, after] : cases) {
+        start(120, heading);
+        sim.Turn_Rate = turnRate;
         tick(1);
-        EXPECT_NEAR(sim.c_HDG, c.after, 0.000002) << c.heading;
+        EXPECT_NEAR(sim.c_HDG, after, 0.000002) << heading;
         EXPECT_EQ(sim.c_HDG, sim.aircraft.trueHeading - (sim.c_HDG == 90 ? 0.000001 : 0));
         sim.c_TimerEN = 0;
     }

@@ -162,12 +162,7 @@ TEST(PlanReader, WhatTheParserCouldNotBearIsRefusedBefore) {
             text += part;
         return text;
     };
-    struct Case {
-        std::string text;
-        int line;
-        const char* expected;
-    };
-    const Case cases[] = {
+    const std::tuple<std::string, int, const char*> cases[] = {
         {"seconds = 1\n" + many("a.", 150000) + "a = 1", 2, "at most 8 parts"},
         {"x = 1.5 # a.b.c.d.e.f.g.h.i\n[" + many("\"a\" . ", 8) + "a]", 2, "at most 8 parts"},
         {"comment = \"\"\"a\n\"\"\"\"\"\n" + many("a.", 8) + "a = 1", 3, "at most 8 parts"},
@@ -178,10 +173,10 @@ TEST(PlanReader, WhatTheParserCouldNotBearIsRefusedBefore) {
         {"seconds = 1\n[\ninst3]\n", 0, "valid TOML"},
         {many("\n", (1 << 20) + 1), 0, "at most 1048576 bytes"},
     };
-    for (const Case& c : cases) {
-        const PlanError error = errorOf(c.text);
-        EXPECT_EQ(error.line(), c.line) << c.expected;
-        EXPECT_THAT(error.expected(), HasSubstr(c.expected));
+    for (const auto& [text, line, expected] : cases) {
+        const PlanError error = errorOf(text);
+        EXPECT_EQ(error.line(), line) << expected;
+        EXPECT_THAT(error.expected(), HasSubstr(expected));
     }
     EXPECT_THAT(errorOf("seconds = 1\n" + many("a.", 7) + "a = 1").expected(),
                 HasSubstr("not 'a'"));

@@ -22,21 +22,17 @@ std::unique_ptr<APControlFace> flyingFace() {
 }
 
 TEST(Autopilot, holdsTheHeading) {
-    struct Hold {
-        double selected, actual;
-        int rate;
-    };
-    const Hold holds[] = {
+    const std::tuple<double, double, int> holds[] = {
         {360, 350, 3},  {360, 355, 1},   {360, 354, 3}, {10, 350, 3}, {350, 10, -3},
         {360, 0, 0},    {0, 360, 0},     {0, 357, 1},   {0, 180, 3},  {360, 179, -3},
         {90, 84, 3},    {90, 84.1, 1},   {90, 95, -1},  {90, 96, -3}, {90, 90.04, 0},
         {90, 89.96, 0}, {90, 90.06, -1}, {90, 270, -3}, {270, 90, 3}, {2, 358, 3},
     };
     const auto face = flyingFace();
-    for (const Hold& hold : holds) {
-        face->c_HDG = hold.selected;
-        face->c_ActualHDG = hold.actual;
-        EXPECT_EQ(face->c_APTurnrate, hold.rate) << hold.selected << " from " << hold.actual;
+    for (const auto& [selected, actual, rate] : holds) {
+        face->c_HDG = selected;
+        face->c_ActualHDG = actual;
+        EXPECT_EQ(face->c_APTurnrate, rate) << selected << " from " << actual;
     }
 }
 
@@ -88,24 +84,20 @@ TEST(Autopilot, headingKnob) {
 }
 
 TEST(Autopilot, coarseDragsOfSpeedAndAltitude) {
-    struct Drag {
-        AutopilotKnob knob;
-        double base, twips, result;
-    };
     const auto speed = AutopilotKnob::airSpeed;
     const auto altitude = AutopilotKnob::altitude;
-    const Drag drags[] = {{speed, 120, 1800, 130},     {speed, 120, 90000, 360},
-                          {speed, 60, -1800, 50},      {speed, 60, -2700, 0},
-                          {altitude, 6000, 900, 6500}, {altitude, 6000, 90000, 42000},
-                          {altitude, 6000, -90000, 0}};
-    for (const Drag& drag : drags) {
+    const std::tuple<AutopilotKnob, double, double, double> drags[] = {
+        {speed, 120, 1800, 130},    {speed, 120, 90000, 360},    {speed, 60, -1800, 50},
+        {speed, 60, -2700, 0},      {altitude, 6000, 900, 6500}, {altitude, 6000, 90000, 42000},
+        {altitude, 6000, -90000, 0}};
+    for (const auto& [knob, base, twips, result] : drags) {
         const auto face = flyingFace();
-        Property<double>& value = drag.knob == speed ? face->c_TAS : face->c_ALT;
-        value = drag.base;
-        face->mouseDown(drag.knob, 0);
-        face->mouseMove(drag.twips, MouseButton::other);
+        Property<double>& value = knob == speed ? face->c_TAS : face->c_ALT;
+        value = base;
+        face->mouseDown(knob, 0);
+        face->mouseMove(twips, MouseButton::other);
         face->mouseUp();
-        EXPECT_EQ(value, drag.result) << drag.base << " by " << drag.twips;
+        EXPECT_EQ(value, result) << base << " by " << twips;
     }
 }
 

@@ -63,17 +63,13 @@ TEST(NeedleLogic, localizerIsReceivedByDistance) {
 TEST(NeedleLogic, barClipsAtFullScale) {
     const Receiver vor = receiverFor(0);
     const Receiver localizer = receiverFor(-6);
-    struct Travel {
-        const Receiver& receiver;
-        double deviation, travel;
-    };
-    const Travel cases[] = {
+    const std::tuple<const Receiver&, double, double> cases[] = {
         {vor, 10, 1},        {vor, 11, 1},          {vor, -10, -1},       {vor, -11, -1},
         {vor, 5.5, 0.55},    {vor, 0, 0},           {vor, -36, -1},       {localizer, 1, 0.5},
         {localizer, 2.1, 1}, {localizer, -2.5, -1}, {localizer, -35, -1}, {localizer, -36, 1},
     };
-    for (const Travel& c : cases)
-        EXPECT_NEAR(barTravel(c.receiver, c.deviation), c.travel, 1e-12) << c.deviation;
+    for (const auto& [receiver, deviation, travel] : cases)
+        EXPECT_NEAR(barTravel(receiver, deviation), travel, 1e-12) << deviation;
 }
 
 // Whoever flies the selected course corrects towards the bar: the station line is on that side.

@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
-#include <initializer_list>
 #include <vector>
 
 namespace tarnel {
@@ -56,20 +55,17 @@ TEST(RadioFaces, readoutsTakeTheirDigits) {
 }
 
 TEST(RadioFaces, knobGoesRoundTheSlots) {
-    struct Round {
-        std::int16_t slots;
-        std::vector<std::int32_t> up, down;
-    };
-    const Round rounds[] = {{3, {1, 2, 0}, {2, 1, 0}}, {1, {0, 0}, {0, 0}}, {0, {0, 0}, {0, 0}}};
-    for (const Round& round : rounds) {
+    const std::tuple<std::int16_t, std::vector<std::int32_t>, std::vector<std::int32_t>> rounds[] =
+        {{3, {1, 2, 0}, {2, 1, 0}}, {1, {0, 0}, {0, 0}}, {0, {0, 0}, {0, 0}}};
+    for (const auto& [slots, up, down] : rounds) {
         NAVControlFace face;
         tune(face);
-        face.c_NumberOfFreqs = round.slots;
-        for (const std::int32_t slot : round.up) {
+        face.c_NumberOfFreqs = slots;
+        for (const std::int32_t slot : up) {
             click(face);
             EXPECT_EQ(face.c_SetFreq, slot);
         }
-        for (const std::int32_t slot : round.down) {
+        for (const std::int32_t slot : down) {
             face.stepDown();
             EXPECT_EQ(face.c_SetFreq, slot);
         }
@@ -122,22 +118,18 @@ TEST(RadioFaces, lockedOrSwitchedOffKnobDoesNothing) {
 
 TEST(RadioFaces, dmeReadouts) {
     DMEControlFace dme;
-    struct Reading {
-        std::int16_t nm, kt;
-        Pictures distance, speed;
-    };
-    const Reading readings[] = {
+    const std::tuple<std::int16_t, std::int16_t, Pictures, Pictures> readings[] = {
         {0, 0, {1, 1, 1}, {1, 1, 1}},    {105, 98, {2, 1, 6}, {1, 10, 9}},
         {10, 120, {1, 2, 1}, {2, 3, 1}}, {-1, 120, {11, 11, 11}, {11, 11, 11}},
         {9, 7, {1, 1, 10}, {1, 1, 8}},   {999, 5, {10, 10, 10}, {1, 1, 6}},
         {1219, 5, {2, 3, 2}, {1, 1, 6}},
     };
-    for (const Reading& reading : readings) {
-        dme.c_DMEnm = reading.nm;
-        dme.c_DMEkt = reading.kt;
-        EXPECT_EQ(dme.distance.pictures(), reading.distance) << reading.nm;
-        EXPECT_EQ(dme.speed.pictures(), reading.speed) << reading.nm;
-        EXPECT_EQ(dme.wholeMiles(), reading.nm >= 1000);
+    for (const auto& [nm, kt, distance, speed] : readings) {
+        dme.c_DMEnm = nm;
+        dme.c_DMEkt = kt;
+        EXPECT_EQ(dme.distance.pictures(), distance) << nm;
+        EXPECT_EQ(dme.speed.pictures(), speed) << nm;
+        EXPECT_EQ(dme.wholeMiles(), nm >= 1000);
     }
     dme.ShowDistance("--.-");
     dme.ShowSpeed("---");
@@ -170,12 +162,7 @@ TEST(RadioFaces, dmeFollowsAReceiver) {
 }
 
 TEST(RadioFaces, dmeSelectorTakesDragsOnEitherAxis) {
-    struct Drag {
-        DmeMode area;
-        Point from, to;
-        DmeMode result;
-    };
-    const Drag drags[] = {
+    const std::tuple<DmeMode, Point, Point, DmeMode> drags[] = {
         {DmeMode::freq, {100, 100}, {229, 100}, DmeMode::freq},
         {DmeMode::freq, {100, 100}, {230, 100}, DmeMode::r1},
         {DmeMode::freq, {100, 100}, {450, 120}, DmeMode::r2},
@@ -188,12 +175,12 @@ TEST(RadioFaces, dmeSelectorTakesDragsOnEitherAxis) {
         {DmeMode::r1, {100, 100}, {110, 100}, DmeMode::r1},
         {DmeMode::r2, {100, 100}, {110, 100}, DmeMode::r2},
     };
-    for (const Drag& drag : drags) {
+    for (const auto& [area, from, to, result] : drags) {
         DMEControlFace dme;
-        dme.selectorDown(drag.area, drag.from);
-        dme.selectorMove(drag.to);
+        dme.selectorDown(area, from);
+        dme.selectorMove(to);
         dme.selectorUp();
-        EXPECT_EQ(dme.mode(), drag.result) << drag.to.x << "," << drag.to.y;
+        EXPECT_EQ(dme.mode(), result) << to.x << "," << to.y;
     }
 }
 
