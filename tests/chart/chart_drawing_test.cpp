@@ -157,6 +157,17 @@ TEST_F(ChartDrawingTest, SymbolTellsWhichFacilitiesAreOn) {
     }
 }
 
+TEST_F(ChartDrawingTest, AirplaneShowsItsOutline) {
+    MinatureAirplane(picture, {1000, 2000}, RotateAirplaneSymbol(0), true);
+    EXPECT_EQ(picture.airplane.fuselage.from, (Point{1000, 1900}));
+    EXPECT_EQ(picture.airplane.fuselage.to, (Point{1000, 2186}));
+    EXPECT_EQ(picture.airplane.wing.from, (Point{786, 2000}));
+    EXPECT_EQ(picture.airplane.tailplane.to, (Point{1071, 2171}));
+    EXPECT_TRUE(picture.airplane.wing.visible);
+    MinatureAirplane(picture, {0, 0}, RotateAirplaneSymbol(0), false);
+    EXPECT_FALSE(picture.airplane.tailplane.visible);
+}
+
 TEST_F(ChartDrawingTest, NothingIsPaintedAgainThatStands) {
     inputs.inst2 = {1, true, 30};
     draw();

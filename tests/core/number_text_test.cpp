@@ -12,17 +12,13 @@ namespace tarnel {
 namespace {
 
 TEST(ParseNumber, TakesTheWholeTextOrNothing) {
-    struct Case {
-        const char* text;
-        double expected;
-    };
-    constexpr Case good[] = {{"49.5", 49.5}, {" 11 ", 11}, {"\"7.25\"", 7.25},
-                             {"+3", 3},      {".5", 0.5},  {"-.5", -0.5},
-                             {"1e2", 100},   {"-0", 0},    {"12\r", 12}};
-    for (const Case& c : good) {
-        const auto value = parseNumber(c.text);
-        ASSERT_TRUE(value) << c.text;
-        EXPECT_EQ(*value, c.expected) << c.text;
+    const std::pair<const char*, double> good[] = {{"49.5", 49.5}, {" 11 ", 11}, {"\"7.25\"", 7.25},
+                                                   {"+3", 3},      {".5", 0.5},  {"-.5", -0.5},
+                                                   {"1e2", 100},   {"-0", 0},    {"12\r", 12}};
+    for (const auto& [input, expected] : good) {
+        const auto value = parseNumber(input);
+        ASSERT_TRUE(value) << input;
+        EXPECT_EQ(*value, expected) << input;
     }
     for (const char* text : {"", " ", "\"\"", "+", "-", ".", "+-1", "--1", "1 2", "49,5", "1e",
                              "x1", "1x", "nan", "inf", "1e999", "0x10"})

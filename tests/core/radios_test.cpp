@@ -85,15 +85,11 @@ TEST_F(RadiosTest, DmeSpeedIsTheShareAlongTheLine) {
 }
 
 TEST_F(RadiosTest, LocalizerRadialIsMeasuredOnTheEarth) {
-    struct Case {
-        SplitPosition aircraft;
-        double radial;
-    };
-    const Case cases[] = {
+    const std::pair<SplitPosition, double> cases[] = {
         {{{49, 4}, {11, 21}}, 90}, {{{48, 54}, {11, 6}}, 180}, {{{49, 4}, {10, 51}}, 270}};
-    for (const Case& c : cases) {
-        aircraft.placeAt(c.aircraft);
-        EXPECT_NEAR(measure().radial[localizer], c.radial, 0.0001) << c.radial;
+    for (const auto& [position, radial] : cases) {
+        aircraft.placeAt(position);
+        EXPECT_NEAR(measure().radial[localizer], radial, 0.0001) << radial;
     }
     aircraft.placeAt(SplitPosition{{49, 14}, {11, 6}}); // straight north: 180 + 180
     EXPECT_EQ(measure().radial[localizer], 360);

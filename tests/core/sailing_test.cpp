@@ -69,18 +69,14 @@ TEST(DeadReckoning, AgreesWithTheEllipsoidWithinTwoMetres) {
 }
 
 TEST(DeadReckoning, ChangesCoursesThatItCannotUse) {
-    struct Case {
-        double course;
-        double used;
-    };
-    constexpr Case cases[] = {{90, 90.000001},    {89.99999995, 90.000001},
-                              {89.9999, 89.9999}, {270, 270.000001},
-                              {450, 90.000001},   {360, 360},
-                              {540, 180},         {-45, -45}};
-    for (const Case& c : cases) {
-        double course = c.course;
+    const std::pair<double, double> cases[] = {{90, 90.000001},    {89.99999995, 90.000001},
+                                               {89.9999, 89.9999}, {270, 270.000001},
+                                               {450, 90.000001},   {360, 360},
+                                               {540, 180},         {-45, -45}};
+    for (const auto& [given, used] : cases) {
+        double course = given;
         (void)DeadReckon({{49, 0}, {11, 0}}, 1, course);
-        EXPECT_EQ(course, c.used) << c.course;
+        EXPECT_EQ(course, used) << given;
     }
 }
 

@@ -282,6 +282,14 @@ TEST_F(ReplayTest, AFlightStoppedBeforeItsFirstSampleHasOne) {
     EXPECT_LT(milesBetween(there, place()), 0.1);
 }
 
+TEST_F(ReplayTest, AHeadingDrawnOnASampleIsFlown) {
+    fly(30);
+    sim.c_RepeatValue = 20;
+    sim.turnAircraft(90);
+    sim.c_TimerEN = 1;
+    EXPECT_EQ(sim.c_HDG, 90);
+}
+
 TEST_F(ReplayTest, BeyondTheWarningItStartsOverOnceMore) {
     fly(3);
     sim.recording.setNewest(5995); // as a loaded session of 6,000 samples resumed there

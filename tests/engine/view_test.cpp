@@ -59,6 +59,15 @@ TEST_F(ViewTest, BackToNorthUpRadialsAreTrueAtOnce) {
     EXPECT_NEAR(sim.picture.airplane.fuselage.from.x, 3405 + 95.6, 1);
 }
 
+TEST_F(ViewTest, NorthUpAircraftMovesOverAFixedChart) {
+    start(120);
+    sim.SimStep();
+    const Point before = inSlot(sim.stations, Slot::vor1).place.wide;
+    tick(minute);
+    EXPECT_EQ(inSlot(sim.stations, Slot::vor1).place.wide, before);
+    EXPECT_NEAR(sim.aircraft.place.wide.y, 3405 - 500, 5);
+}
+
 TEST_F(ViewTest, ScaleKeepsRadialsAndCentresAsSelected) {
     start(120, 45);
     tick(minute);

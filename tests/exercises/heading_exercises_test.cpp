@@ -94,12 +94,9 @@ TEST_F(HeadingExercisesTest, InterceptJudgesItsFourRows) {
 }
 
 TEST_F(HeadingExercisesTest, InterceptKnowsItsWords) {
-    const struct {
-        const char* angle;
-        const char* button;
-    } words[] = {{"increase", "Option38"}, {"grösser", "Option38"},
-                 {"gleich", "Option39"},   {"remain constant", "Option39"},
-                 {"decrease", "Option40"}, {"kleiner", "Option40"}};
+    const std::pair<const char*, const char*> words[] = {
+        {"increase", "Option38"},        {"grösser", "Option38"},  {"gleich", "Option39"},
+        {"remain constant", "Option39"}, {"decrease", "Option40"}, {"kleiner", "Option40"}};
     for (const auto& [angle, button] : words) {
         start(7, many({{ans1, "010"}, {ans2, angle}, {ans3, "rechts"}, {ans4, "kleiner"}}));
         EXPECT_EQ(rightAfter("Label25", button), angle);

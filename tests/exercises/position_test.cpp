@@ -76,13 +76,7 @@ TEST_F(PositionTest, OnlyAConfirmedChoiceIsJudged) {
 }
 
 TEST_F(PositionTest, DegreesAreJudgedByTheirPlace) {
-    const struct {
-        int type;
-        const char* list;
-        int index;
-        const char* answer;
-        bool right;
-    } cases[] = {
+    const std::tuple<int, const char*, int, const char*, bool> cases[] = {
         {1, "Combo1", 1, "0", true},     {1, "Combo1", 1, "000", true},
         {1, "Combo1", 1, "360", true},   {1, "Combo1", 2, "5", true},
         {1, "Combo1", 3, "5", false},    {1, "Combo1", 2, "7", false},

@@ -53,11 +53,7 @@ struct Holding {
 };
 
 TEST(Holding, EntersByTheSectorWithItsEnds) {
-    const struct {
-        int d;
-        const char* standard;
-        const char* left;
-    } table[] = {
+    const std::tuple<int, const char*, const char*> table[] = {
         {0, "direct", "direct"},     {1, "direct", "direct"},     {70, "direct", "direct"},
         {71, "direct", "parallel"},  {110, "direct", "parallel"}, {111, "offset", "parallel"},
         {180, "offset", "parallel"}, {181, "parallel", "offset"}, {249, "parallel", "offset"},

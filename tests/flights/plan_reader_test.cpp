@@ -100,12 +100,7 @@ TEST(PlanReader, AsksForSecondsAlone) {
 }
 
 TEST(PlanReader, NamesTheLineAndWhatWasExpected) {
-    struct Case {
-        const char* text;
-        int line;
-        const char* expected;
-    };
-    constexpr Case cases[] = {
+    const std::tuple<const char*, int, const char*> cases[] = {
         {"", 1, "'seconds' as well"},
         {"seconds = 60\nseconds = 70", 2, "valid TOML"},
         {"seconds = 60\n[wind", 2, "valid TOML"},
@@ -146,10 +141,10 @@ TEST(PlanReader, NamesTheLineAndWhatWasExpected) {
         {"seconds = 9\n[[event]]\nat = 1\ncomment = \"two\\nlines\"", 4, "one line of text"},
         {"seconds = 9\n[[event]]\nat = 1\ncomment = \"a\"\ncomment_end = true", 2, "either"},
     };
-    for (const Case& c : cases) {
-        const PlanError error = errorOf(c.text);
-        EXPECT_EQ(error.line(), c.line) << c.text;
-        EXPECT_THAT(error.expected(), HasSubstr(c.expected)) << c.text;
+    for (const auto& [text, line, wanted] : cases) {
+        const PlanError error = errorOf(text);
+        EXPECT_EQ(error.line(), line) << text;
+        EXPECT_THAT(error.expected(), HasSubstr(wanted)) << text;
     }
     EXPECT_STREQ(errorOf("seconds = 1\nchart = 5").what(),
                  "wrong.toml:2: expected 'chart' as a path");

@@ -83,19 +83,15 @@ TEST(ScriptedFlight, FollowsTheChartWhereThePlanIsSilent) {
 }
 
 TEST(ScriptedFlight, TakesAnEventAtTheFirstTickAtOrAfterItsTime) {
-    struct Case {
-        const char* at;
-        int tick;
-    };
-    for (const Case& c : {Case{"0", 0}, Case{"1", 3}, Case{"1.1", 4}, Case{"1.34", 5}}) {
-        const std::vector<FlownRow> rows = fly("seconds = 2\n[[event]]\nat = " + std::string(c.at) +
+    for (const auto& [at, first] : {std::pair("0", 0), {"1", 3}, {"1.1", 4}, {"1.34", 5}}) {
+        const std::vector<FlownRow> rows = fly("seconds = 2\n[[event]]\nat = " + std::string(at) +
                                                "\nwind = \"360/40\"\ntas = 300\nheading = 90");
         for (int tick = 0; tick <= 6; ++tick) {
             const FlownRow& row = rows.at(static_cast<std::size_t>(tick));
-            const bool taken = tick >= c.tick;
-            EXPECT_EQ(row.text("wind_speed"), taken ? "40" : "0") << c.at << ' ' << tick;
-            EXPECT_EQ(row.text("tas"), taken ? "300" : "120") << c.at << ' ' << tick;
-            EXPECT_EQ(row.text("turn_rate"), taken ? "3" : "0") << c.at << ' ' << tick;
+            const bool taken = tick >= first;
+            EXPECT_EQ(row.text("wind_speed"), taken ? "40" : "0") << at << ' ' << tick;
+            EXPECT_EQ(row.text("tas"), taken ? "300" : "120") << at << ' ' << tick;
+            EXPECT_EQ(row.text("turn_rate"), taken ? "3" : "0") << at << ' ' << tick;
         }
     }
     // Of two at the same time the one that stands later in the plan wins.

@@ -53,6 +53,16 @@ RC_GTEST_PROP(Autopilot, turnsTheShortWayAndArrives, ()) {
     RC_ASSERT(std::abs(std::remainder(selected - heading, 360)) < 0.1);
 }
 
+TEST(Autopilot, readoutsHaveThreeDigits) {
+    const auto face = flyingFace();
+    face->c_HDG = 7.9;
+    EXPECT_EQ(face->headingDigits.pictures(), (Pictures{1, 1, 8}));
+    face->c_TAS = 120;
+    EXPECT_EQ(face->airSpeedDigits.pictures(), (Pictures{2, 3, 1}));
+    face->c_ALT = 6000;
+    EXPECT_EQ(face->altitudeDigits.pictures(), (Pictures{1, 7, 1}));
+}
+
 TEST(Autopilot, headingKnob) {
     struct Drag {
         double base, twips;

@@ -175,15 +175,12 @@ TEST(InstrumentMouse, doubleClickSyncsTheBug) {
 
 TEST(InstrumentMouse, wheelAndKeysStep) {
     PanelInstrument hsi(InstrumentKind::hsi);
-    struct Step {
-        std::int16_t from;
-        int steps;
-        std::int16_t to;
-    };
-    for (const Step& step : {Step{359, 1, 360}, {360, 1, 1}, {0, -1, 359}, {10, 15, 25}}) {
-        hsi.c_HDGbug = step.from;
-        hsi.mouse.stepKnob(InstrumentArea::headingBugKnob, step.steps);
-        EXPECT_EQ(hsi.c_HDGbug, step.to);
+    const std::tuple<std::int16_t, int, int> steps[] = {
+        {359, 1, 360}, {360, 1, 1}, {0, -1, 359}, {10, 15, 25}};
+    for (const auto& [from, count, to] : steps) {
+        hsi.c_HDGbug = from;
+        hsi.mouse.stepKnob(InstrumentArea::headingBugKnob, count);
+        EXPECT_EQ(hsi.c_HDGbug, to);
     }
     hsi.mouse.stepKnob(InstrumentArea::obsKnob, 1);
     EXPECT_EQ(hsi.c_MouseOBS, 359);

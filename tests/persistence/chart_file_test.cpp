@@ -154,12 +154,7 @@ TEST(ChartReader, NamesTheLineWhereAFileIsTruncated) {
 }
 
 TEST(ChartReader, NamesTheLineThatIsWrong) {
-    struct Case {
-        std::size_t line;
-        const char* text;
-        FileField expected;
-    };
-    constexpr Case cases[] = {
+    const std::tuple<std::size_t, const char*, FileField> cases[] = {
         {2, ":v1fr", FileField::frequency},        {3, "", FileField::identifier},
         {11, ":n1:,7", FileField::stationState},   {12, ":n2:,-1", FileField::stationState},
         {15, ":n1:,1.5", FileField::stationState}, {15, ":n1:,", FileField::stationState},
@@ -171,10 +166,10 @@ TEST(ChartReader, NamesTheLineThatIsWrong) {
         {20, "-361", FileField::heading},          {21, "1e999", FileField::longitude},
         {22, "-89.5", FileField::latitude},        {31, "", FileField::localizerCourse},
     };
-    for (const Case& c : cases) {
-        const ChartFile chart = readChart(chartWith(c.line, c.text));
-        const FileProblem expected{static_cast<int>(c.line), c.expected, false};
-        EXPECT_EQ(chart.problem, expected) << c.line << ' ' << c.text;
+    for (const auto& [line, text, wanted] : cases) {
+        const ChartFile chart = readChart(chartWith(line, text));
+        const FileProblem expected{static_cast<int>(line), wanted, false};
+        EXPECT_EQ(chart.problem, expected) << line << ' ' << text;
     }
 }
 

@@ -141,12 +141,7 @@ TEST(SessionFile, TruncatedAnywhereItKeepsItsWholeSamples) {
 }
 
 TEST(SessionFile, NamesTheLineThatIsWrong) {
-    struct Case {
-        std::size_t line;
-        const char* text;
-        FileField expected;
-    };
-    constexpr Case cases[] = {
+    const std::tuple<std::size_t, const char*, FileField> cases[] = {
         {13, ":n1:,7", FileField::stationState}, {18, ":mc:,x", FileField::mapCentre},
         {19, ":ms:,wide", FileField::mapScale},  {20, "90.1", FileField::latitude},
         {20, "48,25", FileField::latitude},      {21, "inf", FileField::longitude},
@@ -156,10 +151,10 @@ TEST(SessionFile, NamesTheLineThatIsWrong) {
         {58, "--", FileField::wholeNumber},      {59, "101", FileField::commentIndex},
         {59, "-2", FileField::commentIndex},
     };
-    for (const Case& c : cases) {
-        const SessionFile session = readSession(sessionWith(c.line, c.text));
-        const FileProblem expected{static_cast<int>(c.line), c.expected, false};
-        EXPECT_EQ(session.problem, expected) << c.line << ' ' << c.text;
+    for (const auto& [line, text, wanted] : cases) {
+        const SessionFile session = readSession(sessionWith(line, text));
+        const FileProblem expected{static_cast<int>(line), wanted, false};
+        EXPECT_EQ(session.problem, expected) << line << ' ' << text;
         EXPECT_TRUE(session.samples.empty());
         EXPECT_EQ(errorNumber(expected), 13);
     }

@@ -66,6 +66,32 @@ QRect partFromCentre(const QImage& image, double left, double top, double right,
     return partOf(image, (left + 1) / 2, (top + 1) / 2, (right + 1) / 2, (bottom + 1) / 2);
 }
 
+int brightest(const QImage& image, const QRect& area) {
+    int result = 0;
+    for (int y = area.top(); y <= area.bottom(); ++y)
+        for (int x = area.left(); x <= area.right(); ++x)
+            result = std::max(result, qGray(image.pixel(x, y)));
+    return result;
+}
+
+// The area in which anything is painted, and how many pixels are more than half covered.
+struct Ink {
+    QRect area;
+    int pixels = 0;
+};
+
+Ink inkOf(const QImage& image) {
+    Ink ink;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x) {
+            const int alpha = qAlpha(image.pixel(x, y));
+            if (alpha > 0)
+                ink.area |= QRect(x, y, 1, 1);
+            ink.pixels += alpha > 127 ? 1 : 0;
+        }
+    return ink;
+}
+
 QByteArray contents(const QString& path) {
     QFile file(path);
     EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(path);
@@ -141,6 +167,62 @@ TEST(Pictures, TheCardUnderLiveDrawingIsDark) {
                     worst = std::max(worst, qGray(image.pixel(x, y)));
         EXPECT_LT(worst, darkEnough) << qPrintable(face.name);
     }
+}
+
+TEST(Pictures, FacesKeepFreeWhatIsDrawnOverThemAndMeetThePanel) {
+    constexpr int brightestPlate = 84;
+    for (const QString& name :
+         QStringList{"QXRadff.jpg", "qxrrmi1g.jpg", "QXRvor2f.jpg", "qxrhsi2.jpg", "qxrhdg.jpg"}) {
+        const QImage image = picture(name);
+        const QRect button = partOf(image, 0.028, 0.028, 0.028 + 0.205, 0.028 + 0.064);
+        EXPECT_LT(brightest(image, button), brightestPlate) << qPrintable(name);
+        const QRgb outside = image.pixel(2, 2);
+        EXPECT_NEAR(qRed(outside), 0x1F, 3) << qPrintable(name);
+        EXPECT_NEAR(qGreen(outside), 0x23, 3) << qPrintable(name);
+        EXPECT_NEAR(qBlue(outside), 0x27, 3) << qPrintable(name);
+    }
+}
+
+TEST(Pictures, DigitsHaveTheirSegmentsInsideTheirCell) {
+    // By the number of lit segments; the one and the dash have the fewest.
+    const QList<QStringList> byInk{
+        {"11"}, {"02"}, {"08"}, {"05"}, {"03", "04", "06"}, {"01", "07", "10"}, {"09"}};
+    for (const QString& colour : QStringList{"amber", "green"}) {
+        int mostBefore = 0;
+        for (const QStringList& signs : byInk) {
+            int most = 0;
+            for (const QString& sign : signs) {
+                const QImage digit = picture("digit_" + colour + "_" + sign + ".png");
+                const Ink ink = inkOf(digit);
+                EXPECT_GT(ink.pixels, mostBefore) << qPrintable(sign);
+                EXPECT_TRUE(digit.rect().adjusted(1, 1, -1, -1).contains(ink.area))
+                    << qPrintable(sign);
+                most = std::max(most, ink.pixels);
+            }
+            mostBefore = most;
+        }
+        EXPECT_TRUE(inkOf(picture("digit_" + colour + "_12.png")).area.isNull());
+        const QImage one = picture("digit_" + colour + "_02.png");
+        EXPECT_NEAR(inkOf(one).area.center().x(), one.rect().center().x(), 2);
+    }
+    const QPoint inMiddleBar(84, 135);
+    EXPECT_EQ(picture("digit_amber_09.png").pixel(inMiddleBar), 0xFFFFC14D);
+    EXPECT_EQ(picture("digit_green_09.png").pixel(inMiddleBar), 0xFF5FE08E);
+}
+
+TEST(Pictures, KnobsEndWithinTheirPicturesAndThePointerPointsUp) {
+    for (const QString& name : QStringList{"knob.png", "knob_hover.png", "knob_concentric.png",
+                                           "knob_concentric_hover.png"}) {
+        const QImage knob = picture(name);
+        EXPECT_TRUE(knob.rect().adjusted(1, 1, -1, -1).contains(inkOf(knob).area))
+            << qPrintable(name);
+        EXPECT_EQ(qAlpha(knob.pixel(knob.rect().center())), 255) << qPrintable(name);
+    }
+    const QImage pointer = picture("knob_pointer.png");
+    const QRect area = inkOf(pointer).area;
+    EXPECT_LT(area.bottom(), pointer.height() / 2);
+    EXPECT_NEAR(area.center().x(), pointer.rect().center().x(), 1);
+    EXPECT_GT(area.height(), 3 * area.width());
 }
 
 TEST(Pictures, PaintingAgainGivesTheSameBytes) {

@@ -1,7 +1,5 @@
 #include "trainer_fixture.h"
 
-#include <gmock/gmock.h>
-
 #include <array>
 #include <set>
 
@@ -10,6 +8,7 @@ namespace {
 
 using testing::HasSubstr;
 
+using Autopilot = TrainerTest;
 using HeadingBug = TrainerTest;
 using PractiseArea = TrainerTest;
 using RunTimeErrors = TrainerTest;
@@ -121,6 +120,14 @@ TEST_F(DmeTest, ShowsWholeMilesFarOutAndZeroWhenSwitchedOff) {
     EXPECT_TRUE(world.boxes.empty());
 }
 
+TEST_F(Autopilot, TakesItsHighestAltitudeWithoutAnError) {
+    form.APControlFace1.stepALT(400);
+    couple();
+    EXPECT_EQ(form.APControlFace1.c_ALT, 42000);
+    EXPECT_EQ(sim().c_Altitude, 6000) << "pinned";
+    EXPECT_TRUE(world.boxes.empty());
+}
+
 TEST_F(PractiseArea, StopsTheFlightOnceWithItsMessage) {
     placeAt(48.17, 13.2, 90);
     start();
@@ -159,6 +166,16 @@ TEST_F(Stopwatch, RunsStopsAndResetsAtOnceWhenPaused) {
     couple(1);
     EXPECT_EQ(form.tvsmtimer1.minsec.get(), "00.00");
     EXPECT_EQ(form.flightTimePanel.text(), "0h1min15sec");
+}
+
+TEST_F(Strip, AnAbandonedTrackStaysAway) {
+    start();
+    fly(120);
+    form.startButton.click();
+    EXPECT_FALSE(sim().picture.trace.all().empty());
+    sim().placeAircraft(ChartPoint{1000, 1000});
+    form.stepScale(1);
+    EXPECT_TRUE(sim().picture.trace.all().empty());
 }
 
 TEST_F(Strip, LockTakesTheKnobsAndDialsButNotTheAutopilot) {
@@ -209,6 +226,14 @@ TEST_F(Panel, OneInstrumentHoldsTheObsOfAVor) {
     EXPECT_EQ(holder(), std::pair(true, true)) << "each of its own VOR";
     form.inst2ChannelButton.click();
     EXPECT_EQ(holder(), std::pair(true, false)) << "VOR 2 is taken over, too";
+}
+
+TEST_F(Panel, OnlyAnInstrumentWithACourseHasTheButtonOfAChannel) {
+    for (int kind = adf; kind <= dg; ++kind) {
+        form.inst2TypeList.pick(kind - 1);
+        couple();
+        EXPECT_EQ(form.inst2ChannelButton.visible(), kind == vor || kind == hsi) << kind;
+    }
 }
 
 TEST_F(Panel, LargeDisplayReloadsItsPictureAndShrinksTheChart) {

@@ -2,8 +2,6 @@
 #include "shell/trainer_fixture.h"
 #include "support/sample_session.h"
 
-#include <gmock/gmock.h>
-
 namespace tarnel {
 namespace {
 

@@ -1,7 +1,5 @@
 #include "shell/trainer_fixture.h"
 
-#include <gmock/gmock.h>
-
 namespace tarnel {
 namespace {
 

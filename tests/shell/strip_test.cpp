@@ -1,7 +1,5 @@
 #include "shell/trainer_fixture.h"
 
-#include <gmock/gmock.h>
-
 namespace tarnel {
 namespace {
 
@@ -344,24 +342,6 @@ TEST_F(StripTest, EditingAChartAsksForMarkedCommentsAndRestsTheReplay) {
     EXPECT_FALSE(form.pressKey('P') && form.replayRuns());
     form.stationPage.edit.click();
     expectReplayControls(true);
-}
-
-TEST_F(StripTest, UndoIsOfferedAtRestAndBringsAnEndedFlightBack) {
-    record(20);
-    const int samples = newest();
-    EXPECT_FALSE(form.editMenu.undo.enabled());
-    scrollTo(9);
-    sim().mouse.down(ChartButton::left, {1000, 1000});
-    sim().mouse.up();
-    couple();
-    form.editMenu.undo.click();
-    EXPECT_TRUE(form.editMenu.redo.enabled());
-    couple();
-    EXPECT_EQ(newest(), samples);
-    EXPECT_EQ(form.replayPage.bar.value(), 9);
-    start();
-    couple();
-    EXPECT_FALSE(form.editMenu.redo.enabled());
 }
 
 TEST_F(StripTest, APracticePanelTakesItsStates) {

@@ -4,6 +4,7 @@
 #include "shell/form_1.h"
 #include "strings/string_table.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <filesystem>

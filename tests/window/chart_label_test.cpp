@@ -125,23 +125,19 @@ TEST(ChartLabels, TakeNoNoticeOfOneThatIsNotShown) {
 
 TEST(LineClipping, KeepsThePartOnThePaper) {
     const QRectF area(0, 0, 100, 100);
-    struct Case {
-        QLineF line;
-        QLineF visible;
-    };
-    const Case cases[] = {
+    const std::pair<QLineF, QLineF> cases[] = {
         {{10, 10, 90, 20}, {10, 10, 90, 20}},   {{-50, 50, 150, 50}, {0, 50, 100, 50}},
         {{150, 50, -50, 50}, {100, 50, 0, 50}}, {{50, 50, 50, 1e7}, {50, 50, 50, 100}},
         {{-1e7, -1e7, 50, 50}, {0, 0, 50, 50}}, {{-20, 100, 40, 100}, {0, 100, 40, 100}},
         {{-50, 50, 50, -50}, {0, 0, 0, 0}},     {{30, 30, 30, 30}, {30, 30, 30, 30}},
     };
-    for (const Case& each : cases) {
-        const auto visible = clipped(each.line, area);
-        ASSERT_TRUE(visible) << each.line.x1() << ' ' << each.line.y1();
-        EXPECT_NEAR(visible->x1(), each.visible.x1(), 1e-6);
-        EXPECT_NEAR(visible->y1(), each.visible.y1(), 1e-6);
-        EXPECT_NEAR(visible->x2(), each.visible.x2(), 1e-6);
-        EXPECT_NEAR(visible->y2(), each.visible.y2(), 1e-6);
+    for (const auto& [line, part] : cases) {
+        const auto visible = clipped(line, area);
+        ASSERT_TRUE(visible) << line.x1() << ' ' << line.y1();
+        EXPECT_NEAR(visible->x1(), part.x1(), 1e-6);
+        EXPECT_NEAR(visible->y1(), part.y1(), 1e-6);
+        EXPECT_NEAR(visible->x2(), part.x2(), 1e-6);
+        EXPECT_NEAR(visible->y2(), part.y2(), 1e-6);
     }
 }
 

@@ -3,8 +3,6 @@
 #include "window/frame/instrument_panel.h"
 #include "window/student_fixture.h"
 
-#include <QLabel>
-
 namespace tarnel {
 namespace {
 

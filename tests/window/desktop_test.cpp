@@ -6,14 +6,12 @@
 #include <QDropEvent>
 #include <QFile>
 #include <QFileDialog>
-#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QUrl>
-#include <gmock/gmock.h>
 
 #include <filesystem>
 #include <functional>

@@ -1,11 +1,9 @@
 #include "window/frame/flight_guard.h"
 #include "window/student_fixture.h"
 
-#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QTemporaryDir>
-#include <gmock/gmock.h>
 
 namespace tarnel {
 namespace {

@@ -1,11 +1,9 @@
 #include "window/student_fixture.h"
 
 #include <QAction>
-#include <QLabel>
 #include <QLineEdit>
 #include <QSet>
 #include <QSpinBox>
-#include <gmock/gmock.h>
 
 namespace tarnel {
 namespace {
@@ -56,6 +54,8 @@ TEST_F(KeyStudent, TypesTheSameLettersIntoFields) {
         press(key);
     EXPECT_EQ(text.text().toLower(), "mphtvwr");
     EXPECT_EQ(QString::fromStdString(form->commentPanel.text.text()), text.text());
+    click("CommentStart");
+    EXPECT_NE(sim().comments.selectedCommentIndex, noComment);
     click("PageWind");
     findShown<QSpinBox>("WindSpeed").setFocus();
     press(Qt::Key_M);

@@ -7,7 +7,6 @@
 #include "window/widgets/quiz_list.h"
 
 #include <QWheelEvent>
-#include <gmock/gmock.h>
 
 namespace tarnel {
 namespace {

@@ -6,7 +6,6 @@
 
 #include <QAccessible>
 #include <QComboBox>
-#include <QLabel>
 #include <QLineEdit>
 #include <QRegularExpression>
 

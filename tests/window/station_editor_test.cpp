@@ -6,7 +6,6 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QRadioButton>
-#include <gmock/gmock.h>
 
 namespace tarnel {
 namespace {

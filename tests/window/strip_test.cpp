@@ -3,10 +3,8 @@
 #include "window/widgets/replay_bar.h"
 
 #include <QCheckBox>
-#include <QLabel>
 #include <QSpinBox>
 #include <QStackedWidget>
-#include <gmock/gmock.h>
 
 namespace tarnel {
 namespace {

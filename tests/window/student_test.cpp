@@ -6,7 +6,6 @@
 #include <QComboBox>
 #include <QMenuBar>
 #include <QScreen>
-#include <gmock/gmock.h>
 
 namespace tarnel {
 namespace {
