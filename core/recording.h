@@ -15,37 +15,10 @@ namespace tarnel {
 
 /// The whole state of a flight at one moment.
 struct Sample {
-    double traceLat = 0; ///< aircraft, plain degrees
-    double traceLon = 0;
-    double traceHeading = 0;
-    std::int16_t traceStopMinutes = 0;
-    std::int16_t traceStopSeconds = 0;
-    std::int16_t traceFlightMinutes = 0;
-    std::int16_t traceFlightSeconds = 0;
-    std::int16_t traceFlightHours = 0;
-    std::int16_t traceTAS = 0;
-    std::int16_t traceTurnRate = 0;
-    std::array<GeoPosition, slotCount> traceStations{};
-    std::int16_t traceLocCourse = 0;
-    std::int16_t traceWindDirection = 0;
-    std::int16_t traceWindSpeed = 0;
-    double traceObsI2 = 0;
-    double traceObsI3 = 0;
-    std::int16_t traceInst2 = 0;
-    std::int16_t traceInst3 = 0;
-    std::int16_t traceInst2NAVselect = 0;
-    std::int16_t traceInst3NAVselect = 0;
-    std::int16_t traceInst2ADFCard = 0;
-    std::int16_t traceInst3ADFCard = 0;
-    std::int16_t traceNAV1freq = 0;
-    std::int16_t traceNAV2freq = 0;
-    std::int16_t traceADFfreq = 0;
-    std::int16_t traceDMEfreq = 0;
-    std::int16_t traceAPhdg = 0;
-    std::int16_t traceAPtas = 0;
-    std::int16_t traceAPalt = 0;
-    std::int16_t traceHDGbug = 0;
-    std::int16_t traceComment = noComment; ///< index into the comment texts
+#define FIELD(name, type, rule, value) type name{};
+#define COMMENT(name, type, rule, value) type name = value;
+#define STATIONS() std::array<GeoPosition, slotCount> traceStations{};
+#include "core/sample_rows.def"
 
     bool operator==(const Sample&) const = default;
 };

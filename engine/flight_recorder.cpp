@@ -11,49 +11,31 @@ constexpr std::int16_t wipeTrace = 2;
 
 } // namespace
 
+/// Courses are kept from north, as they stand on the dial, free of what a turned chart's heading
+/// leaves behind the sixth decimal; they may lie above 360 degrees.
+double UserControl2::recorded(setting::Course, const Property<double>& course) const {
+    constexpr int decimals = 6;
+    const double turned = c_MAPnorthUP == 1 ? 0 : c_HDG.get();
+    return roundTo(turned + course, decimals);
+}
+
 Sample UserControl2::presentSample() const {
     Sample sample;
-    sample.traceLat = aircraft.aircraftLat;
-    sample.traceLon = aircraft.aircraftLon;
-    sample.traceHeading = aircraft.trueHeading;
-    sample.traceStopMinutes = clock.stopwatchMinutes;
-    sample.traceStopSeconds = static_cast<std::int16_t>(clock.stopwatchSeconds);
-    sample.traceFlightMinutes = clock.flightMinutes;
-    sample.traceFlightSeconds = static_cast<std::int16_t>(clock.flightSeconds);
-    sample.traceFlightHours = clock.flightHours;
-    sample.traceTAS = c_TAS;
-    sample.traceTurnRate = Turn_Rate;
-    for (std::size_t i = 0; i < slotCount; ++i)
+#define FIELD(name, type, rule, value) sample.name = static_cast<type>(value);
+#define SETTING(name, type, rule, kind, property, control)                                         \
+    sample.name = recorded(setting::kind(), property);
+#define STATIONS()                                                                                 \
+    for (std::size_t i = 0; i < slotCount; ++i)                                                    \
         sample.traceStations[i] = toPlain(stations[i].position);
-    sample.traceLocCourse = toInt16(c_LocCrs1);
-    sample.traceWindDirection = toInt16(wind.direction);
-    sample.traceWindSpeed = wind.speed;
-    copySettings(sample);
-    sample.traceAPhdg = c_APhdg;
-    sample.traceAPtas = c_APtas;
-    sample.traceAPalt = c_APalt;
-    sample.traceHDGbug = c_HDGbug;
+#include "core/sample_rows.def"
     return sample;
 }
 
-/// The settings of the instruments and receivers. Courses are kept from north, as they stand on the
-/// dial, free of what a turned chart's heading leaves behind the sixth decimal; they may lie above
-/// 360 degrees.
 void UserControl2::copySettings(Sample& sample) const {
-    constexpr int decimals = 6;
-    const double turned = c_MAPnorthUP == 1 ? 0 : c_HDG.get();
-    sample.traceObsI2 = roundTo(turned + c_obsI2, decimals);
-    sample.traceObsI3 = roundTo(turned + c_obsI3, decimals);
-    sample.traceInst2 = c_inst2;
-    sample.traceInst3 = c_inst3;
-    sample.traceInst2NAVselect = c_Inst2NAVselect;
-    sample.traceInst3NAVselect = c_Inst3NAVselect;
-    sample.traceInst2ADFCard = c_Inst2_ADFCardselect;
-    sample.traceInst3ADFCard = c_Inst3_ADFCardselect;
-    sample.traceNAV1freq = c_NAV1freq;
-    sample.traceNAV2freq = c_NAV2freq;
-    sample.traceADFfreq = c_ADFfreq;
-    sample.traceDMEfreq = c_DMEfreq;
+#define SETTING(name, type, rule, kind, property, control)                                         \
+    if constexpr (setting::kind::withLock)                                                         \
+        sample.name = recorded(setting::kind(), property);
+#include "core/sample_rows.def"
 }
 
 void UserControl2::recordSample() {

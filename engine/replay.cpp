@@ -66,42 +66,29 @@ void UserControl2::overwriteSettings(std::int16_t index) {
         recording.edit(index) = sample;
 }
 
-/// Clocks, speed, turn and wind; the heading too unless the aircraft flies on between samples.
+/// Clocks, speed, turn, wind and autopilot; the heading too unless the aircraft flies on between
+/// samples.
 void UserControl2::restoreMotion(const Sample& sample) {
     if (c_ReplayInterpolation == showSample) {
         const double before = aircraft.trueHeading;
         aircraft.trueHeading = intoCircle(sample.traceHeading);
         headingTurned(before);
     }
-    c_ApMinutes.publish(sample.traceStopMinutes);
-    c_ApSeconds.publish(sample.traceStopSeconds);
-    c_ApHours2.publish(sample.traceFlightHours);
-    c_ApMinutes2.publish(sample.traceFlightMinutes);
-    c_ApSeconds2.publish(sample.traceFlightSeconds);
-    c_TAS.publish(sample.traceTAS);
-    Turn_Rate.publish(sample.traceTurnRate);
+#define READOUT(name, type, rule, value, property) property.publish(sample.name);
+#define SETTING(name, type, rule, kind, property, control)                                         \
+    if constexpr (!setting::kind::withLock)                                                        \
+        property.publish(sample.name);
+#include "core/sample_rows.def"
     const bool calm = sample.traceWindDirection < 0 || sample.traceWindSpeed < 0;
     wind =
         calm ? Wind{} : Wind{static_cast<double>(sample.traceWindDirection), sample.traceWindSpeed};
-    c_HDGbug.publish(sample.traceHDGbug);
-    c_APhdg.publish(sample.traceAPhdg);
-    c_APtas.publish(sample.traceAPtas);
-    c_APalt.publish(sample.traceAPalt);
 }
 
 void UserControl2::restoreSettings(const Sample& sample) {
-    c_obsI2.publish(sample.traceObsI2);
-    c_obsI3.publish(sample.traceObsI3);
-    c_inst2.publish(sample.traceInst2);
-    c_inst3.publish(sample.traceInst3);
-    c_Inst2NAVselect.publish(sample.traceInst2NAVselect);
-    c_Inst3NAVselect.publish(sample.traceInst3NAVselect);
-    c_Inst2_ADFCardselect.publish(sample.traceInst2ADFCard);
-    c_Inst3_ADFCardselect.publish(sample.traceInst3ADFCard);
-    c_NAV1freq.publish(sample.traceNAV1freq);
-    c_NAV2freq.publish(sample.traceNAV2freq);
-    c_ADFfreq.publish(sample.traceADFfreq);
-    c_DMEfreq.publish(sample.traceDMEfreq);
+#define SETTING(name, type, rule, kind, property, control)                                         \
+    if constexpr (setting::kind::withLock)                                                         \
+        property.publish(sample.name);
+#include "core/sample_rows.def"
     c_replayActive.publish(1);
 }
 

@@ -11,6 +11,7 @@
 #include "core/recording.h"
 #include "core/reference_track.h"
 #include "core/runtime_random.h"
+#include "core/setting_kinds.h"
 #include "core/speed_vectors.h"
 #include "core/stations.h"
 #include "engine/chart_mouse.h"
@@ -314,6 +315,11 @@ class UserControl2 {
     void headingTurned(double before);
     void recordSample();
     [[nodiscard]] Sample presentSample() const;
+    [[nodiscard]] double recorded(setting::Course, const Property<double>& course) const;
+    template <class Kind, class Value>
+    [[nodiscard]] Value recorded(Kind, const Property<Value>& property) const {
+        return property;
+    }
     void copySettings(Sample& sample) const;
     void freshRecording();
     void renewFirstSample();

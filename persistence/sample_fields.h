@@ -28,40 +28,21 @@ struct SampleRules {
 /// in the order of the file.
 template <class AnySample, class Visitor>
 void visitFieldsBehindPosition(AnySample& sample, Visitor visit) {
-    using Rules = SampleRules;
-    visit(sample.traceHeading, Rules::degrees);
-    visit(sample.traceStopMinutes, Rules::whole);
-    visit(sample.traceStopSeconds, Rules::whole);
-    visit(sample.traceTAS, Rules::airspeed);
-    visit(sample.traceTurnRate, Rules::whole);
-    visit(sample.traceFlightMinutes, Rules::whole);
-    visit(sample.traceFlightSeconds, Rules::whole);
-    visit(sample.traceFlightHours, Rules::whole);
-    for (auto& station : sample.traceStations) {
-        visit(station.longitude, Rules::longitude);
-        visit(station.latitude, Rules::latitude);
+#define PLACE(name, type, rule, value)
+#define FIELD(name, type, rule, value) visit(sample.name, SampleRules::rule);
+#define STATIONS()                                                                                 \
+    for (auto& station : sample.traceStations) {                                                   \
+        visit(station.longitude, SampleRules::longitude);                                          \
+        visit(station.latitude, SampleRules::latitude);                                            \
     }
-    visit(sample.traceLocCourse, Rules::localizerCourse);
-    visit(sample.traceWindDirection, Rules::whole);
-    visit(sample.traceWindSpeed, Rules::windSpeed);
-    visit(sample.traceObsI2, Rules::degrees);
-    visit(sample.traceObsI3, Rules::degrees);
-    for (auto* field : {&sample.traceInst2, &sample.traceInst3, &sample.traceInst2NAVselect,
-                        &sample.traceInst3NAVselect, &sample.traceInst2ADFCard,
-                        &sample.traceInst3ADFCard, &sample.traceNAV1freq, &sample.traceNAV2freq,
-                        &sample.traceADFfreq, &sample.traceDMEfreq, &sample.traceAPhdg})
-        visit(*field, Rules::whole);
-    visit(sample.traceAPtas, Rules::airspeed);
-    visit(sample.traceAPalt, Rules::whole);
-    visit(sample.traceHDGbug, Rules::whole);
-    visit(sample.traceComment, Rules::comment);
+#include "core/sample_rows.def"
 }
 
 /// The same for all 40 fields.
 template <class AnySample, class Visitor>
 void visitFields(AnySample& sample, Visitor visit) {
-    visit(sample.traceLat, SampleRules::latitude);
-    visit(sample.traceLon, SampleRules::longitude);
+#define PLACE(name, type, rule, value) visit(sample.name, SampleRules::rule);
+#include "core/sample_rows.def"
     visitFieldsBehindPosition(sample, visit);
 }
 

@@ -103,7 +103,7 @@ void Form1::showNextQuestion() {
     inst3RadialBox.set(0);
     replayPage.lock.set(1);
     backButton.setVisible(false);
-    switchFaces(!asksForPosition(QAform1.c_QAtype));
+    coupling.switchFaces(!asksForPosition(QAform1.c_QAtype));
     hideForQuestion();
 }
 
@@ -135,7 +135,7 @@ void Form1::letStudentFly() {
     StopReplay();
     setHidden(true);
     solutionSeen = questionFlown = false;
-    switchFaces(true);
+    coupling.switchFaces(true);
     replayPage.lock.set(1);
     if (UserControl11.c_FlyEN == 1)
         UserControl11.c_HscrollRepeatValue = 1;

@@ -106,7 +106,7 @@ void Form1::startExercise(const ExerciseItem& item) {
         inst3Large.choose();
     else if (item.size == ExerciseItem::Size::small)
         inst2Small.choose();
-    switchFaces(!asksForPosition(item.type));
+    coupling.switchFaces(!asksForPosition(item.type));
     UserControl11.c_TrackDelta = 0;
     QAform1.c_smallFrame = false;
     QAform1.c_QAtype = item.type;
@@ -136,11 +136,11 @@ void Form1::leaveExercise() {
     StopFly();
     exerciseUp = solutionSeen = questionFlown = false;
     backButton.setVisible(false);
-    switchFaces(true);
+    coupling.switchFaces(true);
     if (UserControl11.c_FlyEN == 1)
         UserControl11.c_HscrollRepeatValue = 1;
     followReplayBar();
-    pushPanelState();
+    coupling.push();
     replayIndex = 0;
     replayPage.lock.set(0);
     UserControl11.c_TrackDelta = 0;
@@ -164,24 +164,12 @@ void Form1::endExerciseFlight() {
     QAform1.c_smallFrame = false;
     if (QAform1.c_QAFly > 0)
         QAform1.c_QAFly = static_cast<std::int16_t>(-QAform1.c_QAFly);
-    switchFaces(!asksForPosition(QAform1.c_QAtype));
+    coupling.switchFaces(!asksForPosition(QAform1.c_QAtype));
     replayPage.lock.set(1);
     backButton.setVisible(false);
     if (!solutionSeen)
         hideForQuestion();
     enableControls();
-}
-
-/// The stopwatch's face has no switch of its own: its buttons rest.
-void Form1::switchFaces(bool active) {
-    const std::int16_t value = active ? 1 : 0;
-    APControlFace1.c_OnOff = value;
-    NAVControlFace1.c_OnOff = value;
-    NAVControlFace2.c_OnOff = value;
-    DMEControlFace1.c_OnOff = value;
-    ADFControlFace1.c_OnOff = value;
-    stopwatchStartButton.setEnabled(active);
-    stopwatchResetButton.setEnabled(active);
 }
 
 } // namespace tarnel

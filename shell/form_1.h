@@ -1,24 +1,17 @@
 #pragma once
 
-#include "controls/form_controls.h"
-#include "controls/form_frame.h"
 #include "core/run_time_error.h"
 #include "engine/user_control_2.h"
 #include "exercises/qa_form.h"
-#include "instruments/ap_control_face.h"
-#include "instruments/dme_control_face.h"
-#include "instruments/radio_face.h"
-#include "instruments/stopwatch_face.h"
-#include "instruments/user_control_1.h"
-#include "shell/exercise_menu.h"
 #include "shell/flight_desk.h"
-#include "shell/instrument_feed.h"
-#include "shell/instrument_position.h"
+#include "shell/instrument_positions.h"
 #include "shell/outside_world.h"
+#include "shell/panel_controls.h"
+#include "shell/panel_coupling.h"
 #include "shell/practice_task.h"
 #include "shell/question_cover.h"
 #include "shell/station_editor.h"
-#include "shell/strip_controls.h"
+#include "shell/trainer_controls.h"
 #include "strings/string_table.h"
 
 #include <array>
@@ -31,7 +24,7 @@ namespace tarnel {
 /// `Form1`: the whole trainer without its window: the simulation, the panel, the strip, and the
 /// tick that couples them. It never looks at a clock: a window's timers, a test or a scripted
 /// flight call the timer procedures.
-class Form1 : private SimulationMessages {
+class Form1 : public TrainerControls, public PanelControls, private SimulationMessages {
   public:
     /// `applicationPath` is the folder of charts and pictures.
     Form1(const StringTable& texts, OutsideWorld& outside, std::string applicationPath);
@@ -54,10 +47,10 @@ class Form1 : private SimulationMessages {
         }
     }
 
-    void SelectInst2(std::int16_t type) { selectInstrument(inst2Links, type); }
-    void SelectInst3(std::int16_t type) { selectInstrument(inst3Links, type); }
-    void PositionInst2(bool large) { resizeInstrument(inst2, large); }
-    void SwitchInst3(bool large) { resizeInstrument(inst3, large); }
+    void SelectInst2(std::int16_t type) { positions.select(positions.links2(), type); }
+    void SelectInst3(std::int16_t type) { positions.select(positions.links3(), type); }
+    void PositionInst2(bool large) { positions.resize(inst2, large); }
+    void SwitchInst3(bool large) { positions.resize(inst3, large); }
     void StopFly();
     void StopReplay();
     /// What the station editor starts with.
@@ -100,9 +93,8 @@ class Form1 : private SimulationMessages {
     void pictureMissing(const std::string& file);
 
     /// Sets the heading bug everywhere, and the autopilot's heading with it.
-    void setHeadingBug(std::int16_t heading);
+    void setHeadingBug(std::int16_t heading) { coupling.setHeadingBug(heading); }
 
-    [[nodiscard]] FeedSources feedSources();
     [[nodiscard]] bool simulationRuns() const { return simStopped == 0; }
     [[nodiscard]] bool replayRuns() const { return replayOn != 0; }
     [[nodiscard]] bool exerciseRuns() const { return exerciseUp; }
@@ -114,9 +106,6 @@ class Form1 : private SimulationMessages {
     [[nodiscard]] bool solutionShown() const { return exerciseUp && solutionSeen; }
     /// What the open question keeps from sight; nothing if none is open.
     [[nodiscard]] QuestionCover cover() const;
-    [[nodiscard]] const PositionLinks& links2() const { return inst2Links; }
-    [[nodiscard]] const PositionLinks& links3() const { return inst3Links; }
-    [[nodiscard]] bool anyInstrumentLarge() const;
     /// Whether the figures of the wind may be shown: one by chance or of a recording is told only
     /// to who asks for it.
     [[nodiscard]] bool windIsTold() const;
@@ -125,97 +114,21 @@ class Form1 : private SimulationMessages {
     std::function<void()> beforeBox;
 
     const StringTable& texts;
-    FormState state;
 
   private:
     OutsideWorld& outside;
 
   public:
     UserControl2 UserControl11;
-    InstrumentPosition inst1; ///< the reserve instrument `UserControl12`
-    InstrumentPosition inst2; ///< `UserControl13(0)`
-    InstrumentPosition inst3; ///< `UserControl13(1)`
-    UserControl_1 UserControl_DG;
-    NAVControlFace NAVControlFace1;
-    NAVControlFace NAVControlFace2;
-    ADFControlFace ADFControlFace1;
-    ADFControlFace ADFControlFace2;
-    DMEControlFace DMEControlFace1;
-    DMEControlFace DMEControlFace2;
-    APControlFace APControlFace1;
-    tvsmtimer tvsmtimer1;
     QAform QAform1{state, exerciseSurroundings()};
-
-    // The control strip.
-    CommandButton startButton{state, "Command6", Text::startSim, Text::startSimTip};
-    CommandButton backButton{state, "Command7", Text::backToExercise, Text::backToExerciseTip};
-    OptionGroup rateGroup;
-    OptionButton rateReal{state, rateGroup, "Option5", Text::realTime, Text::realTimeTip};
-    OptionButton rateHalf{state, rateGroup, "Option6", Text::rateHalf, Text::rateHalfTip};
-    OptionButton rateDouble{state, rateGroup, "Option7", Text::rateDouble, Text::rateDoubleTip};
-    OptionButton rateQuadruple{state, rateGroup, "Option8", Text::rateQuadruple,
-                               Text::rateQuadrupleTip};
-    StripPages pages{state};
-    ChartPage chartPage{state};
-    ReplayPage replayPage{state};
-    WindPage windPage{state};
-    StationPage stationPage{state};
-    CommentPanel commentPanel{state};
-    PracticePanel practicePanel{state};
-    CommandButton radialCycleButton{state, "Command8", Text::cycleRadialLines,
-                                    Text::cycleRadialLinesTip};
-    CommandButton stopwatchStartButton{state, "StopwatchStart", Text::stopwatchStart,
-                                       Text::stopwatchStartTip};
-    CommandButton stopwatchResetButton{state, "StopwatchReset", Text::stopwatchReset,
-                                       Text::stopwatchResetTip};
-    CheckBox floatingGyroBox{state, "FloatingGyro", Text::floatingGyro, Text::floatingGyroTip};
-
+    InstrumentPositions positions{UserControl11, *this, texts};
     FlightDesk flightDesk{state, texts, UserControl11, outside};
-    FileMenu fileMenu{state};
-    EditMenu editMenu{state};
-    ExerciseMenu exerciseMenu{state};
-
-    // The instrument panel.
-    SelectionList inst3TypeList{state, "Combo2", instrumentKinds(), Text::instrument2Selection};
-    SelectionList inst2TypeList{state, "Combo3", instrumentKinds(), Text::instrument1Selection};
-    CommandButton inst1ChannelButton{state, "Command5", Text::channelNav, Text::channelTip};
-    CommandButton inst2ChannelButton{state, "Command10", Text::channelNav, Text::channelTip};
-    CommandButton inst3ChannelButton{state, "Command9", Text::channelNav, Text::channelTip};
-    OptionGroup inst2SizeGroup;
-    OptionButton inst2Small{state, inst2SizeGroup, "Option1", Text::smallDisplay,
-                            Text::smallDisplayTip};
-    OptionButton inst2Large{state, inst2SizeGroup, "Option2", Text::largeDisplay,
-                            Text::largeDisplayTip};
-    OptionGroup inst3SizeGroup;
-    OptionButton inst3Small{state, inst3SizeGroup, "Option3", Text::smallDisplay,
-                            Text::smallDisplayTip};
-    OptionButton inst3Large{state, inst3SizeGroup, "Option4", Text::largeDisplay,
-                            Text::largeDisplayTip};
-    CheckBox inst2RadialBox{state, "Check2", Text::showRadial, Text::showRadialTip};
-    CheckBox inst3RadialBox{state, "Check1", Text::showRadial, Text::showRadialTip};
-    CheckBox inst2OverlayBox{state, "Check12", Text::rmiPointer, Text::rmiPointerTip};
-    CheckBox inst3OverlayBox{state, "Check10", Text::rmiPointer, Text::rmiPointerTip};
-
-    FormFrame instruments{state, "UserControl13"}; ///< both positions
-
-    // The status bar.
-    TextPanel sessionPanel{state, "StatusPanel1"};
-    TextPanel windPanel{state, "StatusPanel4", {}, Text::panelWindTip};
-    TextPanel hidePanel{state, "StatusPanel5", {}, Text::panelHideTip};
-    TextPanel tracePanel{state, "StatusPanel6", {}, Text::panelTraceTip};
-    TextPanel vectorsPanel{state, "StatusPanel7", {}, Text::panelVectorsTip};
-    TextPanel modePanel{state, "StatusPanel8", {}, Text::panelModeTip};
-    TextPanel flightTimePanel{state, "FlightTime", {}, Text::flightTime};
-    TextPanel speedReadout{state, "Text1_16"};
-    TextPanel turnReadout{state, "Text1_3"};
 
   private:
-    static std::vector<Text> instrumentKinds();
     [[nodiscard]] std::string text(Text id) const { return std::string(texts[id]); }
 
     // Start-up.
     void connectControls();
-    void connectPosition(const PositionLinks& links);
     void connectStrip();
     void connectChartPage();
     void connectReplay();
@@ -225,7 +138,6 @@ class Form1 : private SimulationMessages {
     void connectFiles();
     void startUp(const std::string& applicationPath);
     void setApplicationPath(const std::string& path);
-    void setReceiverDefaults();
     void setPanelDefaults();
 
     // Exercises.
@@ -237,7 +149,6 @@ class Form1 : private SimulationMessages {
     void rememberShell();
     [[nodiscard]] std::string shippedSession(const std::string& name, bool ownLanguage) const;
     void openPractice(const std::string& name, bool practised);
-    void switchFaces(bool active);
     void frameQuestion();
     void showSolution();
     void showNextQuestion();
@@ -251,25 +162,12 @@ class Form1 : private SimulationMessages {
     void showSessionName();
     void guardPractiseArea();
     void echoReplayLock();
-    void followFrequencies();
-    void echoSelectors();
     void followExerciseFlight();
-    void copyReceiverSelections();
     void followExercise();
-    void followInstrumentSelectors();
-    void coupleAutopilot();
-    void coupleHeadingBug();
-    void showDme();
-    void pinAltitude();
     void blinkCommentMark();
     void followReplayBar();
-    void echoChannelButtons();
     void showComment();
     [[nodiscard]] std::string practiceHint() const;
-    void pushPanelState();
-    void pushPosition(const PositionLinks& links);
-    void pullPanelState();
-    void turnFloatingGyro();
     void showState();
     void showWind();
     void showStopwatch();
@@ -279,17 +177,6 @@ class Form1 : private SimulationMessages {
     void followStations();
     void followHistory();
     void showPresentSample();
-
-    void writeHeadingBug(std::int16_t heading);
-
-    // The instrument panel.
-    void selectInstrument(const PositionLinks& links, std::int16_t type);
-    void labelInstrument(InstrumentPosition& position);
-    void resizeInstrument(InstrumentPosition& position, bool large);
-    void stepChannel(InstrumentPosition& position);
-    void stepVorChannel(InstrumentPosition& position, std::int16_t& channel);
-    void takeVor(InstrumentPosition& position, std::int16_t channel);
-    [[nodiscard]] std::string dmeText(Slot slot) const;
 
     // The control strip.
     void startOrStop();
@@ -320,7 +207,6 @@ class Form1 : private SimulationMessages {
     void recallPracticeFlight();
     void restOrFly(bool resting);
     void enableControls();
-    void setLocked(bool locked);
     void toggleStopwatch();
     void resetStopwatch();
 
@@ -345,8 +231,7 @@ class Form1 : private SimulationMessages {
     void fileWrong(FileRequest request, const std::string& path, const FileProblem& problem,
                    bool taken) override;
 
-    PositionLinks inst2Links;
-    PositionLinks inst3Links;
+    PanelCoupling coupling{UserControl11, *this};
     std::int16_t simStopped = 1;
     std::int16_t hideOn = 0;
     std::int16_t traceOn = 0;
@@ -355,7 +240,6 @@ class Form1 : private SimulationMessages {
     std::int16_t replayIndex = 1;   ///< the sample shown; 0 if it was not gone to by hand
     std::int16_t replaySubStep = 0; ///< the quarter of the way to the next one
     std::int16_t blinkCounter = 0;
-    std::int16_t locCourse = 0;
     std::int16_t radialCycle = 0;
     bool exerciseUp = false; ///< an exercise has taken the shell over
     bool practising = false; ///< a practice session is loaded

@@ -10,10 +10,6 @@ namespace {
 
 constexpr std::int16_t quarterSteps = 4;
 
-bool isInstrument(std::int16_t type) {
-    return type >= adf && type <= dg;
-}
-
 std::string timeOf(const Sample& sample) {
     std::string text =
         zeroPadded(sample.traceFlightMinutes, 2) + ":" + zeroPadded(sample.traceFlightSeconds, 2);
@@ -29,7 +25,7 @@ void Form1::connectReplay() {
     replayPage.stop.onClick = [this] { stopReplay(); };
     replayPage.bar.onScroll = [this] { moveReplayBar(); };
     replayPage.hide.onClick = [this] { setHidden(replayPage.hide.value() == 1); };
-    replayPage.lock.onClick = [this] { setLocked(replayPage.lock.value() == 1); };
+    replayPage.lock.onClick = [this] { coupling.setLocked(replayPage.lock.value() == 1); };
 }
 
 void Form1::startReplay() {
@@ -125,38 +121,6 @@ void Form1::showReplayClock() {
     replayClockShown = now;
     replayPage.clock.setText(timeOf(sim.recording.at(now[0])) + " / " +
                              timeOf(sim.recording.at(now[1])));
-}
-
-/// Copies what a locked replay has restored onto the panel.
-void Form1::pushPanelState() {
-    UserControl2& sim = UserControl11;
-    sim.c_replayActive = 0;
-    writeHeadingBug(toInt16(intoCircle(sim.c_HDGbug)));
-    APControlFace1.c_HDG = intoCircle(sim.c_APhdg);
-    APControlFace1.c_HDGChange = 0;
-    APControlFace1.c_TAS = static_cast<double>(sim.c_APtas);
-    APControlFace1.c_ALT = static_cast<double>(sim.c_APalt);
-    NAVControlFace1.c_SetFreq = sim.c_NAV1freq.get();
-    NAVControlFace2.c_SetFreq = sim.c_NAV2freq.get();
-    ADFControlFace1.c_SetFreq = sim.c_ADFfreq.get();
-    DMEControlFace1.c_SetFreq = sim.c_DMEfreq.get();
-    for (const PositionLinks* links : {&inst2Links, &inst3Links})
-        pushPosition(*links);
-    showDme(); // of the frequency that stands there now
-}
-
-void Form1::pushPosition(const PositionLinks& links) {
-    InstrumentPosition& position = links.position;
-    UserControl_1& instrument = position.instrument;
-    instrument.c_ADFCardselect.setIfChanged(links.cardSelect);
-    position.navSel = links.navSelect;
-    instrument.c_NAVselect.setIfChanged(links.navSelect);
-    if (isInstrument(links.instType)) {
-        position.setType(links.instType);
-        instrument.Display.setIfChanged(links.instType);
-    }
-    // A course recorded under a turned chart is a sum and may lie above 360.
-    position.setDial(intoCircle(links.courseOnChart));
 }
 
 } // namespace tarnel

@@ -65,7 +65,7 @@ void Form1::enableControls() {
     UserControl11.mouse.setLocked(open);
     UserControl11.setPlaceSecret(open);
     const bool fixed = open && QAform1.c_QAFly <= 0;
-    for (const PositionLinks* links : {&inst2Links, &inst3Links})
+    for (const PositionLinks* links : {&positions.links2(), &positions.links3()})
         for (FormControl* control : std::initializer_list<FormControl*>{
                  &links->typeList, &links->channelButton, &links->overlayBox, &links->radialBox})
             control->setEnabled(!fixed);
@@ -120,19 +120,6 @@ void Form1::applyVectors() {
     UserControl11.c_SpeedVectorEN.setIfChanged(shown == 1 ? 1 : 0);
     UserControl11.c_TraceAheadEN.setIfChanged(shown == 2 ? 1 : 0);
     vectorsPanel.setText(text(captions[shown]));
-}
-
-/// Locked knobs and dials do nothing. The flags read the other way round: 1 lets the user act. The
-/// autopilot stays free.
-void Form1::setLocked(bool locked) {
-    const std::int16_t free = locked ? 0 : 1;
-    UserControl11.c_replayInstLock = locked ? 1 : 0;
-    for (UserControl_1* instrument : {&inst2.instrument, &inst3.instrument})
-        instrument->c_DisableKnobs = free;
-    NAVControlFace1.c_LockSettings = free;
-    NAVControlFace2.c_LockSettings = free;
-    ADFControlFace1.c_LockSettings = free;
-    DMEControlFace1.c_LockSettings = free;
 }
 
 void Form1::toggleStopwatch() {

@@ -33,6 +33,18 @@ void tuneNdb(ADFControlFace& face, std::int16_t picture, std::int16_t slot) {
     face.c_NumberOfFreqs = 2;
 }
 
+void tuneReceivers(PanelControls& panel) {
+    tuneVor(panel.NAVControlFace1, 1, 0);
+    tuneNdb(panel.ADFControlFace1, 1, 0);
+    tuneVor(panel.NAVControlFace2, 2, 1);
+    tuneNdb(panel.ADFControlFace2, 2, 1);
+    tuneVor(panel.DMEControlFace1, 1, 0);
+    panel.DMEControlFace2.c_NAVFace = 2;
+    panel.DMEControlFace1.c_BlankDisplay = 1;
+    panel.DMEControlFace2.c_BlankDisplay = 1;
+    panel.DMEControlFace1.c_SetFreq = 0;
+}
+
 } // namespace
 
 void Form1::setApplicationPath(const std::string& path) {
@@ -42,18 +54,6 @@ void Form1::setApplicationPath(const std::string& path) {
     for (UserControl_1* instrument :
          {&inst2.instrument, &inst3.instrument, &inst1.instrument, &UserControl_DG})
         instrument->c_MainAppPath = path;
-}
-
-void Form1::setReceiverDefaults() {
-    tuneVor(NAVControlFace1, 1, 0);
-    tuneNdb(ADFControlFace1, 1, 0);
-    tuneVor(NAVControlFace2, 2, 1);
-    tuneNdb(ADFControlFace2, 2, 1);
-    tuneVor(DMEControlFace1, 1, 0);
-    DMEControlFace2.c_NAVFace = 2;
-    DMEControlFace1.c_BlankDisplay = 1;
-    DMEControlFace2.c_BlankDisplay = 1;
-    DMEControlFace1.c_SetFreq = 0;
 }
 
 void Form1::setPanelDefaults() {
@@ -92,9 +92,9 @@ void Form1::startUp(const std::string& applicationPath) {
     APControlFace1.c_HDG = 0;
     APControlFace1.c_TAS = startSpeed;
     APControlFace1.c_startTimer = 1;
-    setReceiverDefaults();
+    tuneReceivers(*this);
 
-    setLocked(false);
+    coupling.setLocked(false);
     UserControl11.c_TimerEN = 0;
     UserControl11.c_AirplaneEN = 1;
     UserControl11.c_SpeedVectorEN = 0;

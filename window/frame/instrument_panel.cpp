@@ -25,8 +25,8 @@ InstrumentPanel::InstrumentPanel(Form1& owner, FormBinding& binding, PictureStor
 void InstrumentPanel::makeInstruments(FormBinding& binding, PictureStore& pictures,
                                       const ModelGuard& guard) {
     const std::array<HeaderControls, 2> controls = {
-        HeaderControls{form.links2(), form.inst2Small, form.inst2Large},
-        HeaderControls{form.links3(), form.inst3Small, form.inst3Large}};
+        HeaderControls{form.positions.links2(), form.inst2Small, form.inst2Large},
+        HeaderControls{form.positions.links3(), form.inst3Small, form.inst3Large}};
     for (std::size_t i = 0; i < controls.size(); ++i) {
         headers[i] = new InstrumentHeader(form, controls[i], binding, this);
         instruments[i] =
@@ -44,7 +44,7 @@ void InstrumentPanel::makeInstruments(FormBinding& binding, PictureStore& pictur
 }
 
 SpokenStations InstrumentPanel::stationsOf(const InstrumentPosition& position) const {
-    const NeedleSources needles = needleSources(position, form.feedSources());
+    const NeedleSources needles = needleSources(position, form.positions.feedSources());
     return {spokenStation(needles.first, form.UserControl11, form.texts),
             spokenStation(needles.second, form.UserControl11, form.texts)};
 }
@@ -111,7 +111,7 @@ void InstrumentPanel::layOut(const WindowLayout& layout) {
 }
 
 void InstrumentPanel::showChannelLamps() {
-    const std::array<const PositionLinks*, 2> links = {&form.links2(), &form.links3()};
+    const std::array<const PositionLinks*, 2> links = {&form.positions.links2(), &form.positions.links3()};
     for (std::size_t i = 0; i < links.size(); ++i)
         channelLamps[i]->setLit(holdsAnObs(links[i]->position));
 }
