@@ -2,6 +2,7 @@
 
 #include <array>
 #include <set>
+#include <type_traits>
 
 namespace tarnel {
 namespace {
@@ -56,6 +57,51 @@ std::string digitsOf(const DigitReadout& readout) {
     for (const std::int16_t picture : readout.pictures())
         text += picture == DigitReadout::dashPicture ? '-' : static_cast<char>('0' + picture - 1);
     return text;
+}
+
+std::int16_t another(setting::Kind, std::int16_t type) {
+    return type == vor ? hsi : vor;
+}
+std::int16_t another(setting::Frequency, std::int16_t place) {
+    return place == 0 ? 1 : 0;
+}
+template <class OneOrTwo>
+std::int16_t another(OneOrTwo, std::int16_t choice) requires(OneOrTwo::withLock) {
+    return choice == 1 ? 2 : 1;
+}
+template <class Figure, class Value>
+Value another(Figure, Value value) {
+    return static_cast<Value>(value + 50);
+}
+
+/// Whatever the panel shows goes into the simulation at each tick; a kind goes with its list.
+template <class Kind>
+constexpr bool isTaken = !std::is_same_v<Kind, setting::Kind>;
+
+TEST(RecordedSettings, GoFromALockedReplayToThePanelAndFromThereIntoTheSimulation) {
+    Trainer trainer;
+    UserControl2& sim = trainer.form.UserControl11;
+    trainer.form.startButton.click();
+    trainer.fly(10);
+    trainer.form.startButton.click();
+    Sample& wanted = sim.recording.edit(3);
+#define SETTING(name, type, rule, kind, property, control)                                         \
+    wanted.name = another(setting::kind(), wanted.name);
+#include "core/sample_rows.def"
+    trainer.form.replayPage.bar.scrollTo(3);
+    trainer.couple();
+#define SETTING(name, type, rule, kind, property, control)                                         \
+    EXPECT_EQ(sim.property, wanted.name);                                                          \
+    if (isTaken<setting::kind>)                                                                    \
+        sim.property.publish(0);
+#include "core/sample_rows.def"
+    trainer.couple();
+#define SETTING(name, type, rule, kind, property, control) EXPECT_EQ(sim.property, wanted.name);
+#include "core/sample_rows.def"
+    sim.markFreshStart();
+    const Sample& recorded = sim.recording.at(1);
+#define SETTING(name, type, rule, kind, property, control) EXPECT_EQ(recorded.name, wanted.name);
+#include "core/sample_rows.def"
 }
 
 class DmeTest : public TrainerTest {
