@@ -35,7 +35,8 @@ TEST_F(Student, FindsEachNeedleOfTheLegendOnTheDial) {
         settle();
         const QImage dial = find<QWidget>("UserControl13_0").grab().toImage();
         const QImage legend = header->grab().toImage();
-        const auto parts = instrumentLegend(form->texts, form->inst2, form->positions.feedSources(), {});
+        const auto parts =
+            instrumentLegend(form->texts, form->inst2, form->positions.feedSources(), {});
         EXPECT_EQ(parts.size(), kind == hsi ? 3 : kind == adf ? 1 : 2);
         for (const LegendPart& part : parts) {
             EXPECT_GT(inkOf(needleColour(part.needle), dial, dial.rect()), 40) << part.text;

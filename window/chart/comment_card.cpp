@@ -95,7 +95,10 @@ QWidget* CommentCard::makeWriter() {
     auto* text = new QLineEdit(section);
     text->setMaxLength(Comments::longestText);
     text->setPlaceholderText(textOf(form.texts, Text::comment));
+    section->setFocusProxy(text);
     binding.bind(panel.text, *text);
+    connect(text, &QLineEdit::returnPressed, this,
+            [this] { form.guarded([this] { form.commentPanel.startStop.click(); }); });
     entry->addWidget(text, 1);
     addButtons(*entry, {&panel.startStop});
     rows->addLayout(entry);
@@ -126,7 +129,10 @@ void CommentCard::refresh() {
     const bool writes = form.commentPanel.write.value() == 1;
     commentRow->setVisible(written);
     mark->setVisible(written && form.commentPanel.mark.visible());
+    const bool opens = writes && writer->isHidden();
     writer->setVisible(writes);
+    if (opens)
+        writer->setFocus();
     practice->setVisible(form.practicePanel.frame.visible());
     practice->setEnabled(form.practicePanel.frame.enabled());
     const QString spoken =

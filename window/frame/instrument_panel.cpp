@@ -111,7 +111,8 @@ void InstrumentPanel::layOut(const WindowLayout& layout) {
 }
 
 void InstrumentPanel::showChannelLamps() {
-    const std::array<const PositionLinks*, 2> links = {&form.positions.links2(), &form.positions.links3()};
+    const std::array<const PositionLinks*, 2> links = {&form.positions.links2(),
+                                                       &form.positions.links3()};
     for (std::size_t i = 0; i < links.size(); ++i)
         channelLamps[i]->setLit(holdsAnObs(links[i]->position));
 }

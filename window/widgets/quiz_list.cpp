@@ -116,12 +116,15 @@ void QuizList::type(const QString& character) {
     sinceTyped.start();
     typed += character;
     int entry = findText(typed, Qt::MatchStartsWith);
-    if (entry < 0) {
+    const bool digit = character.at(0).isDigit();
+    if (entry < 0 && !digit) {
         typed = character;
         entry = findText(typed, Qt::MatchStartsWith);
     }
-    if (entry < 0 && character.at(0).isDigit() && character.toInt() < count())
-        entry = character.toInt();
+    if (entry < 0 && digit && findText(QStringLiteral("\\d"), Qt::MatchRegularExpression) < 0)
+        entry = character.toInt() < count() ? character.toInt() : -1;
+    else if (entry < 0)
+        typed.chop(1); // a number goes on from the digits that are right
     if (entry > 0)
         browse(entry);
 }

@@ -14,7 +14,9 @@ class TickBox : public QCheckBox {
 
   protected:
     void paintEvent(QPaintEvent* event) override;
-    bool hitButton(const QPoint& at) const override { return rect().contains(at); }
+    bool hitButton(const QPoint& at) const override {
+        return rect().contains(at) && at.x() < sizeHint().width();
+    }
 
   private:
     [[nodiscard]] int fieldSize() const;
