@@ -1,5 +1,6 @@
 #include "chart/trace_ahead.h"
 
+#include "core/angle.h"
 #include "core/plane_geometry.h"
 #include "core/rounding.h"
 
@@ -37,10 +38,7 @@ void drawTurn(ChartPicture& picture, const TurnsAhead& turns, double turnPerDot)
         at.y -= wind.y + air.y;
         plotIfFits(picture.ahead, RotatePoint(turns.rotation, turns.airplane, at));
         heading += turnPerDot;
-        if (heading > 359)
-            heading -= 360;
-        else if (heading < 0)
-            heading += 360;
+        heading = heading < 0 ? notNegative(heading) : notAbove359(heading);
     }
 }
 

@@ -1,14 +1,13 @@
 #include "core/aircraft.h"
 
+#include "core/angle.h"
+
 namespace tarnel {
 
 void Aircraft::turn() {
     constexpr double ticksPerSecond = 3;
     trueHeading += (turnRateUsed / ticksPerSecond) * simTimeFactor;
-    if (trueHeading >= 360)
-        trueHeading -= 360;
-    else if (trueHeading < 0)
-        trueHeading += 360;
+    trueHeading = notNegative(below360(trueHeading));
 }
 
 void Aircraft::flyLeg(double speed, double& course) {

@@ -1,5 +1,6 @@
 #include "core/plane_geometry.h"
 
+#include "core/angle.h"
 #include "core/rounding.h"
 
 #include <cmath>
@@ -21,10 +22,7 @@ Polar MapToPolar(double twipsPerUnit, ChartPoint from, ChartPoint to) {
 }
 
 Point chartOffset(double course, double distance, double twipsPerUnit) {
-    double A = (360 - course) + 90;
-    if (A > 360)
-        A -= 360;
-    A /= 180 / planePi;
+    const double A = notAbove360((360 - course) + 90) / (180 / planePi);
     return {roundToEven(std::cos(A) * distance * twipsPerUnit),
             roundToEven(-distance * std::sin(A) * twipsPerUnit)};
 }

@@ -1,5 +1,6 @@
 #include "core/radios.h"
 
+#include "core/angle.h"
 #include "core/rounding.h"
 
 #include <cmath>
@@ -22,13 +23,10 @@ std::int16_t speedAlongLine(const RadioInputs& inputs, double bearingToStation) 
 
 double localizerRadial(const Station& localizer, Aircraft& aircraft) {
     const GeoPosition station = toPlain(localizer.position);
-    double course = CourseAndDistance(toPlain(aircraft.position), station).course;
+    const double course = CourseAndDistance(toPlain(aircraft.position), station).course;
     aircraft.posLat = station.latitude;
     aircraft.posLon = station.longitude;
-    if (course < 0)
-        course += 360;
-    course += 180;
-    return course > 360 ? course - 360 : course;
+    return notAbove360(notNegative(course) + 180);
 }
 
 } // namespace

@@ -38,13 +38,4 @@ std::int32_t toInt32(double value) {
     return checkedInteger<std::int32_t>(value);
 }
 
-double intoCircle(double angle) {
-    if (!std::isfinite(angle) || (angle >= 0 && angle <= 360))
-        return angle;
-    const double turned = std::fmod(angle, 360);
-    if (turned == 0)
-        return angle > 0 ? 360 : 0;
-    return turned < 0 ? turned + 360 : turned;
-}
-
 } // namespace tarnel

@@ -18,8 +18,4 @@ namespace tarnel {
 /// NaN.
 [[nodiscard]] std::int32_t toInt32(double value);
 
-/// `angle` brought into 0 to 360, both ends allowed, by adding or subtracting 360 as often as
-/// needed. Infinite or NaN angles come back unchanged.
-[[nodiscard]] double intoCircle(double angle);
-
 } // namespace tarnel

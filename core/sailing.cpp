@@ -1,5 +1,7 @@
 #include "core/sailing.h"
 
+#include "core/angle.h"
+
 #include <cmath>
 
 namespace tarnel {
@@ -50,8 +52,7 @@ FromEquator fromEquator(double latitude) {
 
 /// Brings a course into the range that `DeadReckon` can use, see there.
 void makeCourseUsable(double& course) {
-    if (course > 360)
-        course -= 360;
+    course = notAbove360(course);
     if (std::abs(course - 90) < 0.0000001)
         course = 90.000001;
     if (std::abs(course - 270) < 0.0000001)

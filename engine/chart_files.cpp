@@ -1,4 +1,4 @@
-#include "core/rounding.h"
+#include "core/angle.h"
 #include "engine/file_requests.h"
 #include "engine/user_control_2.h"
 #include "persistence/file_bytes.h"

@@ -1,19 +1,12 @@
 #include "exercises/heading_offers.h"
 
+#include "core/angle.h"
 #include "core/number_text.h"
 #include "core/rounding.h"
 
 #include <cmath>
 
 namespace tarnel {
-
-namespace {
-
-double wrapped(double heading) {
-    return heading > 359 ? heading - 360 : heading;
-}
-
-} // namespace
 
 std::string headingCaption(double heading) {
     const std::int32_t degrees = toInt32(heading);
@@ -26,7 +19,7 @@ std::string headingCaption(double heading) {
 std::vector<std::string> HeadingOffers::captions() const {
     std::vector<std::string> texts;
     for (const std::int16_t offset : offsets)
-        texts.push_back(headingCaption(wrapped(base + offset)));
+        texts.push_back(headingCaption(notAbove359(base + offset)));
     return texts;
 }
 

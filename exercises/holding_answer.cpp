@@ -1,16 +1,14 @@
 #include "exercises/holding_answer.h"
 
+#include "core/angle.h"
+
 namespace tarnel {
 
 namespace {
 
 /// `angle` with one turn added if it is negative, taken off if it reaches 360.
 std::int16_t once(int angle) {
-    if (angle < 0)
-        angle += 360;
-    else if (angle >= 360)
-        angle -= 360;
-    return static_cast<std::int16_t>(angle);
+    return static_cast<std::int16_t>(notNegative(below360(angle)));
 }
 
 /// A sector's ends, both within, in degrees from the inbound course.
@@ -45,7 +43,7 @@ void findHoldingAnswer(std::int16_t HDG, std::int16_t inbound, std::string& HLDt
     abeam = once(inbound + side * 90);
     offsetHDG = once(inbound + side * 150);
 
-    const int d = HDG < inbound ? HDG - inbound + 360 : HDG - inbound;
+    const int d = notNegative(HDG - inbound);
     if (d < 0 || d >= 360)
         return;
     if (d >= sectors.directFrom || d <= sectors.directTo)

@@ -1,5 +1,6 @@
 #include "instruments/ap_control_face.h"
 
+#include "core/angle.h"
 #include "core/rounding.h"
 
 #include <algorithm>

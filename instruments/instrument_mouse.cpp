@@ -1,5 +1,6 @@
 #include "instruments/instrument_mouse.h"
 
+#include "core/angle.h"
 #include "core/rounding.h"
 #include "instruments/instrument_layout.h"
 #include "instruments/user_control_1.h"

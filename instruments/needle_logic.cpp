@@ -1,5 +1,6 @@
 #include "instruments/needle_logic.h"
 
+#include "core/angle.h"
 #include "core/rounding.h"
 
 #include <algorithm>
@@ -42,12 +43,7 @@ Receiver receiverFor(double locEn) {
 }
 
 Sector sectorOf(double course, double radial, std::int16_t abeamSector) {
-    double abeam = course + 90;
-    if (abeam >= 360)
-        abeam -= 360;
-    double past = radial - abeam;
-    if (past < 0)
-        past += 360;
+    const double past = notNegative(radial - below360(course + 90));
     if (past > abeamSector && past < 180 - abeamSector)
         return Sector::to;
     if (past > 180 + abeamSector && past < 360 - abeamSector)

@@ -1,5 +1,6 @@
 #include "instruments/user_control_1.h"
 
+#include "core/angle.h"
 #include "core/rounding.h"
 #include "instruments/instrument_files.h"
 #include "instruments/instrument_look.h"
@@ -116,7 +117,7 @@ void UserControl_1::VOR(double course, double courseX, double heading, double ra
     const std::int16_t rotation = toInt16(courseX + heading);
     if (rotation != lastHsiRotation || forceRedraw == 1) {
         lastHsiRotation = rotation;
-        hsiRotation = toInt16(rotation > 360 ? rotation - 360 : rotation);
+        hsiRotation = toInt16(notAbove360<int>(rotation));
         if (!is(InstrumentKind::hsi))
             hsiRotation = 0;
         turnDots(picture, square, hsiRotation);

@@ -1,5 +1,6 @@
 #include "shell/instrument_feed.h"
 
+#include "core/angle.h"
 #include "core/rounding.h"
 #include "shell/needle_sources.h"
 #include "shell/signal_name.h"
@@ -67,8 +68,7 @@ double Feed::course(Slot slot) const {
     const double radial = sim.slot(slot).radial;
     if (northUp() || slot == Slot::localizer)
         return radial;
-    const double sum = sim.c_HDG + radial;
-    return sum > 360 ? sum - 360 : sum;
+    return notAbove360(sim.c_HDG + radial);
 }
 
 /// The localizer's approach course, brought into 0 to 360.

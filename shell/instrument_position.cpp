@@ -1,5 +1,7 @@
 #include "shell/instrument_position.h"
 
+#include "core/angle.h"
+
 namespace tarnel {
 
 namespace {
@@ -7,10 +9,7 @@ namespace {
 /// A dial from the instrument's mouse output, which counts the other way round, and back. Both in
 /// 0 to 360 with both ends allowed.
 double turnedRound(double degrees) {
-    const double other = 360 - degrees;
-    if (other > 360)
-        return other - 360;
-    return other < 0 ? other + 360 : other;
+    return notAbove360(notNegative(360 - degrees));
 }
 
 } // namespace

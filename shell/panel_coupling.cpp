@@ -1,5 +1,6 @@
 #include "shell/panel_coupling.h"
 
+#include "core/angle.h"
 #include "core/rounding.h"
 #include "core/sailing.h"
 #include "shell/needle_sources.h"

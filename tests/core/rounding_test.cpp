@@ -1,3 +1,4 @@
+#include "core/angle.h"
 #include "core/rounding.h"
 #include "core/run_time_error.h"
 

@@ -1,3 +1,4 @@
+#include "core/angle.h"
 #include "instrument_fixture.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,6 @@
 #include "window/dials/spoken_reading.h"
 
+#include "core/angle.h"
 #include "core/number_text.h"
 #include "core/rounding.h"
 #include "shell/signal_name.h"
