@@ -144,7 +144,7 @@ class TextPanel : public FormControl {
   public:
     using FormControl::FormControl;
     [[nodiscard]] const std::string& text() const { return content; }
-    void setText(std::string text) { change(content, text); }
+    void setText(const std::string& text) { change(content, text); }
     /// What stands in the tool tip; without one, the control's own tip or the text.
     [[nodiscard]] const std::string& tipText() const { return tipContent; }
     void setTipText(const std::string& tip) { change(tipContent, tip); }

@@ -10,7 +10,7 @@ namespace tarnel {
 
 std::string headingCaption(double heading) {
     const std::int32_t degrees = toInt32(heading);
-    const std::string digits = numberText(std::int64_t{degrees == 0 ? 360 : degrees});
+    std::string digits = numberText(std::int64_t{degrees == 0 ? 360 : degrees});
     if (degrees == 0 || degrees > 99)
         return digits;
     return (degrees > 9 ? "0" : "00") + digits;

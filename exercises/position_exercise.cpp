@@ -12,7 +12,7 @@ using enum StudyColumn;
 
 constexpr int degreesPerEntry = 5;
 
-std::vector<std::string> listOf(const StringTable& texts, std::vector<Text> words,
+std::vector<std::string> listOf(const StringTable& texts, const std::vector<Text>& words,
                                 std::size_t blanks = 0) {
     std::vector<std::string> entries{std::string(texts[Text::pleaseSelect])};
     for (const Text word : words)

@@ -25,7 +25,7 @@ int QuestionDraw::drawUnused(Draw draw) {
 }
 
 void QuestionDraw::shuffle(int lastQuestion) {
-    const auto count = static_cast<std::size_t>(lastQuestion + 1);
+    const auto count = static_cast<std::size_t>(lastQuestion) + 1;
     std::fill_n(usedMark.begin(), count, std::int16_t{0});
     random.seed(seed());
     for (std::size_t slot = 0; slot < count; ++slot)

@@ -197,6 +197,7 @@ std::vector<ShelvedFlight> FlightShelf::flights() const {
                std::tie(b.first.time, b.first.counter, b.second);
     });
     std::vector<ShelvedFlight> all;
+    all.reserve(found.size());
     for (const auto& [told, name] : found)
         all.push_back({told.time, told.seconds, inFolder(name), {}});
     return all;
