@@ -35,11 +35,12 @@ void ChartDots::makeCells(const Look& wanted) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(look::fromSurface(wanted.colour));
+    const int middle = side / 2;
     for (int across = 0; across < places; ++across)
         for (int down = 0; down < places; ++down)
             painter.drawEllipse(
-                QPointF(across * side + side / 2 + static_cast<double>(across) / places,
-                        down * side + side / 2 + static_cast<double>(down) / places),
+                QPointF(across * side + middle + static_cast<double>(across) / places,
+                        down * side + middle + static_cast<double>(down) / places),
                 diameter / 2, diameter / 2);
     painter.end();
     cells.setDevicePixelRatio(wanted.pixelRatio);
@@ -55,14 +56,15 @@ void ChartDots::paint(QPainter& painter, const ChartFrame& frame, const DotLayer
         makeCells(wanted);
     const QRectF area = frame.paper.adjusted(-diameter, -diameter, diameter, diameter);
     const double pixel = 1 / frame.pixelRatio;
+    const int middle = side / 2;
     for (const Dot& dot : dots) {
         const QPointF at = frame.at({static_cast<double>(dot.x), static_cast<double>(dot.y)});
         if (!area.contains(at))
             continue;
         const PixelPlace x(at.x() * frame.pixelRatio);
         const PixelPlace y(at.y() * frame.pixelRatio);
-        painter.drawPixmap(QPointF((x.pixel - side / 2) * pixel, (y.pixel - side / 2) * pixel),
-                           cells, QRectF(x.place * side, y.place * side, side, side));
+        painter.drawPixmap(QPointF((x.pixel - middle) * pixel, (y.pixel - middle) * pixel), cells,
+                           QRectF(x.place * side, y.place * side, side, side));
     }
 }
 

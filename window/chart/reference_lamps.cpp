@@ -66,8 +66,8 @@ void ReferenceLamps::refresh() {
 }
 
 double ReferenceLamps::lampAt(std::size_t lamp) {
-    return firstLamp + static_cast<double>(lamp) * lampStep +
-           static_cast<double>(lamp / lampsPerMile) * groupGap;
+    const std::size_t mile = lamp / lampsPerMile;
+    return firstLamp + static_cast<double>(lamp) * lampStep + static_cast<double>(mile) * groupGap;
 }
 
 /// A number stands between two lamps, at the end of its mile.

@@ -73,8 +73,7 @@ void InstrumentView::refresh() {
 
 /// The reading, behind the name of what has the keyboard.
 QString InstrumentView::spoken() const {
-    const QString reading =
-        QString::fromStdString(spokenReading(instrument, shown.stations, texts));
+    QString reading = QString::fromStdString(spokenReading(instrument, shown.stations, texts));
     const auto behind = [&](Text knob) { return textOf(texts, knob) + ", " + reading; };
     if (focusedArea() == InstrumentArea::obsKnob)
         return behind(instrument.showsCourse() ? Text::spokenCourseKnob : Text::spokenCardKnob);

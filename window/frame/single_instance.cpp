@@ -47,7 +47,7 @@ std::string nameOnDisplay() {
 } // namespace
 
 std::string SingleInstance::usersFolder() {
-    const std::string runtime = qgetenv("XDG_RUNTIME_DIR").toStdString();
+    std::string runtime = qgetenv("XDG_RUNTIME_DIR").toStdString();
     if (runtime.starts_with('/') && isUsersAlone(runtime))
         return runtime;
     constexpr mode_t usersAlone = 0700;
