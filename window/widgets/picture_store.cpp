@@ -77,7 +77,7 @@ QString PictureStore::fileOf(const QString& name) {
     const QFileInfo info(path);
     const QString lowerName = info.fileName().toLower();
     if (path.contains('/')) {
-        const QString file = fileIn(QDir(folder).filePath(info.path()), lowerName);
+        QString file = fileIn(QDir(folder).filePath(info.path()), lowerName);
         if (!file.isEmpty())
             return file;
     }
