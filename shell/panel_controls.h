@@ -15,8 +15,11 @@ namespace tarnel {
 
 /// The instrument panel: dials, faces, and what stands around them.
 struct PanelControls {
-    explicit PanelControls(FormState& form) : panelState(form) {}
+  private:
     FormState& panelState;
+
+  public:
+    explicit PanelControls(FormState& form) : panelState(form) {}
 
     InstrumentPosition inst1; ///< the reserve instrument `UserControl12`
     InstrumentPosition inst2; ///< `UserControl13(0)`

@@ -1,7 +1,7 @@
 #include "window/frame/menu_tree.h"
 
 #include "shell/documents.h"
-#include "window/chart/flight_signs.h"
+#include "window/frame/flight_signs.h"
 
 #include <QAction>
 #include <QActionGroup>

@@ -1,4 +1,4 @@
-#include "window/radios/status_panels.h"
+#include "window/frame/status_panels.h"
 
 #include "window/widgets/look.h"
 

@@ -1,4 +1,4 @@
-#include "window/chart/flight_signs.h"
+#include "window/frame/flight_signs.h"
 
 #include "shell/form_1.h"
 #include "window/widgets/text_of.h"
