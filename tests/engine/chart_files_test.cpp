@@ -58,11 +58,9 @@ TEST_F(ChartLoadingTest, RecordingStartsOver) {
     loadLines(31);
     EXPECT_EQ(sim.c_TraceBufferMax, 1);
     const Sample& first = sim.recording.at(1);
-    EXPECT_EQ(first.traceLat, 48.25);
-    EXPECT_EQ(first.traceLon, 11.5);
-    EXPECT_EQ(first.traceHeading, 0);
-    EXPECT_EQ(first.traceTAS, 120);
-    EXPECT_EQ(first.traceLocCourse, 83);
+    EXPECT_EQ(std::tuple(first.traceLat, first.traceLon, first.traceHeading, first.traceTAS,
+                         first.traceLocCourse),
+              std::tuple(48.25, 11.5, 0, 120, 83));
     EXPECT_EQ(first.traceStations[0], (GeoPosition{48.5, 11.75}));
     sim.c_TimerEN = 1;
     tick(4);
@@ -70,16 +68,13 @@ TEST_F(ChartLoadingTest, RecordingStartsOver) {
     EXPECT_EQ(sim.c_ApSeconds2, 1);
 }
 
-TEST_F(ChartLoadingTest, ScaleOutOfRangeStays) {
+TEST_F(ChartLoadingTest, ScaleOutOfRangeStaysAndTheAircraftIsTheCentre) {
     sim.c_MAPscale = 500;
     load(chartWith(17, ":ms:,4.1"));
     EXPECT_EQ(sim.c_MAPscale, 500);
     EXPECT_EQ(place(), (GeoPosition{48.25, 11.5}));
     load(chartWith(17, ":ms:,4"));
     EXPECT_EQ(sim.c_MAPscale, 125);
-}
-
-TEST_F(ChartLoadingTest, ChartIsCentredOnTheAircraft) {
     load(chartWith(16, ":mc:,3"));
     EXPECT_EQ(sim.c_MAPCenterSelect, 3); // from the next change of the view on
     EXPECT_EQ(sim.view.mapCenter, sim.aircraft.position);

@@ -7,15 +7,6 @@ namespace {
 
 class FlightTest : public SimulationTest {};
 
-TEST_F(FlightTest, FirstStepShowsTheDefaultChart) {
-    sim.SimStep();
-    EXPECT_EQ(place(), (GeoPosition{49, 11}));
-    EXPECT_EQ(sim.aircraft.place.point, (ChartPoint{3405, 3405}));
-    EXPECT_NEAR(station(Slot::vor2).radial, 180, 0.01);
-    EXPECT_EQ(station(Slot::vor2).dme, 4);
-    EXPECT_LT(worstRadial(0), 0.3);
-}
-
 TEST_F(FlightTest, AnHourEndsWhereTheSailingSays) {
     struct Case {
         double heading;

@@ -37,9 +37,8 @@ TEST_F(WindTest, ByChanceStaysInItsRangeAndFollowsTheSeed) {
         directions.insert(sim.wind.direction);
         speeds.insert(sim.wind.speed);
     }
-    EXPECT_EQ(*directions.begin(), 0);
-    EXPECT_EQ(*directions.rbegin(), 350);
-    EXPECT_EQ(directions.size(), 71U);
+    EXPECT_EQ(std::tuple(*directions.begin(), *directions.rbegin(), directions.size()),
+              std::tuple(0, 350, 71));
     EXPECT_EQ(speeds, (std::set<int>{5, 10, 15, 20, 25, 30, 35, 40, 45}));
     seed = 0;
     sim.c_WindSetEN = 2;
