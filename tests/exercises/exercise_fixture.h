@@ -62,51 +62,60 @@ class ExerciseTest : public ::testing::Test {
     ColourLabel& label(std::string_view name) { return get<ColourLabel>(name); }
     TextOption& option(std::string_view name) { return get<TextOption>(name); }
     TextList& list(std::string_view name) { return get<TextList>(name); }
-    std::string caption(std::string_view name) { return option(name).text(); }
-    void click(std::string_view name) {
-        if (auto* button = dynamic_cast<CommandButton*>(form.find(name)))
-            button->click();
-        else
-            option(name).click();
-    }
-    void pick(std::string_view name, std::string_view entry) {
-        const auto& entries = list(name).entries();
-        const auto found = std::find(entries.begin(), entries.end(), entry);
-        ASSERT_NE(found, entries.end()) << entry;
-        list(name).pick(static_cast<int>(found - entries.begin()));
-    }
-    void type(std::string_view name, const std::string& text) { get<TextField>(name).type(text); }
 
-    /// What stands in an answer's place, and whether its colours are those of the verdict.
-    std::string answer(std::string_view name, const LabelColours& colours) {
-        const ColourLabel& shown = label(name);
-        if (!shown.visible())
+    /// Plays the steps of a student, with ";" between them: "Option13" clicks, "Combo1=090" picks
+    /// an entry, types or ticks, and "Label8>+090" expects that `shown` tells this of it.
+    void play(std::string_view steps) {
+        SCOPED_TRACE(steps);
+        while (!steps.empty()) {
+            const std::string step(steps.substr(0, steps.find(';')));
+            steps.remove_prefix(std::min(steps.size(), step.size() + 1));
+            steps.remove_prefix(std::min(steps.size(), steps.find_first_not_of(' ')));
+            const std::size_t sign = step.find_first_of("=>");
+            const std::string name = step.substr(0, sign);
+            if (sign == std::string::npos)
+                click(name);
+            else if (step[sign] == '=')
+                give(name, step.substr(sign + 1));
+            else
+                EXPECT_EQ(shown(name), step.substr(sign + 1)) << step;
+        }
+    }
+    /// What a control, a property, a statistic ("stat qdm_bad"), the panel's "title" or the request
+    /// to the tick ("result", which takes it) shows. Before a text stands "+" where it has the
+    /// colours of a right answer, "-" of a wrong one, "~" where it has not those of all others.
+    std::string shown(const std::string& name) {
+        if (name == "title")
+            return form.activePanel()->frame.text();
+        if (name == "result")
+            return std::to_string(takeResult());
+        if (name.starts_with("stat "))
+            return store.stat(name.substr(5));
+        if (const auto* property = form.properties.find(name))
+            return property->text();
+        const auto* control = form.find(name.substr(0, name.find('.')));
+        if (name.ends_with(".enabled"))
+            return std::to_string(control->enabled());
+        if (const auto* frame = dynamic_cast<const FormFrame*>(control))
+            return std::to_string(frame->height());
+        if (!control->visible())
             return "hidden";
-        return shown.colours() == colours ? shown.text() : "other colours: " + shown.text();
+        if (const auto* choice = dynamic_cast<const TextOption*>(control))
+            return choice->text();
+        const auto* colours = dynamic_cast<const ColourLabel*>(control);
+        const bool coloured = colours && colours->colours() != solutionColours;
+        const std::string mark = !coloured                            ? ""
+                                 : colours->colours() == rightColours ? "+"
+                                 : colours->colours() == wrongColours ? "-"
+                                                                      : "~";
+        return mark + dynamic_cast<const TextPanel&>(*control).text();
     }
-    std::string right(std::string_view name) { return answer(name, rightColours); }
-    bool wrong(std::string_view name) { return answer(name, wrongColours) == "FALSCH"; }
-    /// The same after a click on an option, or a pick of an entry from a list.
-    template <class... Given>
-    std::string rightAfter(std::string_view name, Given... given) {
-        give(given...);
-        return right(name);
-    }
-    template <class... Given>
-    bool wrongAfter(std::string_view name, Given... given) {
-        give(given...);
-        return wrong(name);
-    }
-    void give(std::string_view option) { click(option); }
-    void give(std::string_view list, std::string_view entry) { pick(list, entry); }
 
-    /// The request to the tick, taken as the tick takes it.
     int takeResult() {
         const int code = form.c_showResult;
         form.c_showResult = 0;
         return code;
     }
-    std::string title() { return form.activePanel()->frame.text(); }
 
     FormState state;
     CountingStore store;
@@ -122,6 +131,24 @@ class ExerciseTest : public ::testing::Test {
         return {texts, store, readFile, [this] { return seed; }};
     }
     void SetUp() override { form.c_MainAppPath = "app"; }
+
+  private:
+    void click(std::string_view name) {
+        if (auto* button = dynamic_cast<CommandButton*>(form.find(name)))
+            button->click();
+        else if (auto* box = dynamic_cast<CheckBox*>(form.find(name)))
+            box->click();
+        else
+            option(name).click();
+    }
+    void give(std::string_view name, const std::string& text) {
+        if (auto* field = dynamic_cast<TextField*>(form.find(name)))
+            return field->type(text);
+        const auto& entries = list(name).entries();
+        const auto found = std::ranges::find(entries, text);
+        ASSERT_NE(found, entries.end()) << text;
+        list(name).pick(static_cast<int>(found - entries.begin()));
+    }
 };
 
 } // namespace tarnel
