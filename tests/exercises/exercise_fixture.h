@@ -93,7 +93,7 @@ class ExerciseTest : public ::testing::Test {
             return store.stat(name.substr(5));
         if (const auto* property = form.properties.find(name))
             return property->text();
-        const auto* control = form.find(name.substr(0, name.find('.')));
+        const auto* control = &get<FormControl>(name.substr(0, name.find('.')));
         if (name.ends_with(".enabled"))
             return std::to_string(control->enabled());
         if (const auto* frame = dynamic_cast<const FormFrame*>(control))
