@@ -3,31 +3,24 @@
 namespace tarnel {
 namespace {
 
-using testing::ElementsAre;
 using testing::HasSubstr;
 
 TEST(StartUp, RestsPausedOnTheDefaultChart) {
     Trainer trainer;
     Form1& form = trainer.form;
+    UserControl2& sim = trainer.sim();
     EXPECT_TRUE(trainer.world.boxes.empty());
     EXPECT_FALSE(form.simulationRuns());
-    EXPECT_EQ(form.inst2.type, rmi);
-    EXPECT_EQ(form.inst3.type, hsi);
-    EXPECT_EQ(form.inst1.instrument.Display, rmi);
-    EXPECT_EQ(form.UserControl11.c_TimerSIMrate, 333);
-    EXPECT_EQ(form.NAVControlFace1.c_Freq1.get(), "112.30");
-    EXPECT_EQ(form.NAVControlFace2.c_SetFreq, 1);
+    EXPECT_EQ(told(form.inst2.type, form.inst3.type, form.inst1.instrument.Display),
+              told(rmi, hsi, rmi));
+    EXPECT_EQ(told(sim.c_TimerSIMrate, sim.c_TAS, sim.c_Altitude, sim.c_NAVRadCenter == on),
+              "333 120 6000 1");
+    EXPECT_EQ(told(form.NAVControlFace1.c_Freq1, form.NAVControlFace2.c_SetFreq), "112.30 1");
     EXPECT_EQ(form.DMEControlFace1.frequency.pictures()[0], 2) << "the DME shows its frequency";
-    EXPECT_EQ(form.UserControl11.c_TAS, 120);
-    EXPECT_EQ(form.UserControl11.c_Altitude, 6000);
-    EXPECT_EQ(form.UserControl11.c_NAVRadCenter, on);
-    EXPECT_EQ(form.sessionPanel.text(), "New Session.ts");
-    EXPECT_THAT(
-        (std::vector{form.windPanel.text(), form.hidePanel.text(), form.tracePanel.text(),
-                     form.vectorsPanel.text(), form.modePanel.text()}),
-        ElementsAre("[W]ind OFF", "[H]ide OFF", "[T]race ON", "[V]-Vectors OFF", "Pause [M]ode"));
-    EXPECT_DOUBLE_EQ(form.UserControl11.recording.at(1).traceLat, 48.29);
-    EXPECT_EQ(form.UserControl11.recording.at(1).traceAPtas, 120);
+    EXPECT_EQ(told(form.sessionPanel, form.windPanel, form.hidePanel, form.tracePanel,
+                   form.vectorsPanel, form.modePanel),
+              "New Session.ts [W]ind OFF [H]ide OFF [T]race ON [V]-Vectors OFF Pause [M]ode");
+    EXPECT_EQ(told(sim.recording.at(1).traceLat, sim.recording.at(1).traceAPtas), "48.29 120");
 }
 
 // Every DME must stay inside the practise area on all that a student would fly.
@@ -44,33 +37,29 @@ TEST(StartUp, ChartFrequenciesReachTheFaces) {
     trainer.sim().slot(Slot::ndb1).frequency = "400";
     trainer.sim().slot(Slot::localizer).frequency = "110.90";
     trainer.couple(1);
-    EXPECT_EQ(trainer.form.NAVControlFace1.c_Freq3.get(), "110.90");
-    EXPECT_EQ(trainer.form.NAVControlFace1.c_Freq2.get(), "117.15");
-    EXPECT_EQ(trainer.form.DMEControlFace1.c_Freq2.get(), "117.15");
-    EXPECT_EQ(trainer.form.ADFControlFace1.c_Freq1.get(), "400");
-    EXPECT_EQ(trainer.form.NAVControlFace2.frequency.pictures(),
-              (std::vector<std::int16_t>{2, 2, 8, 2, 6}))
+    const Form1& form = trainer.form;
+    EXPECT_EQ(told(form.NAVControlFace1.c_Freq3, form.NAVControlFace1.c_Freq2,
+                   form.DMEControlFace1.c_Freq2, form.ADFControlFace1.c_Freq1),
+              "110.90 117.15 117.15 400");
+    EXPECT_EQ(form.NAVControlFace2.frequency.pictures(), (std::vector<std::int16_t>{2, 2, 8, 2, 6}))
         << "the selected slot is shown anew";
 }
 
-TEST(StartUp, MissingChartIsToldAndTheBuiltInOneFlies) {
-    const ApplicationFolder empty;
-    Trainer trainer(empty.path);
-    ASSERT_EQ(trainer.world.boxes.size(), 1);
-    EXPECT_THAT(trainer.world.boxes[0], HasSubstr("c_loadChart ERROR # 53 was generated "));
-    trainer.start();
-    trainer.fly(60);
-    EXPECT_GT(trainer.sim().aircraft.aircraftLat, 49.03);
-}
-
-TEST(StartUp, WrongChartNamesTheLineAndTheBuiltInOneFlies) {
-    const ApplicationFolder folder;
-    folder.writeChart(":v1id:,ABC\r\n:v1fr:,113.00\r\n:v2id:,DEF\n");
-    Trainer trainer(folder.path);
-    ASSERT_EQ(trainer.world.boxes.size(), 1);
-    EXPECT_THAT(trainer.world.boxes[0], HasSubstr("line 4"));
-    EXPECT_THAT(trainer.world.boxes[0], HasSubstr("built-in chart"));
-    EXPECT_EQ(trainer.sim().slot(Slot::vor1).name.get(), "VOR1");
+TEST(StartUp, AChartThatIsMissingOrWrongIsToldAndTheBuiltInOneFlies) {
+    for (const bool wrong : {false, true}) {
+        const ApplicationFolder folder;
+        if (wrong)
+            folder.writeChart(":v1id:,ABC\r\n:v1fr:,113.00\r\n:v2id:,DEF\n");
+        Trainer trainer(folder.path);
+        ASSERT_EQ(trainer.world.boxes.size(), 1);
+        EXPECT_THAT(trainer.world.boxes[0],
+                    HasSubstr(wrong ? "line 4" : "c_loadChart ERROR # 53 was generated "));
+        EXPECT_THAT(trainer.world.boxes[0], HasSubstr("built-in chart"));
+        EXPECT_EQ(trainer.sim().slot(Slot::vor1).name.get(), "VOR1");
+        trainer.start();
+        trainer.fly(60);
+        EXPECT_GT(trainer.sim().aircraft.aircraftLat, 49.03);
+    }
 }
 
 } // namespace

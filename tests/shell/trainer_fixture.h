@@ -3,6 +3,7 @@
 #include "persistence/file_bytes.h"
 #include "shell/form_1.h"
 #include "strings/string_table.h"
+#include "support/told.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
