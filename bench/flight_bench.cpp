@@ -26,13 +26,13 @@ double flyAnHour() {
     const double start = cpuSeconds();
     for (int tick = 0; tick < simulatedSeconds * ticksPerSecond; ++tick) {
         if (tick % 720 == 0)
-            form.setHeadingBug(static_cast<std::int16_t>(tick / 720 * 100 % 360));
+            form.coupling.setHeadingBug(static_cast<std::int16_t>(tick / 720 * 100 % 360));
         form.simulationTimer();
         for (int i = 0; i < couplingTicks; ++i)
             form.Timer1();
     }
     const double used = cpuSeconds() - start;
-    return form.simulationRuns() ? used : 1e9;
+    return form.flight.flies() ? used : 1e9;
 }
 
 } // namespace

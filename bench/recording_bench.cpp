@@ -34,7 +34,7 @@ bool told(const char* what, double value, double bound, bool good) {
 void fly(Form1& form, int last) {
     for (int tick = 0; form.UserControl11.c_TraceBufferMax < last; ++tick) {
         if (tick % 720 == 0)
-            form.setHeadingBug(static_cast<std::int16_t>(tick / 720 * 100 % 360));
+            form.coupling.setHeadingBug(static_cast<std::int16_t>(tick / 720 * 100 % 360));
         form.simulationTimer();
         for (int i = 0; i < couplingTicks; ++i)
             form.Timer1();

@@ -77,10 +77,10 @@ int trainer(const std::function<void(Form1&)>& prepare) {
 }
 
 void flyHeadingUp(Form1& form) {
-    form.setNorthUp(false);
+    form.display.setNorthUp(false);
     form.rateQuadruple.click();
     form.startButton.click();
-    form.setHeadingBug(170);
+    form.coupling.setHeadingBug(170);
 }
 
 /// Records a long flight in circles, nearly as many samples as there is room for.
@@ -106,8 +106,8 @@ int dragReplay(std::int16_t scale, bool northUp) {
     dressApplication(englishTable(), QString::fromStdString(applicationFolder()));
     Form1 form(englishTable(), outside, applicationFolder());
     recordLongFlight(form);
-    form.setScale(scale);
-    form.setNorthUp(northUp);
+    form.display.setScale(scale);
+    form.display.setNorthUp(northUp);
     MainWindow window(form);
     window.resize(1280, 800);
     window.show();

@@ -1,10 +1,14 @@
 #pragma once
 
+#include "core/instrument_kind.h"
 #include "exercises/exercise.h"
+#include "exercises/exercise_codes.h"
 #include "exercises/panel_widgets.h"
 #include "exercises/question_draw.h"
+#include "exercises/study_file.h"
 
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -13,17 +17,20 @@ namespace tarnel {
 
 /// What stands for an exercise outside its questions.
 struct ExerciseKind {
-    std::int16_t type; ///< the value of `c_QAtype`
+    ExerciseType type;
     PanelId panel;
-    std::string_view studyFile;   ///< the German one; others have "e-" before the name
+    std::string_view studyFile; ///< the German one; others have "e-" before the name
+    StudyFormat format;
     bool studyFileForAll = false; ///< the German file serves where the other is missing
     Text title;
     std::string_view statisticStem;
-    std::int16_t solvedCode = 6;   ///< `c_showResult` once all is right
-    std::int16_t solutionCode = 6; ///< `c_showResult` when the solution is asked for
+    ShowResult whenSolved = ShowResult::replayArmed; ///< once all is right
+    ShowResult onSolution = ShowResult::replayArmed; ///< when the solution is asked for
     bool startsAtRandom = false;
-    bool askedOnChart = false; ///< the chart shows the aircraft, and the instruments are covered
-    bool fliesHolding = false; ///< its flights fly a holding
+    bool askedOnChart = false;   ///< the chart shows the aircraft, and the instruments are covered
+    bool fliesHolding = false;   ///< its flights fly a holding
+    bool solvedByRadial = false; ///< the solution is shown with the selected radial
+    bool solvedByWind = false;   ///< and with the wind triangle in the place of the track
     std::unique_ptr<Exercise> (*make)(const StringTable& texts, QuestionDraw& draw);
 };
 
@@ -36,9 +43,20 @@ struct ExerciseKind {
 /// Whether the exercise asks for a position: the radio faces would tell it.
 [[nodiscard]] bool asksForPosition(int type);
 
-/// `c_QAtype` besides the exercises' types.
-constexpr std::int16_t exerciseLeft = 0;
-constexpr std::int16_t exerciseClosed = -1;
+/// A menu item: an exercise, and how the panel is set before its first question.
+struct ExerciseItem {
+    enum class Size { asItIs, small, largeHsi };
+
+    const char* name;
+    Text text;
+    ExerciseType type;
+    std::optional<InstrumentKind> inst2 = {}; ///< nothing: as it is
+    std::optional<InstrumentKind> inst3 = {};
+    Size size = Size::asItIs;
+};
+
+/// The exercises of the menu, in its order.
+[[nodiscard]] std::span<const ExerciseItem> exerciseItems();
 
 /// The names of its study file, the one to be preferred first.
 [[nodiscard]] std::vector<std::string> studyFileNames(const ExerciseKind& exercise, bool german);

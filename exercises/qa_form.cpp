@@ -70,7 +70,7 @@ std::string QAform::inApplicationFolder(std::string_view path) const {
 void QAform::New_c_QAtype() {
     if (const ExerciseKind* kind = exerciseOf(c_QAtype))
         start(*kind);
-    else if (c_QAtype != -1)
+    else if (c_QAtype != static_cast<std::int16_t>(ExerciseType::closed))
         DisplayQuestion();
 }
 
@@ -180,7 +180,7 @@ void QAform::judge(ExercisePanel& panel, int row, int option) {
                 right ? exercise->rightAnswer(row) : std::string(texts[Text::answerWrong]));
     shutRows(panel);
     if (exercise->canFinish(row) && allRight())
-        c_showResult.publish(running()->solvedCode);
+        ask(running()->whenSolved);
 }
 
 /// An answer to one row can use up another.
@@ -201,7 +201,7 @@ void QAform::showSolution(ExercisePanel& panel) {
     if (&panel != activePanel())
         return;
     endFlight();
-    c_showResult.publish(running()->solutionCode);
+    ask(running()->onSolution);
     if (panel.folds())
         panel.fold(true);
     panel.reveal(*exercise);
@@ -209,12 +209,11 @@ void QAform::showSolution(ExercisePanel& panel) {
 
 void QAform::flyQuestion(ExercisePanel& panel) {
     constexpr std::int16_t trackDelta = 3;
-    constexpr std::int16_t studentFlies = 4;
     if (&panel != activePanel())
         return;
     c_QAFly.publish(panel.flyCode);
     c_TrackDelta.publish(trackDelta);
-    c_showResult.publish(studentFlies);
+    ask(ShowResult::studentFlies);
     panel.frame.setVisible(true);
     panel.fold(true);
 }
@@ -245,13 +244,12 @@ void QAform::fold(bool small) {
 }
 
 void QAform::next() {
-    constexpr std::int16_t nextQuestion = 2;
     const ExerciseKind* kind = running();
     if (!kind)
         return;
     endFlight();
     countAnswer(*kind);
-    c_showResult.publish(nextQuestion);
+    ask(ShowResult::nextQuestion);
     c_smallFrame = false;
     DisplayQuestion();
 }
@@ -281,8 +279,8 @@ void QAform::cancel() {
     endFlight();
     questionLive = false;
     c_QASessionFileName.publish({});
-    c_showResult.publish(0);
-    c_QAtype.publish(0);
+    ask(ShowResult::nothing);
+    c_QAtype.publish(static_cast<std::int16_t>(ExerciseType::left));
 }
 
 void QAform::LoadPowerTip() {

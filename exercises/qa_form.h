@@ -34,14 +34,13 @@ class QAform {
     Statistics statistics;
 
     PropertyBag properties;
-    /// Setting it to 1 to 10 starts that exercise. 0: the student has left it, -1: closed.
+    /// An `ExerciseType`: setting it to 1 to 10 starts that exercise.
     Property<std::int16_t> c_QAtype{properties, "c_QAtype", 1, [this] { New_c_QAtype(); }};
     /// The session to be loaded next; whoever loads it clears the request.
     Property<std::string> c_QASessionFileName{properties, "c_QASessionFileName"};
     /// The folder of the study files and sessions.
     Property<std::string> c_MainAppPath{properties, "c_MainAppPath"};
-    /// A request, cleared by whoever carries it out: 1 replay the solution, 6 the same with the
-    /// replay controls armed, 2 the next question is up, 4 the student flies.
+    /// A `ShowResult`, cleared by whoever carries it out.
     Property<std::int16_t> c_showResult{properties, "c_showResult"};
     /// Above 0 while the student flies the question: the panel's code. Negated when the flight has
     /// ended: that unfolds the panel and asks for the question's session again, since the flight
@@ -92,6 +91,7 @@ class QAform {
         return study.records[static_cast<std::size_t>(questionIndex)];
     }
 
+    void ask(ShowResult result) { c_showResult.publish(static_cast<std::int16_t>(result)); }
     void judge(ExercisePanel& panel, int row, int option);
     void shutRows(ExercisePanel& panel);
     [[nodiscard]] bool allRight() const;

@@ -1,5 +1,6 @@
 #include "exercises/study_file.h"
 
+#include "exercises/exercise_catalogue.h"
 #include "persistence/text_encoding.h"
 
 #include <algorithm>
@@ -20,20 +21,20 @@ struct TaggedColumn {
 /// First come prompts, told by their tags, in any order and each as often as wanted; then lines
 /// that count by their place, whatever their tags.
 struct StudyLayout {
-    std::vector<int> types;
     std::vector<TaggedColumn> prompts;
     std::vector<TaggedColumn> lines;
 };
 
+/// By `StudyFormat`.
 const std::vector<StudyLayout>& layouts() {
     static const std::vector<StudyLayout> table = {
-        {{1, 10},
+        {// threePrompts
          {{qa, ":qa:,"}, {qb, ":qb:,"}, {qc, ":qc:,"}},
          {{ans1, ":a1:,"}, {ans2, ":a2:,"}, {ans3, ":a3:,"}, {sessionName, ":s:,"}}},
-        {{2, 3, 4, 9},
+        {// twoPrompts
          {{qa, ":qa:,"}, {qb, ":qb:,"}},
          {{qc, ":qc:,"}, {ans1, ":a1:,"}, {ans2, ":a2:,"}, {ans3, ":a3:,"}, {sessionName, ":s:,"}}},
-        {{5},
+        {// bearings
          {},
          {{qa, ":qda:,"},
           {qb, ":qdb:,"},
@@ -53,7 +54,7 @@ const std::vector<StudyLayout>& layouts() {
           {ans4, ":a4:,"},
           {ans5, ":a5:,"},
           {sessionName, ":s:,"}}},
-        {{6, 7},
+        {// intercept
          {},
          {{qa, ":qa:,"},
           {ans5, ":a5:,"},
@@ -64,7 +65,7 @@ const std::vector<StudyLayout>& layouts() {
           {ans3, ":a3:,"},
           {ans4, ":a4:,"},
           {sessionName, ":s:,"}}},
-        {{8},
+        {// wind
          {},
          {{qa, ":qa:,"},
           {qb, ":qb:,"},
@@ -83,10 +84,8 @@ const std::vector<StudyLayout>& layouts() {
 }
 
 const StudyLayout* layoutOf(int type) {
-    const auto found = std::ranges::find_if(layouts(), [type](const StudyLayout& layout) {
-        return std::ranges::find(layout.types, type) != layout.types.end();
-    });
-    return found == layouts().end() ? nullptr : &*found;
+    const ExerciseKind* exercise = exerciseOf(type);
+    return exercise ? &layouts()[static_cast<std::size_t>(exercise->format)] : nullptr;
 }
 
 /// Hands out the lines of a text without their ends.

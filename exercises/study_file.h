@@ -25,6 +25,10 @@ struct StudyFile {
     int line = 0;   ///< and the last line read, counted from 1
 };
 
+/// The lines of a record: which prompts may stand in any order, and which lines count by their
+/// place.
+enum class StudyFormat { threePrompts, twoPrompts, bearings, intercept, wind };
+
 /// As many questions as a study file may have.
 constexpr int maxStudyRecords = 301;
 

@@ -62,7 +62,7 @@ void ScriptedFlight::prepare() {
         simulation.turnAircraft(*flightPlan.start.heading);
     else
         flightPlan.start.heading = toInt16(simulation.c_HDG);
-    trainer.setNorthUp(flightPlan.northUp);
+    trainer.display.setNorthUp(flightPlan.northUp);
     if (flightPlan.inst2.type)
         trainer.SelectInst2(*flightPlan.inst2.type);
     if (flightPlan.inst3.type)
@@ -89,7 +89,7 @@ void ScriptedFlight::apply(const FlightSettings& settings) {
     tune(trainer.ADFControlFace1, settings.adf);
     tune(trainer.DMEControlFace1, settings.dme);
     if (settings.heading)
-        trainer.setHeadingBug(*settings.heading);
+        trainer.coupling.setHeadingBug(*settings.heading);
     if (settings.tas)
         trainer.APControlFace1.c_TAS = static_cast<double>(*settings.tas);
     if (settings.obs2)

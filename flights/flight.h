@@ -48,7 +48,7 @@ class ScriptedFlight {
     [[nodiscard]] int tick() const { return world.tick; }
     [[nodiscard]] const FlightPlan& plan() const { return flightPlan; }
     [[nodiscard]] const std::vector<WrittenBox>& boxes() const { return world.boxes; }
-    [[nodiscard]] bool stopped() const { return !trainer.simulationRuns(); }
+    [[nodiscard]] bool stopped() const { return !trainer.flight.flies(); }
     [[nodiscard]] Form1& form() { return trainer; }
 
   private:

@@ -1,15 +1,13 @@
 #pragma once
 
 #include "core/drawing_surface.h"
+#include "core/instrument_kind.h"
 
 #include <array>
 #include <cstddef>
 #include <cstdint>
 
 namespace tarnel {
-
-/// The values of `Display`.
-enum class InstrumentKind : std::int16_t { adf = 1, rmi, vor, hsi, dg };
 
 /// The values of `c_ADFCardselect`: a card that is turned by hand, or one that turns with the
 /// heading.

@@ -1,28 +1,14 @@
 #pragma once
 
 #include "controls/form_controls.h"
+#include "exercises/exercise_catalogue.h"
 
 #include <array>
-#include <cstdint>
 #include <memory>
-#include <span>
 #include <string>
 #include <vector>
 
 namespace tarnel {
-
-/// What an exercise's menu item sets before the first question.
-struct ExerciseItem {
-    const char* name;
-    Text text;
-    std::int16_t type; ///< `c_QAtype`
-    int inst2Kind;     ///< entry of `Combo3`, -1 as it is
-    int inst3Kind;     ///< entry of `Combo2`, -1 as it is
-    enum class Size { asItIs, small, largeHsi } size;
-};
-
-/// The exercises of the menu, in its order.
-[[nodiscard]] std::span<const ExerciseItem> exerciseItems();
 
 /// The items that start exercises or load practice sessions. They rest in flight and while an
 /// exercise runs.

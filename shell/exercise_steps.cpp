@@ -1,154 +1,142 @@
 #include "chart/holding_chart.h"
 #include "exercises/exercise_catalogue.h"
 #include "persistence/file_path.h"
-#include "shell/form_1.h"
+#include "shell/exercise_conduct.h"
 #include "shell/text_format.h"
+
+#include <vector>
 
 namespace tarnel {
 
-namespace {
-
-/// Types of exercises that the shell treats differently.
-constexpr std::int16_t windExercise = 8;
-constexpr std::int16_t orientation = 10;
-
-/// `c_showResult`.
-enum ShowResult : std::int16_t { replaySolution = 1, nextQuestion = 2, fly = 4, replayArmed = 6 };
-
-/// Whether a solution is shown with the selected radial.
-bool showsRadial(std::int16_t type) {
-    return (type >= 1 && type <= 3) || type == 9 || type == orientation;
-}
-
-} // namespace
-
 /// A question that the student flies himself: the panel is free until he looks at his own flight,
 /// and the way back is open.
-void Form1::followExerciseFlight() {
-    if (QAform1.c_QAFly <= 0)
+void ExerciseConduct::followFlight() {
+    if (!studentFlies())
         return;
-    if (simStopped == 0 || !questionFlown)
-        replayPage.lock.set(0);
-    inst3RadialBox.set(0);
-    backButton.setVisible(true);
-    if (QAform1.c_TrackDelta > 0) {
-        UserControl11.c_TrackDelta = QAform1.c_TrackDelta;
-        QAform1.c_TrackDelta = 0;
+    if (stage.flight.flies() || question != Question::flown)
+        stage.strip.replayPage.lock.set(0);
+    stage.panel.inst3RadialBox.set(0);
+    stage.strip.backButton.setVisible(true);
+    if (form.c_TrackDelta > 0) {
+        stage.sim.c_TrackDelta = form.c_TrackDelta;
+        form.c_TrackDelta = 0;
     }
 }
 
-/// Carries out what the exercise asks of the shell.
-void Form1::followExercise() {
-    if (QAform1.c_QAtype == exerciseLeft)
-        leaveExercise();
-    if (!exerciseUp)
+/// Carries out what the exercise asks for.
+void ExerciseConduct::follow() {
+    if (form.c_QAtype == static_cast<std::int16_t>(ExerciseType::left))
+        leave();
+    if (!runs())
         return;
-    if (QAform1.c_QAFly <= 0 && simStopped == 0)
-        endExerciseFlight();
-    const std::int16_t wanted = QAform1.c_showResult;
-    QAform1.c_showResult = 0;
-    if (wanted == nextQuestion)
-        showNextQuestion();
-    if (!QAform1.c_QASessionFileName.get().empty())
-        loadQuestionSession();
-    if ((wanted == replaySolution || wanted == replayArmed) && QAform1.posed())
+    if (!studentFlies() && stage.flight.flies())
+        endFlight();
+    const auto wanted = static_cast<ShowResult>(form.c_showResult.get());
+    form.c_showResult = 0;
+    if (wanted == ShowResult::nextQuestion)
+        showNext();
+    if (!form.c_QASessionFileName.get().empty())
+        loadSession();
+    if ((wanted == ShowResult::replaySolution || wanted == ShowResult::replayArmed) && form.posed())
         showSolution();
-    if (wanted == fly)
+    if (wanted == ShowResult::studentFlies)
         letStudentFly();
-    enableControls();
+    changed();
 }
 
 /// The holding that the flight of the question flies; else the stations, and the aircraft where it
 /// is shown: its track in a solution, its place where the chart is asked about.
-void Form1::frameQuestion() {
-    UserControl2& sim = UserControl11;
-    const ExerciseKind* exercise = exerciseOf(QAform1.c_QAtype);
+void ExerciseConduct::frame() {
+    UserControl2& sim = stage.sim;
+    const ExerciseKind* exercise = exerciseOf(form.c_QAtype);
     if (exercise && exercise->fliesHolding && sim.c_TraceBufferMax >= 1) {
         const HoldingChart chart =
             holdingChart(sim.recording, sim.c_TraceBufferMax, sim.stations, sim.picture.size);
         return sim.showChart(chart.fix, chart.scale);
     }
     std::vector<GeoPosition> shown;
-    for (int i = 1; solutionSeen && i <= sim.c_TraceBufferMax; ++i)
+    for (int i = 1; solutionShown() && i <= sim.c_TraceBufferMax; ++i)
         shown.push_back({sim.recording.at(i).traceLat, sim.recording.at(i).traceLon});
     if (shown.empty() && exercise && exercise->askedOnChart)
         shown.push_back(sim.aircraft.published());
     sim.frameStations(shown);
 }
 
-void Form1::showSolution() {
-    StopReplay();
-    StopFly();
-    solutionSeen = true;
-    frameQuestion();
-    inst3RadialBox.set(showsRadial(QAform1.c_QAtype) ? 1 : 0);
-    setHidden(false);
-    if (QAform1.c_QAtype == windExercise) {
-        UserControl11.c_SpeedVectorEN = 1;
-        UserControl11.c_TraceEN = 0;
+void ExerciseConduct::showSolution() {
+    stage.replay.stop();
+    stage.flight.stop();
+    question = Question::solved;
+    frame();
+    const ExerciseKind& exercise = *exerciseOf(form.c_QAtype);
+    stage.panel.inst3RadialBox.set(exercise.solvedByRadial ? 1 : 0);
+    stage.display.setHidden(false);
+    if (exercise.solvedByWind) {
+        stage.sim.c_SpeedVectorEN = 1;
+        stage.sim.c_TraceEN = 0;
     }
-    replayPage.lock.set(1);
-    backButton.setVisible(true);
-    replayPage.loop.set(0);
-    UserControl11.c_HscrollRepeatValue = 0;
-    replayIndex = 0;
-    replayPage.play.choose();
+    stage.strip.replayPage.lock.set(1);
+    stage.strip.backButton.setVisible(true);
+    stage.strip.replayPage.loop.set(0);
+    stage.sim.c_HscrollRepeatValue = 0;
+    stage.replay.leaveSample();
+    stage.strip.replayPage.play.choose();
 }
 
-void Form1::showNextQuestion() {
-    StopReplay();
-    StopFly();
-    solutionSeen = false;
-    QAform1.c_smallFrame = false;
-    inst3RadialBox.set(0);
-    replayPage.lock.set(1);
-    backButton.setVisible(false);
-    coupling.switchFaces(!asksForPosition(QAform1.c_QAtype));
-    hideForQuestion();
+void ExerciseConduct::showNext() {
+    stage.replay.stop();
+    stage.flight.stop();
+    form.c_smallFrame = false;
+    stage.panel.inst3RadialBox.set(0);
+    stage.strip.replayPage.lock.set(1);
+    stage.strip.backButton.setVisible(false);
+    switchFaces();
+    hide();
 }
 
-QuestionCover Form1::cover() const {
-    return questionOpen() ? questionCover(QAform1.c_QAtype, QAform1.posed()) : QuestionCover{};
+QuestionCover ExerciseConduct::cover() const {
+    return questionOpen() ? questionCover(form.c_QAtype, form.posed()) : QuestionCover{};
 }
 
 /// A question gives nothing away: no track, no comment, no radial, and no aircraft but where the
 /// chart is what is asked about.
-void Form1::hideForQuestion() {
-    solutionSeen = questionFlown = false;
-    setHidden(true);
-    inst2RadialBox.set(0);
-    if (QAform1.posed() && exerciseOf(QAform1.c_QAtype)->askedOnChart)
-        UserControl11.c_AirplaneEN.setIfChanged(1);
+void ExerciseConduct::hide() {
+    question = Question::open;
+    stage.display.setHidden(true);
+    stage.panel.inst2RadialBox.set(0);
+    if (form.posed() && exerciseOf(form.c_QAtype)->askedOnChart)
+        stage.sim.c_AirplaneEN.setIfChanged(1);
 }
 
-void Form1::coverReadings() {
+void ExerciseConduct::coverReadings() {
     const QuestionCover covered = cover();
-    instruments.setVisible(!covered.instruments);
+    stage.panel.instruments.setVisible(!covered.instruments);
     for (DigitReadout* digits :
-         {&APControlFace1.headingDigits, &DMEControlFace1.distance, &DMEControlFace1.speed})
+         {&stage.panel.APControlFace1.headingDigits, &stage.panel.DMEControlFace1.distance,
+          &stage.panel.DMEControlFace1.speed})
         digits->setCovered(covered.figures);
 }
 
 /// The flight begins at the first sample, with the settings that were recorded there; the next tick
 /// frees them.
-void Form1::letStudentFly() {
-    StopReplay();
-    setHidden(true);
-    solutionSeen = questionFlown = false;
-    coupling.switchFaces(true);
-    replayPage.lock.set(1);
-    if (UserControl11.c_FlyEN == 1)
-        UserControl11.c_HscrollRepeatValue = 1;
+void ExerciseConduct::letStudentFly() {
+    stage.replay.stop();
+    stage.display.setHidden(true);
+    question = Question::open;
+    stage.coupling.switchFaces(true);
+    stage.strip.replayPage.lock.set(1);
+    if (stage.sim.c_FlyEN == 1)
+        stage.sim.c_HscrollRepeatValue = 1;
 }
 
-void Form1::loadQuestionSession() {
-    const std::string path = QAform1.c_QASessionFileName;
-    QAform1.c_QASessionFileName = std::string();
-    if (!loadPractised(path))
-        QAform1.sessionMissing(
-            filledIn(texts[Text::questionWithoutFlight], {portablePath(path).filename().string()}));
-    if (!solutionSeen)
-        hideForQuestion();
+void ExerciseConduct::loadSession() {
+    const std::string path = form.c_QASessionFileName;
+    form.c_QASessionFileName = std::string();
+    stage.practice.expect(path);
+    if (!stage.practice.load(path))
+        form.sessionMissing(filledIn(stage.boxes.texts[Text::questionWithoutFlight],
+                                     {portablePath(path).filename().string()}));
+    if (!solutionShown())
+        hide();
 }
 
 } // namespace tarnel

@@ -10,12 +10,13 @@
 
 namespace tarnel {
 
-FlightDesk::FlightDesk(FormState& form, const StringTable& table, UserControl2& simulation,
+FlightDesk::FlightDesk(FormState& form, BoxDesk& boxDesk, UserControl2& simulation,
                        OutsideWorld& world)
     : keeper(simulation, world),
       menu(form, "mnuBringBack", Text::bringBackFlight),
       notice(form, "StatusNotice"),
-      texts(table),
+      boxes(boxDesk),
+      texts(boxDesk.texts),
       sim(simulation),
       outside(world) {
     notice.setVisible(false);
@@ -52,7 +53,8 @@ void FlightDesk::bringBack(const ShelvedFlight& flight) {
     try {
         keeper.bringBack(flight);
     } catch (const RunTimeError& error) {
-        showBox(flight.path + "\n" + std::string(causeText(texts, error.cause())));
+        boxes.show(Text::windowTitle,
+                   flight.path + "\n" + std::string(causeText(texts, error.cause())));
     }
 }
 
@@ -60,7 +62,7 @@ bool FlightDesk::mayClose() {
     keeper.putAside();
     if (keeper.allWritten() || std::exchange(warned, true))
         return true;
-    showBox(std::string(texts[Text::closeWithoutFlight]));
+    boxes.show(Text::windowTitle, std::string(texts[Text::closeWithoutFlight]));
     return false;
 }
 

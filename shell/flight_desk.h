@@ -1,10 +1,9 @@
 #pragma once
 
 #include "controls/form_controls.h"
+#include "shell/box_desk.h"
 #include "shell/flight_keeper.h"
-#include "strings/string_table.h"
 
-#include <functional>
 #include <string>
 
 namespace tarnel {
@@ -13,8 +12,7 @@ namespace tarnel {
 /// went, and those that he can bring back.
 class FlightDesk {
   public:
-    FlightDesk(FormState& form, const StringTable& table, UserControl2& simulation,
-               OutsideWorld& world);
+    FlightDesk(FormState& form, BoxDesk& boxDesk, UserControl2& simulation, OutsideWorld& world);
 
     /// The title of a window with the flight in memory: its file and whether it is saved.
     [[nodiscard]] std::string title() const;
@@ -29,12 +27,12 @@ class FlightDesk {
     FlightKeeper keeper;
     CommandButton menu; ///< of the flights that can be brought back
     TextPanel notice;   ///< where a flight went; whoever shows it hides it again
-    std::function<void(const std::string& message)> showBox;
 
   private:
     [[nodiscard]] std::string lengthOf(const ShelvedFlight& flight) const;
     void tell(const std::string& text);
 
+    BoxDesk& boxes;
     const StringTable& texts;
     UserControl2& sim;
     OutsideWorld& outside;

@@ -1,62 +1,144 @@
 #include "shell/form_1.h"
 
+#include "persistence/file_bytes.h"
+
+#include <optional>
+
 namespace tarnel {
 
+namespace {
+
+constexpr std::size_t largestStudyFile = 1 << 20;
+
+std::optional<std::string> readStudy(const std::string& path) {
+    try {
+        return readFileBytes(path, largestStudyFile);
+    } catch (const RunTimeError&) {
+        return {};
+    }
+}
+
+ExerciseSurroundings exerciseSurroundings(const StringTable& texts, OutsideWorld& outside) {
+    return {.texts = texts,
+            .settings = outside.settings(),
+            .readFile = readStudy,
+            .seed = [&outside] { return outside.clockSeed().value_or(0); }};
+}
+
+} // namespace
+
 Form1::Form1(const StringTable& table, OutsideWorld& world, std::string applicationPath)
-    : PanelControls(state), texts(table), outside(world), UserControl11(*this) {
-    connectControls();
+    : PanelControls(state),
+      texts(table),
+      boxes(table, world),
+      QAform1(state, exerciseSurroundings(table, world)),
+      flightDesk(state, boxes, UserControl11, world),
+      documents(UserControl11, fileMenu.loadSession, practice, boxes, world) {
+    UserControl11.clockSeed = [&world] { return world.clockSeed(); };
+    connectDesks();
+    connectSimulation();
+    connectHistory();
+    connectPanel();
     guarded([&] { startUp(applicationPath); });
 }
 
-void Form1::connectStrip() {
-    startButton.onClick = [this] { startOrStop(); };
-    rateReal.onClick = [this] { setRate(333); };
-    rateHalf.onClick = [this] { setRate(666); };
-    rateDouble.onClick = [this] { setRate(166); };
-    rateQuadruple.onClick = [this] { setRate(83); };
-    radialCycleButton.onClick = [this] { cycleRadialLines(); };
-    connectFiles();
-    connectExercises();
-    connectChartPage();
-    connectReplay();
-    connectWind();
-    connectHistory();
-    connectComments();
+FileSurroundings Form1::fileSurroundings() {
+    return {.sim = UserControl11,
+            .strip = *this,
+            .coupling = coupling,
+            .boxes = boxes,
+            .replay = replay,
+            .flight = flight,
+            .practice = practice,
+            .comments = comments,
+            .exercise = exercise};
 }
 
-void Form1::connectControls() {
-    connectStrip();
-    stopwatchStartButton.onClick = [this] { toggleStopwatch(); };
-    stopwatchResetButton.onClick = [this] { resetStopwatch(); };
+ExerciseStage Form1::exerciseStage() {
+    return {.sim = UserControl11,
+            .strip = *this,
+            .panel = *this,
+            .coupling = coupling,
+            .replay = replay,
+            .flight = flight,
+            .display = display,
+            .practice = practice,
+            .boxes = boxes};
+}
+
+/// What one desk lets the others know.
+void Form1::connectDesks() {
+    boxes.pause = [this] {
+        replay.stop();
+        flight.stop();
+    };
+    boxes.beforeBox = [this] {
+        letGo();
+        if (beforeBox)
+            beforeBox();
+    };
+    for (std::function<void()>* changed :
+         {&replay.changed, &flight.changed, &stationDesk.changed, &exercise.changed})
+        *changed = [this] { usable.update(); };
+    flight.onStart = [this] { exercise.flightStarts(); };
+    flight.onStop = [this] {
+        if (practice.practises() || exercise.studentFlies())
+            UserControl11.c_TrackDelta = 3;
+    };
+    files.connectMenu();
+}
+
+void Form1::connectSimulation() {
+    UserControl11.placedByHand = [this] { replay.stop(); };
+    UserControl11.practicePanelSet = [this](std::int16_t panel) { practice.showPanel(panel); };
+    UserControl11.mouse.headingDrawn = [this](std::int16_t heading) {
+        coupling.setHeadingBug(heading);
+    };
+}
+
+/// A flight that came back is shown at the sample where it was.
+void Form1::connectHistory() {
+    editMenu.undo.onClick = [this] {
+        if (UserControl11.undo())
+            replay.standAt(UserControl11.presentSampleIndex());
+        usable.followHistory();
+    };
+    editMenu.redo.onClick = [this] {
+        UserControl11.redo();
+        usable.followHistory();
+    };
+}
+
+void Form1::connectPanel() {
+    replayPage.lock.onClick = [this] { coupling.setLocked(replayPage.lock.value() == 1); };
     floatingGyroBox.onClick = [this] { setFloatingGyroOpen(floatingGyroBox.value() == 1); };
     for (UserControl_1* instrument :
          {&inst1.instrument, &inst2.instrument, &inst3.instrument, &UserControl_DG})
         instrument->showMessage = [this](const std::string&) {
-            showBox(text(Text::windowTitle), text(Text::unsupportedDisplay));
+            boxes.show(Text::windowTitle, std::string(texts[Text::unsupportedDisplay]));
         };
-    UserControl11.mouse.headingDrawn = [this](std::int16_t heading) { setHeadingBug(heading); };
 }
 
 void Form1::Timer1() {
-    if (!boxUp)
+    if (!boxes.up())
         guarded([this] {
             tick();
-            tellSettingsTrouble();
+            boxes.tellSettingsTrouble();
         });
 }
 
 void Form1::simulationTimer() {
-    if (!boxUp && UserControl11.c_TimerEN == 1)
+    if (!boxes.up() && UserControl11.c_TimerEN == 1)
         guarded([this] { UserControl11.Timer1(); });
 }
 
 void Form1::Timer2() {
-    if (!boxUp && replayOn != 0)
-        guarded([this] { pumpReplay(); });
+    if (!boxes.up() && replay.runs())
+        guarded([this] { replay.pump(); });
 }
 
 void Form1::autopilotTimer() {
-    if (!boxUp)
+    if (!boxes.up())
         guarded([this] { APControlFace1.Timer1(); });
 }
 

@@ -4,14 +4,14 @@ namespace tarnel {
 
 /// The letters in brackets on the status panels.
 bool Form1::pressKey(char letter) {
-    if (questionOpen() && letter != 'M')
+    if (exercise.questionOpen() && letter != 'M')
         return false;
     switch (letter) {
     case 'M':
         startButton.click();
         break;
     case 'P':
-        (replayOn != 0 ? replayPage.stop : replayPage.play).click();
+        (replay.runs() ? replayPage.stop : replayPage.play).click();
         break;
     case 'H':
         replayPage.hide.click();
@@ -20,11 +20,10 @@ bool Form1::pressKey(char letter) {
         chartPage.trace.click();
         break;
     case 'V':
-        if (chartPage.vectors.enabled())
-            chartPage.vectors.set((vectorMode + 1) % 3);
+        display.stepVectors();
         break;
     case 'W':
-        cycleWind();
+        windDesk.step();
         break;
     case 'R':
         radialCycleButton.click();

@@ -57,10 +57,10 @@ void Form1::setApplicationPath(const std::string& path) {
 }
 
 void Form1::setPanelDefaults() {
-    windPanel.setText(text(Text::panelWindOff));
-    hidePanel.setText(text(Text::panelHideOff));
-    vectorsPanel.setText(text(Text::panelVectorsOff));
-    modePanel.setText(text(Text::panelPause));
+    windPanel.setText(std::string(texts[Text::panelWindOff]));
+    hidePanel.setText(std::string(texts[Text::panelHideOff]));
+    vectorsPanel.setText(std::string(texts[Text::panelVectorsOff]));
+    modePanel.setText(std::string(texts[Text::panelPause]));
     chartPage.trace.set(1);
     pages.replay.choose();
     replayPage.stop.show();
@@ -68,7 +68,7 @@ void Form1::setPanelDefaults() {
     practicePanel.frame.setVisible(false);
     commentPanel.comment.setVisible(false);
     backButton.setVisible(false);
-    enableControls();
+    usable.update();
 }
 
 void Form1::startUp(const std::string& applicationPath) {
@@ -101,7 +101,7 @@ void Form1::startUp(const std::string& applicationPath) {
     UserControl11.c_NAVRadCenter = on;
     setPanelDefaults();
 
-    UserControl11.newSessionName = text(Text::newSessionFile);
+    UserControl11.newSessionName = texts[Text::newSessionFile];
     UserControl11.c_ChartFileName = applicationPath + "/default.map";
     UserControl11.c_loadChart = 2;
     UserControl11.resetView();

@@ -36,7 +36,7 @@ class ExerciseFlow : public testing::TestWithParam<std::size_t> {
     }
     /// Lets the replay run to its end.
     void watch() {
-        for (int i = 0; form.replayRuns() && i < 4 * Recording::lastSample; ++i) {
+        for (int i = 0; form.replay.runs() && i < 4 * Recording::lastSample; ++i) {
             form.Timer2();
             couple(1);
         }
@@ -96,14 +96,14 @@ class ExerciseFlow : public testing::TestWithParam<std::size_t> {
     }
     void expectHidden() {
         const UserControl2& sim = form.UserControl11;
-        EXPECT_TRUE(form.questionOpen());
+        EXPECT_TRUE(form.exercise.questionOpen());
         EXPECT_EQ(sim.c_TraceEN + sim.c_SpeedVectorEN + sim.c_TraceAheadEN, 0);
         EXPECT_TRUE(sim.picture.trace.all().empty());
         EXPECT_FALSE(form.commentPanel.comment.visible());
         EXPECT_FALSE(form.startButton.enabled());
         EXPECT_FALSE(form.replayPage.play.enabled());
         EXPECT_FALSE(form.pressKey('H'));
-        form.setNorthUp(false);
+        form.display.setNorthUp(false);
         EXPECT_EQ(sim.c_MAPnorthUP, 1);
         EXPECT_FALSE(form.chartPage.centre.enabled());
         EXPECT_FALSE(form.inst3TypeList.enabled());
@@ -128,7 +128,7 @@ class ExerciseFlow : public testing::TestWithParam<std::size_t> {
         const auto before = centre();
         const std::int16_t scale = form.UserControl11.c_MAPscale;
         for (const auto& change : std::initializer_list<std::function<void()>>{
-                 [&] { form.stepScale(-1); }, [&] { form.setScale(scale); },
+                 [&] { form.display.stepScale(-1); }, [&] { form.display.setScale(scale); },
                  [&] { form.inst2Large.click(); }, [&] { form.inst2Small.click(); },
                  [&] { form.chartPage.centre.click(); }}) {
             change();
@@ -138,7 +138,7 @@ class ExerciseFlow : public testing::TestWithParam<std::size_t> {
     }
     void expectFiguresCovered() {
         const bool covered = asksForPosition(form.QAform1.c_QAtype);
-        EXPECT_EQ(form.cover().figures, covered);
+        EXPECT_EQ(form.exercise.cover().figures, covered);
         for (const DigitReadout* digits :
              {&form.APControlFace1.headingDigits, &form.DMEControlFace1.distance})
             EXPECT_EQ(digits->pictures().front() == DigitReadout::blankPicture, covered);
@@ -162,9 +162,9 @@ class ExerciseFlow : public testing::TestWithParam<std::size_t> {
 
 TEST_P(ExerciseFlow, IsAskedAnsweredShownAndLeft) {
     couple();
-    const std::int16_t type = exerciseItems()[GetParam()].type;
+    const std::int16_t type = static_cast<std::int16_t>(exerciseItems()[GetParam()].type);
     start(GetParam());
-    ASSERT_TRUE(form.exerciseRuns());
+    ASSERT_TRUE(form.exercise.runs());
     panel().randomBox.set(0);
     if (type == 10) // begins at random
         toFirstQuestion();
@@ -180,8 +180,8 @@ TEST_P(ExerciseFlow, IsAskedAnsweredShownAndLeft) {
     EXPECT_FALSE(form.fileMenu.loadSession.enabled());
 
     const std::vector<std::string> solutions = solution();
-    EXPECT_FALSE(form.questionOpen());
-    EXPECT_TRUE(form.replayRuns());
+    EXPECT_FALSE(form.exercise.questionOpen());
+    EXPECT_TRUE(form.replay.runs());
     EXPECT_TRUE(form.instruments.visible());
     EXPECT_EQ(form.UserControl11.c_AirplaneEN, 1);
     EXPECT_EQ(form.UserControl11.c_SpeedVectorEN, type == 8 ? 1 : 0);
@@ -194,7 +194,7 @@ TEST_P(ExerciseFlow, IsAskedAnsweredShownAndLeft) {
     EXPECT_THAT(panel().statistic.text(), testing::HasSubstr(": 0"));
     expectHidden();
     click(panel().cancelButton);
-    EXPECT_FALSE(form.exerciseRuns());
+    EXPECT_FALSE(form.exercise.runs());
 
     start(GetParam());
     panel().randomBox.set(0);
@@ -207,8 +207,8 @@ TEST_P(ExerciseFlow, IsAskedAnsweredShownAndLeft) {
         }
     }
     couple();
-    EXPECT_TRUE(form.replayRuns()); // all right: the solution at once
-    EXPECT_TRUE(form.solutionShown());
+    EXPECT_TRUE(form.replay.runs()); // all right: the solution at once
+    EXPECT_TRUE(form.exercise.solutionShown());
     EXPECT_TRUE(form.backButton.visible());
     EXPECT_TRUE(form.replayPage.bar.enabled());
     click(panel().nextButton);
@@ -231,7 +231,7 @@ class FlownExercise : public ExerciseFlow {
 
 TEST_P(FlownExercise, IsFlownByTheStudentAndComesBack) {
     couple();
-    const std::int16_t type = exerciseItems()[GetParam()].type;
+    const std::int16_t type = static_cast<std::int16_t>(exerciseItems()[GetParam()].type);
     start(GetParam());
     const std::string question = panel().frame.text();
     const Sample first = form.UserControl11.recording.at(1);
@@ -247,11 +247,11 @@ TEST_P(FlownExercise, IsFlownByTheStudentAndComesBack) {
     EXPECT_FALSE(form.replayPage.hide.enabled());
     form.startButton.click();
     fly(20);
-    EXPECT_TRUE(form.simulationRuns());
+    EXPECT_TRUE(form.flight.flies());
     EXPECT_NEAR(form.UserControl11.c_TraceBufferMax, 16, 1);
     EXPECT_TRUE(form.UserControl11.referenceReading.known) << type;
     click(form.backButton);
-    EXPECT_FALSE(form.simulationRuns());
+    EXPECT_FALSE(form.flight.flies());
     EXPECT_LT(form.QAform1.c_QAFly, 0);
     EXPECT_EQ(panel().frame.text(), question);
     EXPECT_EQ(form.UserControl11.c_TraceBufferMax, samples); // the solution is there again
@@ -259,18 +259,18 @@ TEST_P(FlownExercise, IsFlownByTheStudentAndComesBack) {
 
     flyQuestion();
     click(panel().solutionButton);
-    EXPECT_FALSE(form.simulationRuns());
-    EXPECT_TRUE(form.replayRuns());
+    EXPECT_FALSE(form.flight.flies());
+    EXPECT_TRUE(form.replay.runs());
     EXPECT_EQ(form.UserControl11.c_TraceBufferMax, samples);
     watch();
     flyQuestion();
     click(panel().nextButton); // from the midst of a flight
-    EXPECT_FALSE(form.simulationRuns());
+    EXPECT_FALSE(form.flight.flies());
     expectHidden();
     flyQuestion();
     click(panel().cancelButton);
-    EXPECT_FALSE(form.exerciseRuns());
-    EXPECT_FALSE(form.simulationRuns());
+    EXPECT_FALSE(form.exercise.runs());
+    EXPECT_FALSE(form.flight.flies());
     EXPECT_TRUE(world.boxes.empty());
 }
 
@@ -282,7 +282,7 @@ std::string nameOf(const testing::TestParamInfo<std::size_t>& item) {
 std::vector<std::size_t> flownItems() {
     std::vector<std::size_t> items;
     for (std::size_t i = 0; i < exerciseItems().size(); ++i)
-        if (!asksForPosition(exerciseItems()[i].type))
+        if (!asksForPosition(static_cast<int>(exerciseItems()[i].type)))
             items.push_back(i);
     return items;
 }
@@ -331,7 +331,7 @@ std::string shellOf(Form1& form) {
             flag(form.inst3Large.chosen()) + flag(sim.c_AirplaneEN.get()) +
             flag(sim.c_TraceEN.get()) + flag(sim.c_SpeedVectorEN.get()) +
             flag(form.instruments.visible()) + flag(form.startButton.enabled()) +
-            flag(form.backButton.visible()) + flag(form.replayRuns());
+            flag(form.backButton.visible()) + flag(form.replay.runs());
     for (CommandButton* item : form.exerciseMenu.items())
         text += flag(item->enabled());
     for (CommandButton* item : form.fileMenu.items())
@@ -360,7 +360,7 @@ TEST_F(ExerciseShell, IsAsItWasAfterTenExercises) {
     }
     form.startButton.click(); // and a free flight goes
     fly(5);
-    EXPECT_TRUE(form.simulationRuns());
+    EXPECT_TRUE(form.flight.flies());
 }
 
 TEST_F(ExerciseShell, AMissingSessionIsToldAndTheQuestionCanBePassed) {
@@ -375,15 +375,15 @@ TEST_F(ExerciseShell, AMissingSessionIsToldAndTheQuestionCanBePassed) {
     EXPECT_THAT(panel().notice.text(), testing::HasSubstr("qdm01.ts"));
     EXPECT_EQ(form.UserControl11.c_FlyEN, 0); // no other flight in its place
     EXPECT_FALSE(form.instruments.visible());
-    EXPECT_EQ(form.cover().reason, Text::instrumentWithoutFlight);
+    EXPECT_EQ(form.exercise.cover().reason, Text::instrumentWithoutFlight);
     EXPECT_FALSE(panel().solutionButton.visible());
     EXPECT_FALSE(panel().flyButton.visible());
-    EXPECT_FALSE(form.replayRuns());
+    EXPECT_FALSE(form.replay.runs());
     click(panel().nextButton);
     EXPECT_THAT(panel().notice.text(), testing::HasSubstr("qdm02.ts"));
-    EXPECT_TRUE(form.questionOpen());
+    EXPECT_TRUE(form.exercise.questionOpen());
     click(panel().cancelButton);
-    EXPECT_FALSE(form.exerciseRuns());
+    EXPECT_FALSE(form.exercise.runs());
     fs::remove_all(bare);
 }
 

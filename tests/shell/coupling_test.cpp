@@ -179,7 +179,7 @@ TEST_F(PractiseArea, StopsTheFlightOnceWithItsMessage) {
     fly(600);
     ASSERT_EQ(world.boxes.size(), 1);
     EXPECT_THAT(world.boxes[0], HasSubstr("You are outside of the practise Area."));
-    EXPECT_FALSE(form.simulationRuns());
+    EXPECT_FALSE(form.flight.flies());
     EXPECT_EQ(form.modePanel.text(), "Pause [M]ode");
     EXPECT_NEAR(sim().slot(Slot::vor2).dme, 80.1, 0.11);
 }
@@ -190,11 +190,11 @@ TEST_F(RunTimeErrors, PauseTheFlightAndAreToldOnce) {
     couple(5);
     ASSERT_EQ(world.boxes.size(), 1);
     EXPECT_THAT(world.boxes[0], HasSubstr("6"));
-    EXPECT_FALSE(form.simulationRuns());
+    EXPECT_FALSE(form.flight.flies());
     sim().c_LocCrs1 = 83;
     start();
     fly(3);
-    EXPECT_TRUE(form.simulationRuns());
+    EXPECT_TRUE(form.flight.flies());
     EXPECT_EQ(world.boxes.size(), 1);
 }
 
@@ -219,7 +219,7 @@ TEST_F(Strip, AnAbandonedTrackStaysAway) {
     form.startButton.click();
     EXPECT_FALSE(sim().picture.trace.all().empty());
     sim().placeAircraft(ChartPoint{1000, 1000});
-    form.stepScale(1);
+    form.display.stepScale(1);
     EXPECT_TRUE(sim().picture.trace.all().empty());
 }
 

@@ -57,35 +57,35 @@ TEST_F(DocumentsTest, EveryChapterHasItsPages) {
 
 TEST_F(DocumentsTest, TheBookOpensInTheLanguageAndItsAbsenceLeavesTheFlightAlone) {
     form.startButton.click();
-    form.openBook(26);
+    form.documents.openBook(26);
     EXPECT_THAT(world.boxes, testing::ElementsAre(testing::HasSubstr("The book was not found")));
     EXPECT_TRUE(world.opened.empty());
     put("Buch/buch_en.pdf");
-    form.openBook(26);
-    form.openBook(0);
+    form.documents.openBook(26);
+    form.documents.openBook(0);
     EXPECT_THAT(world.opened, testing::ElementsAre("buch_en.pdf 26", "buch_en.pdf 0"));
-    EXPECT_TRUE(form.simulationRuns());
+    EXPECT_TRUE(form.flight.flies());
     world.hasReader = false;
-    form.openBook(0);
+    form.documents.openBook(0);
     EXPECT_THAT(world.boxes.back(), testing::HasSubstr("No program"));
 }
 
 TEST_F(DocumentsTest, AnApproachChartBringsItsSessionAtRestOnly) {
-    form.openApproachChart(2);
+    form.documents.openApproachChart(2);
     ASSERT_EQ(world.boxes.size(), 2U);
     EXPECT_THAT(world.boxes[0], testing::HasSubstr("NOT FOR NAVIGATIONAL PURPOSES"));
     EXPECT_THAT(world.boxes[1], testing::HasSubstr("eddr111app[1].pdf"));
     put("default/charts/eddr111app[1].pdf");
     const std::string german = put("default/sessions/orient eddr 27.ts", session());
     form.startButton.click();
-    form.openApproachChart(2);
+    form.documents.openApproachChart(2);
     EXPECT_EQ(shownSession(), "New Session.ts");
-    EXPECT_TRUE(form.simulationRuns());
+    EXPECT_TRUE(form.flight.flies());
     form.startButton.click();
-    form.openApproachChart(2);
+    form.documents.openApproachChart(2);
     EXPECT_EQ(shownSession(), german);
     const std::string english = put("default/sessions/e-orient eddr 27.ts", session());
-    form.openApproachChart(2);
+    form.documents.openApproachChart(2);
     EXPECT_EQ(shownSession(), english);
     EXPECT_EQ(world.opened.size(), 3U);
     EXPECT_EQ(world.boxes.size(), 5U);
@@ -96,16 +96,16 @@ TEST_F(DocumentsTest, FilesFromOutsideOpenAsTheirNamesSayAndOnlyAtRest) {
     const std::string chart = put("other.MAP");
     fs::copy_file(TARNEL_DATA_FOLDER "/default.map", chart, fs::copy_options::overwrite_existing);
     form.startButton.click();
-    form.openFile(flight);
-    EXPECT_TRUE(form.simulationRuns());
+    form.files.openFile(flight);
+    EXPECT_TRUE(form.flight.flies());
     form.startButton.click();
-    form.openFile(flight);
+    form.files.openFile(flight);
     form.Timer1();
     EXPECT_EQ(told(form.sessionPanel, form.sessionPanel.tipText()), "my flight.ts " + flight);
-    form.openFile(chart);
+    form.files.openFile(chart);
     EXPECT_EQ(form.UserControl11.c_ChartFileName.get(), chart);
-    form.openFile(put("notes.txt", "no session\n"));
-    form.openFile(folder.path + "/gone.ts");
+    form.files.openFile(put("notes.txt", "no session\n"));
+    form.files.openFile(folder.path + "/gone.ts");
     EXPECT_THAT(world.boxes, testing::ElementsAre(testing::HasSubstr("\"my flight.ts\""),
                                                   testing::HasSubstr("notes.txt"),
                                                   testing::HasSubstr("gone.ts")));

@@ -138,7 +138,7 @@ TEST_F(FilesTest, AFileWithoutWhatItShouldHoldChangesNothing) {
     const auto expectUnchanged = [&](const std::string& name, const std::string& text) {
         write(name, text);
         world.boxes.clear();
-        form->openFile(folder.path + "/" + name);
+        form->files.openFile(folder.path + "/" + name);
         ASSERT_EQ(world.boxes.size(), 1U) << text;
         EXPECT_THAT(world.boxes[0], HasSubstr("\nNothing was changed.")) << text;
         EXPECT_TRUE(state() == before) << text;
@@ -243,16 +243,16 @@ TEST_F(FilesTest, AChartComesBackWithTheStationsAsTheyWereMoved) {
     EXPECT_EQ(sim().aircraft.published(), aircraft);
     const GeoPosition moved = toPlain(sim().stations[0].position);
 
-    StationEdit edit = form->stationToEdit(Slot::vor1);
+    StationEdit edit = form->stationDesk.toEdit(Slot::vor1);
     edit.name = "KES";
     edit.frequency = "11a.60";
-    EXPECT_FALSE(form->applyStationEdit(edit));
+    EXPECT_FALSE(form->stationDesk.apply(edit));
     EXPECT_EQ(world.boxes.back(), "ERROR - Frequency Format: Wrong Frequency Format. Enter a "
                                   "correct Frequency e.g. 110.40");
     edit.frequency = "113.60";
     edit.dmeOn = false;
     edit.labelPlace = 3;
-    EXPECT_TRUE(form->applyStationEdit(edit));
+    EXPECT_TRUE(form->stationDesk.apply(edit));
     couple();
     EXPECT_EQ(form->NAVControlFace1.c_Freq1.get(), "113.60");
 

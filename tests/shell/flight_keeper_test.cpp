@@ -252,8 +252,8 @@ TEST_F(FlightKeeperTest, ASituationSetUpByHandIsSavedAndFound) {
             fly(40);
         sim().placeAircraft(ChartPoint{1000, 2000});
         sim().turnAircraft(77);
-        form->setHeadingBug(123);
-        form->setManualWind(240, 15);
+        form->coupling.setHeadingBug(123);
+        form->windDesk.setManual(240, 15);
         form->inst2TypeList.pick(vor - 1);
         form->NAVControlFace1.c_SetFreq = 1;
         form->APControlFace1.c_TAS = 150.0;
@@ -267,7 +267,7 @@ TEST_F(FlightKeeperTest, ASituationSetUpByHandIsSavedAndFound) {
         EXPECT_EQ(situation(), before);
         save();
         EXPECT_EQ(bytes("task.ts").find("---"), bytes("task.ts").rfind("---"));
-        form->setManualWind(90, 20); // and changed a day later
+        form->windDesk.setManual(90, 20); // and changed a day later
         couple();
         save();
         load("task.ts");

@@ -23,7 +23,7 @@ double between(double a, double b) {
 TEST_F(Needles, AgreeInBothViews) {
     Trainer north;
     Trainer turned;
-    turned.form.setNorthUp(false);
+    turned.form.display.setNorthUp(false);
     const auto expectAgreement = [&](double heading) {
         const UserControl_1& left = north.form.inst2.instrument;
         const UserControl_1& right = turned.form.inst2.instrument;
@@ -123,10 +123,10 @@ TEST_F(Needles, GyrosTurnWithTheHeading) {
 TEST_F(Needles, CourseOnTheDialIsWhatIsRecorded) {
     form.inst2TypeList.pick(vor - 1);
     placeAt(48.05, 11.62, 200);
-    form.setNorthUp(false);
+    form.display.setNorthUp(false);
     setCourse(form.inst2, 45);
     setCourse(form.inst3, 350);
-    form.setHeadingBug(20);
+    form.coupling.setHeadingBug(20);
     start();
     fly(70);
     ASSERT_EQ(sim().recording.sampleIndex(), 52);

@@ -10,7 +10,7 @@ TEST(StartUp, RestsPausedOnTheDefaultChart) {
     Form1& form = trainer.form;
     UserControl2& sim = trainer.sim();
     EXPECT_TRUE(trainer.world.boxes.empty());
-    EXPECT_FALSE(form.simulationRuns());
+    EXPECT_FALSE(form.flight.flies());
     EXPECT_EQ(told(form.inst2.type, form.inst3.type, form.inst1.instrument.Display),
               told(rmi, hsi, rmi));
     EXPECT_EQ(told(sim.c_TimerSIMrate, sim.c_TAS, sim.c_Altitude, sim.c_NAVRadCenter == on),

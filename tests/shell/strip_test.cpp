@@ -36,7 +36,7 @@ TEST_F(StripTest, TwoClicksOnStartComeBack) {
     form.pages.wind.click();
     for (const bool flies : {true, false}) {
         start();
-        EXPECT_EQ(form.simulationRuns(), flies);
+        EXPECT_EQ(form.flight.flies(), flies);
         EXPECT_TRUE(form.pages.replay.chosen());
         EXPECT_EQ(form.modePanel.text(), flies ? "Training [M]ode" : "Pause [M]ode");
         expectReplayControls(!flies);
@@ -61,14 +61,14 @@ TEST_F(StripTest, ReplayTakesFourFiringsASampleAndStopsLocked) {
     record(12);
     scrollTo(1);
     form.replayPage.play.click();
-    EXPECT_TRUE(form.replayRuns());
+    EXPECT_TRUE(form.replay.runs());
     EXPECT_FALSE(form.startButton.enabled());
     for (const int sample : {2, 3}) {
         replay(4);
         EXPECT_EQ(form.replayPage.bar.value(), sample);
     }
     replay(4 * newest());
-    EXPECT_FALSE(form.replayRuns());
+    EXPECT_FALSE(form.replay.runs());
     EXPECT_EQ(told(form.replayPage.bar, sim().c_RepeatValue, form.replayPage.lock),
               told(newest(), newest(), 1));
     EXPECT_TRUE(form.replayPage.stop.chosen() && form.startButton.enabled());
@@ -79,9 +79,9 @@ TEST_F(StripTest, ReplayTakesFourFiringsASampleAndStopsLocked) {
         EXPECT_EQ(form.replayPage.bar.value(), 1);
         replay(4 * newest() - 1);
     }
-    EXPECT_TRUE(form.replayRuns());
+    EXPECT_TRUE(form.replay.runs());
     start(); // rests while the replay runs
-    EXPECT_FALSE(form.simulationRuns());
+    EXPECT_FALSE(form.flight.flies());
 }
 
 TEST_F(StripTest, InterpolationMovesAtEachFiring) {
@@ -101,11 +101,11 @@ TEST_F(StripTest, InterpolationMovesAtEachFiring) {
 TEST_F(StripTest, ALockedReplayShowsAllThatWasSeen) {
     form.inst2TypeList.pick(vor - 1);
     setCourse(form.inst2, 77);
-    form.setHeadingBug(30);
+    form.coupling.setHeadingBug(30);
     record(20);
     setCourse(form.inst2, 10);
     form.inst2TypeList.pick(adf - 1);
-    form.setHeadingBug(200);
+    form.coupling.setHeadingBug(200);
     form.APControlFace1.c_TAS = 200.0;
     form.APControlFace1.c_ALT = 9000.0;
     couple();
@@ -126,12 +126,12 @@ TEST_F(StripTest, ALockedReplayShowsAllThatWasSeen) {
 
 TEST_F(StripTest, AnUnlockedReplayLeavesThePanelAndWritesItOverTheRecording) {
     form.inst2TypeList.pick(vor - 1);
-    form.setHeadingBug(30);
+    form.coupling.setHeadingBug(30);
     record(20);
     scrollTo(8);
     form.replayPage.lock.click();
     form.inst2TypeList.pick(hsi - 1);
-    form.setHeadingBug(200);
+    form.coupling.setHeadingBug(200);
     couple();
     scrollTo(5);
     EXPECT_EQ(told(form.inst2.type, form.inst2.instrument.c_HDGbug, form.UserControl_DG.c_HDGbug,
@@ -152,7 +152,7 @@ TEST_F(StripTest, ALoadedSessionMovesTheBarOnceAndNeverInFlight) {
     start();
     sim().c_HscrollRepeatValue = 2;
     fly(8);
-    EXPECT_TRUE(form.simulationRuns());
+    EXPECT_TRUE(form.flight.flies());
     EXPECT_EQ(newest(), 3 + 6);
 }
 
@@ -182,7 +182,7 @@ TEST_F(StripTest, LettersDoWhatThePanelsSay) {
         for (const char* letter = letters; *letter; ++letter)
             EXPECT_TRUE(form.pressKey(*letter));
         couple();
-        return told(form.simulationRuns(), form.replayRuns());
+        return told(form.flight.flies(), form.replay.runs());
     };
     EXPECT_EQ(press("M"), "1 0");
     EXPECT_EQ(press("P"), "1 0") << "no replay in flight";
@@ -217,10 +217,10 @@ TEST_F(StripTest, TheWindPageTellsWhereTheWindComesFrom) {
     EXPECT_NE(readout(), first);
     form.windPage.none.click();
     EXPECT_EQ(readout(), "0/0");
-    form.setManualWind(270, 20);
+    form.windDesk.setManual(270, 20);
     EXPECT_EQ(readout(), "270/20");
     EXPECT_TRUE(form.windPage.manual.chosen());
-    form.setNorthUp(false);
+    form.display.setNorthUp(false);
     form.windPage.draw.click();
     sim().mouse.down(ChartButton::left, {1000, 1000});
     sim().mouse.move({1000, 2000});
@@ -264,7 +264,7 @@ TEST_F(StripTest, AFullCommentTableIsToldAndTheFlightGoesOn) {
     EXPECT_TRUE(world.boxes.empty());
     form.commentPanel.text.type("one too many");
     form.commentPanel.startStop.click();
-    EXPECT_EQ(told(world.boxes.size(), form.commentPanel.text, form.simulationRuns()),
+    EXPECT_EQ(told(world.boxes.size(), form.commentPanel.text, form.flight.flies()),
               "1 one too many 1");
 }
 
@@ -286,7 +286,7 @@ TEST_F(StripTest, EditingAChartAsksForMarkedCommentsAndRestsTheReplay) {
     EXPECT_EQ(world.asked.size(), 2U);
     couple();
     expectReplayControls(false);
-    EXPECT_FALSE(form.pressKey('P') && form.replayRuns());
+    EXPECT_FALSE(form.pressKey('P') && form.replay.runs());
     form.stationPage.edit.click();
     expectReplayControls(true);
 }
@@ -312,11 +312,11 @@ TEST_F(StripTest, APracticePanelTakesItsStates) {
 TEST_F(StripTest, ChartAndStationsAnswerTheirPages) {
     const std::int16_t scale = sim().c_MAPscale;
     const SplitPosition centre = sim().view.mapCenter;
-    form.stepScale(1);
+    form.display.stepScale(1);
     EXPECT_EQ(sim().c_MAPscale, 250); // from between two of the scales to the next
-    form.stepScale(-1);
+    form.display.stepScale(-1);
     EXPECT_EQ(sim().c_MAPscale, 167);
-    form.setNorthUp(false);
+    form.display.setNorthUp(false);
     form.chartPage.reset.click();
     EXPECT_EQ(told(sim().c_MAPnorthUP, sim().c_MAPscale), told(1, scale));
     EXPECT_EQ(sim().view.mapCenter, centre);

@@ -69,7 +69,7 @@ struct Trainer {
     void placeAt(double latitude, double longitude, double heading) {
         form.UserControl11.placeAircraft(GeoPosition{latitude, longitude});
         form.UserControl11.turnAircraft(heading);
-        form.setHeadingBug(static_cast<std::int16_t>(heading));
+        form.coupling.setHeadingBug(static_cast<std::int16_t>(heading));
         couple();
     }
     /// Sets the course of a position as its OBS knob does.
@@ -128,7 +128,7 @@ class TrainerWithFiles : public testing::Test {
         world.chosen.reset();
     }
     void load(const std::string& name) {
-        form->openFile(folder.path + "/" + name);
+        form->files.openFile(folder.path + "/" + name);
         couple();
     }
     [[nodiscard]] std::string bytes(const std::string& name) const {

@@ -102,7 +102,7 @@ TEST_F(HeldMouse, ABoxOfTheTrainerStopsTheRateEvenWithoutAWindow) {
     form->APControlFace1.mouseDown(AutopilotKnob::altitude, 100);
     form->APControlFace1.mouseMove(900, MouseButton::left);
     form->autopilotTimer();
-    form->showAbout();
+    form->documents.showAbout();
     const double reached = form->APControlFace1.c_ALT;
     EXPECT_GT(reached, 6000);
     form->autopilotTimer();

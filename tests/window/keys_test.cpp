@@ -27,7 +27,7 @@ class KeyStudent : public Student {
 TEST_F(KeyStudent, DrivesTheModesByTheLettersOfTheStatusBar) {
     openInFront();
     press(Qt::Key_M);
-    EXPECT_TRUE(form->simulationRuns());
+    EXPECT_TRUE(form->flight.flies());
     fly(20);
     press(Qt::Key_M);
     for (const auto& [key, panel] : {std::pair(Qt::Key_T, "StatusPanel6"),
@@ -41,7 +41,7 @@ TEST_F(KeyStudent, DrivesTheModesByTheLettersOfTheStatusBar) {
     press(Qt::Key_R);
     EXPECT_EQ(sim().c_NAVRadBorder, on);
     press(Qt::Key_P);
-    EXPECT_TRUE(form->replayRuns());
+    EXPECT_TRUE(form->replay.runs());
 }
 
 TEST_F(KeyStudent, TypesTheSameLettersIntoFields) {
@@ -61,7 +61,7 @@ TEST_F(KeyStudent, TypesTheSameLettersIntoFields) {
     findShown<QSpinBox>("WindSpeed").setFocus();
     press(Qt::Key_M);
     press(Qt::Key_H);
-    EXPECT_FALSE(form->simulationRuns());
+    EXPECT_FALSE(form->flight.flies());
     EXPECT_EQ(sim().c_AirplaneEN, 1);
 }
 

@@ -98,7 +98,7 @@ TEST_F(QuizPanelTest, PositionByKeyboardAlone) {
 
     EXPECT_EQ(focus(), "Command1");
     press(Qt::Key_Escape);
-    EXPECT_TRUE(form->exerciseRuns());
+    EXPECT_TRUE(form->exercise.runs());
     press(Qt::Key_Return);
     EXPECT_EQ(focus(), "Combo1");
     EXPECT_EQ(inQuiz<QLabel>("Label1").text(), "Attempts: 1     Correct: 0     Performance: 0%");
@@ -166,13 +166,13 @@ TEST_F(QuizPanelTest, FliesTheQuestionAndComesBack) {
     EXPECT_THAT(inQuiz<QLabel>("Label32").text().toStdString(), HasSubstr("090 NDB MNE"));
     press(Qt::Key_2);
     press(Qt::Key_Return);
-    EXPECT_TRUE(form->simulationRuns());
+    EXPECT_TRUE(form->flight.flies());
     EXPECT_EQ(inQuiz<QAbstractButton>("Command6").text(), "Stop SIM");
     EXPECT_FALSE(inQuiz("ReplayClock").isVisible()) << "it would stand still";
     EXPECT_FALSE(find<QWidget>("Frame2").isEnabled()) << "a flight is kept or called back at rest";
     fly(5);
     choose("Command7");
-    EXPECT_FALSE(form->simulationRuns());
+    EXPECT_FALSE(form->flight.flies());
     EXPECT_EQ(verdict("Label25"), "");
     EXPECT_EQ(verdict("Label27"), "075");
     EXPECT_EQ(focus(), "Option40");
@@ -241,7 +241,7 @@ TEST_F(QuizPanelTest, TellsWhatIsWrongWithTheStudyFile) {
     EXPECT_FALSE(inQuiz("Option11").isVisible());
     EXPECT_EQ(focus(), "Command28");
     choose("Command4");
-    EXPECT_FALSE(form->exerciseRuns());
+    EXPECT_FALSE(form->exercise.runs());
 }
 
 /// Every prompt has the height that its lines take, and every offer the width of its text.

@@ -111,7 +111,7 @@ TEST_F(StripStudent, EntersTheWind) {
 TEST_F(StripStudent, IsNotToldAWindByChanceBeforeAskingForIt) {
     sim().clockSeed = [] { return 7U; };
     clickShown("PageWind");
-    form->setManualWind(270, 20);
+    form->windDesk.setManual(270, 20);
     clickShown("Option14");
     ASSERT_NE(sim().c_wind.get(), "270/20");
     auto& direction = findShown<QSpinBox>("WindDirection");
@@ -153,7 +153,7 @@ TEST_F(StripStudent, SeesBehindABoxWhatItSays) {
     form->Timer1(); // out of the practise area; nothing else comes to paint the window
     EXPECT_THAT(shown, testing::ElementsAre("Start SIM", "[W]ind random"));
     sim().mouse.down(ChartButton::left, {1000, 1000});
-    form->showAbout();
+    form->documents.showAbout();
     EXPECT_FALSE(sim().mouse.holds()) << "the box takes the release";
 }
 

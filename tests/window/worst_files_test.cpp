@@ -118,7 +118,7 @@ TEST_F(WorstFilesTest, OfChartsAndSessionsFreezeNothing) {
     expectQuickToOpen("edge.map", chartWith(22, "89"), true);
     expectQuickToOpen("longest.ts", longestSession(), true);
     expectQuick("replay of the longest", [&] { form->replayPage.bar.scrollTo(3000); });
-    expectQuick("heading up over the longest", [&] { form->setNorthUp(false); });
+    expectQuick("heading up over the longest", [&] { form->display.setNorthUp(false); });
     const auto lines = sessionLines(6000);
     const std::string older = write(
         "older.ts", ":c:" + std::string(4000, 'W') +

@@ -41,7 +41,7 @@ QToolButton* ChartControls::addZoom(const char* name, Text caption, Text tip, in
     button->setAccessibleName(textOf(form.texts, caption));
     button->setToolTip(textOf(form.texts, tip));
     connect(button, &QToolButton::clicked, this,
-            [this, steps] { form.guarded([&] { form.stepScale(steps); }); });
+            [this, steps] { form.guarded([&] { form.display.stepScale(steps); }); });
     return button;
 }
 

@@ -42,7 +42,7 @@ QPushButton* ScaleChoice::addScale(std::size_t index) {
                               button->text() + QLatin1Char(' ') +
                               textOf(form.texts, Text::unitNauticalMiles));
     connect(button, &QPushButton::clicked, this, [this, scale] {
-        form.guarded([&] { form.setScale(scale); });
+        form.guarded([&] { form.display.setScale(scale); });
         shown = 0;
         refresh();
     });

@@ -39,7 +39,7 @@ Text switchName(Slot slot) {
 } // namespace
 
 StationDialog::StationDialog(Form1& owner, Slot slot, QWidget* parent)
-    : QDialog(parent), form(owner), edit(owner.stationToEdit(slot)) {
+    : QDialog(parent), form(owner), edit(owner.stationDesk.toEdit(slot)) {
     setObjectName(QStringLiteral("station_edit"));
     setWindowTitle(text(editorTitle(slot)));
     setModal(true);
@@ -145,7 +145,7 @@ StationEdit StationDialog::entered() const {
 
 void StationDialog::accept() {
     bool taken = false;
-    form.guarded([&] { taken = form.applyStationEdit(entered()); });
+    form.guarded([&] { taken = form.stationDesk.apply(entered()); });
     if (taken)
         return QDialog::accept();
     frequency->setFocus();

@@ -32,7 +32,7 @@ QPushButton* ViewSwitch::addView(const char* name, const char* segment, Text cap
     button->setProperty("segment", segment);
     button->setToolTip(textOf(form.texts, Text::chartViewTip));
     connect(button, &QPushButton::clicked, this, [this, up] {
-        form.guarded([&] { form.setNorthUp(up); });
+        form.guarded([&] { form.display.setNorthUp(up); });
         shownView = -1;
         refresh();
     });
@@ -40,7 +40,7 @@ QPushButton* ViewSwitch::addView(const char* name, const char* segment, Text cap
 }
 
 void ViewSwitch::refresh() {
-    headingUp->setEnabled(form.mayTurnHeadingUp());
+    headingUp->setEnabled(form.display.mayTurnHeadingUp());
     const int view = form.UserControl11.c_MAPnorthUP;
     if (view == shownView)
         return;

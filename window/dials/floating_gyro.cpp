@@ -34,7 +34,7 @@ void additional_DG::refresh() {
         setVisible(wanted);
     if (!wanted)
         return;
-    const QuestionCover cover = form.cover();
+    const QuestionCover cover = form.exercise.cover();
     gyro->setVisible(!cover.instruments);
     plate->setVisible(cover.instruments);
     plate->setReason(textOf(form.texts, cover.reason));

@@ -71,7 +71,8 @@ void InstrumentHeader::followSize(QToolButton& button) {
 void InstrumentHeader::refresh() {
     const InstrumentPosition& position = controls.links.position;
     overlay->setVisible(position.type == hsi);
-    auto next = instrumentLegend(form.texts, position, form.positions.feedSources(), form.cover());
+    auto next =
+        instrumentLegend(form.texts, position, form.positions.feedSources(), form.exercise.cover());
     if (next == legend)
         return;
     legend = std::move(next);

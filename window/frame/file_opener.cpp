@@ -37,7 +37,7 @@ void FileOpener::open(const std::string& path) {
         QTimer::singleShot(waitMilliseconds, this, [this, path] { open(path); });
         return;
     }
-    form.guarded([&] { form.openFile(path); });
+    form.guarded([&] { form.files.openFile(path); });
 }
 
 /// The file manager waits for the end of a drop, so what may show a box comes after it.

@@ -62,14 +62,14 @@ void FlightSigns::makeOffer() {
 /// exercise takes the offer away.
 void FlightSigns::refresh() {
     const UserControl2& sim = form.UserControl11;
-    const Named now{sim.c_SessionFileName, sim.flightUnsaved(), form.exerciseRuns()};
+    const Named now{sim.c_SessionFileName, sim.flightUnsaved(), form.exercise.runs()};
     if (now != named) {
         named = now;
         window.setWindowTitle(now.inExercise ? textOf(form.texts, Text::windowTitle)
                                              : QString::fromStdString(form.flightDesk.title()));
     }
     FlightKeeper& keeper = form.flightDesk.keeper;
-    if (keeper.offer() && (form.simulationRuns() || form.exerciseRuns()))
+    if (keeper.offer() && (form.flight.flies() || form.exercise.runs()))
         keeper.withdrawOffer();
     if ((keeper.offer() ? keeper.offer()->path : std::string()) != shownOffer)
         showOffer();

@@ -88,7 +88,7 @@ void InstrumentPanel::layOutChannelLamp(std::size_t position, const QRect& bezel
 void InstrumentPanel::coverInstruments() {
     const bool covered = !form.instruments.visible();
     for (std::size_t i = 0; i < plates.size(); ++i) {
-        plates[i]->setReason(textOf(form.texts, form.cover().reason));
+        plates[i]->setReason(textOf(form.texts, form.exercise.cover().reason));
         plates[i]->setVisible(covered);
         instruments[i]->setVisible(!covered);
         headers[i]->setEnabled(!covered);

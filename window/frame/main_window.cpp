@@ -42,7 +42,8 @@ MainWindow::MainWindow(Form1& owner)
     setContextMenuPolicy(Qt::NoContextMenu);
     setMinimumSize(smallestWindow);
     pictures.onMissing = [this](const QString& name) {
-        QTimer::singleShot(0, this, [this, name] { form.pictureMissing(name.toStdString()); });
+        QTimer::singleShot(0, this,
+                           [this, name] { form.boxes.pictureMissing(name.toStdString()); });
     };
     makeMenus();
     makeDesk();
@@ -70,7 +71,7 @@ MainWindow::~MainWindow() {
 void MainWindow::makeMenus() {
     MenuActions actions;
     actions.exit = [this] { close(); };
-    actions.about = [this] { form.showAbout(); };
+    actions.about = [this] { form.documents.showAbout(); };
     buildMenus(*menuBar(), form, binding, actions);
 }
 
@@ -80,7 +81,7 @@ void MainWindow::makeDesk() {
     setCentralWidget(desk);
     chart = new ChartView(form.UserControl11, form.texts, desk);
     chart->guard = guard;
-    chart->onZoom = [this](int steps) { form.guarded([&] { form.stepScale(steps); }); };
+    chart->onZoom = [this](int steps) { form.guarded([&] { form.display.stepScale(steps); }); };
     stationEditing = std::make_unique<StationEditing>(form, *chart);
     chartControls = new ChartControls(form, chart);
     strip = new ControlStrip(form, binding, desk);
@@ -114,7 +115,9 @@ ColumnWishes MainWindow::columnWishes() const {
                 return quiz->runs() ? quiz->wantedHeight(width) : strip->leastHeight();
             },
             [this](int width) { return comment->wantedHeight(width); },
-            [this](int width) { return form.questionOpen() ? 0 : comment->leastHeight(width); }};
+            [this](int width) {
+                return form.exercise.questionOpen() ? 0 : comment->leastHeight(width);
+            }};
 }
 
 void MainWindow::layOut() {
@@ -129,7 +132,7 @@ void MainWindow::layOut() {
     shownSizes = panelSizes();
     shownComments = comment->contents();
     shownQuiz = quiz->contents();
-    shownOpen = form.questionOpen();
+    shownOpen = form.exercise.questionOpen();
     chart->setGeometry(layout.chart);
     const int inset = look::overlayInset;
     chartControls->setGeometry(inset, inset, layout.chart.width() - 2 * inset,
@@ -178,7 +181,7 @@ void MainWindow::follow(QTimer& timer, bool runs, int interval) {
 void MainWindow::followClocks() {
     const int interval = form.UserControl11.c_TimerSIMrate;
     follow(simulationTimer, form.UserControl11.c_TimerEN == 1, interval);
-    follow(replayTimer, form.replayRuns(), interval);
+    follow(replayTimer, form.replay.runs(), interval);
 }
 
 void MainWindow::couplingTick() {
@@ -194,7 +197,7 @@ void MainWindow::refresh() {
     // Without a quiz the keyboard would be with whatever comes next in the window.
     if (shownQuiz != 0 && !quiz->runs() && focusWidget())
         focusWidget()->clearFocus();
-    if (panelSizes() != shownSizes || form.questionOpen() != shownOpen ||
+    if (panelSizes() != shownSizes || form.exercise.questionOpen() != shownOpen ||
         comment->contents() != shownComments || quiz->contents() != shownQuiz)
         layOut();
     chart->refresh();

@@ -183,7 +183,7 @@ void MenuBuilder::bookChapter(QMenu& parent, const BookChapter& chapter, int& pa
     for (int id = first; id <= static_cast<int>(chapter.last); ++id, ++page) {
         const QString name = QString::fromLatin1(chapter.name) + QString::number(id - first + 1);
         opening(*list, name, static_cast<Text>(id), [this_form = &form, index = page] {
-            this_form->openBook(this_form->texts.bookPage(index));
+            this_form->documents.openBook(this_form->texts.bookPage(index));
         });
     }
 }
@@ -193,13 +193,13 @@ void MenuBuilder::approaches(QMenu& parent) {
     const std::span<const ApproachChart> charts = approachCharts();
     for (std::size_t i = 0; i < charts.size(); ++i)
         opening(*list, QString::fromLatin1(charts[i].document).left(4), charts[i].name,
-                [this_form = &form, i] { this_form->openApproachChart(i); });
+                [this_form = &form, i] { this_form->documents.openApproachChart(i); });
 }
 
 void MenuBuilder::buildBook() {
     QMenu* book = menu(bar, "mnubuch", Text::menuBook);
     opening(*book, QStringLiteral("bookStart"), Text::bookStart,
-            [this_form = &form] { this_form->openBook(0); });
+            [this_form = &form] { this_form->documents.openBook(0); });
     book->addSeparator();
     int page = 0;
     for (const BookChapter& chapter : bookChapters())
@@ -225,19 +225,20 @@ void MenuBuilder::buildView() {
         return [this_form, action] { this_form->guarded([&] { action(*this_form); }); };
     };
     QObject::connect(north, &QAction::triggered, &bar,
-                     guarded([](Form1& f) { f.setNorthUp(true); }));
+                     guarded([](Form1& f) { f.display.setNorthUp(true); }));
     QObject::connect(heading, &QAction::triggered, &bar,
-                     guarded([](Form1& f) { f.setNorthUp(false); }));
+                     guarded([](Form1& f) { f.display.setNorthUp(false); }));
     view->addSeparator();
     buildKeys(*view);
     view->addSeparator();
     QAction* larger = entry(*view, "zoomIn", text(Text::zoomIn));
     larger->setShortcut(QKeySequence::ZoomIn);
-    QObject::connect(larger, &QAction::triggered, &bar, guarded([](Form1& f) { f.stepScale(1); }));
+    QObject::connect(larger, &QAction::triggered, &bar,
+                     guarded([](Form1& f) { f.display.stepScale(1); }));
     QAction* smaller = entry(*view, "zoomOut", text(Text::zoomOut));
     smaller->setShortcut(QKeySequence::ZoomOut);
     QObject::connect(smaller, &QAction::triggered, &bar,
-                     guarded([](Form1& f) { f.stepScale(-1); }));
+                     guarded([](Form1& f) { f.display.stepScale(-1); }));
     view->addSeparator();
     binding.bind(form.floatingGyroBox, *entry(*view, "floatingGyro", text(Text::floatingGyro)));
 }
@@ -265,20 +266,21 @@ void MenuBuilder::buildHelp(const MenuActions& actions) {
     QMenu* help = menu(bar, "mnuhelp", Text::menuHelp);
     Form1* owner = &form;
     const auto page = [owner](int index) {
-        return [owner, index] { owner->openBook(owner->texts.bookPage(index)); };
+        return [owner, index] { owner->documents.openBook(owner->texts.bookPage(index)); };
     };
-    opening(*help, QStringLiteral("hilfeindex"), Text::helpIndex, [owner] { owner->openHelp(); });
+    opening(*help, QStringLiteral("hilfeindex"), Text::helpIndex,
+            [owner] { owner->documents.openHelp(); });
     QMenu* introduction = menu(*help, "intromain", Text::introduction);
     bound(*introduction, form.exerciseMenu.introduction1);
     bound(*introduction, form.exerciseMenu.introduction2);
     followItems(*introduction);
     opening(*help, QStringLiteral("userguide"), Text::userGuide,
-            [owner] { owner->openUserGuide(); });
+            [owner] { owner->documents.openUserGuide(); });
     opening(*help, QStringLiteral("bookAbbreviations"), Text::bookAbbreviations,
             page(abbreviationsPage));
     opening(*help, QStringLiteral("bookIndex"), Text::bookIndex, page(bookIndexPage));
     opening(*help, QStringLiteral("webqxr"), Text::productPage,
-            [owner] { owner->openProductPage(); });
+            [owner] { owner->documents.openProductPage(); });
     help->addSeparator();
     QAction* about = entry(*help, "test", text(Text::aboutTarnel));
     QObject::connect(about, &QAction::triggered, &bar, actions.about);

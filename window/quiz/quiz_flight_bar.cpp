@@ -83,7 +83,7 @@ void QuizFlightBar::addSign(QBoxLayout& row, FormBinding& binding, OptionButton&
 }
 
 void QuizFlightBar::follow() {
-    const Sign sign = form.simulationRuns() ? Sign::stop : Sign::play;
+    const Sign sign = form.flight.flies() ? Sign::stop : Sign::play;
     const QColor ink = form.startButton.enabled() ? Qt::white : look::secondaryInk;
     startButton->setIcon(signIcon(sign, ink));
     startButton->setVisible(form.QAform1.c_QAFly > 0);

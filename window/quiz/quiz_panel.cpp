@@ -35,7 +35,7 @@ QuizPanel::QuizPanel(Form1& owner, FormBinding& links, QWidget* parent)
 
 /// A frame is made when its first exercise starts: the window comes up sooner.
 QuizFrame* QuizPanel::runningFrame() {
-    ExercisePanel* panel = form.exerciseRuns() ? form.QAform1.activePanel() : nullptr;
+    ExercisePanel* panel = form.exercise.runs() ? form.QAform1.activePanel() : nullptr;
     if (!panel)
         return nullptr;
     const auto found =
@@ -57,7 +57,7 @@ void QuizPanel::refresh() {
         show(running);
     if (!active)
         return;
-    const bool changed = active->follow(form.QAform1.c_QAFly > 0, form.solutionShown());
+    const bool changed = active->follow(form.QAform1.c_QAFly > 0, form.exercise.solutionShown());
     followQuestion();
     if (changed || tallestWidth != width() || shownHeight == 0)
         measure();

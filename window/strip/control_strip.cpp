@@ -141,7 +141,7 @@ void ControlStrip::refresh() {
         if (order[i]->chosen())
             stack->setCurrentIndex(static_cast<int>(i));
     pages[static_cast<std::size_t>(stack->currentIndex())]->refresh();
-    const bool runs = form.simulationRuns();
+    const bool runs = form.flight.flies();
     if (runs == startShowsStop)
         return;
     startShowsStop = runs;

@@ -85,13 +85,13 @@ QSpinBox* WindEntry::addField(const char* name, Text caption, Text unit) {
 
 void WindEntry::take() {
     form.guarded([this] {
-        form.setManualWind(std::max(direction->value(), 0),
-                           static_cast<std::int16_t>(std::max(speed->value(), 0)));
+        form.windDesk.setManual(std::max(direction->value(), 0),
+                                static_cast<std::int16_t>(std::max(speed->value(), 0)));
     });
 }
 
 void WindEntry::refresh() {
-    const bool told = form.windIsTold();
+    const bool told = form.windDesk.isTold();
     const Wind& wind = form.UserControl11.wind;
     const int degrees = static_cast<int>(std::lround(wind.direction)) % (highestDirection + 1);
     showValue(*direction, told ? degrees : untold);
