@@ -90,6 +90,39 @@ class ExerciseStudent : public Student {
         const QWidget* widget = QApplication::focusWidget();
         return widget ? widget->objectName().toStdString() : "nothing";
     }
+    /// Plays steps with ";" between them: "type 235", "key Return", "Command7" clicks, and
+    /// "Label8>direct" expects what is shown, "Label8~WRONG" that a screen reader says this part.
+    void play(const std::string& steps) {
+        SCOPED_TRACE(steps);
+        for (const QString& part : QString::fromStdString(steps).split(QLatin1Char(';'))) {
+            const std::string step = part.toStdString().substr(part.startsWith(QLatin1Char(' ')));
+            const std::size_t sign = step.find_first_of(">~");
+            const std::string name = step.substr(0, sign);
+            if (sign != std::string::npos && step[sign] == '~')
+                EXPECT_THAT(inQuiz(name.c_str()).accessibleName().toStdString(),
+                            testing::HasSubstr(step.substr(sign + 1)));
+            else if (sign != std::string::npos)
+                EXPECT_EQ(shown(name), step.substr(sign + 1)) << step;
+            else if (step.starts_with("type "))
+                type(step.c_str() + 5);
+            else if (step.starts_with("key "))
+                press(QKeySequence(QString::fromStdString(step.substr(4)))[0].key());
+            else
+                choose(name.c_str());
+        }
+    }
+    /// The text of what is visible, "" of what is not, and of "focus" the name of what has it.
+    std::string shown(const std::string& name) {
+        if (name == "focus")
+            return focus();
+        auto& widget = inQuiz(name.c_str());
+        if (!widget.isVisible())
+            return "";
+        for (const char* kind : {"text", "currentText"})
+            if (const QVariant text = widget.property(kind); text.isValid())
+                return text.toString().toStdString();
+        return "visible";
+    }
 
     std::filesystem::path folder;
     QuizPanel* quiz = nullptr;

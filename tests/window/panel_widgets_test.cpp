@@ -1,5 +1,6 @@
 #include "instruments/instrument_fixture.h"
 #include "strings/string_table.h"
+#include "support/told.h"
 #include "window/dials/instrument_view.h"
 #include "window/radios/autopilot_module.h"
 #include "window/radios/dme_module.h"
@@ -70,60 +71,52 @@ class InstrumentViewTest : public testing::Test {
     CountingView view{hsi, pictures, englishTable()};
 };
 
-TEST_F(InstrumentViewTest, DragOfTheHeadingKnobTurnsTheBugByButton) {
-    const QPoint at = knob(InstrumentArea::headingBugKnob);
-    dragRight(view, at, 16, Qt::LeftButton); // 240 twips at 40 a degree
+TEST_F(InstrumentViewTest, DragOfTheHeadingKnobTurnsTheBugByButtonAndSize) {
+    dragRight(view, knob(InstrumentArea::headingBugKnob), 16, Qt::LeftButton); // 40 twips a degree
     EXPECT_EQ(hsi.c_HDGbug, 106);
-    dragRight(view, at, -50, Qt::RightButton); // 750 twips at 250 a degree
-    EXPECT_EQ(hsi.c_HDGbug, 103);
-    EXPECT_EQ(hsi.c_HDGbugChange, 1);
-}
-
-TEST_F(InstrumentViewTest, DragMeansTheSameDegreesOnALargerView) {
     view.resize(514, 514);
-    dragRight(view, knob(InstrumentArea::headingBugKnob), 32, Qt::LeftButton);
-    EXPECT_EQ(hsi.c_HDGbug, 106);
+    dragRight(view, knob(InstrumentArea::headingBugKnob), -100, Qt::RightButton); // 250 a degree
+    EXPECT_EQ(hsi.c_HDGbug, 103);
 }
 
 TEST_F(InstrumentViewTest, WheelOverTheObsKnobRaisesTheCourse) {
-    const QPointF at = knob(InstrumentArea::obsKnob);
-    turnWheel(view, at, oneNotch);
-    EXPECT_EQ(hsi.c_MouseOBS, 249);
-    for (int quarter = 0; quarter < 4; ++quarter)
-        turnWheel(view, at, -oneNotch / 4);
-    EXPECT_EQ(hsi.c_MouseOBS, 250);
-    turnWheel(view, at, 3 * oneNotch);
-    EXPECT_EQ(hsi.c_MouseOBS, 247);
+    for (const auto& [delta, course] : {std::pair(oneNotch, 249),
+                                        {-oneNotch / 4, 249},
+                                        {-oneNotch * 3 / 4, 250},
+                                        {3 * oneNotch, 247}}) {
+        turnWheel(view, knob(InstrumentArea::obsKnob), delta);
+        EXPECT_EQ(hsi.c_MouseOBS, course) << delta;
+    }
 }
 
 TEST_F(InstrumentViewTest, KeysWalkTheKnobsAndTurnThem) {
     focusFirst();
     EXPECT_EQ(view.focusedArea(), InstrumentArea::obsKnob);
-    QTest::keyClick(&view, Qt::Key_Up);
-    EXPECT_EQ(hsi.c_MouseOBS, 249);
-    QTest::keyClick(&view, Qt::Key_Tab);
-    EXPECT_EQ(view.focusedArea(), InstrumentArea::headingBugKnob);
-    QTest::keyClick(&view, Qt::Key_PageDown);
-    EXPECT_EQ(hsi.c_HDGbug, 90);
-    hsi.c_HDGbug = 20;
-    QTest::keyClick(&view, Qt::Key_Space);
-    EXPECT_EQ(hsi.c_HDGbug, 90) << "space is a double click: the bug goes to the heading";
-    QTest::keyClick(&view, Qt::Key_Right);
-    EXPECT_EQ(view.focusedArea(), InstrumentArea::selector);
-    QTest::keyClick(&view, Qt::Key_Return);
-    EXPECT_EQ(hsi.c_NAVselect, 2);
-    QTest::keyClick(&view, Qt::Key_Left);
-    EXPECT_EQ(view.focusedArea(), InstrumentArea::headingBugKnob);
+    using enum InstrumentArea;
+    // Space is a double click: the bug goes to the heading.
+    for (const auto& [key, area, course, bug, channel] :
+         {std::tuple(Qt::Key_Up, obsKnob, 249, 100, 1),
+          {Qt::Key_Tab, headingBugKnob, 249, 100, 1},
+          {Qt::Key_PageDown, headingBugKnob, 249, 90, 1},
+          {Qt::Key_Up, headingBugKnob, 249, 91, 1},
+          {Qt::Key_Space, headingBugKnob, 249, 90, 1},
+          {Qt::Key_Right, selector, 249, 90, 1},
+          {Qt::Key_Return, selector, 249, 90, 2},
+          {Qt::Key_Left, headingBugKnob, 249, 90, 2}}) {
+        QTest::keyClick(&view, key);
+        EXPECT_EQ(view.focusedArea(), area) << key;
+        EXPECT_EQ(told(hsi.c_MouseOBS, hsi.c_HDGbug, hsi.c_NAVselect), told(course, bug, channel));
+    }
 }
 
 TEST_F(InstrumentViewTest, FocusPassesOverKnobsThatTheKindLacks) {
-    hsi.Display = static_cast<std::int16_t>(InstrumentKind::dg);
-    view.refresh();
     focusFirst();
-    EXPECT_EQ(view.focusedArea(), InstrumentArea::headingBugKnob);
-    hsi.Display = static_cast<std::int16_t>(InstrumentKind::vor);
-    view.refresh();
-    EXPECT_EQ(view.focusedArea(), InstrumentArea::obsKnob);
+    for (const auto& [kind, area] : {std::pair(InstrumentKind::dg, InstrumentArea::headingBugKnob),
+                                     {InstrumentKind::vor, InstrumentArea::obsKnob}}) {
+        hsi.Display = static_cast<std::int16_t>(kind);
+        view.refresh();
+        EXPECT_EQ(view.focusedArea(), area);
+    }
     EXPECT_EQ(view.accessibleName(), "VOR indicator");
     hsi.c_DisableKnobs = 0;
     view.refresh();
@@ -196,24 +189,26 @@ TEST(NavModuleTest, WheelKeysClickAndDragStepTheFrequency) {
     module.resize(225, 104);
     module.grab();
     KnobWidget& knob = module.knob();
-    turnWheel(knob, knob.rect().center(), oneNotch);
-    EXPECT_EQ(face.c_SetFreq, 1);
-    EXPECT_EQ(knob.valueText(), "116.25");
-    QTest::keyClick(&knob, Qt::Key_Down);
-    EXPECT_EQ(face.c_SetFreq, 0);
-    QTest::mousePress(&knob, Qt::LeftButton, {}, knob.rect().center());
-    EXPECT_EQ(face.c_SetFreq, 0);
-    QTest::mouseRelease(&knob, Qt::LeftButton, {}, knob.rect().center());
-    QTest::mouseClick(&knob, Qt::RightButton, {}, knob.rect().center());
-    EXPECT_EQ(face.c_SetFreq, 1) << "on the release of the left button alone";
-    dragRight(knob, {4, knob.height() / 2}, 50, Qt::LeftButton); // 750 twips from its rim
-    EXPECT_EQ(face.c_SetFreq, 2);
-    dragRight(knob, knob.rect().center(), 100, Qt::LeftButton); // and from its middle
-    EXPECT_EQ(face.c_SetFreq, 0);
-    turnWheel(knob, knob.rect().center(), -oneNotch);
-    face.c_LockSettings = 0;
-    turnWheel(knob, knob.rect().center(), oneNotch);
-    EXPECT_EQ(face.c_SetFreq, 2);
+    const QPoint middle = knob.rect().center();
+    const std::pair<std::function<void()>, int> deeds[] = {
+        {[&] { turnWheel(knob, middle, oneNotch); }, 1},
+        {[&] { QTest::keyClick(&knob, Qt::Key_Down); }, 0},
+        {[&] { QTest::mousePress(&knob, Qt::LeftButton, {}, middle); }, 0},
+        {[&] { QTest::mouseRelease(&knob, Qt::LeftButton, {}, middle); }, 1},
+        {[&] { QTest::mouseClick(&knob, Qt::RightButton, {}, middle); }, 1},
+        {[&] {
+             dragRight(knob, {4, middle.y()}, 50, Qt::LeftButton);
+         },
+         2}, // 750 twips
+        {[&] { dragRight(knob, middle, 100, Qt::LeftButton); }, 0},
+        {[&] { turnWheel(knob, middle, -oneNotch); }, 2},
+        {[&] { face.c_LockSettings = 0; }, 2},
+        {[&] { turnWheel(knob, middle, oneNotch); }, 2}};
+    for (const auto& [deed, frequency] : deeds) {
+        deed();
+        EXPECT_EQ(face.c_SetFreq, frequency);
+    }
+    EXPECT_EQ(knob.valueText(), "109.90");
 }
 
 class DmeModuleTest : public testing::Test {
@@ -253,7 +248,6 @@ TEST_F(DmeModuleTest, SwitchTurnsByClickWheelAndDrag) {
 TEST_F(DmeModuleTest, FrequencyStepsOnlyWhileItIsItsOwn) {
     auto& digits = *module.findChild<SteppedDigits*>();
     turnWheel(digits, digits.rect().center(), oneNotch);
-    EXPECT_EQ(face.c_SetFreq, 1);
     QTest::mouseClick(&digits, Qt::RightButton);
     QTest::mousePress(&digits, Qt::LeftButton);
     EXPECT_EQ(face.c_SetFreq, 1);
@@ -329,17 +323,15 @@ TEST(ModuleLayoutTest, PartsKeepApartAtEverySizeOfThePanel) {
     DmeModule dmeModule(dme, pictures, texts);
     AutopilotModule autopilotModule(autopilot, pictures, texts);
     StopwatchModule stopwatchModule(stopwatch, pictures, texts);
+    const std::pair<ModuleFrame*, int> modules[] = {
+        {&navModule, 1}, {&dmeModule, 2}, {&autopilotModule, 3}, {&stopwatchModule, 1}};
     for (const int column : {150, 160, 199, 225, 350, 600})
         for (const int height : {72, 90, 104, 127, 170, 400}) {
             SCOPED_TRACE(testing::Message() << column << " x " << height);
             const double scale = column / 225.0 * 0.9;
-            for (const auto& [module, columns] :
-                 std::initializer_list<std::pair<ModuleFrame*, int>>{{&navModule, 1},
-                                                                     {&dmeModule, 2},
-                                                                     {&autopilotModule, 3},
-                                                                     {&stopwatchModule, 1}}) {
-                if (height < 72 * scale)
-                    continue;
+            if (height < 72 * scale)
+                continue;
+            for (const auto& [module, columns] : modules) {
                 module->setScale(scale);
                 module->resize(column * columns + 8 * (columns - 1), height);
                 module->grab();

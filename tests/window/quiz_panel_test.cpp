@@ -55,10 +55,6 @@ class QuizPanelTest : public ExerciseStudent {
             writeStudy(prefix + "HSIHLD.sty", holdingStudy());
         }
     }
-    std::string verdict(const char* name) {
-        auto& label = inQuiz<QuizVerdict>(name);
-        return label.isVisible() ? label.text().toStdString() : "";
-    }
     QAbstractButton& offer(const std::vector<const char*>& names, const QString& text) {
         for (const char* name : names)
             if (auto& button = inQuiz<QAbstractButton>(name); button.text() == text)
@@ -71,37 +67,14 @@ class QuizPanelTest : public ExerciseStudent {
 TEST_F(QuizPanelTest, PositionByKeyboardAlone) {
     begin(Item::hsiPosition);
     EXPECT_FALSE(find<QWidget>("PageChart").isVisible());
-    ASSERT_EQ(focus(), "Combo1");
-    EXPECT_THAT(quiz->findChild<QWidget*>("Frame1")->accessibleName().toStdString(),
-                HasSubstr("Which radial of MUN are you on?"));
-    auto& radials = inQuiz<QuizList>("Combo1");
-    press(Qt::Key_Return);
+    play("focus>Combo1; Frame1~Which radial of MUN are you on?; key Return");
     QApplication::activePopupWidget()->close();
-    EXPECT_EQ(verdict("Text11"), "");
-
-    type("2360"); // no entry begins with 236
-    EXPECT_EQ(radials.currentText(), "230");
-    press(Qt::Key_Down);
-    EXPECT_EQ(radials.currentText(), "235");
-    EXPECT_EQ(verdict("Text11"), "");
-    press(Qt::Key_Return);
-    EXPECT_EQ(verdict("Text11"), "235");
-    EXPECT_THAT(inQuiz("Text11").accessibleName().toStdString(), HasSubstr("235, CORRECT"));
-    EXPECT_EQ(focus(), "Combo2");
-    type("120");
-    press(Qt::Key_Return);
-    EXPECT_EQ(verdict("Text12"), "120");
-    EXPECT_THAT(inQuiz("Text12").accessibleName().toStdString(), HasSubstr("120, WRONG"));
-    type("3");
-    press(Qt::Key_Enter);
-    EXPECT_EQ(verdict("Text13"), "To the left");
-
-    EXPECT_EQ(focus(), "Command1");
-    press(Qt::Key_Escape);
+    // No entry begins with 236.
+    play("Text11>; type 2360; Combo1>230; key Down; Combo1>235; Text11>; key Return; Text11>235; "
+         "Text11~235, CORRECT; focus>Combo2; type 120; key Return; Text12>120; "
+         "Text12~120, WRONG; type 3; key Enter; Text13>To the left; focus>Command1; key Escape");
     EXPECT_TRUE(form->exercise.runs());
-    press(Qt::Key_Return);
-    EXPECT_EQ(focus(), "Combo1");
-    EXPECT_EQ(inQuiz<QLabel>("Label1").text(), "Attempts: 1     Correct: 0     Performance: 0%");
+    play("key Return; focus>Combo1; Label1>Attempts: 1     Correct: 0     Performance: 0%");
 }
 
 TEST_F(QuizPanelTest, TheWheelAndTheMouseOverAListAnswerNothing) {
@@ -112,125 +85,78 @@ TEST_F(QuizPanelTest, TheWheelAndTheMouseOverAListAnswerNothing) {
     QApplication::sendEvent(&list, &wheel);
     settle();
     EXPECT_EQ(list.currentIndex(), 0);
-    list.activated(0);
-    settle();
-    EXPECT_EQ(verdict("Text12"), "");
-    list.setCurrentIndex(12);
-    list.activated(12);
-    settle();
-    EXPECT_EQ(verdict("Text12"), "055");
+    for (const int index : {0, 12}) {
+        list.setCurrentIndex(index);
+        list.activated(index);
+        settle();
+        play(index == 0 ? "Text12>" : "Text12>055");
+    }
 }
 
 // Digits answer the row with the keyboard, or the first open one from anywhere in the window.
 TEST_F(QuizPanelTest, DigitsAnswerAndSolutionFolds) {
     begin(Item::hsiHolding);
-    EXPECT_THAT(inQuiz<QLabel>("Label2").text().toStdString(), HasSubstr("inbound 070"));
+    EXPECT_THAT(shown("Label2"), HasSubstr("inbound 070"));
     const int height = quiz->height();
     find<QWidget>("UserControl13_0").setFocus();
-    press(Qt::Key_1);
-    EXPECT_EQ(verdict("Label8"), "direct");
-    EXPECT_EQ(focus(), "Option1");
+    play("key 1; Label8>direct; focus>Option1");
     inQuiz("Option15").setFocus();
-    press(Qt::Key_1);
-    EXPECT_EQ(verdict("Label11"), "Left");
-    EXPECT_EQ(focus(), "Option1");
-    press(Qt::Key_9);
-    EXPECT_EQ(verdict("Label9"), "");
+    play("key 1; Label11>Left; focus>Option1; key 9; Label9>");
     offer({"Option1", "Option2", "Option3", "Option4", "Option5"}, "250").click();
     settle();
-    EXPECT_EQ(verdict("Label9"), " 250");
-
-    choose("Command27");
-    EXPECT_EQ(verdict("Label11"), "right");
+    play("Label9> 250; Command27; Label11>right; Own_Label11>Left; Own_Label11~WRONG; "
+         "Own_Label8>; focus>Command7");
     EXPECT_THAT(inQuiz("Label11").accessibleName().toStdString(), Not(HasSubstr("WRONG")));
-    EXPECT_EQ(verdict("Own_Label11"), "Left");
-    EXPECT_THAT(inQuiz("Own_Label11").accessibleName().toStdString(), HasSubstr("WRONG"));
-    EXPECT_FALSE(inQuiz("Own_Label8").isVisible());
-    EXPECT_TRUE(inQuiz("Command7").isVisible());
-    EXPECT_EQ(focus(), "Command7");
     EXPECT_LE(quiz->height(), height);
-    press(Qt::Key_Return);
-    EXPECT_FALSE(inQuiz("Command7").isVisible());
-    EXPECT_EQ(verdict("Label11"), "right");
+    EXPECT_TRUE(inQuiz("Command7").isVisible());
+    play("key Return; Command7>; Label11>right");
 }
 
 TEST_F(QuizPanelTest, FliesTheQuestionAndComesBack) {
     begin(Item::qdm);
     offer({"Option50", "Option49", "Option48", "Option46"}, "075").click();
     settle();
-    EXPECT_EQ(verdict("Label27"), "075");
-    choose("Command15");
-    settle();
-    ASSERT_EQ(focus(), "Command6");
-    EXPECT_FALSE(inQuiz("Option38").isVisible());
-    EXPECT_THAT(inQuiz<QLabel>("Label32").text().toStdString(), HasSubstr("090 NDB MNE"));
-    press(Qt::Key_2);
-    press(Qt::Key_Return);
+    play("Label27>075; Command15; focus>Command6; Option38>");
+    EXPECT_THAT(shown("Label32"), HasSubstr("090 NDB MNE"));
+    play("key 2; key Return; Command6>Stop SIM; ReplayClock>"); // it would stand still
     EXPECT_TRUE(form->flight.flies());
-    EXPECT_EQ(inQuiz<QAbstractButton>("Command6").text(), "Stop SIM");
-    EXPECT_FALSE(inQuiz("ReplayClock").isVisible()) << "it would stand still";
     EXPECT_FALSE(find<QWidget>("Frame2").isEnabled()) << "a flight is kept or called back at rest";
     fly(5);
-    choose("Command7");
+    play("Command7; Label25>; Label27>075; focus>Option40");
     EXPECT_FALSE(form->flight.flies());
-    EXPECT_EQ(verdict("Label25"), "");
-    EXPECT_EQ(verdict("Label27"), "075");
-    EXPECT_EQ(focus(), "Option40");
 }
 
 TEST_F(QuizPanelTest, WindIsTypedAndCommitted) {
     begin(Item::wind);
-    ASSERT_EQ(focus(), "Text4");
-    EXPECT_EQ(inQuiz<QLabel>("WindKnown").text(), "Inbound, TAS");
     EXPECT_TRUE(inQuiz("WindRule").isVisible());
     EXPECT_FALSE(inQuiz("Option47").isEnabled());
-    type("17");
-    press(Qt::Key_Return);
-    EXPECT_EQ(focus(), "Option47");
-    EXPECT_EQ(inQuiz<QLabel>("Label43").text(), "kt");
-    press(Qt::Key_1);
-    EXPECT_EQ(verdict("Label34"), "Head 17.3");
-    EXPECT_FALSE(inQuiz("Text4").isVisible());
-    type("3");
-    press(Qt::Key_Return);
-    press(Qt::Key_3);
-    EXPECT_EQ(verdict("Label36"), "Right 3");
-    type("5");
-    press(Qt::Key_Return);
-    press(Qt::Key_3);
-    EXPECT_EQ(verdict("Label35"), "right 4.8");
-    type("1");
-    press(Qt::Key_Return);
-    EXPECT_EQ(focus(), "Text8");
-    type("50");
-    press(Qt::Key_Return);
-    EXPECT_EQ(verdict("Label37"), "1.45 min.sec");
-    EXPECT_EQ(focus(), "Command12");
+    play("focus>Text4; WindKnown>Inbound, TAS; type 17; key Return; focus>Option47; Label43>kt; "
+         "key 1; Label34>Head 17.3; Text4>; type 3; key Return; key 3; Label36>Right 3; type 5; "
+         "key Return; key 3; Label35>right 4.8; type 1; key Return; focus>Text8; type 50; "
+         "key Return; Label37>1.45 min.sec; focus>Command12");
 }
 
 TEST_F(QuizPanelTest, OrientationCoversTheInstruments) {
     begin(Item::orientation);
-    const auto covered = [this] {
-        int count = 0;
+    const auto expectCovered = [this](bool covered) {
+        int plates = 0;
         for (const auto* plate : window->findChildren<CoverPlate*>())
-            count += plate->isVisible();
-        return count;
+            plates += plate->isVisible();
+        EXPECT_EQ(plates, covered ? 2 : 0);
+        EXPECT_NE(find<QWidget>("UserControl13_1").isVisible(), covered);
     };
-    EXPECT_EQ(covered(), 2);
-    EXPECT_FALSE(find<QWidget>("UserControl13_1").isVisible());
-    choose("Command2");
-    EXPECT_EQ(covered(), 0);
-    EXPECT_TRUE(find<QWidget>("UserControl13_1").isVisible());
-    choose("Command1");
-    EXPECT_EQ(covered(), 2);
-    choose("Command3");
-    EXPECT_EQ(covered(), 0);
-    EXPECT_FALSE(quiz->isVisible());
-    EXPECT_TRUE(find<QWidget>("PageChart").isVisible());
-    form->exerciseMenu.exercises[static_cast<std::size_t>(Item::orientation)]->click();
-    settle();
-    EXPECT_TRUE(quiz->isVisible());
-    EXPECT_FALSE(find<QWidget>("PageChart").isVisible());
+    expectCovered(true);
+    for (const auto& [button, covered] :
+         {std::pair("Command2", false), {"Command1", true}, {"Command3", false}}) {
+        choose(button);
+        expectCovered(covered);
+    }
+    for (const bool runs : {false, true}) {
+        EXPECT_EQ(quiz->isVisible(), runs);
+        EXPECT_NE(find<QWidget>("PageChart").isVisible(), runs);
+        form->exerciseMenu.exercises[static_cast<std::size_t>(Item::orientation)]->click();
+        settle();
+    }
 }
 
 TEST_F(QuizPanelTest, TellsWhatIsWrongWithTheStudyFile) {

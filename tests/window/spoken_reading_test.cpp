@@ -46,13 +46,6 @@ TEST(SpokenReading, RoundsDotsStopsAtFiveAndIsCentredWithinAQuarter) {
     }
 }
 
-TEST(SpokenReading, SaysNothingOfAFrozenNeedle) {
-    PanelInstrument vor(InstrumentKind::vor);
-    vor.feed(294, 110, 250, 250);
-    vor.feed(200, 110, 251, 251);
-    EXPECT_EQ(spoken(vor), "course 109, no signal");
-}
-
 TEST(SpokenReading, ReadsNeedlesFromTheCardBelowThemAndNamesTheirStations) {
     PanelInstrument rmi(InstrumentKind::rmi);
     rmi.feed(30, 0, 270, 270);
@@ -62,13 +55,14 @@ TEST(SpokenReading, ReadsNeedlesFromTheCardBelowThemAndNamesTheirStations) {
     PanelInstrument adf(InstrumentKind::adf);
     adf.feed(40, 0, 0, 0);
     EXPECT_EQ(spoken(adf), "heading 360, bearing 040");
-}
-
-TEST(SpokenReading, SaysThatTheKnobsAreLocked) {
     PanelInstrument gyro(InstrumentKind::dg);
     gyro.feed(0, 0, 0, 300);
     gyro.c_DisableKnobs = 0;
     EXPECT_EQ(spoken(gyro), "heading 060, heading bug 000, locked");
+    PanelInstrument frozen(InstrumentKind::vor);
+    frozen.feed(294, 110, 250, 250);
+    frozen.feed(200, 110, 251, 251);
+    EXPECT_EQ(spoken(frozen), "course 109, no signal");
 }
 
 // As the panel tells it, from the first moment on and whatever is tuned.
@@ -94,27 +88,19 @@ TEST_F(Student, HearsWhichStationIsRead) {
     EXPECT_TRUE(contains(heard("DMEControlFace1"), "VOR 1" + first + "no signal"));
 }
 
-TEST(SpokenDigits, PutsThePointAndNamesDashesAndDarkness) {
+TEST(SpokenDigits, PutThePointAndNameDashesAndDarkness) {
     NAVControlFace nav;
     EXPECT_EQ(spokenDigits(nav.frequency, 3, englishTable()), "switched off");
     nav.ShowFrequency("113.60");
     EXPECT_EQ(spokenDigits(nav.frequency, 3, englishTable()), "113.60");
-    ADFControlFace adf;
-    adf.ShowFrequency("365");
-    EXPECT_EQ(spokenDigits(adf.frequency, 0, englishTable()), "365");
-}
-
-TEST(SpokenDigits, SaysADmesDistanceAndSpeedTogether) {
     DMEControlFace dme;
-    const auto spokenAt = [&dme](std::int16_t tenths) {
+    EXPECT_EQ(spokenDme(dme, {}, englishTable()), "switched off");
+    for (const auto& [tenths, words] : std::initializer_list<std::pair<std::int16_t, const char*>>{
+             {117, "DME 11.7 NM, 096 kt"}, {1217, "DME 121 NM, 096 kt"}, {-1, "no signal"}}) {
         dme.c_DMEnm = tenths;
         dme.c_DMEkt = 96;
-        return spokenDme(dme, {}, englishTable());
-    };
-    EXPECT_EQ(spokenDme(dme, {}, englishTable()), "switched off");
-    EXPECT_EQ(spokenAt(117), "DME 11.7 NM, 096 kt");
-    EXPECT_EQ(spokenAt(1217), "DME 121 NM, 096 kt");
-    EXPECT_EQ(spokenAt(-1), "no signal");
+        EXPECT_EQ(spokenDme(dme, {}, englishTable()), words);
+    }
 }
 
 } // namespace
