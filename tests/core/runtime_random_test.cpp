@@ -21,20 +21,5 @@ TEST(RuntimeRandom, ANegativeArgumentStartsOver) {
     EXPECT_EQ(random.next(), second);
 }
 
-TEST(RuntimeRandom, WholeNumbersReachBothEndsAndNoMore) {
-    RuntimeRandom random;
-    random.seed(0x1234567);
-    bool lowest = false;
-    bool highest = false;
-    for (int i = 0; i < 10000; ++i) {
-        const int drawn = random.below(9);
-        ASSERT_GE(drawn, 0);
-        ASSERT_LT(drawn, 9);
-        lowest = lowest || drawn == 0;
-        highest = highest || drawn == 8;
-    }
-    EXPECT_TRUE(lowest && highest);
-}
-
 } // namespace
 } // namespace tarnel

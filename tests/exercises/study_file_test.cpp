@@ -1,4 +1,5 @@
 #include "exercises/study_file.h"
+#include "support/told.h"
 
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
@@ -27,10 +28,7 @@ TEST(StudyFile, TakesTaggedPromptsInAnyOrderAndTheRestByPlace) {
                                          1);
     ASSERT_EQ(file.records.size(), 1U);
     const StudyRecord& record = file.records.front();
-    EXPECT_EQ(record[qa], "first");
-    EXPECT_EQ(record[qb], "");
-    EXPECT_EQ(record[qc], "third");
-    EXPECT_EQ(record[ans1], "090");
+    EXPECT_EQ(told(record[qa], record[qb], record[qc], record[ans1]), "first  third 090");
     EXPECT_EQ(record[ans2], "270") << "behind the first answer a prompt's tag means nothing";
     EXPECT_EQ(record[ans3], "");
     EXPECT_EQ(record[sessionName], "x.ts");
@@ -124,9 +122,9 @@ TEST(StudyFile, ReadsEitherEncodingAndEitherLineEnd) {
     const auto record = [](const std::string& answer, const std::string& end) {
         return lines({":a1:," + answer, ":a2:,", ":a3:,", ":s:,x", ""}, end);
     };
-    EXPECT_EQ(trend(record("größer", "\r\n")), "größer");
-    EXPECT_EQ(trend(record("größer", "\n")), "größer");
-    EXPECT_EQ(trend("\xEF\xBB\xBF" + record("größer", "\n")), "größer");
+    EXPECT_EQ(told(trend(record("größer", "\r\n")), trend(record("größer", "\n")),
+                   trend("\xEF\xBB\xBF" + record("größer", "\n"))),
+              "größer größer größer");
     EXPECT_EQ(trend(record("gr\xF6\xDF"
                            "er \x80\x81",
                            "\r\n")),

@@ -1,6 +1,7 @@
 #include "core/recording.h"
 #include "flights/plan_error.h"
 #include "flights/plan_reader.h"
+#include "support/told.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -64,28 +65,18 @@ wind = "270/15"
 comment = "Größe, #2"
 )",
                                      "flights/plan.toml");
-    EXPECT_EQ(plan.chart, "flights/maps/alps.map");
-    EXPECT_EQ(plan.chartLine, 2);
-    EXPECT_EQ(plan.seconds, 600);
+    EXPECT_EQ(told(plan.chart, plan.chartLine, plan.seconds), "flights/maps/alps.map 2 600");
     EXPECT_FALSE(plan.northUp);
     EXPECT_EQ(plan.position, (GeoPosition{48, -11.5}));
-    EXPECT_EQ(plan.start.heading, 360);
-    EXPECT_EQ(plan.start.tas, 0);
-    EXPECT_EQ(plan.start.wind->direction, 240);
-    EXPECT_EQ(plan.start.wind->speed, 20);
-    EXPECT_EQ(plan.start.nav2, 1);
-    EXPECT_EQ(plan.start.dme, 2);
-    EXPECT_EQ(plan.start.obs2, 90);
-    EXPECT_EQ(plan.inst2.type, 4);
-    EXPECT_EQ(plan.inst2.receiver, 2);
-    EXPECT_EQ(plan.inst2.adfCard, 1);
-    EXPECT_EQ(plan.inst3.type, 5);
+    EXPECT_EQ(told(plan.start.heading, plan.start.tas, plan.start.wind->direction,
+                   plan.start.wind->speed, plan.start.nav2, plan.start.dme, plan.start.obs2,
+                   plan.inst2.type, plan.inst2.receiver, plan.inst2.adfCard, plan.inst3.type),
+              "360 0 240 20 1 2 90 4 2 1 5");
     ASSERT_EQ(plan.events.size(), 2U); // in the order of their time
-    EXPECT_EQ(plan.events[0].at, 59.5);
-    EXPECT_EQ(plan.events[0].settings.obs3, 30);
-    EXPECT_EQ(plan.events[0].settings.wind->direction, 270);
-    EXPECT_EQ(plan.events[0].settings.wind->speed, 15);
-    EXPECT_EQ(plan.events[0].settings.comment, "Größe, #2");
+    EXPECT_EQ(told(plan.events[0].at, plan.events[0].settings.obs3,
+                   plan.events[0].settings.wind->direction, plan.events[0].settings.wind->speed,
+                   plan.events[0].settings.comment),
+              "59.5 30 270 15 Größe, #2");
     EXPECT_TRUE(plan.events[1].settings.commentEnds);
 }
 

@@ -257,16 +257,5 @@ TEST(InstrumentDrawing, unchangedFeedMovesNothing) {
     }
 }
 
-TEST(InstrumentDrawing, unknownKindIsReportedAndChangesNothing) {
-    PanelInstrument instrument(InstrumentKind::hsi);
-    instrument.feed(123.4, 77, 200, 200);
-    std::string told;
-    instrument.showMessage = [&told](const std::string& text) { told += text; };
-    const auto revision = instrument.picture.surface.revision();
-    instrument.Display = 6;
-    EXPECT_EQ(told, "Unsupported Dislpay");
-    EXPECT_EQ(instrument.picture.surface.revision(), revision);
-}
-
 } // namespace
 } // namespace tarnel

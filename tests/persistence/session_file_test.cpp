@@ -79,22 +79,10 @@ TEST(SessionFile, IsWrittenByteForByte) {
 }
 
 TEST(SessionFile, NumbersOfEarlierInstallationsAreTaken) {
-    const auto lines = [](const char* number, const char* whole) {
-        auto text = sessionLines(1);
-        text[headSize] = number;
-        text[headSize + 3] = whole;
-        return readSession(joinLines(text, text.size()));
-    };
-    const std::tuple<const char*, const char*, double, int> cases[] = {
-        {" .5", " 7 ", 0.5, 7},
-        {"\"48.25\"", "\"7\"", 48.25, 7},
-        {"-.5", "+7", -0.5, 7},
-        {"1.25E-02", "6.5", 0.0125, 6},
-        {" -12.5 ", "-7.5", -12.5, -8}};
-    for (const auto& [number, whole, latitude, minutes] : cases) {
-        const SessionFile session = lines(number, whole);
-        ASSERT_EQ(session.samples.size(), 1U) << number << ' ' << whole;
-        EXPECT_EQ(session.samples[0].traceLat, latitude);
+    for (const auto& [whole, minutes] :
+         {std::pair(" 7 ", 7), {"\"7\"", 7}, {"+7", 7}, {"6.5", 6}, {"-7.5", -8}}) {
+        const SessionFile session = readSession(sessionWith(headSize + 4, whole));
+        ASSERT_EQ(session.samples.size(), 1U) << whole;
         EXPECT_EQ(session.samples[0].traceStopMinutes, minutes);
     }
 }

@@ -145,31 +145,6 @@ TEST_F(FlightKeeperTest, AFlightThatCanNotBeWrittenIsHeldUntilItCan) {
     EXPECT_EQ(recorded(), flown);
 }
 
-TEST_F(FlightKeeperTest, ACopyOfTheFlightOutlivesTheProgram) {
-    form->startButton.click();
-    const auto flyOn = [this](int seconds) {
-        for (int i = 0; i < 3 * seconds; ++i)
-            form->simulationTimer();
-    };
-    flyOn(40);
-    keeper().keepCopy();
-    keeper().keepCopy(); // waits for none, so it may pass this one over
-    const std::vector<Sample> flown = recorded();
-    form.reset(); // without having been closed
-    start();
-    ASSERT_EQ(keeper().flights().size(), 1U);
-    bringBack(0);
-    EXPECT_EQ(recorded(), flown);
-
-    form->fileMenu.newSession.click();
-    form->startButton.click();
-    flyOn(50);
-    keeper().keepCopy();
-    keeper().putAside();
-    start();
-    EXPECT_EQ(keeper().flights().size(), 2U); // put aside, and the copy is gone
-}
-
 TEST_F(FlightKeeperTest, AFlightThatIsCalledBackIsNotPutAsideOnceMore) {
     fly(40);
     saveAs("default/sessions/e-adf practise 01.ts");

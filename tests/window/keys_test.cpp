@@ -65,17 +65,6 @@ TEST_F(KeyStudent, TypesTheSameLettersIntoFields) {
     EXPECT_EQ(sim().c_AirplaneEN, 1);
 }
 
-TEST_F(KeyStudent, FindsTheLettersInTheMenuAndInTheTips) {
-    open();
-    const auto* start = window->findChild<QAction*>(QStringLiteral("keyM"));
-    ASSERT_NE(start, nullptr);
-    EXPECT_EQ(start->shortcut().toString(), "M");
-    EXPECT_EQ(start->text(), "Start / Stop");
-    EXPECT_THAT(find("Command6").toolTip().toStdString(), testing::EndsWith("[M]"));
-    click("Command6");
-    EXPECT_EQ(find("Command6").toolTip(), "click to stop the simulation [M]");
-}
-
 // Tab comes to every control of the shown page, and each tells a name.
 TEST_F(KeyStudent, ReachesEveryControlOfThePagesByTab) {
     openInFront();

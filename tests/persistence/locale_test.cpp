@@ -1,39 +1,15 @@
 #include "persistence/chart_file.h"
-#include "persistence/older_session_file.h"
 #include "persistence/session_file.h"
 #include "support/sample_chart.h"
 #include "support/sample_session.h"
 
 #include <gtest/gtest.h>
-#include <rapidcheck/gtest.h>
 
 #include <clocale>
-#include <cmath>
 #include <locale>
 
 namespace tarnel {
 namespace {
-
-void readAsEverything(const std::string& bytes) {
-    (void)readChart(bytes);
-    (void)readSession(bytes);
-    (void)readOlderSession(bytes);
-}
-
-RC_GTEST_PROP(HostileFiles, ChangedBytesNeverGiveASessionThatCannotBeSaved, ()) {
-    const auto lines = sessionLines(2);
-    std::string text = joinLines(lines, lines.size());
-    const int changes = *rc::gen::inRange(1, 12);
-    for (int i = 0; i < changes; ++i)
-        text[*rc::gen::inRange<std::size_t>(0, text.size())] =
-            *rc::gen::element('\0', '\n', '\r', '@', ':', '-', '9', '.', 'e', '"', '\xff');
-    readAsEverything(text);
-    const SessionFile session = readSession(text);
-    for (const Sample& sample : session.samples)
-        RC_ASSERT(std::abs(sample.traceLat) <= 90 && sample.traceComment <= 100);
-    const std::string saved = writeSession(session, {});
-    RC_ASSERT(writeSession(readSession(saved), {}) == saved);
-}
 
 /// A German's numbers, whether or not the system has that locale.
 struct GermanNumbers : std::numpunct<char> {
