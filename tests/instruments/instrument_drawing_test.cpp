@@ -68,19 +68,16 @@ TEST(InstrumentDrawing, needlesPointWhereTheyAreTold) {
 
 TEST(InstrumentDrawing, vorBarTakesTheUnroundedDeviation) {
     PanelInstrument vor(InstrumentKind::vor);
-    struct Bar {
-        double radial, x;
-    };
     // Middle 1927.375, full travel 732.4.
-    for (const Bar& bar : {Bar{0, 1927},
-                           {350, 2660},
-                           {349, 2660},
-                           {10, 1195},
-                           {11, 1195},
-                           {5.5, 1525},
-                           {354.5, 2330}}) {
-        vor.feed(bar.radial, 0, 0, 0);
-        EXPECT_NEAR(vor.picture.Line13.from.x, bar.x, 0.51) << bar.radial;
+    for (const auto& [radial, x] : {std::pair(0.0, 1927),
+                                    {350, 2660},
+                                    {349, 2660},
+                                    {10, 1195},
+                                    {11, 1195},
+                                    {5.5, 1525},
+                                    {354.5, 2330}}) {
+        vor.feed(radial, 0, 0, 0);
+        EXPECT_NEAR(vor.picture.Line13.from.x, x, 0.51) << radial;
         EXPECT_EQ(vor.picture.Line13.from.x, vor.picture.Line13.to.x);
         EXPECT_EQ(vor.picture.Line13.from.x, roundToEven(vor.picture.Line13.from.x));
     }
@@ -108,31 +105,24 @@ TEST(InstrumentDrawing, needleFreezesInTheAbeamSector) {
 
 TEST(InstrumentDrawing, vorPictureFollowsTheFlag) {
     PanelInstrument vor(InstrumentKind::vor, 1);
-    const auto file = [&vor] { return vor.picture.Image1.file; };
-    vor.feed(180, 0, 0, 0);
-    EXPECT_EQ(file(), "pictures/QXRvor1tg.jpg");
-    vor.feed(0, 0, 0, 0);
-    EXPECT_EQ(file(), "pictures/QXRvor1fg.jpg");
-    vor.c_NAVselect = 2;
-    EXPECT_EQ(file(), "pictures/QXRvor2fg.jpg");
-    vor.feed(90, 0, 0, 0);
-    EXPECT_EQ(file(), "pictures/QXRvor2lg.jpg");
-    vor.LoadVORDisplay(4);
-    EXPECT_EQ(file(), "pictures/QXRvor2lg.jpg");
-    vor.Display = 4;
-    EXPECT_EQ(file(), "pictures/qxrhsi2g.jpg");
-    vor.feed(180, 0, 0, 0);
-    EXPECT_EQ(file(), "pictures/qxrhsi2g.jpg");
-    vor.Display = 3;
-    EXPECT_EQ(file(), "pictures/QXRvor2tg.jpg") << "the flag came over from the HSI";
-    vor.c_NAVselect = 3;
-    EXPECT_EQ(file(), "pictures/qxrvor2fg.jpg") << "no receiver, no flag";
-    vor.Display = 5;
-    EXPECT_EQ(file(), "pictures/qxrhdgg.jpg");
+    const auto expectAfter = [&vor](auto change, const char* file) {
+        change();
+        EXPECT_EQ(vor.picture.Image1.file, std::string("pictures/") + file);
+    };
+    expectAfter([&] { vor.feed(180, 0, 0, 0); }, "QXRvor1tg.jpg");
+    expectAfter([&] { vor.feed(0, 0, 0, 0); }, "QXRvor1fg.jpg");
+    expectAfter([&] { vor.c_NAVselect = 2; }, "QXRvor2fg.jpg");
+    expectAfter([&] { vor.feed(90, 0, 0, 0); }, "QXRvor2lg.jpg");
+    expectAfter([&] { vor.LoadVORDisplay(4); }, "QXRvor2lg.jpg");
+    expectAfter([&] { vor.Display = 4; }, "qxrhsi2g.jpg");
+    expectAfter([&] { vor.feed(180, 0, 0, 0); }, "qxrhsi2g.jpg");
+    expectAfter([&] { vor.Display = 3; }, "QXRvor2tg.jpg");     // the flag came over from the HSI
+    expectAfter([&] { vor.c_NAVselect = 3; }, "qxrvor2fg.jpg"); // no receiver, no flag
+    expectAfter([&] { vor.Display = 5; }, "qxrhdgg.jpg");
     vor.c_MainAppPath = "C:\\trainer\\";
     vor.c_ADFCardselect = 2;
     vor.Display = 1;
-    EXPECT_EQ(file(), "C:\\trainer\\QXRadfsg.jpg");
+    EXPECT_EQ(vor.picture.Image1.file, "C:\\trainer\\QXRadfsg.jpg");
 }
 
 TEST(InstrumentDrawing, hsiTurnsWithCourseAndHeading) {

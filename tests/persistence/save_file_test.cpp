@@ -229,14 +229,10 @@ TEST_F(SaveFileTest, AFullDiskIsToldAndLeavesTheFile) {
     EXPECT_EQ(filesInFolder(), 1U);
 }
 
-TEST_F(SaveFileTest, RefusesWhatIsNoFileToWrite) {
-    EXPECT_EQ(errorOf([&] { saveFileBytes(folder, after); }), 75);
-    EXPECT_EQ(errorOf([&] { saveFileBytes("/dev/full", after); }), 75);
-    EXPECT_EQ(errorOf([&] { saveFileBytes(folder + "/none/flight.ts", after); }), 76);
-    EXPECT_EQ(errorOf([&] { saveFileBytes("", after); }), 76);
-}
-
-TEST_F(SaveFileTest, RefusesAFileThatMayNotBeWritten) {
+TEST_F(SaveFileTest, RefusesWhatIsNoFileToWriteOrMayNotBeWritten) {
+    for (const auto& [name, error] :
+         {std::pair(folder, 75), {"/dev/full", 75}, {folder + "/none/flight.ts", 76}, {"", 76}})
+        EXPECT_EQ(errorOf([&, file = name] { saveFileBytes(file, after); }), error) << name;
     saveFileBytes(path, before);
     fs::permissions(path, fs::perms(0444));
     fs::permissions(folder, fs::perms(0777)); // its folder would let it be replaced

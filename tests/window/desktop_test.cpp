@@ -119,14 +119,13 @@ TEST_F(DropTest, ADroppedFileOpensOrSaysWhyNot) {
     EXPECT_TRUE(drop({QUrl::fromLocalFile(flight)}));
     EXPECT_EQ(find<QLabel>("StatusPanel1").text(), QStringLiteral("Flug über Köln.ts"));
     EXPECT_EQ(find<QLabel>("StatusPanel1").toolTip(), flight);
-    EXPECT_TRUE(world.boxes.empty());
-    EXPECT_TRUE(drop({QUrl::fromLocalFile(folder.filePath(QStringLiteral("gone.map")))}));
-    EXPECT_THAT(world.boxes, testing::ElementsAre(testing::HasSubstr("gone.map")));
     const QByteArray latin1 = folder.path().toUtf8() + "/Fl\xFCge \\ 1.ts";
     std::filesystem::rename(flight.toStdString(), latin1.toStdString());
     EXPECT_TRUE(drop({QUrl::fromEncoded("file://" + latin1.toPercentEncoding("/"))}));
     EXPECT_EQ(form->UserControl11.c_SessionFileName.get(), latin1.toStdString());
-    EXPECT_EQ(world.boxes.size(), 1U);
+    EXPECT_TRUE(world.boxes.empty());
+    EXPECT_TRUE(drop({QUrl::fromLocalFile(folder.filePath(QStringLiteral("gone.map")))}));
+    EXPECT_THAT(world.boxes, testing::ElementsAre(testing::HasSubstr("gone.map")));
 }
 
 TEST(DocumentReaderTest, APdfReaderIsToldThePage) {

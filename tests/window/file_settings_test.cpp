@@ -33,41 +33,40 @@ class FileSettingsTest : public testing::Test {
 };
 
 TEST_F(FileSettingsTest, TextsSurviveARestartAndOneFlushWritesThem) {
-    const std::string text = " groß, \"quoted\";\n\x01"
-                             "a 100% \\";
+    const std::pair<std::string, std::string> texts[] = {{"hsi_total 12", "4"},
+                                                         {"Übung/a\\b %2F",
+                                                          " groß, \"quoted\";\n\x01"
+                                                          "a 100% \\"},
+                                                         {"empty", ""},
+                                                         {"sign", "@x"}};
     {
         FileSettings settings(path);
-        settings.setValue("app", "stats", "hsi_total 12", "4");
-        settings.setValue("app", "stats", "Übung/a\\b %2F", text);
-        settings.setValue("app", "stats", "empty", "");
-        settings.setValue("app", "stats", "sign", "@x");
+        for (const auto& [key, text] : texts)
+            settings.setValue("app", "stats", key, text);
         settings.setValue("app", "old", "key", "1");
         EXPECT_EQ(content(), "");
         settings.flush();
         settings.deleteSection("app", "old");
     }
     const FileSettings again(path);
-    EXPECT_EQ(again.value("app", "stats", "hsi_total 12", "-"), "4");
-    EXPECT_EQ(again.value("app", "stats", "Übung/a\\b %2F", "-"), text);
-    EXPECT_EQ(again.value("app", "stats", "empty", "-"), "");
-    EXPECT_EQ(again.value("app", "stats", "sign", "-"), "@x");
+    for (const auto& [key, text] : texts)
+        EXPECT_EQ(again.value("app", "stats", key, "-"), text);
     EXPECT_EQ(again.value("app", "old", "key", "-"), "-");
 }
 
 TEST_F(FileSettingsTest, WhatWasEditedByHandComesBackAndNothingElseIsLost) {
     write("nonsense\n[app]\nstats\\a = one, two \nstats\\b=@Variant(\\0\\0)\nstats\\c=\"12\"x\n"
           "stats\\hsi_total%207=3\n;stats\\no=1\nloose=5\n[other]\r\nx\\y=3\r\n\xff\xfe[\n");
-    {
+    for (const bool again : {false, true}) { // a change writes it anew
         FileSettings settings(path);
-        EXPECT_EQ(settings.value("app", "stats", "a", "-"), "one, two");
-        EXPECT_EQ(settings.value("app", "stats", "c", "-"), "12x");
-        EXPECT_EQ(settings.value("app", "stats", "hsi_total 7", "-"), "3");
+        for (const auto& [key, text] : {std::pair("a", "one, two"),
+                                        {"c", "12x"},
+                                        {"hsi_total 7", "3"},
+                                        {"d", again ? "8" : "-"}})
+            EXPECT_EQ(settings.value("app", "stats", key, "-"), text) << again;
+        EXPECT_EQ(settings.value("other", "x", "y", "-"), "3");
         settings.setValue("app", "stats", "d", "8");
     }
-    const FileSettings again(path);
-    EXPECT_EQ(again.value("app", "stats", "a", "-"), "one, two");
-    EXPECT_EQ(again.value("app", "stats", "d", "-"), "8");
-    EXPECT_EQ(again.value("other", "x", "y", "-"), "3");
 }
 
 TEST_F(FileSettingsTest, TwoProgramsCountTogether) {

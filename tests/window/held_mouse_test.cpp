@@ -1,3 +1,4 @@
+#include "support/told.h"
 #include "window/chart/chart_view.h"
 #include "window/dials/instrument_view.h"
 #include "window/radios/autopilot_module.h"
@@ -62,38 +63,32 @@ TEST_F(HeldMouse, LostWithoutAReleaseEndsRatesAndDrags) {
     auto& hsi = find<InstrumentView>("UserControl13_1");
     auto& chart = *window->findChild<ChartView*>();
     auto& receiver = *find<NavModule>("NAVControlFace1").findChild<KnobWidget*>();
-    int way = 0;
-    for (const auto& lose : losses()) {
-        SCOPED_TRACE(way++);
-        form->APControlFace1.c_TAS = 120;
-        holdAndMove(speed, {20, 20}, 40);
+    const QPoint bug = QPoint(hsi.width(), hsi.height()) * 0.912;
+    const auto state = [this] {
         form->autopilotTimer();
-        EXPECT_GT(form->APControlFace1.c_TAS, 120);
-        lose(speed);
-        const double reached = form->APControlFace1.c_TAS;
-        moveHeld(speed, {90, 20});
-        form->autopilotTimer();
-        EXPECT_EQ(form->APControlFace1.c_TAS, reached);
-
-        const QPoint bug(static_cast<int>(hsi.width() * 0.912),
-                         static_cast<int>(hsi.height() * 0.912));
-        holdAndMove(hsi, bug, 20);
-        lose(hsi);
-        const int heading = form->inst3.instrument.c_HDGbug;
-        moveHeld(hsi, bug + QPoint(90, 0));
-        EXPECT_EQ(form->inst3.instrument.c_HDGbug, heading);
-
-        holdAndMove(chart, {100, 200}, 30);
-        lose(chart);
         const GeoPosition place = form->UserControl11.aircraft.published();
-        moveHeld(chart, {200, 300});
-        EXPECT_EQ(form->UserControl11.aircraft.published(), place);
-
-        const auto frequency = form->NAVControlFace1.c_SetFreq.get();
+        return told(form->APControlFace1.c_TAS, form->inst3.instrument.c_HDGbug, place.latitude,
+                    place.longitude, form->NAVControlFace1.c_SetFreq);
+    };
+    const auto expectLetGo = [&](QWidget& widget, QPoint from, const auto& lose) {
+        holdAndMove(widget, from, 30);
+        form->autopilotTimer();
+        lose(widget);
+        const std::string left = state();
+        moveHeld(widget, from + QPoint(90, 50));
+        EXPECT_EQ(state(), left);
+    };
+    for (const auto& lose : losses()) {
+        form->APControlFace1.c_TAS = 120;
+        expectLetGo(speed, {20, 20}, lose);
+        EXPECT_GT(form->APControlFace1.c_TAS, 120);
+        expectLetGo(hsi, bug, lose);
+        expectLetGo(chart, {100, 200}, lose);
+        const std::string before = state();
         QTest::mousePress(&receiver, Qt::LeftButton, {}, receiver.rect().center());
         lose(receiver);
         QTest::mouseRelease(&receiver, Qt::LeftButton, {}, receiver.rect().center());
-        EXPECT_EQ(form->NAVControlFace1.c_SetFreq, frequency) << "no click";
+        EXPECT_EQ(state(), before) << "no click";
     }
 }
 
