@@ -74,7 +74,7 @@ inline PropertyBase* PropertyBag::find(std::string_view name) const {
 }
 
 /// A value that couples controls. It reads like a field; a set stores, signals the change and runs
-/// the owner's effect. `name` must outlive the property (a literal).
+/// the effect. `name` must outlive the property (a literal).
 template <class T>
 class Property final : public PropertyBase {
   public:
@@ -82,6 +82,9 @@ class Property final : public PropertyBase {
 
     Property(PropertyBag& owner, std::string_view name, T initial = {}, Effect onSet = {})
         : PropertyBase(owner, name), value(std::move(initial)), effect(std::move(onSet)) {}
+
+    /// Connects what a set does from now on.
+    void onSet(Effect next) { effect = std::move(next); }
 
     [[nodiscard]] const T& get() const { return value; }
     operator const T&() const { return value; }

@@ -101,7 +101,7 @@ void UserControl2::applyChart(const ChartFile& chart) {
 /// What a chart and a session tell of the stations and the map.
 void UserControl2::describeStations(StationBlock& block) const {
     for (std::size_t i = 0; i < slotCount; ++i) {
-        const StationProperties& properties_ = stationSlots[i];
+        const StationProperties& properties_ = slot(i);
         ChartStation& station = block.stations[i];
         station.identifier = properties_.name;
         station.labelOffsetX = stations[i].labelOffsetX;

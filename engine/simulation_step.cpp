@@ -77,11 +77,11 @@ void UserControl2::measure() {
                       {static_cast<double>(view.plot.mapScaleTwips), c_Altitude,
                        speedVectors.groundSpeed, speedVectors.groundTrack});
     for (std::size_t i = 0; i < slotCount; ++i) {
-        stationSlots[i].radial.publish(readings.radial[i]);
+        slot(i).radial.publish(readings.radial[i]);
         if (!hasDme(i))
             continue;
-        stationSlots[i].dme.publish(readings.dme[i]);
-        stationSlots[i].dmeGroundSpeed.publish(readings.dmeGroundSpeed[i]);
+        slot(i).dme.publish(readings.dme[i]);
+        slot(i).dmeGroundSpeed.publish(readings.dmeGroundSpeed[i]);
     }
 }
 

@@ -3,6 +3,7 @@
 namespace tarnel {
 
 UserControl2::UserControl2(SimulationMessages& receiver) : messages(receiver) {
+    connect();
     for (std::size_t i = 0; i < slotCount; ++i) {
         relabel(static_cast<Slot>(i));
         stationOnOff(static_cast<Slot>(i));
@@ -12,31 +13,46 @@ UserControl2::UserControl2(SimulationMessages& receiver) : messages(receiver) {
     showAirplane();
 }
 
-UserControl2::Slots UserControl2::makeSlots() {
-    const auto make = [this](Slot which, const StationPropertyNames& names, const char* identifier,
-                             const char* frequency) {
-        return StationProperties(
-            properties, names, identifier, frequency, [this, which] { relabel(which); },
-            [this, which] { stationOnOff(which); });
-    };
-    return {make(Slot::vor1,
-                 {"c_VOR1name", "c_VOR1Freq", "c_VOR1EN", "c_DME1EN", "c_NAV1Radial", "c_NAV1DME",
-                  "c_NAV1DMEGS"},
-                 "VOR1", "111.11"),
-            make(Slot::vor2,
-                 {"c_VOR2name", "c_VOR2Freq", "c_VOR2EN", "c_DME2EN", "c_NAV2Radial", "c_NAV2DME",
-                  "c_NAV2DMEGS"},
-                 "VOR2", "222.22"),
-            make(Slot::ndb1,
-                 {"c_NDB1name", "c_NDB1Freq", "c_NDB1EN", "", "c_NAV3Radial", "", "c_NAV3DMEGS"},
-                 "NDB1", "111"),
-            make(Slot::ndb2,
-                 {"c_NDB2name", "c_NDB2Freq", "c_NDB2EN", "", "c_NAV4Radial", "", "c_NAV4DMEGS"},
-                 "NDB2", "222"),
-            make(Slot::localizer,
-                 {"c_LOCname", "c_LOC1Freq", "c_LOC1EN", "c_DME5EN", "c_NAV5Radial", "c_NAV5DME",
-                  "c_NAV5DMEGS"},
-                 "LOC1", "333.33")};
+/// What a set of each property does.
+void UserControl2::connect() {
+    connectChart();
+    c_TimerEN.onSet([this] { switchClock(); });
+    c_ResetTimer.onSet([this] { resetStopwatch(); });
+    c_WindSetEN.onSet([this] { switchWind(); });
+    c_RepeatValue.onSet([this] { goToSample(); });
+    c_NewSession.onSet([this] { startSession(); });
+    c_TrackDelta.onSet([this] { showPracticePanel(); });
+    c_mapedit.onSet([this] { switchEditing(); });
+    c_loadChart.onSet([this] { loadChart(); });
+    c_saveChart.onSet([this] { saveChart(); });
+    c_loadSession.onSet([this] { loadSession(); });
+    c_saveSession.onSet([this] { saveSession(); });
+    c_LoadOLDSession.onSet([this] { loadOldSession(); });
+}
+
+/// Those that change the picture alone.
+void UserControl2::connectChart() {
+    for (auto* property : {&Turn_Rate, &c_TAS, &c_SpeedVectorEN, &c_TraceAheadEN})
+        property->onSet([this] { refresh(); });
+    c_Altitude.onSet([this] { refresh(); });
+    for (auto* property : {&c_NAV1freq, &c_NAV2freq, &c_Inst2NAVselect, &c_Inst3NAVselect})
+        property->onSet([this] { redrawChart(); });
+    for (auto* property : {&c_obsI2, &c_obsI3, &c_LocCrs1})
+        property->onSet([this] { redrawChart(); });
+    for (auto* property : {&c_NAVRadI2, &c_NAVRadI3, &c_NAVRadCenter, &c_NAVRadBorder})
+        property->onSet([this] { switchRadials(); });
+    c_MAPnorthUP.onSet([this] { switchView(); });
+    c_MAPscale.onSet([this] { MapScale(); });
+    c_CenterTwips.onSet([this] { resizeChart(); });
+    c_AirplaneEN.onSet([this] { switchAirplane(); });
+    c_TraceEN.onSet([this] { redrawTrace(); });
+    for (std::size_t i = 0; i < slotCount; ++i) {
+        const auto which = static_cast<Slot>(i);
+        slot(i).name.onSet([this, which] { relabel(which); });
+        slot(i).frequency.onSet([this, which] { relabel(which); });
+        slot(i).enabled.onSet([this, which] { stationOnOff(which); });
+        slot(i).dmeEnabled.onSet([this, which] { stationOnOff(which); });
+    }
 }
 
 void UserControl2::relabel(Slot which) {

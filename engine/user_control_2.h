@@ -7,7 +7,6 @@
 #include "core/aircraft.h"
 #include "core/comments.h"
 #include "core/flight_clock.h"
-#include "core/property.h"
 #include "core/recording.h"
 #include "core/reference_track.h"
 #include "core/runtime_random.h"
@@ -18,7 +17,7 @@
 #include "engine/flight_in_memory.h"
 #include "engine/hand_history.h"
 #include "engine/simulation_messages.h"
-#include "engine/station_properties.h"
+#include "engine/simulation_properties.h"
 #include "persistence/chart_file.h"
 
 #include <array>
@@ -37,7 +36,7 @@ struct SessionFile;
 /// `UserControl2`: the simulation engine: aircraft, chart, radios and recording behind one set of
 /// properties. It knows neither window nor clock: whoever owns it calls `Timer1` three times per
 /// simulated second while `c_TimerEN` is 1.
-class UserControl2 {
+class UserControl2 : public SimulationProperties {
   public:
     explicit UserControl2(SimulationMessages& messages);
 
@@ -45,12 +44,6 @@ class UserControl2 {
     void Timer1();
     /// Moves the aircraft if a tick asks for it, and brings chart, radios and read-outs up to date.
     void SimStep();
-
-    /// The properties of a station slot.
-    [[nodiscard]] StationProperties& slot(Slot which) { return inSlot(stationSlots, which); }
-    [[nodiscard]] const StationProperties& slot(Slot which) const {
-        return inSlot(stationSlots, which);
-    }
 
     /// Redraws for a new scale, centre or station position.
     void MapScale();
@@ -147,115 +140,6 @@ class UserControl2 {
     void stepComment(int step);
 
     [[nodiscard]] RadialInputs radialInputs() const;
-    [[nodiscard]] bool stopped() const { return c_TimerEN == 0; }
-
-    PropertyBag properties;
-
-    // Flight. A set refreshes the picture without moving the aircraft.
-    Property<std::int16_t> Turn_Rate{properties, "Turn_Rate", 0, [this] { refresh(); }};
-    Property<std::int16_t> c_TAS{properties, "c_TAS", 0, [this] { refresh(); }};
-    Property<double> c_Altitude{properties, "c_Altitude", 0, [this] { refresh(); }};
-    Property<double> c_HDG{properties, "c_HDG"};
-    Property<std::int16_t> c_HDGbug{properties, "c_HDGbug"};
-    Property<std::int16_t> c_HDGchanged{properties, "c_HDGchanged"};
-    Property<std::int16_t> c_APhdg{properties, "c_APhdg"};
-    Property<std::int16_t> c_APtas{properties, "c_APtas"};
-    Property<std::int16_t> c_APalt{properties, "c_APalt"};
-    Property<std::int16_t> c_FlyEN{properties, "c_FlyEN"};
-    Property<std::int16_t> c_PractiseStopFly{properties, "c_PractiseStopFly"};
-
-    // Clocks. `c_TimerSIMrate` is the real time of one tick in milliseconds.
-    Property<std::int16_t> c_TimerEN{properties, "c_TimerEN", 0, [this] { switchClock(); }};
-    Property<std::int16_t> c_TimerSIMrate{properties, "c_TimerSIMrate", 333};
-    Property<std::int16_t> c_ResetTimer{properties, "c_ResetTimer", 1,
-                                        [this] { resetStopwatch(); }};
-    Property<std::int16_t> c_Timer_on_off{properties, "c_Timer_on_off"};
-    Property<std::int16_t> c_ApSeconds{properties, "c_ApSeconds"};
-    Property<std::int16_t> c_ApMinutes{properties, "c_ApMinutes"};
-    Property<std::int16_t> c_ApSeconds2{properties, "c_ApSeconds2"};
-    Property<std::int16_t> c_ApMinutes2{properties, "c_ApMinutes2"};
-    Property<std::int16_t> c_ApHours2{properties, "c_ApHours2"};
-
-    // Receivers: 0 VOR 1, 1 VOR 2, 2 localizer; ADF 0 NDB 1, 1 NDB 2.
-    Property<std::int16_t> c_NAV1freq{properties, "c_NAV1freq", 0, [this] { redrawChart(); }};
-    Property<std::int16_t> c_NAV2freq{properties, "c_NAV2freq", 0, [this] { redrawChart(); }};
-    Property<std::int16_t> c_ADFfreq{properties, "c_ADFfreq"};
-    Property<std::int16_t> c_DMEfreq{properties, "c_DMEfreq"};
-    Property<std::int16_t> c_Inst2NAVselect{properties, "c_Inst2NAVselect", 1,
-                                            [this] { redrawChart(); }};
-    Property<std::int16_t> c_Inst3NAVselect{properties, "c_Inst3NAVselect", 1,
-                                            [this] { redrawChart(); }};
-    Property<std::int16_t> c_NAVRadI2{properties, "c_NAVRadI2", 0, [this] { switchRadials(); }};
-    Property<std::int16_t> c_NAVRadI3{properties, "c_NAVRadI3", 0, [this] { switchRadials(); }};
-    Property<double> c_obsI2{properties, "c_obsI2", 0, [this] { redrawChart(); }};
-    Property<double> c_obsI3{properties, "c_obsI3", 0, [this] { redrawChart(); }};
-    Property<double> c_OBS1{properties, "c_OBS1"};
-    Property<double> c_OBS2{properties, "c_OBS2"};
-    Property<std::int16_t> c_NAVRadCenter{properties, "c_NAVRadCenter", on,
-                                          [this] { switchRadials(); }};
-    Property<std::int16_t> c_NAVRadBorder{properties, "c_NAVRadBorder", off,
-                                          [this] { switchRadials(); }};
-    Property<double> c_LocCrs1{properties, "c_LocCrs1", 0, [this] { redrawChart(); }};
-
-    // The instruments' settings, kept for the recording.
-    Property<std::int16_t> c_inst2{properties, "c_inst2"};
-    Property<std::int16_t> c_inst3{properties, "c_inst3"};
-    Property<std::int16_t> c_Inst2_ADFCardselect{properties, "c_Inst2_ADFCardselect", 1};
-    Property<std::int16_t> c_Inst3_ADFCardselect{properties, "c_Inst3_ADFCardselect", 1};
-
-    // Chart.
-    Property<std::int16_t> c_MAPnorthUP{properties, "c_MAPnorthUP", 1, [this] { switchView(); }};
-    Property<std::int16_t> c_MAPscale{properties, "c_MAPscale", 250, [this] { MapScale(); }};
-    Property<double> c_CenterTwips{properties, "c_CenterTwips", 3405, [this] { resizeChart(); }};
-    Property<std::int16_t> c_MAPCenterSelect{properties, "c_MAPCenterSelect", 1};
-    Property<std::int16_t> c_NAV1NULLPositionX{properties, "c_NAV1NULLPositionX"};
-    Property<std::int16_t> c_AirplaneEN{properties, "c_AirplaneEN", 1,
-                                        [this] { switchAirplane(); }};
-    Property<std::int16_t> c_TraceEN{properties, "c_TraceEN", 0, [this] { redrawTrace(); }};
-    Property<std::int16_t> c_SpeedVectorEN{properties, "c_SpeedVectorEN", 0, [this] { refresh(); }};
-    Property<std::int16_t> c_TraceAheadEN{properties, "c_TraceAheadEN", 0, [this] { refresh(); }};
-    Property<std::int16_t> c_TraceBufferMax{properties, "c_TraceBufferMax", 1};
-
-    // Wind. `c_WindSetEN`: 0 none, 1 draws one with the mouse, 2 by chance, 3 the last one again;
-    // 4 and 5 tell that a replay has brought one, or one with a part that is zero.
-    Property<std::string> c_wind{properties, "c_wind", "0/0"};
-    Property<std::int16_t> c_WindSetEN{properties, "c_WindSetEN", 0, [this] { switchWind(); }};
-
-    // Replay. `c_RepeatValue` goes to a sample of a resting flight: below 1 it does nothing, above
-    // 6000 it throws the subscript error. `c_ReplayInterpolation`: 0 shows the sample, 1 flies one
-    // tick on from it, 2 and 3 one tick on from where the aircraft is. `c_replayInstLock`: 1
-    // restores the instruments' settings and sets `c_replayActive`; else the present settings are
-    // written over the sample's.
-    Property<std::int16_t> c_RepeatValue{properties, "c_RepeatValue", 0, [this] { goToSample(); }};
-    Property<std::int16_t> c_HscrollRepeatValue{properties, "c_HscrollRepeatValue"};
-    Property<std::int16_t> c_ReplayInterpolation{properties, "c_ReplayInterpolation"};
-    Property<std::int16_t> c_replayActive{properties, "c_replayActive"};
-    Property<std::int16_t> c_replayInstLock{properties, "c_replayInstLock"};
-    Property<std::string> c_CurrentComment{properties, "c_CurrentComment"};
-    /// Any set starts an empty session: the stations framed as in `resetView`, the aircraft below
-    /// them heading north, without wind, comments and reference. The stations stay.
-    Property<std::int16_t> c_NewSession{properties, "c_NewSession", 0, [this] { startSession(); }};
-    /// Shows the practice panel in one of its states, 0 to 3, and goes back to 0.
-    Property<std::int16_t> c_TrackDelta{properties, "c_TrackDelta", 0,
-                                        [this] { showPracticePanel(); }};
-
-    // Chart editing: 1 lets the mouse drag stations; samples lose the marks of their comments.
-    Property<std::int16_t> c_mapedit{properties, "c_mapedit", 0, [this] { switchEditing(); }};
-
-    // Files. 1 asks the user for a name, 2 takes the present one, 3 is the temporary session in
-    // `c_ScratchPath`; each goes back to 0. A save by the present name asks too unless the user
-    // picked it. `c_doEncrypt` other than 0 writes enciphered files.
-    Property<std::string> c_ScratchPath{properties, "c_ScratchPath"};
-    Property<std::int16_t> c_saveChart{properties, "c_saveChart", 0, [this] { saveChart(); }};
-    Property<std::int16_t> c_loadSession{properties, "c_loadSession", 0, [this] { loadSession(); }};
-    Property<std::int16_t> c_saveSession{properties, "c_saveSession", 0, [this] { saveSession(); }};
-    Property<std::int16_t> c_LoadOLDSession{properties, "c_LoadOLDSession", 0,
-                                            [this] { loadOldSession(); }};
-    Property<std::int16_t> c_doEncrypt{properties, "c_doEncrypt", off};
-    Property<std::string> c_MainAppPath{properties, "c_MainAppPath"};
-    Property<std::string> c_ChartFileName{properties, "c_ChartFileName"};
-    Property<std::string> c_SessionFileName{properties, "c_SessionFileName"};
-    Property<std::int16_t> c_loadChart{properties, "c_loadChart", 0, [this] { loadChart(); }};
 
     Aircraft aircraft;
     Wind wind;
@@ -284,9 +168,8 @@ class UserControl2 {
     std::function<void(std::int16_t)> practicePanelSet;
 
   private:
-    using Slots = std::array<StationProperties, slotCount>;
-
-    Slots makeSlots();
+    void connect();
+    void connectChart();
     void relabel(Slot which);
     void stationOnOff(Slot which);
     void refresh();
@@ -387,7 +270,6 @@ class UserControl2 {
     void forgetComments();
 
     SimulationMessages& messages;
-    Slots stationSlots = makeSlots();
     AirplaneOutline airplaneOutline;
     bool redrawOnly = false;
     std::string chartNamedByUser; ///< the path that a save may overwrite unasked
