@@ -2,7 +2,6 @@
 
 #include "core/number_text.h"
 #include "core/rounding.h"
-#include "engine/user_control_2.h"
 
 #include <algorithm>
 #include <cmath>
@@ -26,12 +25,12 @@ ChartPoint rounded(Point at, double size) {
 } // namespace
 
 bool ChartMouse::allowed() const {
-    return !locked && sim.view.northUpMode && (sim.stopped() || tool == Tool::wind);
+    return !locked && given.scene.view.northUpMode && (given.panel.stopped() || tool == Tool::wind);
 }
 
 void ChartMouse::decodeRightButton() {
     tool = tool == Tool::heading ? Tool::standard : Tool::heading;
-    sim.picture.surface.show(sim.picture.help, tool == Tool::heading);
+    given.scene.picture.surface.show(given.scene.picture.help, tool == Tool::heading);
 }
 
 void ChartMouse::down(ChartButton button, Point at) {
@@ -39,7 +38,7 @@ void ChartMouse::down(ChartButton button, Point at) {
     stationMoved = false;
     if (!allowed())
         return;
-    if (button == ChartButton::right && sim.stopped())
+    if (button == ChartButton::right && given.panel.stopped())
         decodeRightButton();
     if (tool == Tool::wind) {
         begin(Deed::setWind);
@@ -61,14 +60,14 @@ void ChartMouse::down(ChartButton button, Point at) {
 }
 
 void ChartMouse::begin(Deed deed, Slot slot) {
-    held = sim.beginStep(deed, slot);
+    held = given.hand.beginStep(deed, slot);
 }
 
 void ChartMouse::finish() {
     if (!held)
         return;
     const bool station = held->deed == Deed::moveStation;
-    const bool changed = sim.finishStep(*std::exchange(held, std::nullopt));
+    const bool changed = given.hand.finishStep(*std::exchange(held, std::nullopt));
     stationMoved = station && changed;
 }
 
@@ -90,7 +89,7 @@ void ChartMouse::up() {
         cancel();
     finish();
     airplaneDragging = false;
-    sim.windLabelOn = true;
+    given.scene.windLabelOn = true;
 }
 
 void ChartMouse::setLocked(bool lock) {
@@ -102,7 +101,7 @@ void ChartMouse::setLocked(bool lock) {
 void ChartMouse::pickWindTool() {
     cancel();
     tool = Tool::wind;
-    sim.picture.surface.show(sim.picture.help, true);
+    given.scene.picture.surface.show(given.scene.picture.help, true);
 }
 
 void ChartMouse::cancel() {
@@ -114,32 +113,33 @@ void ChartMouse::letGo() {
     tool = Tool::standard;
     airplaneDragging = headingDragging = windDragging = false;
     draggedStation.reset();
-    sim.picture.surface.show(sim.picture.stationReadout, false);
-    sim.picture.surface.show(sim.picture.help, false);
+    given.scene.picture.surface.show(given.scene.picture.stationReadout, false);
+    given.scene.picture.surface.show(given.scene.picture.help, false);
     hideHeadingLine();
     hideWindLine();
 }
 
 void ChartMouse::hideHeadingLine() {
-    HeadingLine& heading = sim.picture.heading;
-    sim.picture.surface.show(heading.line, false);
-    sim.picture.surface.show(heading.name, false);
-    sim.picture.surface.show(heading.value, false);
+    HeadingLine& heading = given.scene.picture.heading;
+    given.scene.picture.surface.show(heading.line, false);
+    given.scene.picture.surface.show(heading.name, false);
+    given.scene.picture.surface.show(heading.value, false);
 }
 
 void ChartMouse::hideWindLine() {
-    WindLine& wind = sim.picture.windLine;
+    WindLine& wind = given.scene.picture.windLine;
     for (Line* line : {&wind.line, &wind.headLeft, &wind.headRight})
-        sim.picture.surface.show(*line, false);
+        given.scene.picture.surface.show(*line, false);
     for (Label* label : {&wind.name, &wind.direction, &wind.speed})
-        sim.picture.surface.show(*label, false);
+        given.scene.picture.surface.show(*label, false);
 }
 
 std::optional<Slot> ChartMouse::stationAt(Point at) const {
-    if (sim.c_mapedit != 1)
+    if (given.editing.c_mapedit != 1)
         return {};
     for (std::size_t i = 0; i < slotCount; ++i)
-        if (sim.picture.symbols[i].visible && sim.picture.symbols[i].area.contains(at))
+        if (given.scene.picture.symbols[i].visible &&
+            given.scene.picture.symbols[i].area.contains(at))
             return static_cast<Slot>(i);
     return {};
 }
@@ -149,51 +149,53 @@ bool ChartMouse::takeBack() {
         return false;
     const HandStep step = *std::exchange(held, std::nullopt);
     letGo();
-    sim.windLabelOn = true;
-    sim.putBack(step);
+    given.scene.windLabelOn = true;
+    given.hand.putBack(step);
     return true;
 }
 
 void ChartMouse::takeBackDrag() {
     if (takeBack() || !std::exchange(stationMoved, false))
         return;
-    sim.undo();
-    sim.history.forgetUndone();
+    cancel();
+    given.hand.undo();
+    given.hand.history.forgetUndone();
 }
 
 /// The symbol's centre follows the pointer. The bearings are those of the dragged station from each
 /// other one.
 void ChartMouse::dragStation(Point at) {
     const auto dragged = static_cast<std::size_t>(*draggedStation);
-    sim.placeStation(*draggedStation, rounded(at, sim.picture.size));
-    const Point from = sim.stations[dragged].place.wide;
+    given.hand.placeStation(*draggedStation, rounded(at, given.scene.picture.size));
+    const Point from = given.scene.stations[dragged].place.wide;
     std::vector<StationBearing> bearings;
     for (std::size_t i = 0; i < slotCount; ++i) {
         if (i == dragged)
             continue;
-        const Point to = sim.stations[i].place.wide;
-        const Polar polar = polarOf(to.x - from.x, from.y - to.y, sim.view.plot.mapScaleTwips);
+        const Point to = given.scene.stations[i].place.wide;
+        const Polar polar =
+            polarOf(to.x - from.x, from.y - to.y, given.scene.view.plot.mapScaleTwips);
         const double bearing = polar.course < 180 ? polar.course + 180 : polar.course - 180;
         bearings.push_back({static_cast<Slot>(i), roundTo(polar.distance, 1), std::floor(bearing)});
     }
-    DrawingSurface& surface = sim.picture.surface;
-    surface.set(sim.picture.stationBearings, bearings);
-    surface.place(sim.picture.stationReadout, {at.x + labelGap, at.y + labelGap});
-    surface.show(sim.picture.stationReadout, true);
+    DrawingSurface& surface = given.scene.picture.surface;
+    surface.set(given.scene.picture.stationBearings, bearings);
+    surface.place(given.scene.picture.stationReadout, {at.x + labelGap, at.y + labelGap});
+    surface.show(given.scene.picture.stationReadout, true);
 }
 
 void ChartMouse::place(Point at) {
-    sim.windLabelOn = false;
-    sim.placeAircraft(rounded(at, sim.picture.size));
+    given.scene.windLabelOn = false;
+    given.hand.placeAircraft(rounded(at, given.scene.picture.size));
 }
 
 void ChartMouse::showHeadingLine(Point at) {
-    DrawingSurface& surface = sim.picture.surface;
-    HeadingLine& heading = sim.picture.heading;
-    surface.place(heading.line, sim.aircraft.place.wide, at);
+    DrawingSurface& surface = given.scene.picture.surface;
+    HeadingLine& heading = given.scene.picture.heading;
+    surface.place(heading.line, given.scene.aircraft.place.wide, at);
     surface.place(heading.name, {at.x + labelGap, at.y - 2 * labelHeight});
     surface.place(heading.value, {at.x + labelGap, at.y - labelHeight});
-    const auto degrees = static_cast<std::int16_t>(roundToEven(sim.c_HDG));
+    const auto degrees = static_cast<std::int16_t>(roundToEven(given.panel.c_HDG));
     surface.set(heading.value.caption, zeroPadded(degrees, 3));
     surface.show(heading.line, true);
     surface.show(heading.name, true);
@@ -201,14 +203,13 @@ void ChartMouse::showHeadingLine(Point at) {
 }
 
 void ChartMouse::drawHeading(Point at) {
-    const Point airplane = sim.aircraft.place.wide;
-    const Polar polar = polarOf(at.x - airplane.x, airplane.y - at.y, sim.view.plot.mapScaleTwips);
+    const Point airplane = given.scene.aircraft.place.wide;
+    const Polar polar =
+        polarOf(at.x - airplane.x, airplane.y - at.y, given.scene.view.plot.mapScaleTwips);
     if (polar.distance == 0)
         return;
     const auto degrees = static_cast<std::int16_t>(toInt16(polar.course) % 360);
-    sim.turnAircraft(degrees);
-    if (headingDrawn)
-        headingDrawn(degrees);
+    given.hand.drawHeading(degrees);
     showHeadingLine(at);
 }
 
@@ -216,13 +217,14 @@ void ChartMouse::drawWind(Point at) {
     constexpr double twipsPerStep = 100;
     constexpr int knotsPerStep = 2;
     const Polar from = polarOf(windStart.x - at.x, at.y - windStart.y, twipsPerStep);
-    sim.drawWind({std::floor(from.course), toInt16(knotsPerStep * std::floor(from.distance))});
+    given.hand.drawWind(
+        {std::floor(from.course), toInt16(knotsPerStep * std::floor(from.distance))});
     showWindLine(at);
 }
 
 void ChartMouse::showWindLine(Point at) {
-    DrawingSurface& surface = sim.picture.surface;
-    WindLine& wind = sim.picture.windLine;
+    DrawingSurface& surface = given.scene.picture.surface;
+    WindLine& wind = given.scene.picture.windLine;
     const double down = polarOf(windStart.x - at.x, at.y - windStart.y, 1).course;
     const auto barb = [&](double angle) {
         return RotatePoint(angle, at, {at.x, at.y - barbLength});
@@ -233,8 +235,8 @@ void ChartMouse::showWindLine(Point at) {
     surface.place(wind.name, {at.x + labelGap, at.y - 3 * labelHeight});
     surface.place(wind.direction, {at.x + labelGap, at.y - 2 * labelHeight});
     surface.place(wind.speed, {at.x + labelGap, at.y - labelHeight});
-    surface.set(wind.direction.caption, numberText(sim.wind.direction));
-    surface.set(wind.speed.caption, numberText(std::int64_t{sim.wind.speed}));
+    surface.set(wind.direction.caption, numberText(given.wind.wind.direction));
+    surface.set(wind.speed.caption, numberText(std::int64_t{given.wind.wind.speed}));
     for (Line* line : {&wind.line, &wind.headLeft, &wind.headRight})
         surface.show(*line, true);
     for (Label* label : {&wind.name, &wind.direction, &wind.speed})

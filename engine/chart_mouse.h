@@ -2,15 +2,13 @@
 
 #include "core/drawing_surface.h"
 #include "core/stations.h"
-#include "engine/hand_history.h"
+#include "engine/flight_scene.h"
+#include "engine/hand_work.h"
+#include "engine/simulation_properties.h"
 
-#include <cstdint>
-#include <functional>
 #include <optional>
 
 namespace tarnel {
-
-class UserControl2;
 
 enum class ChartButton { left, right, other };
 
@@ -19,7 +17,14 @@ enum class ChartButton { left, right, other };
 /// the wind only while the simulation stands still.
 class ChartMouse {
   public:
-    explicit ChartMouse(UserControl2& simulation) : sim(simulation) {}
+    struct Given {
+        const PanelProperties& panel;
+        const SessionProperties& editing;
+        FlightScene& scene; ///< shows the lines and labels of the tools
+        const WindSetting& wind;
+        HandWork& hand; ///< does what the mouse means
+    };
+    explicit ChartMouse(const Given& what) : given(what) {}
 
     /// A press at a chart position in twips. The right button picks the heading tool until it is
     /// released.
@@ -48,10 +53,6 @@ class ChartMouse {
 
     [[nodiscard]] bool windTool() const { return tool == Tool::wind; }
 
-    /// Called with the heading that the bug takes: the one that was just drawn, whole degrees 0 to
-    /// 359, or the bug's before it if that is taken back.
-    std::function<void(std::int16_t)> headingDrawn;
-
   private:
     enum class Tool { standard, heading, wind };
 
@@ -69,7 +70,7 @@ class ChartMouse {
     void hideHeadingLine();
     void hideWindLine();
 
-    UserControl2& sim;
+    Given given;
     Tool tool = Tool::standard;
     bool locked = false;
     bool airplaneDragging = false;

@@ -1,43 +1,50 @@
-#include "engine/user_control_2.h"
+#include "engine/comment_marking.h"
 
 #include <algorithm>
 
 namespace tarnel {
 
-void UserControl2::showComment(std::int16_t index) {
-    comments.currentCommentIndex = recording.at(index).traceComment;
-    c_CurrentComment.setIfChanged(comments.shownText(comments.currentCommentIndex));
+void CommentMarking::show(std::int16_t index) {
+    comments.currentCommentIndex = given.tape.recording.at(index).traceComment;
+    given.replay.c_CurrentComment.setIfChanged(comments.shownText(comments.currentCommentIndex));
 }
 
-void UserControl2::forgetComments() {
+void CommentMarking::forget() {
     comments.clear();
-    recording.markComment(1, Recording::lastSample, noComment);
-    c_CurrentComment.setIfChanged({});
+    given.tape.recording.markComment(1, Recording::lastSample, noComment);
+    hide();
 }
 
-void UserControl2::startComment(const std::string& text) {
+void CommentMarking::start(const std::string& text) {
     comments.setText(comments.commentCount, text);
-    comments.commentStartSample = presentSampleIndex();
+    comments.commentStartSample = given.tape.presentSampleIndex();
     comments.currentCommentIndex = comments.selectedCommentIndex = comments.commentCount;
 }
 
-void UserControl2::stopComment() {
-    if (comments.selectedCommentIndex == noComment)
+void CommentMarking::stop() {
+    if (!marking())
         return;
     comments.commentCount = comments.firstFree();
-    if (!stopped()) {
+    if (!given.clocks.stopped()) {
         comments.currentCommentIndex = comments.selectedCommentIndex = noComment;
         return;
     }
-    const std::int16_t present = presentSampleIndex();
+    const std::int16_t present = given.tape.presentSampleIndex();
     if (comments.commentStartSample < present)
-        recording.markComment(comments.commentStartSample, present, comments.selectedCommentIndex);
+        layUpTo(present);
     comments.selectedCommentIndex = noComment;
-    showComment(present);
+    show(present);
 }
 
-void UserControl2::deleteComment() {
-    const std::int16_t present = presentSampleIndex();
+void CommentMarking::layUpTo(std::int16_t sample) {
+    if (marking())
+        given.tape.recording.markComment(comments.commentStartSample, sample,
+                                         comments.selectedCommentIndex);
+}
+
+void CommentMarking::deletePresent() {
+    Recording& recording = given.tape.recording;
+    const std::int16_t present = given.tape.presentSampleIndex();
     const std::int16_t comment = recording.at(present).traceComment;
     const auto carriesIt = [&](int i) { return recording.at(i).traceComment == comment; };
     int first = present;
@@ -45,26 +52,34 @@ void UserControl2::deleteComment() {
         --first;
     for (int i = first; i <= Recording::lastSample && carriesIt(i); ++i)
         recording.edit(i).traceComment = noComment;
-    showComment(present);
+    show(present);
 }
 
-void UserControl2::deleteAllComments() {
-    recording.markComment(1, c_TraceBufferMax, noComment);
+void CommentMarking::deleteAll() {
+    given.tape.recording.markComment(1, given.chart.c_TraceBufferMax, noComment);
     comments.reuse();
-    showComment(presentSampleIndex());
+    show(given.tape.presentSampleIndex());
     comments.currentCommentIndex = 0;
 }
 
-bool UserControl2::hasCommentMarks() const {
-    if (comments.selectedCommentIndex != noComment)
+void CommentMarking::unmarkAll() {
+    if (!anyMarks())
+        return;
+    given.tape.recording.markComment(0, Recording::lastSample, noComment);
+    comments.reuse();
+    hide();
+}
+
+bool CommentMarking::anyMarks() const {
+    if (marking())
         return true;
-    for (int i = 1; i <= c_TraceBufferMax; ++i)
-        if (recording.at(i).traceComment != noComment)
+    for (int i = 1; i <= given.chart.c_TraceBufferMax; ++i)
+        if (given.tape.recording.at(i).traceComment != noComment)
             return true;
     return false;
 }
 
-void UserControl2::stepComment(int step) {
+void CommentMarking::step(int step) {
     const int next = std::max(0, comments.commentCount + step);
     if (step > 0)
         static_cast<void>(comments.text(next));

@@ -4,22 +4,17 @@
 #include "core/flight_clock.h"
 #include "core/recording.h"
 #include "core/reference_track.h"
+#include "engine/comment_marking.h"
+#include "engine/flight_recorder.h"
+#include "engine/flight_tape.h"
+#include "engine/session_on_disk.h"
+#include "engine/simulation_clocks.h"
+#include "engine/simulation_properties.h"
 
 #include <cstdint>
 #include <string>
 
 namespace tarnel {
-
-/// What the next start does with the recording: nothing, clear it, or cut it at the sample shown.
-enum class ResumeMode { goOn, clear, cut };
-
-/// Tells the states of the flight in memory apart; one that is brought back has its own again.
-struct FlightVersion {
-    std::uint64_t recording = 0; ///< counts of changes
-    std::uint64_t comments = 0;
-    std::uint64_t stations = 0;
-    bool operator==(const FlightVersion&) const = default;
-};
 
 /// A whole flight as it lies in memory, with all that a placed aircraft ends.
 struct FlightInMemory {
@@ -44,6 +39,29 @@ struct FlightInMemory {
     std::string sessionFileName;
     std::string sessionNamedByUser;
     FlightVersion versionInFile;
+};
+
+/// Takes a copy of the flight in memory out of all rooms that hold a part of it, and puts one back.
+class FlightMemory {
+  public:
+    struct Given {
+        PanelProperties& panel;
+        ChartProperties& chart;
+        ReplayProperties& replay;
+        FlightTape& tape;
+        FlightRecorder& recorder;
+        CommentMarking& comments;
+        SimulationClocks& clocks;
+        SessionOnDisk& session;
+    };
+    explicit FlightMemory(const Given& what) : given(what) {}
+
+    [[nodiscard]] FlightInMemory copy() const;
+    /// The flight is there again, as if nothing had happened. The aircraft stays.
+    void putBack(const FlightInMemory& flight);
+
+  private:
+    Given given;
 };
 
 } // namespace tarnel

@@ -1,117 +1,107 @@
-#include "chart/trace_dots.h"
+#include "engine/flight_recorder.h"
+
 #include "core/rounding.h"
-#include "engine/user_control_2.h"
+#include "core/sailing.h"
 
 namespace tarnel {
 
-namespace {
-
-/// `c_TraceEN`: wipes the trace with the next sample.
-constexpr std::int16_t wipeTrace = 2;
-
-} // namespace
-
 /// Courses are kept from north, as they stand on the dial, free of what a turned chart's heading
 /// leaves behind the sixth decimal; they may lie above 360 degrees.
-double UserControl2::recorded(setting::Course, const Property<double>& course) const {
+double FlightRecorder::recorded(setting::Course, const Property<double>& course) const {
     constexpr int decimals = 6;
-    const double turned = c_MAPnorthUP == 1 ? 0 : c_HDG.get();
+    const double turned = given.chart.c_MAPnorthUP == 1 ? 0 : given.panel.c_HDG.get();
     return roundTo(turned + course, decimals);
 }
 
-Sample UserControl2::presentSample() const {
+Sample FlightRecorder::presentSample() const {
+    const Aircraft& aircraft = given.scene.aircraft;
+    const Wind& wind = given.wind.wind;
+    const FlightClock& clock = given.clocks.clock;
+    const PanelProperties& panel = given.panel;
     Sample sample;
 #define FIELD(name, type, rule, value) sample.name = static_cast<type>(value);
 #define SETTING(name, type, rule, kind, property, control)                                         \
-    sample.name = recorded(setting::kind(), property);
+    sample.name = recorded(setting::kind(), panel.property);
 #define STATIONS()                                                                                 \
     for (std::size_t i = 0; i < slotCount; ++i)                                                    \
-        sample.traceStations[i] = toPlain(stations[i].position);
+        sample.traceStations[i] = toPlain(given.scene.stations[i].position);
 #include "core/sample_rows.def"
     return sample;
 }
 
-void UserControl2::copySettings(Sample& sample) const {
+void FlightRecorder::copySettings(Sample& sample) const {
 #define SETTING(name, type, rule, kind, property, control)                                         \
     if constexpr (setting::kind::withLock)                                                         \
-        sample.name = recorded(setting::kind(), property);
+        sample.name = recorded(setting::kind(), given.panel.property);
 #include "core/sample_rows.def"
 }
 
-void UserControl2::recordSample() {
-    if (c_TAS > 0) {
-        const BufferWarning warning = recording.advance();
-        if (warning == BufferWarning::full) {
-            clock.resetFlightTime();
-            publishFlightTime();
-            becomeNewSession();
-        }
-        if (warning != BufferWarning::none)
-            messages.bufferWarning(warning);
-    }
+void FlightRecorder::recordSample() {
+    Recording& recording = given.tape.recording;
+    if (given.panel.c_TAS > 0)
+        tapeRunsOut(recording.advance());
     if (recording.sampleIndex() == 0)
         recording.setNewest(1);
     const std::int16_t index = recording.sampleIndex();
-    recording.write(presentSample(), comments.selectedCommentIndex);
+    recording.write(presentSample(), given.comments.comments.selectedCommentIndex);
     compareWithReference(index);
-    showComment(index);
-    c_TraceBufferMax.publish(index);
-    if (c_TraceEN == wipeTrace)
-        DeleteTrace(picture);
-    if (!traceShown())
-        return;
-    DeleteTrace(picture);
-    DrawTrace2(picture, view, recording, aircraft.trueHeading);
+    given.comments.show(index);
+    given.chart.c_TraceBufferMax.publish(index);
 }
 
-/// Compares the aircraft's place with that of the reference at the same sample.
-void UserControl2::compareWithReference(std::int16_t index) {
+void FlightRecorder::tapeRunsOut(BufferWarning warning) {
+    if (warning == BufferWarning::full) {
+        given.clocks.resetFlightTime();
+        given.session.becomeNew();
+    }
+    if (warning != BufferWarning::none)
+        given.messages.bufferWarning(warning);
+}
+
+void FlightRecorder::compareWithReference(std::int16_t index) {
     const GeoPosition target = reference.at(index);
-    referenceReading = {};
+    reading = {};
     if (target.latitude == 0) {
-        c_PractiseStopFly.publish(1);
+        given.panel.c_PractiseStopFly.publish(1);
         return;
     }
-    const double distance = CourseAndDistance(aircraft.published(), target).distance;
-    referenceReading = {true, distance, toInt16(distance), referenceLamps(distance)};
+    const double distance = CourseAndDistance(given.scene.aircraft.published(), target).distance;
+    reading = {true, distance, toInt16(distance), referenceLamps(distance)};
     if (distance > referenceLimit)
-        c_PractiseStopFly.publish(1);
+        given.panel.c_PractiseStopFly.publish(1);
 }
 
-void UserControl2::markFreshStart() {
-    resumeMode = ResumeMode::clear;
-    recording.setNewest(1);
-    recording.edit(1) = presentSample();
-    c_TraceBufferMax.publish(1);
+void FlightRecorder::forgetReference() {
+    reference.clear();
+    reading = {};
 }
 
-/// A recording that has not begun shows the chart as it stands now.
-void UserControl2::renewFirstSample() {
-    if (resumeMode == ResumeMode::clear && recording.sampleIndex() <= 1)
+void FlightRecorder::markFreshStart() {
+    given.tape.resumeMode = ResumeMode::clear;
+    given.tape.recording.setNewest(1);
+    given.tape.recording.edit(1) = presentSample();
+    given.chart.c_TraceBufferMax.publish(1);
+}
+
+void FlightRecorder::renewFirstSample() {
+    if (given.tape.resumeMode == ResumeMode::clear && given.tape.recording.sampleIndex() <= 1)
         markFreshStart();
 }
 
 /// An earlier flight takes its comments along, but not one that is just being marked.
-void UserControl2::freshRecording() {
-    const bool followsFlight = recording.sampleIndex() > 1;
-    recording.clear();
-    becomeNewSession();
-    if (followsFlight && comments.selectedCommentIndex == noComment)
-        forgetComments();
-    clock = FlightClock{};
-    referenceReading = {};
-    c_PractiseStopFly.publish(0);
-    resumeMode = ResumeMode::goOn;
-    publishStopwatch();
-    publishFlightTime();
-    recording.edit(1) = presentSample();
-    c_TraceBufferMax.publish(1);
-}
-
-void UserControl2::redrawTrace() {
-    picture.trace.clear();
-    if (traceShown() && resumeMode != ResumeMode::clear)
-        DrawReplayTrace(picture, view, recording, aircraft.trueHeading);
+void FlightRecorder::beginFlight() {
+    FlightTape& tape = given.tape;
+    const bool followsFlight = tape.recording.sampleIndex() > 1;
+    tape.recording.clear();
+    given.session.becomeNew();
+    if (followsFlight && given.comments.comments.selectedCommentIndex == noComment)
+        given.comments.forget();
+    reading = {};
+    given.panel.c_PractiseStopFly.publish(0);
+    tape.resumeMode = ResumeMode::goOn;
+    given.clocks.restart();
+    tape.recording.edit(1) = presentSample();
+    given.chart.c_TraceBufferMax.publish(1);
 }
 
 } // namespace tarnel

@@ -16,7 +16,7 @@ bool HandStep::changed() const {
     case Deed::setWind:
         break;
     }
-    return before.wind != after.wind || before.windSource != after.windSource;
+    return before.wind.wind != after.wind.wind || before.wind.source != after.wind.source;
 }
 
 void HandHistory::add(HandStep step) {

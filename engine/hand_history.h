@@ -1,8 +1,8 @@
 #pragma once
 
-#include "core/aircraft.h"
 #include "core/geo_position.h"
 #include "core/stations.h"
+#include "engine/wind_setting.h"
 
 #include <array>
 #include <cstddef>
@@ -15,18 +15,13 @@ namespace tarnel {
 
 struct FlightInMemory;
 
-/// Where the wind of the chart comes from.
-enum class WindSource { none, byHand, byChance, recorded };
-
 /// All that the hand sets on a chart at rest.
 struct HandState {
     SplitPosition aircraft;
     double heading = 0; ///< degrees, 0 up to 360
     std::int16_t headingBug = 0;
     std::array<SplitPosition, slotCount> stations{};
-    Wind wind;
-    WindSource windSource = WindSource::none;
-    Wind lastWind; ///< the one that "Manual" returns to
+    WindState wind;
 };
 
 /// What was done by hand; each kind is taken back by itself.

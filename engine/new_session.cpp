@@ -1,59 +1,48 @@
+#include "engine/new_session.h"
+
+#include "chart/chart_framing.h"
 #include "core/rounding.h"
-#include "engine/user_control_2.h"
 
 namespace tarnel {
 
-void UserControl2::startSession() {
-    if (!stopped())
-        return;
-    mouse.cancel();
-    recording.clear();
-    history.clear();
-    chanceWinds.clear();
-    forgetComments();
-    reference.clear();
-    referenceReading = {};
-    clock = FlightClock{};
-    publishStopwatch();
-    publishFlightTime();
-    takeWind({}, WindSource::none);
-    c_WindSetEN.publish(0);
-    publishWind();
-    turnAircraft(0);
-    resetView();
+void NewSession::start() {
+    given.tape.recording.clear();
+    given.history.clear();
+    given.wind.forgetChanceWinds();
+    given.comments.forget();
+    given.recorder.forgetReference();
+    given.clocks.restart();
+    given.wind.calm();
+    given.scene.refresh();
+    given.scene.turnAircraft(0);
+    given.sheet.resetView();
     standBelowStations();
-    replaySample = 1;
-    c_RepeatValue.publish(1);
-    becomeNewSession();
-}
-
-/// It has no name of its own, and a save asks for one.
-void UserControl2::becomeNewSession() {
-    c_SessionFileName.setIfChanged(newSessionName);
-    sessionNamedByUser.clear();
+    given.tape.replaySample = 1;
+    given.replay.c_RepeatValue.publish(1);
+    given.session.becomeNew();
 }
 
 /// The aircraft stands in the middle of the framed chart's lower edge.
-void UserControl2::standBelowStations() {
-    aircraft.placeAt(
-        view.plot.MapToGeo({toInt16(picture.size / 2), toInt16(picture.size - framedStartHeight)}));
-    view.placeAircraft(aircraft);
-    markFreshStart();
-    redrawTrace();
-    refresh();
+void NewSession::standBelowStations() {
+    FlightScene& scene = given.scene;
+    const double size = scene.picture.size;
+    const ChartPoint start{toInt16(size / 2), toInt16(size - framedStartHeight)};
+    scene.placeAircraft(scene.view.plot.MapToGeo(start));
+    given.recorder.markFreshStart();
+    scene.redrawTrace();
+    scene.refresh();
 }
 
-void UserControl2::dropRecording() {
-    recording.clear();
-    history.clear();
-    becomeNewSession();
-    forgetComments();
-    reference.clear();
-    referenceReading = {};
-    c_TraceBufferMax.publish(0);
-    c_FlyEN.publish(0);
-    resumeMode = ResumeMode::clear;
-    redrawTrace();
+void NewSession::dropRecording() {
+    given.tape.recording.clear();
+    given.history.clear();
+    given.session.becomeNew();
+    given.comments.forget();
+    given.recorder.forgetReference();
+    given.chart.c_TraceBufferMax.publish(0);
+    given.flight.c_FlyEN.publish(0);
+    given.tape.resumeMode = ResumeMode::clear;
+    given.scene.redrawTrace();
 }
 
 } // namespace tarnel

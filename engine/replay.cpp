@@ -1,7 +1,6 @@
-#include "core/angle.h"
-#include "engine/user_control_2.h"
+#include "engine/replay.h"
 
-#include <algorithm>
+#include "core/angle.h"
 
 namespace tarnel {
 
@@ -11,152 +10,125 @@ namespace {
 constexpr std::int16_t showSample = 0;
 constexpr std::int16_t flyFromSample = 1;
 
-/// `c_WindSetEN`, as a replay tells of its wind.
-constexpr std::int16_t recordedWind = 4;
-constexpr std::int16_t windWithZero = 5;
-
 GeoPosition placeOf(const Sample& sample) {
     return {sample.traceLat, sample.traceLon};
 }
 
+Wind windOf(const Sample& sample) {
+    const bool calm = sample.traceWindDirection < 0 || sample.traceWindSpeed < 0;
+    return calm ? Wind{}
+                : Wind{static_cast<double>(sample.traceWindDirection), sample.traceWindSpeed};
+}
+
 } // namespace
 
-std::int16_t UserControl2::presentSampleIndex() const {
-    return inReplay() ? replaySample : std::max<std::int16_t>(1, recording.sampleIndex());
+void Replay::showWhole(std::int16_t index) {
+    given.replay.c_replayInstLock = 1;
+    given.replay.c_ReplayInterpolation = showSample;
+    given.replay.c_RepeatValue = index;
 }
 
-/// Goes to a sample of what was loaded, with all the settings it has.
-void UserControl2::restoreAll(std::int16_t index) {
-    c_replayInstLock = 1;
-    c_ReplayInterpolation = showSample;
-    c_RepeatValue = index;
-}
-
-void UserControl2::goToSample() {
-    const std::int16_t index = c_RepeatValue;
-    const bool ignored =
-        index < 1 || !stopped() || (index > c_TraceBufferMax && index <= Recording::lastSample);
+void Replay::goToSample() {
+    FlightTape& tape = given.tape;
+    const std::int16_t index = given.replay.c_RepeatValue;
+    const bool beyond = index > given.chart.c_TraceBufferMax && index <= Recording::lastSample;
+    const bool ignored = index < 1 || !given.panel.stopped() || beyond;
     if (ignored || index > Recording::lastSample)
-        c_RepeatValue.publish(replaySample);
+        given.replay.c_RepeatValue.publish(tape.replaySample);
     if (ignored)
         return;
-    const Sample& sample = recording.at(index);
-    history.keepStations();
-    resumeMode = ResumeMode::cut;
-    replaySample = index;
-    if (c_replayInstLock == 1)
+    const Sample& sample = tape.recording.at(index);
+    given.history.keepStations();
+    tape.resumeMode = ResumeMode::cut;
+    tape.replaySample = index;
+    if (given.replay.c_replayInstLock == 1)
         restoreSettings(sample);
     else
         overwriteSettings(index);
     restoreMotion(sample);
-    if (c_ReplayInterpolation == showSample)
+    if (given.replay.c_ReplayInterpolation == showSample)
         restorePlace(sample);
     else
         flyBetweenSamples();
-    showComment(index);
-    compareWithReference(index);
-    restoreWind();
-    redrawReplay();
+    given.comments.show(index);
+    given.recorder.compareWithReference(index);
+    redraw();
 }
 
-void UserControl2::overwriteSettings(std::int16_t index) {
+void Replay::overwriteSettings(std::int16_t index) {
+    Recording& recording = given.tape.recording;
     Sample sample = recording.at(index);
-    copySettings(sample);
+    given.recorder.copySettings(sample);
     if (sample != recording.at(index))
         recording.edit(index) = sample;
 }
 
 /// Clocks, speed, turn, wind and autopilot; the heading too unless the aircraft flies on between
 /// samples.
-void UserControl2::restoreMotion(const Sample& sample) {
-    if (c_ReplayInterpolation == showSample) {
-        const double before = aircraft.trueHeading;
-        aircraft.trueHeading = intoCircle(sample.traceHeading);
-        headingTurned(before);
-    }
-#define READOUT(name, type, rule, value, property) property.publish(sample.name);
+void Replay::restoreMotion(const Sample& sample) {
+    if (given.replay.c_ReplayInterpolation == showSample)
+        given.scene.takeHeading(intoCircle(sample.traceHeading));
+#define READOUT(name, type, rule, value, property) given.panel.property.publish(sample.name);
 #define SETTING(name, type, rule, kind, property, control)                                         \
     if constexpr (!setting::kind::withLock)                                                        \
-        property.publish(sample.name);
+        given.panel.property.publish(sample.name);
 #include "core/sample_rows.def"
-    const bool calm = sample.traceWindDirection < 0 || sample.traceWindSpeed < 0;
-    wind =
-        calm ? Wind{} : Wind{static_cast<double>(sample.traceWindDirection), sample.traceWindSpeed};
+    given.wind.takeRecorded(windOf(sample));
 }
 
-void UserControl2::restoreSettings(const Sample& sample) {
+void Replay::restoreSettings(const Sample& sample) {
 #define SETTING(name, type, rule, kind, property, control)                                         \
     if constexpr (setting::kind::withLock)                                                         \
-        property.publish(sample.name);
+        given.panel.property.publish(sample.name);
 #include "core/sample_rows.def"
-    c_replayActive.publish(1);
+    given.replay.c_replayActive.publish(1);
 }
 
-void UserControl2::restorePlace(const Sample& sample) {
+void Replay::restorePlace(const Sample& sample) {
     flownBetween = false;
-    aircraft.placeAt(placeOf(sample));
+    FlightScene& scene = given.scene;
+    scene.aircraft.placeAt(placeOf(sample));
     for (std::size_t i = 0; i < slotCount; ++i)
-        stations[i].position = toSplit(sample.traceStations[i]);
-    c_LocCrs1.publish(sample.traceLocCourse);
+        scene.stations[i].position = toSplit(sample.traceStations[i]);
+    given.panel.c_LocCrs1.publish(sample.traceLocCourse);
 }
 
-/// One tick of flight, as in `Timer1`, from the sample or from where the aircraft is.
-void UserControl2::flyBetweenSamples() {
-    if (c_ReplayInterpolation == flyFromSample)
-        aircraft.placeAt(placeOf(recording.at(replaySample)));
-    aircraft.tasUsed = c_TAS;
-    aircraft.turnRateUsed = Turn_Rate;
-    aircraft.fly(wind);
-    turnByTick();
+/// One tick of flight from the sample or from where the aircraft is.
+void Replay::flyBetweenSamples() {
+    if (given.replay.c_ReplayInterpolation == flyFromSample)
+        given.scene.aircraft.placeAt(placeOf(given.tape.recording.at(given.tape.replaySample)));
+    given.scene.flyByTick();
     flownBetween = true;
 }
 
-/// A wind that came by chance stays one; any that blows is the one to come back to.
-void UserControl2::restoreWind() {
-    const bool calm = wind.speed == 0;
-    c_WindSetEN.publish(wind.direction > 0 && !calm ? recordedWind : windWithZero);
-    if (!calm)
-        lastWind = wind;
-    const bool byChance = std::ranges::find(chanceWinds, wind) != chanceWinds.end();
-    windSource = calm ? WindSource::none : byChance ? WindSource::byChance : WindSource::recorded;
-    tellWind();
-}
-
 /// The recorded courses count from north: a turned chart takes the heading off them.
-void UserControl2::redrawReplay() {
-    view.placeAircraft(aircraft);
-    refresh();
-    RadialInputs inputs = radialInputs();
-    if (!view.northUpMode && c_replayInstLock == 1) {
-        inputs.inst2.obs -= c_HDG;
-        inputs.inst3.obs -= c_HDG;
+void Replay::redraw() {
+    FlightScene& scene = given.scene;
+    scene.view.placeAircraft(scene.aircraft);
+    scene.refresh();
+    RadialInputs inputs = scene.radialInputs();
+    if (!scene.view.northUpMode && given.replay.c_replayInstLock == 1) {
+        inputs.inst2.obs -= given.panel.c_HDG;
+        inputs.inst3.obs -= given.panel.c_HDG;
     }
-    redrawChart(inputs);
-    redrawTrace();
+    scene.redrawChart(inputs);
+    scene.redrawTrace();
 }
 
-/// From the last sample on the flight goes on; from an earlier one, or from a situation without a
-/// flight, another one begins that must not be saved over the first.
-void UserControl2::resumeFromReplay() {
-    const bool another = replaySample < recording.sampleIndex() || replaySample == 1;
-    recording.cutAfter(replaySample);
-    if (another && c_SessionFileName.get() == sessionNamedByUser)
-        becomeNewSession();
-    const Sample& sample = recording.at(replaySample);
-    aircraft.placeAt(placeOf(sample));
-    view.placeAircraft(aircraft);
+void Replay::resume() {
+    FlightTape& tape = given.tape;
+    const bool another = tape.replaySample < tape.recording.sampleIndex() || tape.replaySample == 1;
+    tape.recording.cutAfter(tape.replaySample);
+    if (another && given.session.name() == given.session.namedByUser)
+        given.session.becomeNew();
+    const Sample& sample = tape.recording.at(tape.replaySample);
+    given.scene.placeAircraft(placeOf(sample));
     if (flownBetween)
-        turnAircraft(intoCircle(sample.traceHeading));
-    if (comments.selectedCommentIndex != noComment)
-        recording.markComment(comments.commentStartSample, replaySample,
-                              comments.selectedCommentIndex);
-    clock.stopwatchMinutes = c_ApMinutes;
-    clock.stopwatchSeconds = c_ApSeconds;
-    clock.flightHours = c_ApHours2;
-    clock.flightMinutes = c_ApMinutes2;
-    clock.flightSeconds = c_ApSeconds2;
-    c_TraceBufferMax.publish(replaySample);
-    resumeMode = ResumeMode::goOn;
+        given.scene.turnAircraft(intoCircle(sample.traceHeading));
+    given.comments.layUpTo(tape.replaySample);
+    given.clocks.goOnFromShown();
+    given.chart.c_TraceBufferMax.publish(tape.replaySample);
+    tape.resumeMode = ResumeMode::goOn;
 }
 
 } // namespace tarnel

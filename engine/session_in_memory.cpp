@@ -1,23 +1,17 @@
-#include "engine/file_requests.h"
-#include "engine/user_control_2.h"
-#include "persistence/session_file.h"
+#include "engine/session_desk.h"
 
 namespace tarnel {
 
-/// False before the first sample of a flight: what is set up by hand is then all there is.
-bool UserControl2::flown() const {
-    return resumeMode != ResumeMode::clear && recording.sampleIndex() > 1;
-}
-
 /// What is set up by hand at rest: place, heading, wind, panel and stations. The times and the
 /// comment of one that was loaded stay.
-Sample UserControl2::situation() const {
-    Sample sample = presentSample();
+Sample SessionDesk::situation() const {
+    Sample sample = given.recorder.presentSample();
+    const Recording& recording = given.tape.recording;
     if (recording.sampleIndex() > 1)
         return sample;
     const Sample& first = recording.at(1);
     sample.traceComment = first.traceComment;
-    if (!inReplay())
+    if (!given.tape.inReplay())
         return sample;
     sample.traceStopMinutes = first.traceStopMinutes;
     sample.traceStopSeconds = first.traceStopSeconds;
@@ -28,35 +22,29 @@ Sample UserControl2::situation() const {
 }
 
 /// A situation that follows a flight has none of its comments.
-SessionFile UserControl2::session() const {
+SessionFile SessionDesk::session() const {
     SessionFile session;
-    describeStations(session);
-    const bool follows = !flown() && recording.sampleIndex() > 1;
+    given.charts.describeStations(session);
+    const bool follows = given.tape.situationAfterFlight();
     for (int i = 0; i < Comments::count && !follows; ++i)
-        session.comments.push_back(comments.text(i));
-    session.samples.reserve(static_cast<std::size_t>(c_TraceBufferMax.get()));
-    if (!flown() && stopped())
+        session.comments.push_back(given.comments.comments.text(i));
+    const std::int16_t length = given.chart.c_TraceBufferMax;
+    session.samples.reserve(static_cast<std::size_t>(length));
+    if (!given.tape.flown() && given.clocks.stopped())
         session.samples.push_back(situation());
     else
-        for (int i = 1; i <= c_TraceBufferMax; ++i)
-            session.samples.push_back(recording.at(i));
+        for (int i = 1; i <= length; ++i)
+            session.samples.push_back(given.tape.recording.at(i));
     return session;
 }
 
-FlightVersion UserControl2::flightVersion() const {
-    return {recording.changes(), comments.changes(), stationChanges};
+FlightVersion SessionDesk::version() const {
+    return {given.tape.recording.changes(), given.comments.comments.changes(),
+            given.scene.stationChanges()};
 }
 
-bool UserControl2::flightUnsaved() const {
-    return flown() && flightVersion() != versionInFile;
-}
-
-void UserControl2::takeFlight(const SessionFile& flight, const ReferenceTrack& track) {
-    makeWayFor(FileRequest::loadSession, fileRequest::ask);
-    reference = track;
-    applySession(flight);
-    becomeNewSession();
-    c_HscrollRepeatValue = c_TraceBufferMax;
+bool SessionDesk::unsaved() const {
+    return given.tape.flown() && version() != given.session.version;
 }
 
 } // namespace tarnel

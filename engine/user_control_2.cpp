@@ -1,99 +1,217 @@
 #include "engine/user_control_2.h"
 
+#include <utility>
+
 namespace tarnel {
 
-UserControl2::UserControl2(SimulationMessages& receiver) : messages(receiver) {
+UserControl2::UserControl2(SimulationMessages& messages)
+    : marking({.clocks = *this, .chart = *this, .replay = *this, .tape = tape}),
+      scene({.panel = *this,
+             .chart = *this,
+             .replay = *this,
+             .stationSlots = *this,
+             .wind = windSetting,
+             .tape = tape}),
+      sheet({.chart = *this, .receivers = *this, .scene = scene}),
+      recorder({.messages = messages,
+                .panel = *this,
+                .chart = *this,
+                .scene = scene,
+                .wind = windSetting,
+                .tape = tape,
+                .comments = marking,
+                .clocks = clocks,
+                .session = sessionOnDisk}),
+      memory({.panel = *this,
+              .chart = *this,
+              .replay = *this,
+              .tape = tape,
+              .recorder = recorder,
+              .comments = marking,
+              .clocks = clocks,
+              .session = sessionOnDisk}),
+      hand({.panel = *this,
+            .chart = *this,
+            .replay = *this,
+            .scene = scene,
+            .wind = windSetting,
+            .tape = tape,
+            .recorder = recorder,
+            .memory = memory,
+            .placedByHand = placedByHand,
+            .headingDrawn = headingDrawn}),
+      replay({.panel = *this,
+              .chart = *this,
+              .replay = *this,
+              .scene = scene,
+              .wind = windSetting,
+              .tape = tape,
+              .recorder = recorder,
+              .comments = marking,
+              .clocks = clocks,
+              .session = sessionOnDisk,
+              .history = hand.history}),
+      picker({.messages = messages, .files = *this, .chance = chance}),
+      gate({.messages = messages,
+            .clocks = *this,
+            .tape = tape,
+            .handLetsGo = [this] { mouse.cancel(); }}),
+      charts({.messages = messages,
+              .receivers = *this,
+              .chart = *this,
+              .replay = *this,
+              .files = *this,
+              .stationSlots = *this,
+              .scene = scene,
+              .recorder = recorder,
+              .comments = marking,
+              .clocks = clocks,
+              .session = sessionOnDisk,
+              .hand = hand,
+              .picker = picker,
+              .gate = gate}),
+      sessions({.messages = messages,
+                .clocks = *this,
+                .flight = *this,
+                .chart = *this,
+                .replayProperties = *this,
+                .editing = *this,
+                .files = *this,
+                .scene = scene,
+                .wind = windSetting,
+                .tape = tape,
+                .recorder = recorder,
+                .comments = marking,
+                .session = sessionOnDisk,
+                .history = hand.history,
+                .replay = replay,
+                .charts = charts,
+                .picker = picker,
+                .gate = gate}),
+      newSession({.flight = *this,
+                  .chart = *this,
+                  .replay = *this,
+                  .scene = scene,
+                  .sheet = sheet,
+                  .wind = windSetting,
+                  .tape = tape,
+                  .recorder = recorder,
+                  .comments = marking,
+                  .clocks = clocks,
+                  .session = sessionOnDisk,
+                  .history = hand.history}),
+      mouse({.panel = *this, .editing = *this, .scene = scene, .wind = windSetting, .hand = hand}) {
     connect();
     for (std::size_t i = 0; i < slotCount; ++i) {
-        relabel(static_cast<Slot>(i));
-        stationOnOff(static_cast<Slot>(i));
+        scene.relabel(static_cast<Slot>(i));
+        scene.switchStation(static_cast<Slot>(i));
     }
-    showScale();
-    redrawChart();
-    showAirplane();
+    scene.showScale();
+    scene.redrawChart();
+    scene.showAirplane();
 }
 
 /// What a set of each property does.
 void UserControl2::connect() {
     connectChart();
+    connectFiles();
     c_TimerEN.onSet([this] { switchClock(); });
-    c_ResetTimer.onSet([this] { resetStopwatch(); });
+    c_ResetTimer.onSet([this] { clocks.resetStopwatchAtRest(); });
     c_WindSetEN.onSet([this] { switchWind(); });
-    c_RepeatValue.onSet([this] { goToSample(); });
+    c_RepeatValue.onSet([this] { replay.goToSample(); });
     c_NewSession.onSet([this] { startSession(); });
     c_TrackDelta.onSet([this] { showPracticePanel(); });
     c_mapedit.onSet([this] { switchEditing(); });
-    c_loadChart.onSet([this] { loadChart(); });
-    c_saveChart.onSet([this] { saveChart(); });
-    c_loadSession.onSet([this] { loadSession(); });
-    c_saveSession.onSet([this] { saveSession(); });
-    c_LoadOLDSession.onSet([this] { loadOldSession(); });
 }
 
 /// Those that change the picture alone.
 void UserControl2::connectChart() {
     for (auto* property : {&Turn_Rate, &c_TAS, &c_SpeedVectorEN, &c_TraceAheadEN})
-        property->onSet([this] { refresh(); });
-    c_Altitude.onSet([this] { refresh(); });
+        property->onSet([this] { scene.refresh(); });
+    c_Altitude.onSet([this] { scene.refresh(); });
     for (auto* property : {&c_NAV1freq, &c_NAV2freq, &c_Inst2NAVselect, &c_Inst3NAVselect})
-        property->onSet([this] { redrawChart(); });
+        property->onSet([this] { scene.redrawChart(); });
     for (auto* property : {&c_obsI2, &c_obsI3, &c_LocCrs1})
-        property->onSet([this] { redrawChart(); });
+        property->onSet([this] { scene.redrawChart(); });
     for (auto* property : {&c_NAVRadI2, &c_NAVRadI3, &c_NAVRadCenter, &c_NAVRadBorder})
-        property->onSet([this] { switchRadials(); });
-    c_MAPnorthUP.onSet([this] { switchView(); });
-    c_MAPscale.onSet([this] { MapScale(); });
-    c_CenterTwips.onSet([this] { resizeChart(); });
-    c_AirplaneEN.onSet([this] { switchAirplane(); });
-    c_TraceEN.onSet([this] { redrawTrace(); });
+        property->onSet([this] { scene.switchRadials(); });
+    c_MAPnorthUP.onSet([this] {
+        mouse.cancel();
+        sheet.switchView();
+    });
+    c_MAPscale.onSet([this] { sheet.MapScale(); });
+    c_CenterTwips.onSet([this] { sheet.resize(); });
+    c_AirplaneEN.onSet([this] { scene.switchAirplane(); });
+    c_TraceEN.onSet([this] { scene.redrawTrace(); });
     for (std::size_t i = 0; i < slotCount; ++i) {
         const auto which = static_cast<Slot>(i);
-        slot(i).name.onSet([this, which] { relabel(which); });
-        slot(i).frequency.onSet([this, which] { relabel(which); });
-        slot(i).enabled.onSet([this, which] { stationOnOff(which); });
-        slot(i).dmeEnabled.onSet([this, which] { stationOnOff(which); });
+        slot(which).name.onSet([this, which] { scene.relabel(which); });
+        slot(which).frequency.onSet([this, which] { scene.relabel(which); });
+        slot(which).enabled.onSet([this, which] { scene.switchStation(which); });
+        slot(which).dmeEnabled.onSet([this, which] { scene.switchStation(which); });
     }
 }
 
-void UserControl2::relabel(Slot which) {
-    const StationProperties& station = slot(which);
-    ++stationChanges;
-    picture.surface.set(inSlot(picture.symbols, which).name.caption,
-                        station.name.get() + "\n" + station.frequency.get());
+void UserControl2::connectFiles() {
+    c_loadChart.onSet([this] { charts.load(); });
+    c_saveChart.onSet([this] { charts.save(); });
+    c_loadSession.onSet([this] { sessions.load(); });
+    c_saveSession.onSet([this] { sessions.save(); });
+    c_LoadOLDSession.onSet([this] { sessions.loadOld(); });
 }
 
-void UserControl2::stationOnOff(Slot which) {
-    const bool stationOn = slot(which).enabled != off;
-    const auto index = static_cast<std::size_t>(which);
-    const bool dmeOn = hasDme(which) ? slot(which).dmeEnabled != off : stationOn;
-    showStation(picture, index, stationOn, dmeOn);
-    if (which == Slot::localizer)
-        showLocalizer(picture, stationOn);
-}
-
-void UserControl2::refresh() {
-    redrawOnly = true;
-    SimStep();
-}
-
-void UserControl2::switchClock() {
-    mouse.cancel();
-    picture.trace.clear();
-    if (c_TimerEN == 1)
-        history.clear();
-    if (c_TimerEN == 1 && resumeMode == ResumeMode::clear)
-        freshRecording();
-    else if (c_TimerEN == 1 && resumeMode == ResumeMode::cut)
-        resumeFromReplay();
-    redrawTrace();
-}
-
-void UserControl2::resetStopwatch() {
-    if (c_ResetTimer != 0 || !stopped())
+void UserControl2::startSession() {
+    if (!stopped())
         return;
-    clock.resetStopwatch();
-    publishStopwatch();
-    c_ResetTimer.publish(1);
+    mouse.cancel();
+    newSession.start();
+}
+
+void UserControl2::switchEditing() {
+    mouse.cancel();
+    if (c_mapedit == 1)
+        marking.unmarkAll();
+}
+
+/// A wind to be drawn begins with the mouse's next press.
+void UserControl2::switchWind() {
+    if (windSetting.asked() == WindRequest::drawn)
+        mouse.pickWindTool();
+    else if (mouse.windTool())
+        mouse.cancel();
+    hand.switchWind();
+}
+
+void UserControl2::showPracticePanel() {
+    if (practicePanelSet && c_TrackDelta >= 0 && c_TrackDelta <= 3)
+        practicePanelSet(c_TrackDelta);
+    c_TrackDelta.publish(0);
+}
+
+void UserControl2::switchStation(Slot which, bool stationOn, bool dmeOn) {
+    StationProperties& station = slot(which);
+    station.dmeEnabled = dmeOn ? on : off;
+    station.enabled = stationOn ? on : off;
+    if (!stationOn && !dmeOn)
+        inSlot(stations, which).buttonDown = false;
+    scene.refresh();
+}
+
+void UserControl2::tellChanceWind(bool told) {
+    if (windSetting.tellChanceWind(told))
+        scene.showWindLabel();
+}
+
+bool UserControl2::undo() {
+    if (mouse.takeBack())
+        return true;
+    mouse.cancel();
+    return hand.undo();
+}
+
+bool UserControl2::redo() {
+    mouse.cancel();
+    return hand.redo();
 }
 
 } // namespace tarnel

@@ -1,87 +1,95 @@
-#include "core/number_text.h"
-#include "engine/user_control_2.h"
+#include "engine/wind_setting.h"
 
+#include "core/number_text.h"
+
+#include <algorithm>
 #include <utility>
 
 namespace tarnel {
 
 namespace {
 
-/// What `c_WindSetEN` asks for.
-constexpr std::int16_t noWind = 0;
-constexpr std::int16_t drawnWind = 1;
-constexpr std::int16_t chanceWind = 2;
-constexpr std::int16_t lastWindAgain = 3;
-
 constexpr int chanceStep = 5; ///< degrees and knots of a wind by chance
+
+/// `c_WindSetEN` of a wind that is put back.
+WindRequest requestOf(WindSource source) {
+    static constexpr WindRequest requests[] = {WindRequest::none, WindRequest::lastAgain,
+                                               WindRequest::byChance, WindRequest::recorded};
+    return requests[static_cast<std::size_t>(source)];
+}
 
 } // namespace
 
-void UserControl2::switchWind() {
-    if (c_WindSetEN != drawnWind && mouse.windTool())
-        mouse.cancel();
-    HandStep step = beginStep(Deed::setWind);
-    if (c_WindSetEN == noWind)
-        takeWind({}, WindSource::none);
-    else if (c_WindSetEN == lastWindAgain)
-        takeWind(lastWind, WindSource::byHand);
-    else if (c_WindSetEN == drawnWind)
-        mouse.pickWindTool();
-    else if (c_WindSetEN == chanceWind)
-        drawWindByChance();
-    publishWind();
-    finishStep(std::move(step));
+void WindSetting::takeAsked() {
+    if (asked() == WindRequest::none)
+        take({}, WindSource::none);
+    else if (asked() == WindRequest::lastAgain)
+        take(last, WindSource::byHand);
+    else if (asked() == WindRequest::byChance)
+        drawByChance();
+    tell();
 }
 
-void UserControl2::takeWind(const Wind& next, WindSource source) {
+void WindSetting::take(const Wind& next, WindSource from) {
     wind = next;
-    windSource = source;
+    source = from;
 }
 
-void UserControl2::randomize() {
-    if (const auto seed = clockSeed ? clockSeed() : std::nullopt)
-        random.seed(*seed);
-}
-
-/// The winds by chance of a session stay what they are when its replay brings them again. From 0
-/// to 350 degrees and 5 to 45 kt, in steps of 5.
-void UserControl2::drawWindByChance() {
-    randomize();
+/// From 0 to 350 degrees and 5 to 45 kt, in steps of 5.
+void WindSetting::drawByChance() {
+    RuntimeRandom& random = chance.draw();
     const double direction = random.below(71) * chanceStep;
     const auto speed = static_cast<std::int16_t>((random.below(9) + 1) * chanceStep);
-    lastWind = {direction, speed};
-    chanceWinds.push_back(lastWind);
-    takeWind(lastWind, WindSource::byChance);
+    last = {direction, speed};
+    chanceWinds.push_back(last);
+    take(last, WindSource::byChance);
 }
 
-void UserControl2::setWind(const Wind& next) {
-    HandStep step = beginStep(Deed::setWind);
-    step.joins = true;
-    lastWind = next;
-    takeWind(next, WindSource::byHand);
-    c_WindSetEN.publish(lastWindAgain);
-    publishWind();
-    finishStep(std::move(step));
+void WindSetting::takeByHand(const Wind& next) {
+    last = next;
+    take(next, WindSource::byHand);
+    tell();
 }
 
-void UserControl2::drawWind(const Wind& next) {
-    lastWind = next;
-    takeWind(next, WindSource::byHand);
-    publishWind();
+void WindSetting::chooseByHand(const Wind& next) {
+    takeByHand(next);
+    publish(WindRequest::lastAgain);
 }
 
-void UserControl2::tellChanceWind(bool told) {
-    if (std::exchange(chanceWindTold, told) != told)
-        showWindLabel();
+void WindSetting::takeRecorded(const Wind& next) {
+    const bool blows = next.speed != 0;
+    const bool byChance = std::ranges::find(chanceWinds, next) != chanceWinds.end();
+    take(next, !blows ? WindSource::none : byChance ? WindSource::byChance : WindSource::recorded);
+    if (blows)
+        last = next;
+    publish(next.direction > 0 && blows ? WindRequest::recorded : WindRequest::recordedWithZero);
+    tell();
 }
 
-void UserControl2::tellWind() {
-    c_wind.publish(numberText(wind.direction) + "/" + numberText(std::int64_t{wind.speed}));
+void WindSetting::calm() {
+    take({}, WindSource::none);
+    publish(WindRequest::none);
+    tell();
 }
 
-void UserControl2::publishWind() {
-    tellWind();
-    refresh();
+void WindSetting::putBack(const WindState& earlier) {
+    take(earlier.wind, earlier.source);
+    last = earlier.last;
+    publish(requestOf(source));
+    tell();
+}
+
+bool WindSetting::tellChanceWind(bool told) {
+    return std::exchange(chanceWindTold, told) != told;
+}
+
+void WindSetting::publish(WindRequest request) {
+    properties.c_WindSetEN.publish(static_cast<std::int16_t>(request));
+}
+
+void WindSetting::tell() {
+    properties.c_wind.publish(numberText(wind.direction) + "/" +
+                              numberText(std::int64_t{wind.speed}));
 }
 
 } // namespace tarnel

@@ -91,9 +91,7 @@ void Form1::connectDesks() {
 void Form1::connectSimulation() {
     UserControl11.placedByHand = [this] { replay.stop(); };
     UserControl11.practicePanelSet = [this](std::int16_t panel) { practice.showPanel(panel); };
-    UserControl11.mouse.headingDrawn = [this](std::int16_t heading) {
-        coupling.setHeadingBug(heading);
-    };
+    UserControl11.headingDrawn = [this](std::int16_t heading) { coupling.setHeadingBug(heading); };
 }
 
 /// A flight that came back is shown at the sample where it was.

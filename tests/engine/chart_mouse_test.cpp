@@ -78,7 +78,7 @@ TEST_F(ChartMouseTest, HeadingToolDrawsWholeDegrees) {
                                                                   {{3401, 2405}, 0, "000"}, // 359.8
                                                                   {{1405, 3405}, 270, "270"}};
     std::vector<std::int16_t> drawn;
-    sim.mouse.headingDrawn = [&](std::int16_t heading) { drawn.push_back(heading); };
+    sim.headingDrawn = [&](std::int16_t heading) { drawn.push_back(heading); };
     sim.mouse.down(ChartButton::right, {3405, 3405}); // on the aircraft: no direction
     EXPECT_TRUE(sim.picture.help.visible);
     EXPECT_TRUE(drawn.empty());

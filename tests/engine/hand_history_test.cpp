@@ -44,7 +44,7 @@ TEST_F(HandHistoryTest, EachDragIsOneStepThatIsTakenBackAndDoneAgain) {
         EXPECT_EQ(sim.history.undoable()->deed, deed);
     };
     std::int16_t bug = 0;
-    sim.mouse.headingDrawn = [&](std::int16_t heading) { sim.c_HDGbug = bug = heading; };
+    sim.headingDrawn = [&](std::int16_t heading) { sim.c_HDGbug = bug = heading; };
     drag(ChartButton::left, {3000, 3000}, {2000, 2500});
     did(Deed::placeAircraft);
     drag(ChartButton::right, {2000, 2500}, {4000, 3500});

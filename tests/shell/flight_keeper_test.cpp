@@ -232,7 +232,7 @@ TEST_F(FlightKeeperTest, ASituationSetUpByHandIsSavedAndFound) {
         form->inst2TypeList.pick(vor - 1);
         form->NAVControlFace1.c_SetFreq = 1;
         form->APControlFace1.c_TAS = 150.0;
-        sim().placeStation(Slot::ndb1, {3000, 2500});
+        sim().moveStation(Slot::ndb1, toSplit({49.2, 11.2}));
         couple();
         saveAs("task.ts");
         const std::string before = situation();
