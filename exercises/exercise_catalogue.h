@@ -45,11 +45,13 @@ struct ExerciseKind {
 
 /// A menu item: an exercise, and how the panel is set before its first question.
 struct ExerciseItem {
+    enum class Group { adfAndRmi, hsiAndVor, alone };
     enum class Size { asItIs, small, largeHsi };
 
     const char* name;
     Text text;
     ExerciseType type;
+    Group group;                              ///< the sub menu, if it stands in one
     std::optional<InstrumentKind> inst2 = {}; ///< nothing: as it is
     std::optional<InstrumentKind> inst3 = {};
     Size size = Size::asItIs;

@@ -64,12 +64,12 @@ void ChartDisplay::cycleRadialLines() {
 
 void ChartDisplay::stepScale(int steps) {
     const std::span offered(MapView::offeredScales);
-    std::int16_t scale = sim.c_MAPscale;
-    for (; steps > 0 && scale < offered.back(); --steps)
-        scale = *std::upper_bound(offered.begin(), offered.end(), scale);
-    for (; steps < 0 && scale > offered.front(); ++steps)
-        scale = *std::prev(std::lower_bound(offered.begin(), offered.end(), scale));
-    setScale(scale);
+    std::int16_t next = scale();
+    for (; steps > 0 && next < offered.back(); --steps)
+        next = *std::upper_bound(offered.begin(), offered.end(), next);
+    for (; steps < 0 && next > offered.front(); ++steps)
+        next = *std::prev(std::lower_bound(offered.begin(), offered.end(), next));
+    setScale(next);
 }
 
 void ChartDisplay::setScale(std::int16_t twipsPerMile) {

@@ -23,7 +23,13 @@ class ChartDisplay {
     /// a scale between them the first step goes to the next one.
     void stepScale(int steps);
     /// Twips per NM.
+    [[nodiscard]] std::int16_t scale() const { return sim.c_MAPscale; }
     void setScale(std::int16_t twipsPerMile);
+    /// NM from edge to edge at a scale.
+    [[nodiscard]] double milesAcross(std::int16_t twipsPerMile) const {
+        return sim.picture.size / twipsPerMile;
+    }
+    [[nodiscard]] bool northUp() const { return sim.c_MAPnorthUP == 1; }
     /// Does nothing where the heading must not be up.
     void setNorthUp(bool northUp);
     /// A chart under the heading would tell where a hidden aircraft is.

@@ -15,6 +15,7 @@ class WindDesk {
     WindDesk(UserControl2& simulation, TrainerControls& controls, ChartDisplay& chartDisplay,
              const StringTable& table);
 
+    [[nodiscard]] const Wind& present() const { return sim.wind; }
     /// Degrees that the wind comes from, and knots.
     void setManual(double direction, std::int16_t speed) { sim.setWind({direction, speed}); }
     /// None, by hand, by chance.

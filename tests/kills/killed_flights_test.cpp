@@ -49,7 +49,7 @@ int flyUntilEnded(const std::string& folder, int seconds, int report) {
     QCoreApplication application(count, words);
     SilentWorld world;
     Form1 form(englishTable(), world, TARNEL_DATA_FOLDER);
-    FlightGuard guard(form, QString::fromStdString(folder));
+    FlightGuard guard(form.flightDesk.keeper, QString::fromStdString(folder));
     form.rateQuadruple.choose();
     form.startButton.click();
     const auto fly = [&] {

@@ -17,7 +17,7 @@ class FlightSignsTest : public Student {
         guard.reset();
         window.reset();
         open(texts);
-        guard = std::make_unique<FlightGuard>(*form, folder.path() + "/flights");
+        guard = std::make_unique<FlightGuard>(form->flightDesk.keeper, folder.path() + "/flights");
         settle();
     }
     void flyAMinute() {

@@ -1,9 +1,9 @@
 #include "window/chart/chart_controls.h"
 
 #include "window/chart/view_switch.h"
-#include "window/widgets/form_binding.h"
 #include "window/widgets/icons.h"
 #include "window/widgets/look.h"
+#include "window/widgets/text_of.h"
 
 #include <QHBoxLayout>
 #include <QToolButton>
@@ -18,11 +18,12 @@ constexpr int zoomGap = 4;
 
 } // namespace
 
-ChartControls::ChartControls(Form1& owner, QWidget* parent) : QWidget(parent), form(owner) {
+ChartControls::ChartControls(ChartDisplay& chartDisplay, BoxDesk& boxDesk, QWidget* parent)
+    : QWidget(parent), display(chartDisplay), boxes(boxDesk) {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(0);
-    views = new ViewSwitch(form, this);
+    views = new ViewSwitch(display, boxes, this);
     row->addWidget(views);
     row->addStretch(1);
     zoomOut = addZoom("ZoomOut", Text::zoomOut, Text::zoomOutTip, -1);
@@ -38,10 +39,10 @@ ChartControls::ChartControls(Form1& owner, QWidget* parent) : QWidget(parent), f
 QToolButton* ChartControls::addZoom(const char* name, Text caption, Text tip, int steps) {
     auto* button = new QToolButton(this);
     button->setObjectName(QString::fromLatin1(name));
-    button->setAccessibleName(textOf(form.texts, caption));
-    button->setToolTip(textOf(form.texts, tip));
+    button->setAccessibleName(textOf(boxes.texts, caption));
+    button->setToolTip(textOf(boxes.texts, tip));
     connect(button, &QToolButton::clicked, this,
-            [this, steps] { form.guarded([&] { form.display.stepScale(steps); }); });
+            [this, steps] { boxes.guarded([&] { display.stepScale(steps); }); });
     return button;
 }
 
@@ -54,7 +55,7 @@ void ChartControls::resizeEvent(QResizeEvent* /*event*/) {
 
 void ChartControls::refresh() {
     views->refresh();
-    const int scale = form.UserControl11.c_MAPscale;
+    const int scale = display.scale();
     if (scale == shownScale)
         return;
     shownScale = scale;

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "shell/form_1.h"
+#include "shell/box_desk.h"
+#include "shell/chart_display.h"
 
 #include <QWidget>
 
@@ -15,7 +16,7 @@ class ChartControls : public QWidget {
     Q_OBJECT
 
   public:
-    explicit ChartControls(Form1& form, QWidget* parent = nullptr);
+    ChartControls(ChartDisplay& chartDisplay, BoxDesk& boxDesk, QWidget* parent = nullptr);
 
     /// Shows the present view.
     void refresh();
@@ -26,7 +27,8 @@ class ChartControls : public QWidget {
   private:
     QToolButton* addZoom(const char* name, Text caption, Text tip, int steps);
 
-    Form1& form;
+    ChartDisplay& display;
+    BoxDesk& boxes;
     ViewSwitch* views = nullptr;
     QToolButton* zoomOut = nullptr;
     QToolButton* zoomIn = nullptr;

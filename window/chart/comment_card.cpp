@@ -32,8 +32,15 @@ void keepPlace(QWidget& widget) {
 
 } // namespace
 
-CommentCard::CommentCard(Form1& owner, FormBinding& links, QWidget* parent)
-    : QWidget(parent), form(owner), binding(links) {
+CommentCard::CommentCard(CommentPanel& commentControls, PracticePanel& practiceControls,
+                         const Comments& sessionComments, BoxDesk& boxDesk, FormBinding& links,
+                         QWidget* parent)
+    : QWidget(parent),
+      commentPanel(commentControls),
+      practicePanel(practiceControls),
+      comments(sessionComments),
+      boxes(boxDesk),
+      binding(links) {
     auto* sections = new QVBoxLayout(this);
     sections->setContentsMargins(look::cardInset, look::gap, look::cardInset, look::gap);
     sections->setSpacing(sectionGap);
@@ -50,7 +57,7 @@ QWidget* CommentCard::makeComment() {
     mark = new QLabel(QStringLiteral("▸"), row);
     mark->setObjectName(QStringLiteral("Text3"));
     mark->setProperty("comment", true);
-    mark->setAccessibleName(textOf(form.texts, Text::commentMark));
+    mark->setAccessibleName(textOf(boxes.texts, Text::commentMark));
     keepPlace(*mark);
     across->addWidget(mark, 0, Qt::AlignTop);
     place = new QScrollArea(row);
@@ -63,7 +70,7 @@ QWidget* CommentCard::makeComment() {
     comment->setProperty("comment", true);
     comment->setWordWrap(true);
     comment->setAlignment(Qt::AlignTop | Qt::AlignLeft);
-    binding.bind(form.commentPanel.comment, *comment);
+    binding.bind(commentPanel.comment, *comment);
     place->setWidget(comment);
     across->addWidget(place, 1);
     return row;
@@ -78,14 +85,14 @@ void CommentCard::addButtons(QBoxLayout& row, std::initializer_list<CommandButto
 }
 
 QWidget* CommentCard::makeWriter() {
-    CommentPanel& panel = form.commentPanel;
+    CommentPanel& panel = commentPanel;
     auto* section = new QWidget(this);
     auto* rows = new QVBoxLayout(section);
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(buttonGap);
     auto* entry = new QHBoxLayout;
     entry->setSpacing(buttonGap);
-    auto* numberCaption = new QLabel(textOf(form.texts, Text::commentNumber), section);
+    auto* numberCaption = new QLabel(textOf(boxes.texts, Text::commentNumber), section);
     numberCaption->setProperty("secondary", true);
     entry->addWidget(numberCaption);
     auto* number = new QLabel(section);
@@ -94,11 +101,11 @@ QWidget* CommentCard::makeWriter() {
     entry->addWidget(number);
     auto* text = new QLineEdit(section);
     text->setMaxLength(Comments::longestText);
-    text->setPlaceholderText(textOf(form.texts, Text::comment));
+    text->setPlaceholderText(textOf(boxes.texts, Text::comment));
     section->setFocusProxy(text);
     binding.bind(panel.text, *text);
     connect(text, &QLineEdit::returnPressed, this,
-            [this] { form.guarded([this] { form.commentPanel.startStop.click(); }); });
+            [this] { boxes.guarded([this] { commentPanel.startStop.click(); }); });
     entry->addWidget(text, 1);
     addButtons(*entry, {&panel.startStop});
     rows->addLayout(entry);
@@ -112,12 +119,12 @@ QWidget* CommentCard::makeWriter() {
 }
 
 QWidget* CommentCard::makePractice() {
-    PracticePanel& panel = form.practicePanel;
+    PracticePanel& panel = practicePanel;
     auto* section = new QWidget(this);
     section->setObjectName(QStringLiteral("Frame2"));
     auto* row = new QHBoxLayout(section);
     row->setContentsMargins(0, 0, 0, 0);
-    auto* name = new QLabel(textOf(form.texts, *panel.frame.caption()), section);
+    auto* name = new QLabel(textOf(boxes.texts, *panel.frame.caption()), section);
     name->setProperty("secondary", true);
     row->addWidget(name);
     row->addWidget(segmentRow(binding, {&panel.keep, &panel.recall}, section), 1);
@@ -125,18 +132,18 @@ QWidget* CommentCard::makePractice() {
 }
 
 void CommentCard::refresh() {
-    const bool written = form.commentPanel.comment.visible();
-    const bool writes = form.commentPanel.write.value() == 1;
+    const bool written = commentPanel.comment.visible();
+    const bool writes = commentPanel.write.value() == 1;
     commentRow->setVisible(written);
-    mark->setVisible(written && form.commentPanel.mark.visible());
+    mark->setVisible(written && commentPanel.mark.visible());
     const bool opens = writes && writer->isHidden();
     writer->setVisible(writes);
     if (opens)
         writer->setFocus();
-    practice->setVisible(form.practicePanel.frame.visible());
-    practice->setEnabled(form.practicePanel.frame.enabled());
+    practice->setVisible(practicePanel.frame.visible());
+    practice->setEnabled(practicePanel.frame.enabled());
     const QString spoken =
-        textOf(form.texts, Text::comment) + QStringLiteral(": ") + comment->text();
+        textOf(boxes.texts, Text::comment) + QStringLiteral(": ") + comment->text();
     if (written && place->accessibleName() != spoken)
         place->setAccessibleName(spoken);
 }
@@ -144,15 +151,14 @@ void CommentCard::refresh() {
 std::size_t CommentCard::lettersOfComments() const {
     std::size_t letters = 0;
     for (int i = 0; i < Comments::count; ++i)
-        letters += form.UserControl11.comments.text(i).size();
+        letters += comments.text(i).size();
     return letters;
 }
 
 std::size_t CommentCard::contents() const {
     const auto flag = [](bool value) -> std::size_t { return value ? 1 : 0; };
-    return lettersOfComments() * 8 + flag(form.commentPanel.comment.visible()) * 4 +
-           flag(form.commentPanel.write.value() == 1) * 2 +
-           flag(form.practicePanel.frame.visible());
+    return lettersOfComments() * 8 + flag(commentPanel.comment.visible()) * 4 +
+           flag(commentPanel.write.value() == 1) * 2 + flag(practicePanel.frame.visible());
 }
 
 int CommentCard::commentHeight(int width) const {
@@ -168,8 +174,8 @@ int CommentCard::commentHeight(int width) const {
         tallest = std::max(tallest, taken.height());
     };
     for (int i = 0; i < Comments::count; ++i)
-        measure(form.UserControl11.comments.text(i));
-    measure(form.commentPanel.comment.text());
+        measure(comments.text(i));
+    measure(commentPanel.comment.text());
     const int line = metrics.lineSpacing();
     return std::clamp(tallest, line, mostLines * line) + 2;
 }

@@ -1,6 +1,8 @@
 #pragma once
 
-#include "shell/form_1.h"
+#include "core/comments.h"
+#include "shell/box_desk.h"
+#include "shell/strip_controls.h"
 #include "window/widgets/form_binding.h"
 
 #include <QWidget>
@@ -19,7 +21,9 @@ class CommentCard : public QWidget {
     Q_OBJECT
 
   public:
-    CommentCard(Form1& form, FormBinding& binding, QWidget* parent = nullptr);
+    CommentCard(CommentPanel& commentControls, PracticePanel& practiceControls,
+                const Comments& sessionComments, BoxDesk& boxDesk, FormBinding& binding,
+                QWidget* parent = nullptr);
 
     void refresh();
 
@@ -44,7 +48,10 @@ class CommentCard : public QWidget {
     [[nodiscard]] int commentHeight(int width) const;
     [[nodiscard]] int heightWith(int commentHeight) const;
 
-    Form1& form;
+    CommentPanel& commentPanel;
+    PracticePanel& practicePanel;
+    const Comments& comments;
+    BoxDesk& boxes;
     FormBinding& binding;
     QWidget* commentRow = nullptr;
     QLabel* mark = nullptr;

@@ -21,7 +21,8 @@ QString milesText(std::int16_t twipsPerMile) {
 
 } // namespace
 
-ScaleChoice::ScaleChoice(Form1& owner, QWidget* parent) : QWidget(parent), form(owner) {
+ScaleChoice::ScaleChoice(ChartDisplay& chartDisplay, BoxDesk& boxDesk, QWidget* parent)
+    : QWidget(parent), display(chartDisplay), boxes(boxDesk) {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(0);
@@ -36,13 +37,13 @@ QPushButton* ScaleChoice::addScale(std::size_t index) {
     button->setText(milesText(scale));
     button->setObjectName(QStringLiteral("Scale_%1").arg(scale));
     button->setProperty("segment", index == 0 ? "first" : index == count - 1 ? "last" : "middle");
-    const auto across = static_cast<int>(std::lround(form.UserControl11.picture.size / scale));
-    button->setToolTip(textOf(form.texts, Text::chartScaleTip).arg(across));
-    button->setAccessibleName(textOf(form.texts, Text::chartScale) + QLatin1Char(' ') +
+    const auto across = static_cast<int>(std::lround(display.milesAcross(scale)));
+    button->setToolTip(textOf(boxes.texts, Text::chartScaleTip).arg(across));
+    button->setAccessibleName(textOf(boxes.texts, Text::chartScale) + QLatin1Char(' ') +
                               button->text() + QLatin1Char(' ') +
-                              textOf(form.texts, Text::unitNauticalMiles));
+                              textOf(boxes.texts, Text::unitNauticalMiles));
     connect(button, &QPushButton::clicked, this, [this, scale] {
-        form.guarded([&] { form.display.setScale(scale); });
+        boxes.guarded([&] { display.setScale(scale); });
         shown = 0;
         refresh();
     });
@@ -50,7 +51,7 @@ QPushButton* ScaleChoice::addScale(std::size_t index) {
 }
 
 void ScaleChoice::refresh() {
-    const int scale = form.UserControl11.c_MAPscale;
+    const int scale = display.scale();
     if (scale == shown)
         return;
     shown = scale;

@@ -1,7 +1,8 @@
 #pragma once
 
 #include "chart/map_view.h"
-#include "shell/form_1.h"
+#include "shell/box_desk.h"
+#include "shell/chart_display.h"
 
 #include <QWidget>
 
@@ -17,7 +18,7 @@ class ScaleChoice : public QWidget {
     Q_OBJECT
 
   public:
-    explicit ScaleChoice(Form1& form, QWidget* parent = nullptr);
+    ScaleChoice(ChartDisplay& chartDisplay, BoxDesk& boxDesk, QWidget* parent = nullptr);
 
     /// Shows the present scale; one that is not offered leaves all segments flat.
     void refresh();
@@ -27,7 +28,8 @@ class ScaleChoice : public QWidget {
 
     QPushButton* addScale(std::size_t index);
 
-    Form1& form;
+    ChartDisplay& display;
+    BoxDesk& boxes;
     std::array<QPushButton*, count> segments{};
     int shown = 0;
 };

@@ -38,8 +38,8 @@ Text switchName(Slot slot) {
 
 } // namespace
 
-StationDialog::StationDialog(Form1& owner, Slot slot, QWidget* parent)
-    : QDialog(parent), form(owner), edit(owner.stationDesk.toEdit(slot)) {
+StationDialog::StationDialog(StationDesk& stationDesk, BoxDesk& boxDesk, Slot slot, QWidget* parent)
+    : QDialog(parent), desk(stationDesk), boxes(boxDesk), edit(stationDesk.toEdit(slot)) {
     setObjectName(QStringLiteral("station_edit"));
     setWindowTitle(text(editorTitle(slot)));
     setModal(true);
@@ -64,7 +64,7 @@ StationDialog::StationDialog(Form1& owner, Slot slot, QWidget* parent)
 }
 
 QString StationDialog::text(Text id) const {
-    return textOf(form.texts, id);
+    return textOf(boxes.texts, id);
 }
 
 /// A name ends at "@" in the files.
@@ -145,7 +145,7 @@ StationEdit StationDialog::entered() const {
 
 void StationDialog::accept() {
     bool taken = false;
-    form.guarded([&] { taken = form.stationDesk.apply(entered()); });
+    boxes.guarded([&] { taken = desk.apply(entered()); });
     if (taken)
         return QDialog::accept();
     frequency->setFocus();

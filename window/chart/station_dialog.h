@@ -1,6 +1,7 @@
 #pragma once
 
-#include "shell/form_1.h"
+#include "shell/box_desk.h"
+#include "shell/station_desk.h"
 
 #include <QDialog>
 
@@ -19,7 +20,7 @@ class StationDialog : public QDialog {
     Q_OBJECT
 
   public:
-    StationDialog(Form1& form, Slot slot, QWidget* parent);
+    StationDialog(StationDesk& stationDesk, BoxDesk& boxDesk, Slot slot, QWidget* parent);
 
     void accept() override;
 
@@ -31,7 +32,8 @@ class StationDialog : public QDialog {
     [[nodiscard]] StationEdit entered() const;
     [[nodiscard]] QString text(Text id) const;
 
-    Form1& form;
+    StationDesk& desk;
+    BoxDesk& boxes;
     StationEdit edit;
     QLineEdit* name = nullptr;
     QLineEdit* frequency = nullptr;

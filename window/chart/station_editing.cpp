@@ -8,38 +8,39 @@
 
 namespace tarnel {
 
-StationEditing::StationEditing(Form1& owner, ChartView& chart) : form(owner), view(chart) {
+StationEditing::StationEditing(StationDesk& stationDesk, StationPage& controls, BoxDesk& boxDesk,
+                               ChartView& chart)
+    : desk(stationDesk), page(controls), boxes(boxDesk), view(chart) {
     chart.onEditStation = [this](Slot slot) { edit(slot); };
     chart.onStationMenu = [this](std::optional<Slot> slot, QPoint at) { showMenu(slot, at); };
 }
 
 void StationEditing::edit(Slot slot) {
-    auto* dialog = new StationDialog(form, slot, view.window());
+    auto* dialog = new StationDialog(desk, boxes, slot, view.window());
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->open();
 }
 
 void StationEditing::addEditor(QMenu& menu, Slot slot) {
-    const QString station = QString::fromStdString(form.UserControl11.slot(slot).name);
-    QAction* action = menu.addAction(textOf(form.texts, Text::editStation) + QLatin1Char(' ') +
+    const QString station = QString::fromStdString(desk.toEdit(slot).name);
+    QAction* action = menu.addAction(textOf(boxes.texts, Text::editStation) + QLatin1Char(' ') +
                                      QString(station).replace('&', "&&"));
     QObject::connect(action, &QAction::triggered, &menu, [this, slot] { edit(slot); });
 }
 
 /// The switches are those of the strip's page.
 void StationEditing::addSwitches(QMenu& menu, Slot slot) {
-    const StationPage::Switches switches =
-        form.stationPage.switches()[static_cast<std::size_t>(slot)];
+    const StationPage::Switches switches = page.switches()[static_cast<std::size_t>(slot)];
     for (CheckBox* box : {switches.station, switches.dme}) {
         if (!box)
             continue;
-        QAction* action = menu.addAction(textOf(form.texts, *box->caption()));
+        QAction* action = menu.addAction(textOf(boxes.texts, *box->caption()));
         action->setObjectName(
             QString::fromUtf8(box->name().data(), static_cast<qsizetype>(box->name().size())));
         action->setCheckable(true);
         action->setChecked(box->value() == 1);
         QObject::connect(action, &QAction::triggered, &menu,
-                         [this, box] { form.guarded([box] { box->click(); }); });
+                         [this, box] { boxes.guarded([box] { box->click(); }); });
     }
 }
 

@@ -1,6 +1,8 @@
 #pragma once
 
-#include "shell/form_1.h"
+#include "shell/box_desk.h"
+#include "shell/station_desk.h"
+#include "shell/strip_controls.h"
 
 #include <QPoint>
 
@@ -15,7 +17,8 @@ class ChartView;
 /// `StationEditing`: the station editor and the context menu of stations, for a chart view.
 class StationEditing {
   public:
-    StationEditing(Form1& form, ChartView& chart);
+    StationEditing(StationDesk& stationDesk, StationPage& controls, BoxDesk& boxDesk,
+                   ChartView& chart);
 
     /// Opens the editor.
     void edit(Slot slot);
@@ -26,7 +29,9 @@ class StationEditing {
     void addEditor(QMenu& menu, Slot slot);
     void addSwitches(QMenu& menu, Slot slot);
 
-    Form1& form;
+    StationDesk& desk;
+    StationPage& page;
+    BoxDesk& boxes;
     ChartView& view;
 };
 

@@ -4,10 +4,11 @@
 
 namespace tarnel {
 
-QWidget* vectorBox(Form1& form, FormBinding& binding, QWidget* parent) {
+QWidget* vectorBox(CheckBox& control, ChartDisplay& display, FormBinding& binding,
+                   QWidget* parent) {
     auto* box = new TickBox(parent);
     box->setTristate(true);
-    binding.bind(form.chartPage.vectors, *box, [&form] { form.pressKey('V'); });
+    binding.bind(control, *box, [&display] { display.stepVectors(); });
     return box;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/form_1.h"
+#include "shell/chart_display.h"
 #include "window/widgets/form_binding.h"
 
 class QWidget;
@@ -9,6 +9,7 @@ namespace tarnel {
 
 /// A box for the vectors on the chart. Like their key, a click goes through the three states: none,
 /// the wind triangle, the turns ahead.
-[[nodiscard]] QWidget* vectorBox(Form1& form, FormBinding& binding, QWidget* parent);
+[[nodiscard]] QWidget* vectorBox(CheckBox& control, ChartDisplay& display, FormBinding& binding,
+                                 QWidget* parent);
 
 } // namespace tarnel

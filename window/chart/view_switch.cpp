@@ -14,7 +14,8 @@ constexpr int segmentPadding = 20;
 
 } // namespace
 
-ViewSwitch::ViewSwitch(Form1& owner, QWidget* parent) : QWidget(parent), form(owner) {
+ViewSwitch::ViewSwitch(ChartDisplay& chartDisplay, BoxDesk& boxDesk, QWidget* parent)
+    : QWidget(parent), display(chartDisplay), boxes(boxDesk) {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(0);
@@ -27,26 +28,26 @@ ViewSwitch::ViewSwitch(Form1& owner, QWidget* parent) : QWidget(parent), form(ow
 
 QPushButton* ViewSwitch::addView(const char* name, const char* segment, Text caption, bool up) {
     auto* button = new ChoiceButton(segmentPadding, this);
-    button->setText(textOf(form.texts, caption));
+    button->setText(textOf(boxes.texts, caption));
     button->setObjectName(QString::fromLatin1(name));
     button->setProperty("segment", segment);
-    button->setToolTip(textOf(form.texts, Text::chartViewTip));
+    button->setToolTip(textOf(boxes.texts, Text::chartViewTip));
     connect(button, &QPushButton::clicked, this, [this, up] {
-        form.guarded([&] { form.display.setNorthUp(up); });
-        shownView = -1;
+        boxes.guarded([&] { display.setNorthUp(up); });
+        shownNorthUp.reset();
         refresh();
     });
     return button;
 }
 
 void ViewSwitch::refresh() {
-    headingUp->setEnabled(form.display.mayTurnHeadingUp());
-    const int view = form.UserControl11.c_MAPnorthUP;
-    if (view == shownView)
+    headingUp->setEnabled(display.mayTurnHeadingUp());
+    const bool up = display.northUp();
+    if (up == shownNorthUp)
         return;
-    shownView = view;
-    northUp->setChecked(view == 1);
-    headingUp->setChecked(view != 1);
+    shownNorthUp = up;
+    northUp->setChecked(up);
+    headingUp->setChecked(!up);
 }
 
 } // namespace tarnel

@@ -1,8 +1,11 @@
 #pragma once
 
-#include "shell/form_1.h"
+#include "shell/box_desk.h"
+#include "shell/chart_display.h"
 
 #include <QWidget>
+
+#include <optional>
 
 class QPushButton;
 
@@ -13,7 +16,7 @@ class ViewSwitch : public QWidget {
     Q_OBJECT
 
   public:
-    explicit ViewSwitch(Form1& form, QWidget* parent = nullptr);
+    ViewSwitch(ChartDisplay& chartDisplay, BoxDesk& boxDesk, QWidget* parent = nullptr);
 
     /// Shows the present view.
     void refresh();
@@ -21,10 +24,11 @@ class ViewSwitch : public QWidget {
   private:
     QPushButton* addView(const char* name, const char* segment, Text caption, bool northUp);
 
-    Form1& form;
+    ChartDisplay& display;
+    BoxDesk& boxes;
     QPushButton* northUp = nullptr;
     QPushButton* headingUp = nullptr;
-    int shownView = -1;
+    std::optional<bool> shownNorthUp;
 };
 
 } // namespace tarnel

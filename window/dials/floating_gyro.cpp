@@ -17,32 +17,33 @@ constexpr int margin = 6;
 
 } // namespace
 
-additional_DG::additional_DG(Form1& owner, PictureStore& pictures, QWidget* parent)
-    : QWidget(parent, Qt::Tool), form(owner) {
+additional_DG::additional_DG(PanelControls& controls, const ExerciseConduct& conduct,
+                             BoxDesk& boxDesk, PictureStore& pictures, QWidget* parent)
+    : QWidget(parent, Qt::Tool), panel(controls), exercise(conduct), boxes(boxDesk) {
     setObjectName(QStringLiteral("additional_DG"));
-    setWindowTitle(textOf(form.texts, Text::floatingGyro));
-    gyro = new InstrumentView(form.UserControl_DG, pictures, form.texts, this);
-    gyro->guard = [this](const std::function<void()>& action) { form.guarded(action); };
-    plate = new CoverPlate(form.texts, this);
+    setWindowTitle(textOf(boxes.texts, Text::floatingGyro));
+    gyro = new InstrumentView(panel.UserControl_DG, pictures, boxes.texts, this);
+    gyro->guard = [this](const std::function<void()>& action) { boxes.guarded(action); };
+    plate = new CoverPlate(boxes.texts, this);
     resize(startSize, startSize);
     setMinimumSize(smallestSize, smallestSize);
 }
 
 void additional_DG::refresh() {
-    const bool wanted = form.floatingGyroBox.value() == 1;
+    const bool wanted = panel.floatingGyroBox.value() == 1;
     if (wanted != isVisible())
         setVisible(wanted);
     if (!wanted)
         return;
-    const QuestionCover cover = form.exercise.cover();
+    const QuestionCover cover = exercise.cover();
     gyro->setVisible(!cover.instruments);
     plate->setVisible(cover.instruments);
-    plate->setReason(textOf(form.texts, cover.reason));
+    plate->setReason(textOf(boxes.texts, cover.reason));
     gyro->refresh();
 }
 
 void additional_DG::closeEvent(QCloseEvent* event) {
-    form.setFloatingGyroOpen(false);
+    panel.floatingGyroBox.set(0);
     event->accept();
 }
 

@@ -1,6 +1,8 @@
 #pragma once
 
-#include "shell/form_1.h"
+#include "shell/box_desk.h"
+#include "shell/exercise_conduct.h"
+#include "shell/panel_controls.h"
 #include "window/dials/instrument_view.h"
 #include "window/widgets/picture_store.h"
 
@@ -15,7 +17,8 @@ class additional_DG : public QWidget {
     Q_OBJECT
 
   public:
-    additional_DG(Form1& form, PictureStore& pictures, QWidget* parent = nullptr);
+    additional_DG(PanelControls& controls, const ExerciseConduct& conduct, BoxDesk& boxDesk,
+                  PictureStore& pictures, QWidget* parent = nullptr);
 
     /// Shows or hides the window as the form wants it, and brings the gyro up to date.
     void refresh();
@@ -26,7 +29,9 @@ class additional_DG : public QWidget {
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    Form1& form;
+    PanelControls& panel;
+    const ExerciseConduct& exercise;
+    BoxDesk& boxes;
     InstrumentView* gyro = nullptr;
     CoverPlate* plate = nullptr; ///< over it where a question covers instruments
 };

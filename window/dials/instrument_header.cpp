@@ -24,9 +24,9 @@ double signScale(bool brief) {
 
 } // namespace
 
-InstrumentHeader::InstrumentHeader(Form1& owner, HeaderControls own, FormBinding& binding,
-                                   QWidget* parent)
-    : QWidget(parent), form(owner), controls(own) {
+InstrumentHeader::InstrumentHeader(const HeaderControls& own, BoxDesk& boxDesk,
+                                   FormBinding& binding, QWidget* parent)
+    : QWidget(parent), controls(own), boxes(boxDesk) {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(3);
@@ -61,18 +61,18 @@ QToolButton* InstrumentHeader::addToggle(QHBoxLayout& row) {
 /// One toggle stands for the two size options.
 void InstrumentHeader::followSize(QToolButton& button) {
     button.setObjectName(QStringLiteral("Size_") + controls.links.typeList.name().data());
-    button.setToolTip(textOf(form.texts, Text::largeDisplayTip));
-    button.setAccessibleName(textOf(form.texts, Text::largeDisplay));
+    button.setToolTip(textOf(boxes.texts, Text::largeDisplayTip));
+    button.setAccessibleName(textOf(boxes.texts, Text::largeDisplay));
     connect(&button, &QToolButton::clicked, this, [this](bool large) {
-        form.guarded([&] { (large ? controls.largeSize : controls.smallSize).click(); });
+        boxes.guarded([&] { (large ? controls.largeSize : controls.smallSize).click(); });
     });
 }
 
 void InstrumentHeader::refresh() {
     const InstrumentPosition& position = controls.links.position;
     overlay->setVisible(position.type == hsi);
-    auto next =
-        instrumentLegend(form.texts, position, form.positions.feedSources(), form.exercise.cover());
+    auto next = instrumentLegend(boxes.texts, position, controls.positions.feedSources(),
+                                 controls.exercise.cover());
     if (next == legend)
         return;
     legend = std::move(next);

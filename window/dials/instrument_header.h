@@ -1,7 +1,9 @@
 #pragma once
 
-#include "shell/form_1.h"
+#include "shell/box_desk.h"
+#include "shell/exercise_conduct.h"
 #include "shell/instrument_legend.h"
+#include "shell/instrument_positions.h"
 #include "window/widgets/form_binding.h"
 
 #include <QWidget>
@@ -14,11 +16,13 @@ class QToolButton;
 
 namespace tarnel {
 
-/// The controls that belong to one instrument position.
+/// What belongs to one instrument position, and what its legend asks.
 struct HeaderControls {
     const PositionLinks& links;
     OptionButton& smallSize;
     OptionButton& largeSize;
+    InstrumentPositions& positions;
+    const ExerciseConduct& exercise;
 };
 
 /// `InstrumentHeader`: what stands above an instrument: its kind, what it shows on the chart, its
@@ -27,7 +31,7 @@ class InstrumentHeader : public QWidget {
     Q_OBJECT
 
   public:
-    InstrumentHeader(Form1& form, HeaderControls controls, FormBinding& binding,
+    InstrumentHeader(const HeaderControls& own, BoxDesk& boxDesk, FormBinding& binding,
                      QWidget* parent = nullptr);
 
     /// Brings the legend up to date.
@@ -44,8 +48,8 @@ class InstrumentHeader : public QWidget {
     [[nodiscard]] int legendWidth(bool brief, const QFontMetrics& metrics) const;
     void paintPart(QPainter& painter, std::size_t part, bool brief, int left) const;
 
-    Form1& form;
     HeaderControls controls;
+    BoxDesk& boxes;
     std::vector<LegendPart> legend;
     QToolButton* overlay = nullptr;
     QToolButton* toggles = nullptr; ///< the last of them

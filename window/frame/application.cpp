@@ -113,7 +113,7 @@ int runApplication(int argc, char** argv, const StringTable& texts) {
     window.startTimers();
     std::optional<FlightGuard> guard;
     QTimer::singleShot(0, &window, [&] {
-        guard.emplace(form, userDataFolder() + QStringLiteral("/flights"));
+        guard.emplace(form.flightDesk.keeper, userDataFolder() + QStringLiteral("/flights"));
         openIn(file);
     });
     return QApplication::exec();

@@ -1,6 +1,7 @@
 #include "window/frame/file_opener.h"
 
-#include "shell/form_1.h"
+#include "shell/box_desk.h"
+#include "shell/file_desk.h"
 
 #include <QApplication>
 #include <QDropEvent>
@@ -27,7 +28,8 @@ std::string droppedFile(const QDropEvent& event) {
 
 } // namespace
 
-FileOpener::FileOpener(Form1& owner, QWidget& window) : QObject(&window), form(owner) {
+FileOpener::FileOpener(FileDesk& fileDesk, BoxDesk& boxDesk, QWidget& window)
+    : QObject(&window), files(fileDesk), boxes(boxDesk) {
     window.setAcceptDrops(true);
     window.installEventFilter(this);
 }
@@ -37,7 +39,7 @@ void FileOpener::open(const std::string& path) {
         QTimer::singleShot(waitMilliseconds, this, [this, path] { open(path); });
         return;
     }
-    form.guarded([&] { form.files.openFile(path); });
+    boxes.guarded([&] { files.openFile(path); });
 }
 
 /// The file manager waits for the end of a drop, so what may show a box comes after it.

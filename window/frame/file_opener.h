@@ -8,7 +8,8 @@ class QWidget;
 
 namespace tarnel {
 
-class Form1;
+class BoxDesk;
+class FileDesk;
 
 /// `FileOpener`: opens charts and sessions that come from outside the menus: dropped on the window,
 /// named when the program is started, or handed over by a second start. While a box or a dialog is
@@ -18,7 +19,7 @@ class FileOpener : public QObject {
 
   public:
     /// Takes drops on `window`.
-    FileOpener(Form1& form, QWidget& window);
+    FileOpener(FileDesk& fileDesk, BoxDesk& boxDesk, QWidget& window);
 
     /// `path` is absolute, in the bytes that the system has for it.
     void open(const std::string& path);
@@ -27,7 +28,8 @@ class FileOpener : public QObject {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    Form1& form;
+    FileDesk& files;
+    BoxDesk& boxes;
 };
 
 } // namespace tarnel

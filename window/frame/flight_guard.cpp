@@ -1,24 +1,23 @@
 #include "window/frame/flight_guard.h"
 
-#include "shell/form_1.h"
+#include "shell/flight_keeper.h"
 
 #include <QCoreApplication>
 
 namespace tarnel {
 
-FlightGuard::FlightGuard(Form1& owner, const QString& folder)
-    : form(owner), endings([this] {
-          form.flightDesk.keeper.putAside();
+FlightGuard::FlightGuard(FlightKeeper& flightKeeper, const QString& folder)
+    : keeper(flightKeeper), endings([this] {
+          keeper.putAside();
           QCoreApplication::exit(0);
       }) {
-    form.flightDesk.keeper.useShelf(folder.toStdString());
-    QObject::connect(&copies, &QTimer::timeout, &copies,
-                     [this] { form.flightDesk.keeper.keepCopy(); });
+    keeper.useShelf(folder.toStdString());
+    QObject::connect(&copies, &QTimer::timeout, &copies, [this] { keeper.keepCopy(); });
     copies.start(copyMilliseconds);
 }
 
 FlightGuard::~FlightGuard() {
-    form.flightDesk.keeper.putAside();
+    keeper.putAside();
 }
 
 } // namespace tarnel

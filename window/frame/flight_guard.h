@@ -7,7 +7,7 @@
 
 namespace tarnel {
 
-class Form1;
+class FlightKeeper;
 
 /// `FlightGuard`: gives the flights of a program a shelf, has the copy of the one that goes on
 /// brought up to date, and puts it aside when the program is told to end or ends by itself.
@@ -18,13 +18,13 @@ class FlightGuard {
     static constexpr int copyMilliseconds = 4000;
 
     /// `folder` is this user's.
-    FlightGuard(Form1& form, const QString& folder);
+    FlightGuard(FlightKeeper& flightKeeper, const QString& folder);
     ~FlightGuard();
     FlightGuard(const FlightGuard&) = delete;
     FlightGuard& operator=(const FlightGuard&) = delete;
 
   private:
-    Form1& form;
+    FlightKeeper& keeper;
     QTimer copies;
     EndingSignals endings;
 };

@@ -1,6 +1,8 @@
 #include "window/frame/flight_signs.h"
 
-#include "shell/form_1.h"
+#include "shell/exercise_conduct.h"
+#include "shell/flight_desk.h"
+#include "shell/flight_switch.h"
 #include "window/widgets/text_of.h"
 
 #include <QFrame>
@@ -29,8 +31,16 @@ QToolButton* button(QWidget& parent, const char* name, const QString& text) {
 
 } // namespace
 
-FlightSigns::FlightSigns(Form1& owner, QMainWindow& place)
-    : QObject(&place), form(owner), window(place) {
+FlightSigns::FlightSigns(FlightDesk& flightDesk, const FlightSwitch& flightSwitch,
+                         const ExerciseConduct& conduct, const UserControl2& simulation,
+                         BoxDesk& boxDesk, QMainWindow& place)
+    : QObject(&place),
+      desk(flightDesk),
+      flight(flightSwitch),
+      exercise(conduct),
+      sim(simulation),
+      boxes(boxDesk),
+      window(place) {
     makeOffer();
 }
 
@@ -40,36 +50,35 @@ void FlightSigns::makeOffer() {
     offerLine = new QLabel(offer);
     offerLine->setTextFormat(Qt::PlainText);
     QToolButton* take =
-        button(*offer, "FlightOfferTake", textOf(form.texts, Text::flightOfferTake));
+        button(*offer, "FlightOfferTake", textOf(boxes.texts, Text::flightOfferTake));
     QToolButton* close = button(*offer, "FlightOfferClose", QStringLiteral("\u00d7"));
-    close->setToolTip(textOf(form.texts, Text::flightOfferClose));
+    close->setToolTip(textOf(boxes.texts, Text::flightOfferClose));
     close->setAccessibleName(close->toolTip());
     auto* row = new QHBoxLayout(offer);
     row->setContentsMargins(0, 0, 0, 0);
     for (QWidget* part : std::initializer_list<QWidget*>{offerLine, take, close})
         row->addWidget(part);
     connect(take, &QToolButton::clicked, this, [this] {
-        form.guarded([this] {
-            if (const auto flight = form.flightDesk.keeper.offer())
-                form.flightDesk.bringBack(*flight);
+        boxes.guarded([this] {
+            if (const auto offered = desk.keeper.offer())
+                desk.bringBack(*offered);
         });
     });
-    connect(close, &QToolButton::clicked, this, [this] { form.flightDesk.keeper.closeOffer(); });
+    connect(close, &QToolButton::clicked, this, [this] { desk.keeper.closeOffer(); });
     offer->hide();
 }
 
 /// An exercise's session is named by what is asked: the title then tells nothing. A flight or an
 /// exercise takes the offer away.
 void FlightSigns::refresh() {
-    const UserControl2& sim = form.UserControl11;
-    const Named now{sim.c_SessionFileName, sim.flightUnsaved(), form.exercise.runs()};
+    const Named now{sim.c_SessionFileName, sim.flightUnsaved(), exercise.runs()};
     if (now != named) {
         named = now;
-        window.setWindowTitle(now.inExercise ? textOf(form.texts, Text::windowTitle)
-                                             : QString::fromStdString(form.flightDesk.title()));
+        window.setWindowTitle(now.inExercise ? textOf(boxes.texts, Text::windowTitle)
+                                             : QString::fromStdString(desk.title()));
     }
-    FlightKeeper& keeper = form.flightDesk.keeper;
-    if (keeper.offer() && (form.flight.flies() || form.exercise.runs()))
+    FlightKeeper& keeper = desk.keeper;
+    if (keeper.offer() && (flight.flies() || exercise.runs()))
         keeper.withdrawOffer();
     if ((keeper.offer() ? keeper.offer()->path : std::string()) != shownOffer)
         showOffer();
@@ -77,28 +86,28 @@ void FlightSigns::refresh() {
 
 /// A corner of the menu bar takes room only while it has a widget.
 void FlightSigns::showOffer() {
-    const auto& flight = form.flightDesk.keeper.offer();
-    shownOffer = flight ? flight->path : std::string();
-    if (flight) {
-        const QString line = textOf(form.texts, Text::flightOffer)
-                                 .arg(QString::fromStdString(form.flightDesk.lineOf(*flight)));
+    const auto& offered = desk.keeper.offer();
+    shownOffer = offered ? offered->path : std::string();
+    if (offered) {
+        const QString line = textOf(boxes.texts, Text::flightOffer)
+                                 .arg(QString::fromStdString(desk.lineOf(*offered)));
         offerLine->setToolTip(line);
         offerLine->setText(offerLine->fontMetrics().elidedText(line, Qt::ElideRight, widestOffer));
     }
-    window.menuBar()->setCornerWidget(flight ? offer : nullptr);
-    offer->setVisible(flight.has_value());
+    window.menuBar()->setCornerWidget(offered ? offer : nullptr);
+    offer->setVisible(offered.has_value());
 }
 
-void FlightSigns::fillMenu(Form1& form, QMenu& menu) {
-    connect(&menu, &QMenu::aboutToShow, &menu, [&form, &menu] {
+void FlightSigns::fillMenu(FlightDesk& desk, BoxDesk& boxes, QMenu& menu) {
+    connect(&menu, &QMenu::aboutToShow, &menu, [&desk, &boxes, &menu] {
         menu.clear();
-        for (const ShelvedFlight& flight : form.flightDesk.keeper.flights())
-            connect(menu.addAction(QString::fromStdString(form.flightDesk.lineOf(flight))
+        for (const ShelvedFlight& shelved : desk.keeper.flights())
+            connect(menu.addAction(QString::fromStdString(desk.lineOf(shelved))
                                        .replace(QLatin1Char('&'), QStringLiteral("&&"))),
                     &QAction::triggered, &menu,
-                    [&form, flight] { form.guarded([&] { form.flightDesk.bringBack(flight); }); });
+                    [&desk, &boxes, shelved] { boxes.guarded([&] { desk.bringBack(shelved); }); });
         if (menu.isEmpty())
-            menu.addAction(textOf(form.texts, Text::noFlightAside))->setEnabled(false);
+            menu.addAction(textOf(boxes.texts, Text::noFlightAside))->setEnabled(false);
     });
 }
 

@@ -11,7 +11,11 @@ class QMenu;
 
 namespace tarnel {
 
-class Form1;
+class BoxDesk;
+class ExerciseConduct;
+class FlightDesk;
+class FlightSwitch;
+class UserControl2;
 
 /// `FlightSigns`: what the window's own edges tell of flights: the title names the one in memory,
 /// and at the end of the menu bar one line offers the last one of the run before.
@@ -19,18 +23,24 @@ class FlightSigns : public QObject {
     Q_OBJECT
 
   public:
-    FlightSigns(Form1& form, QMainWindow& window);
+    FlightSigns(FlightDesk& flightDesk, const FlightSwitch& flightSwitch,
+                const ExerciseConduct& conduct, const UserControl2& simulation, BoxDesk& boxDesk,
+                QMainWindow& place);
 
     void refresh();
 
     /// Fills `menu` with the flights that can be brought back, whenever it opens.
-    static void fillMenu(Form1& form, QMenu& menu);
+    static void fillMenu(FlightDesk& desk, BoxDesk& boxes, QMenu& menu);
 
   private:
     void makeOffer();
     void showOffer();
 
-    Form1& form;
+    FlightDesk& desk;
+    const FlightSwitch& flight;
+    const ExerciseConduct& exercise;
+    const UserControl2& sim;
+    BoxDesk& boxes;
     QMainWindow& window;
     QFrame* offer = nullptr;
     QLabel* offerLine = nullptr;

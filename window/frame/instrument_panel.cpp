@@ -14,9 +14,9 @@
 
 namespace tarnel {
 
-InstrumentPanel::InstrumentPanel(Form1& owner, FormBinding& binding, PictureStore& pictures,
-                                 const ModelGuard& guard, QWidget* parent)
-    : QWidget(parent), form(owner) {
+InstrumentPanel::InstrumentPanel(const InstrumentPanelModel& panelModel, FormBinding& binding,
+                                 PictureStore& pictures, const ModelGuard& guard, QWidget* parent)
+    : QWidget(parent), model(panelModel) {
     setObjectName(QStringLiteral("InstrumentPanel"));
     makeInstruments(binding, pictures, guard);
     makeModules(binding, pictures, guard);
@@ -25,12 +25,14 @@ InstrumentPanel::InstrumentPanel(Form1& owner, FormBinding& binding, PictureStor
 void InstrumentPanel::makeInstruments(FormBinding& binding, PictureStore& pictures,
                                       const ModelGuard& guard) {
     const std::array<HeaderControls, 2> controls = {
-        HeaderControls{form.positions.links2(), form.inst2Small, form.inst2Large},
-        HeaderControls{form.positions.links3(), form.inst3Small, form.inst3Large}};
+        HeaderControls{model.positions.links2(), model.controls.inst2Small,
+                       model.controls.inst2Large, model.positions, model.exercise},
+        HeaderControls{model.positions.links3(), model.controls.inst3Small,
+                       model.controls.inst3Large, model.positions, model.exercise}};
     for (std::size_t i = 0; i < controls.size(); ++i) {
-        headers[i] = new InstrumentHeader(form, controls[i], binding, this);
-        instruments[i] =
-            new InstrumentView(controls[i].links.position.instrument, pictures, form.texts, this);
+        headers[i] = new InstrumentHeader(controls[i], model.boxes, binding, this);
+        instruments[i] = new InstrumentView(controls[i].links.position.instrument, pictures,
+                                            model.boxes.texts, this);
         instruments[i]->guard = guard;
         instruments[i]->stations = [this, &position = controls[i].links.position] {
             return stationsOf(position);
@@ -38,31 +40,35 @@ void InstrumentPanel::makeInstruments(FormBinding& binding, PictureStore& pictur
         instruments[i]->setObjectName(QStringLiteral("UserControl13_%1").arg(i));
         channelLamps[i] = new ChannelLamp(this);
         binding.bind(controls[i].links.channelButton, *channelLamps[i]);
-        plates[i] = new CoverPlate(form.texts, this);
+        plates[i] = new CoverPlate(model.boxes.texts, this);
     }
     binding.follow([this] { coverInstruments(); });
 }
 
 SpokenStations InstrumentPanel::stationsOf(const InstrumentPosition& position) const {
-    const NeedleSources needles = needleSources(position, form.positions.feedSources());
-    return {spokenStation(needles.first, form.UserControl11, form.texts),
-            spokenStation(needles.second, form.UserControl11, form.texts)};
+    const NeedleSources needles = needleSources(position, model.positions.feedSources());
+    return {spokenStation(needles.first, model.sim, model.boxes.texts),
+            spokenStation(needles.second, model.sim, model.boxes.texts)};
 }
 
 void InstrumentPanel::makeModules(FormBinding& binding, PictureStore& pictures,
                                   const ModelGuard& guard) {
-    nav1 = new NavModule(form.NAVControlFace1, nav1Texts, pictures, form.texts, this);
-    nav2 = new NavModule(form.NAVControlFace2, nav2Texts, pictures, form.texts, this);
-    adf = new NavModule(form.ADFControlFace1, adfTexts, pictures, form.texts, this);
-    dme = new DmeModule(form.DMEControlFace1, pictures, form.texts, this);
+    nav1 =
+        new NavModule(model.controls.NAVControlFace1, nav1Texts, pictures, model.boxes.texts, this);
+    nav2 =
+        new NavModule(model.controls.NAVControlFace2, nav2Texts, pictures, model.boxes.texts, this);
+    adf =
+        new NavModule(model.controls.ADFControlFace1, adfTexts, pictures, model.boxes.texts, this);
+    dme = new DmeModule(model.controls.DMEControlFace1, pictures, model.boxes.texts, this);
     dme->station = [this] {
-        return spokenStation(dmeSource(form.DMEControlFace1, form.UserControl11),
-                             form.UserControl11, form.texts);
+        return spokenStation(dmeSource(model.controls.DMEControlFace1, model.sim), model.sim,
+                             model.boxes.texts);
     };
-    stopwatch = new StopwatchModule(form.tvsmtimer1, pictures, form.texts, this);
-    binding.bind(form.stopwatchStartButton, stopwatch->startButton());
-    binding.bind(form.stopwatchResetButton, stopwatch->resetButton());
-    autopilot = new AutopilotModule(form.APControlFace1, pictures, form.texts, this);
+    stopwatch = new StopwatchModule(model.controls.tvsmtimer1, pictures, model.boxes.texts, this);
+    binding.bind(model.controls.stopwatchStartButton, stopwatch->startButton());
+    binding.bind(model.controls.stopwatchResetButton, stopwatch->resetButton());
+    autopilot =
+        new AutopilotModule(model.controls.APControlFace1, pictures, model.boxes.texts, this);
     modules = {nav1, nav2, adf, dme, stopwatch, autopilot};
     for (ModuleFrame* module : modules)
         module->guard = guard;
@@ -86,9 +92,9 @@ void InstrumentPanel::layOutChannelLamp(std::size_t position, const QRect& bezel
 
 /// Under a plate nothing is to be reached by keyboard either.
 void InstrumentPanel::coverInstruments() {
-    const bool covered = !form.instruments.visible();
+    const bool covered = !model.controls.instruments.visible();
     for (std::size_t i = 0; i < plates.size(); ++i) {
-        plates[i]->setReason(textOf(form.texts, form.exercise.cover().reason));
+        plates[i]->setReason(textOf(model.boxes.texts, model.exercise.cover().reason));
         plates[i]->setVisible(covered);
         instruments[i]->setVisible(!covered);
         headers[i]->setEnabled(!covered);
@@ -111,8 +117,8 @@ void InstrumentPanel::layOut(const WindowLayout& layout) {
 }
 
 void InstrumentPanel::showChannelLamps() {
-    const std::array<const PositionLinks*, 2> links = {&form.positions.links2(),
-                                                       &form.positions.links3()};
+    const std::array<const PositionLinks*, 2> links = {&model.positions.links2(),
+                                                       &model.positions.links3()};
     for (std::size_t i = 0; i < links.size(); ++i)
         channelLamps[i]->setLit(holdsAnObs(links[i]->position));
 }

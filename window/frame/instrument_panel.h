@@ -1,6 +1,9 @@
 #pragma once
 
-#include "shell/form_1.h"
+#include "shell/box_desk.h"
+#include "shell/exercise_conduct.h"
+#include "shell/instrument_positions.h"
+#include "shell/panel_controls.h"
 #include "window/dials/spoken_reading.h"
 #include "window/frame/window_layout.h"
 #include "window/widgets/form_binding.h"
@@ -23,14 +26,23 @@ class ModuleFrame;
 class NavModule;
 class StopwatchModule;
 
+/// What the instrument panel shows and acts on.
+struct InstrumentPanelModel {
+    PanelControls& controls;
+    InstrumentPositions& positions;
+    const UserControl2& sim;
+    const ExerciseConduct& exercise;
+    BoxDesk& boxes;
+};
+
 /// `InstrumentPanel`: the dark half of the window: two instruments, the radios, the stopwatch and
 /// the autopilot.
 class InstrumentPanel : public QWidget {
     Q_OBJECT
 
   public:
-    InstrumentPanel(Form1& form, FormBinding& binding, PictureStore& pictures,
-                    const ModelGuard& guard, QWidget* parent = nullptr);
+    InstrumentPanel(const InstrumentPanelModel& panelModel, FormBinding& binding,
+                    PictureStore& pictures, const ModelGuard& guard, QWidget* parent = nullptr);
 
     void layOut(const WindowLayout& layout);
     void refresh();
@@ -46,7 +58,7 @@ class InstrumentPanel : public QWidget {
     void showChannelLamps();
     void layOutChannelLamp(std::size_t position, const QRect& bezel);
 
-    Form1& form;
+    InstrumentPanelModel model;
     std::array<InstrumentHeader*, 2> headers{};
     std::array<InstrumentView*, 2> instruments{};
     std::array<ChannelLamp*, 2> channelLamps{};

@@ -47,8 +47,9 @@ MainWindow::MainWindow(Form1& owner)
     };
     makeMenus();
     makeDesk();
-    opener = new FileOpener(form, *this);
-    flightSigns = new FlightSigns(form, *this);
+    opener = new FileOpener(form.files, form.boxes, *this);
+    flightSigns = new FlightSigns(form.flightDesk, form.flight, form.exercise, form.UserControl11,
+                                  form.boxes, *this);
     form.beforeBox = [this] { refresh(); };
     setStyleSheet(sheetFor(1)); // once for all widgets
     resize(usualWindow);
@@ -69,10 +70,43 @@ MainWindow::~MainWindow() {
 }
 
 void MainWindow::makeMenus() {
-    MenuActions actions;
-    actions.exit = [this] { close(); };
-    actions.about = [this] { form.documents.showAbout(); };
-    buildMenus(*menuBar(), form, binding, actions);
+    buildMenus(*menuBar(),
+               {.controls = form,
+                .floatingGyroBox = form.floatingGyroBox,
+                .history = form.UserControl11.history,
+                .display = form.display,
+                .flights = form.flightDesk,
+                .documents = form.documents,
+                .boxes = form.boxes,
+                .pressKey = [this](char letter) { form.pressKey(letter); },
+                .exit = [this] { close(); }},
+               binding);
+}
+
+StripModel MainWindow::stripModel() {
+    return {.controls = form,
+            .floatingGyroBox = form.floatingGyroBox,
+            .sim = form.UserControl11,
+            .flight = form.flight,
+            .display = form.display,
+            .wind = form.windDesk,
+            .boxes = form.boxes};
+}
+
+InstrumentPanelModel MainWindow::panelModel() {
+    return {.controls = form,
+            .positions = form.positions,
+            .sim = form.UserControl11,
+            .exercise = form.exercise,
+            .boxes = form.boxes};
+}
+
+QuizModel MainWindow::quizModel() {
+    return {.controls = form,
+            .exercises = form.QAform1,
+            .exercise = form.exercise,
+            .flight = form.flight,
+            .texts = form.texts};
 }
 
 void MainWindow::makeDesk() {
@@ -82,14 +116,16 @@ void MainWindow::makeDesk() {
     chart = new ChartView(form.UserControl11, form.texts, desk);
     chart->guard = guard;
     chart->onZoom = [this](int steps) { form.guarded([&] { form.display.stepScale(steps); }); };
-    stationEditing = std::make_unique<StationEditing>(form, *chart);
-    chartControls = new ChartControls(form, chart);
-    strip = new ControlStrip(form, binding, desk);
-    comment = new CommentCard(form, binding, desk);
-    panel = new InstrumentPanel(form, binding, pictures, guard, desk);
-    status = new StatusPanels(form, binding, desk);
-    quiz = new QuizPanel(form, binding, desk);
-    gyro = new additional_DG(form, pictures, this);
+    stationEditing =
+        std::make_unique<StationEditing>(form.stationDesk, form.stationPage, form.boxes, *chart);
+    chartControls = new ChartControls(form.display, form.boxes, chart);
+    strip = new ControlStrip(stripModel(), binding, desk);
+    comment = new CommentCard(form.commentPanel, form.practicePanel, form.UserControl11.comments,
+                              form.boxes, binding, desk);
+    panel = new InstrumentPanel(panelModel(), binding, pictures, guard, desk);
+    status = new StatusPanels(form, form.flightDesk.notice, binding, desk);
+    quiz = new QuizPanel(quizModel(), binding, desk);
+    gyro = new additional_DG(form, form.exercise, form.boxes, pictures, this);
 }
 
 void MainWindow::openFile(const std::string& path) {

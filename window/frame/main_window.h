@@ -21,6 +21,9 @@ class FileOpener;
 class FlightSigns;
 class InstrumentPanel;
 class QuizPanel;
+struct InstrumentPanelModel;
+struct QuizModel;
+struct StripModel;
 class StationEditing;
 class StatusPanels;
 class additional_DG;
@@ -52,6 +55,9 @@ class MainWindow : public QMainWindow {
 
   private:
     void makeMenus();
+    [[nodiscard]] StripModel stripModel();
+    [[nodiscard]] InstrumentPanelModel panelModel();
+    [[nodiscard]] QuizModel quizModel();
     void makeDesk();
     void layOut();
     [[nodiscard]] ColumnWishes columnWishes() const;

@@ -35,31 +35,32 @@ void followItems(QMenu& menu) {
 
 class MenuBuilder {
   public:
-    MenuBuilder(QMenuBar& target, Form1& owner, FormBinding& links)
-        : bar(target), form(owner), binding(links) {}
+    MenuBuilder(QMenuBar& target, const MenuModel& menuModel, FormBinding& links)
+        : bar(target), model(menuModel), binding(links) {}
 
-    void buildFile(const MenuActions& actions);
+    void buildFile();
     void buildEdit();
     void buildExercises();
     void buildBook();
     void buildView();
     void buildKeys(QMenu& view);
-    void buildHelp(const MenuActions& actions);
+    void buildHelp();
 
   private:
     QMenu* menu(QWidget& parent, const char* name, Text text);
     QAction* entry(QMenu& menu, const char* name, const QString& text);
     QAction* bound(QMenu& menu, CommandButton& control, const QKeySequence& shortcut = {});
     QAction* opening(QMenu& menu, const QString& name, Text text, std::function<void()> open);
-    void exerciseGroup(QMenu& menu, const char* name, Text header, Text first, Text last);
+    void exerciseGroup(QMenu& menu, const char* name, Text header, ExerciseItem::Group group);
+    void exerciseItemsOf(QMenu& list, ExerciseItem::Group group);
     void practiceSessions(QMenu& menu, const char* name, Text header, Text prefix,
                           ExerciseMenu::Practice& items);
     void bookChapter(QMenu& menu, const BookChapter& chapter, int& page);
     void approaches(QMenu& menu);
-    QString text(Text id) const { return textOf(form.texts, id).replace('&', "&&"); }
+    QString text(Text id) const { return textOf(model.boxes.texts, id).replace('&', "&&"); }
 
     QMenuBar& bar;
-    Form1& form;
+    MenuModel model;
     FormBinding& binding;
 };
 
@@ -90,12 +91,12 @@ QAction* MenuBuilder::opening(QMenu& parent, const QString& name, Text id,
                               std::function<void()> open) {
     QAction* action = entry(parent, name.toLatin1().constData(), text(id));
     QObject::connect(action, &QAction::triggered, &bar,
-                     [this_form = &form, open = std::move(open)] { this_form->guarded(open); });
+                     [&boxes = model.boxes, open = std::move(open)] { boxes.guarded(open); });
     return action;
 }
 
-void MenuBuilder::buildFile(const MenuActions& actions) {
-    FileMenu& items = form.fileMenu;
+void MenuBuilder::buildFile() {
+    FileMenu& items = model.controls.fileMenu;
     QMenu* file = menu(bar, "mnufile", Text::menuFile);
     bound(*file, items.newSession, QKeySequence::New);
     bound(*file, items.loadSession, QKeySequence::Open);
@@ -103,8 +104,8 @@ void MenuBuilder::buildFile(const MenuActions& actions) {
     bound(*file, items.saveSession, QKeySequence::Save);
     bound(*file, items.saveSessionAs, Qt::CTRL | Qt::SHIFT | Qt::Key_S);
     QMenu* flights = menu(*file, "mnuBringBack", Text::bringBackFlight);
-    binding.bind(form.flightDesk.menu, *flights->menuAction());
-    FlightSigns::fillMenu(form, *flights);
+    binding.bind(model.flights.menu, *flights->menuAction());
+    FlightSigns::fillMenu(model.flights, model.boxes, *flights);
     file->addSeparator();
     bound(*file, items.loadChart);
     bound(*file, items.saveChart);
@@ -113,40 +114,43 @@ void MenuBuilder::buildFile(const MenuActions& actions) {
     file->addSeparator();
     QAction* exit = entry(*file, "mnuExit", text(Text::exitProgram));
     exit->setShortcut(QKeySequence::Quit);
-    QObject::connect(exit, &QAction::triggered, &bar, actions.exit);
+    QObject::connect(exit, &QAction::triggered, &bar, model.exit);
 }
 
 /// The items say what they take back or do again.
 void MenuBuilder::buildEdit() {
-    EditMenu& items = form.editMenu;
+    EditMenu& items = model.controls.editMenu;
     QMenu* edit = menu(bar, "mnuEdit", Text::menuEdit);
     QAction* undo = bound(*edit, items.undo, QKeySequence::Undo);
     QAction* redo = bound(*edit, items.redo, Qt::CTRL | Qt::SHIFT | Qt::Key_Z);
-    const auto name = [this_form = &form](QAction& action, Text caption, const HandStep* step) {
-        QString text = textOf(this_form->texts, caption);
+    const auto name = [&texts = model.boxes.texts](QAction& action, Text caption,
+                                                   const HandStep* step) {
+        QString text = textOf(texts, caption);
         if (step)
-            text += QStringLiteral(": ") + textOf(this_form->texts, deedName(*step));
+            text += QStringLiteral(": ") + textOf(texts, deedName(*step));
         action.setText(text.replace('&', QStringLiteral("&&")));
     };
-    QObject::connect(edit, &QMenu::aboutToShow, edit, [this_form = &form, undo, redo, name] {
-        const HandHistory& history = this_form->UserControl11.history;
+    QObject::connect(edit, &QMenu::aboutToShow, edit, [&history = model.history, undo, redo, name] {
         name(*undo, Text::undo, history.undoable());
         name(*redo, Text::redo, history.redoable());
     });
     edit->addSeparator();
-    binding.bind(form.stationPage.edit, *entry(*edit, "editChart", text(Text::editChart)));
+    binding.bind(model.controls.stationPage.edit,
+                 *entry(*edit, "editChart", text(Text::editChart)));
 }
 
-/// The exercises of a sub menu, by their first and last item.
-void MenuBuilder::exerciseGroup(QMenu& parent, const char* name, Text header, Text first,
-                                Text last) {
-    QMenu* group = menu(parent, name, header);
+void MenuBuilder::exerciseGroup(QMenu& parent, const char* name, Text header,
+                                ExerciseItem::Group group) {
+    QMenu* list = menu(parent, name, header);
+    exerciseItemsOf(*list, group);
+    followItems(*list);
+}
+
+void MenuBuilder::exerciseItemsOf(QMenu& list, ExerciseItem::Group group) {
     const std::span<const ExerciseItem> items = exerciseItems();
-    const auto from = std::ranges::find(items, first, &ExerciseItem::text) - items.begin();
-    const auto to = std::ranges::find(items, last, &ExerciseItem::text) - items.begin();
-    for (auto i = from; i <= to; ++i)
-        bound(*group, *form.exerciseMenu.exercises[static_cast<std::size_t>(i)]);
-    followItems(*group);
+    for (std::size_t i = 0; i < items.size(); ++i)
+        if (items[i].group == group)
+            bound(list, *model.controls.exerciseMenu.exercises[i]);
 }
 
 void MenuBuilder::practiceSessions(QMenu& parent, const char* name, Text header, Text prefix,
@@ -158,19 +162,17 @@ void MenuBuilder::practiceSessions(QMenu& parent, const char* name, Text header,
 }
 
 void MenuBuilder::buildExercises() {
-    ExerciseMenu& items = form.exerciseMenu;
+    ExerciseMenu& items = model.controls.exerciseMenu;
     QMenu* exercises = menu(bar, "mnuOption", Text::menuExercises);
-    exerciseGroup(*exercises, "adfrmi", Text::exercisesAdfRmi, Text::exerciseAdfPosition,
-                  Text::exerciseQdr);
-    exerciseGroup(*exercises, "hsivor", Text::exercisesHsiVor, Text::exerciseHsiPosition,
-                  Text::exerciseDgHolding);
+    exerciseGroup(*exercises, "adfrmi", Text::exercisesAdfRmi, ExerciseItem::Group::adfAndRmi);
+    exerciseGroup(*exercises, "hsivor", Text::exercisesHsiVor, ExerciseItem::Group::hsiAndVor);
     QMenu* practice = menu(*exercises, "adfvorprac", Text::practiceAdfVor);
     practiceSessions(*practice, "vorprac", Text::practiceVor, Text::vorPracticePrefix,
                      items.vorPractice);
     practiceSessions(*practice, "adfprac", Text::practiceAdf, Text::adfPracticePrefix,
                      items.adfPractice);
     followItems(*practice);
-    bound(*exercises, *items.exercises.back());
+    exerciseItemsOf(*exercises, ExerciseItem::Group::alone);
     exercises->addSeparator();
     bound(*exercises, items.resetStatistics);
     followItems(*exercises);
@@ -182,9 +184,10 @@ void MenuBuilder::bookChapter(QMenu& parent, const BookChapter& chapter, int& pa
     const int first = static_cast<int>(chapter.first);
     for (int id = first; id <= static_cast<int>(chapter.last); ++id, ++page) {
         const QString name = QString::fromLatin1(chapter.name) + QString::number(id - first + 1);
-        opening(*list, name, static_cast<Text>(id), [this_form = &form, index = page] {
-            this_form->documents.openBook(this_form->texts.bookPage(index));
-        });
+        opening(*list, name, static_cast<Text>(id),
+                [&desk = model.documents, number = model.boxes.texts.bookPage(page)] {
+                    desk.openBook(number);
+                });
     }
 }
 
@@ -193,13 +196,13 @@ void MenuBuilder::approaches(QMenu& parent) {
     const std::span<const ApproachChart> charts = approachCharts();
     for (std::size_t i = 0; i < charts.size(); ++i)
         opening(*list, QString::fromLatin1(charts[i].document).left(4), charts[i].name,
-                [this_form = &form, i] { this_form->documents.openApproachChart(i); });
+                [&desk = model.documents, i] { desk.openApproachChart(i); });
 }
 
 void MenuBuilder::buildBook() {
     QMenu* book = menu(bar, "mnubuch", Text::menuBook);
     opening(*book, QStringLiteral("bookStart"), Text::bookStart,
-            [this_form = &form] { this_form->documents.openBook(0); });
+            [&desk = model.documents] { desk.openBook(0); });
     book->addSeparator();
     int page = 0;
     for (const BookChapter& chapter : bookChapters())
@@ -217,30 +220,29 @@ void MenuBuilder::buildView() {
         action->setCheckable(true);
         views->addAction(action);
     }
-    QObject::connect(view, &QMenu::aboutToShow, view, [this_form = &form, north, heading] {
-        const bool up = this_form->UserControl11.c_MAPnorthUP == 1;
-        (up ? north : heading)->setChecked(true);
+    QObject::connect(view, &QMenu::aboutToShow, view, [&display = model.display, north, heading] {
+        (display.northUp() ? north : heading)->setChecked(true);
     });
-    const auto guarded = [this_form = &form](auto action) {
-        return [this_form, action] { this_form->guarded([&] { action(*this_form); }); };
+    const auto shown = [&boxes = model.boxes, &display = model.display](auto action) {
+        return [&boxes, &display, action] { boxes.guarded([&] { action(display); }); };
     };
     QObject::connect(north, &QAction::triggered, &bar,
-                     guarded([](Form1& f) { f.display.setNorthUp(true); }));
+                     shown([](ChartDisplay& display) { display.setNorthUp(true); }));
     QObject::connect(heading, &QAction::triggered, &bar,
-                     guarded([](Form1& f) { f.display.setNorthUp(false); }));
+                     shown([](ChartDisplay& display) { display.setNorthUp(false); }));
     view->addSeparator();
     buildKeys(*view);
     view->addSeparator();
     QAction* larger = entry(*view, "zoomIn", text(Text::zoomIn));
     larger->setShortcut(QKeySequence::ZoomIn);
     QObject::connect(larger, &QAction::triggered, &bar,
-                     guarded([](Form1& f) { f.display.stepScale(1); }));
+                     shown([](ChartDisplay& display) { display.stepScale(1); }));
     QAction* smaller = entry(*view, "zoomOut", text(Text::zoomOut));
     smaller->setShortcut(QKeySequence::ZoomOut);
     QObject::connect(smaller, &QAction::triggered, &bar,
-                     guarded([](Form1& f) { f.display.stepScale(-1); }));
+                     shown([](ChartDisplay& display) { display.stepScale(-1); }));
     view->addSeparator();
-    binding.bind(form.floatingGyroBox, *entry(*view, "floatingGyro", text(Text::floatingGyro)));
+    binding.bind(model.floatingGyroBox, *entry(*view, "floatingGyro", text(Text::floatingGyro)));
 }
 
 /// The letters on the status panels. A field that takes text keeps them to itself.
@@ -256,46 +258,45 @@ void MenuBuilder::buildKeys(QMenu& view) {
         action->setObjectName(QStringLiteral("key") + key);
         action->setShortcut(QKeySequence(key));
         action->setAutoRepeat(false);
-        QObject::connect(action, &QAction::triggered, &bar, [this_form = &form, which = letter] {
-            this_form->guarded([&] { this_form->pressKey(which); });
-        });
+        QObject::connect(action, &QAction::triggered, &bar,
+                         [&boxes = model.boxes, press = model.pressKey, which = letter] {
+                             boxes.guarded([&] { press(which); });
+                         });
     }
 }
 
-void MenuBuilder::buildHelp(const MenuActions& actions) {
+void MenuBuilder::buildHelp() {
     QMenu* help = menu(bar, "mnuhelp", Text::menuHelp);
-    Form1* owner = &form;
-    const auto page = [owner](int index) {
-        return [owner, index] { owner->documents.openBook(owner->texts.bookPage(index)); };
+    DocumentDesk* desk = &model.documents;
+    const auto page = [this, desk](int index) {
+        return [desk, number = model.boxes.texts.bookPage(index)] { desk->openBook(number); };
     };
-    opening(*help, QStringLiteral("hilfeindex"), Text::helpIndex,
-            [owner] { owner->documents.openHelp(); });
+    opening(*help, QStringLiteral("hilfeindex"), Text::helpIndex, [desk] { desk->openHelp(); });
     QMenu* introduction = menu(*help, "intromain", Text::introduction);
-    bound(*introduction, form.exerciseMenu.introduction1);
-    bound(*introduction, form.exerciseMenu.introduction2);
+    bound(*introduction, model.controls.exerciseMenu.introduction1);
+    bound(*introduction, model.controls.exerciseMenu.introduction2);
     followItems(*introduction);
-    opening(*help, QStringLiteral("userguide"), Text::userGuide,
-            [owner] { owner->documents.openUserGuide(); });
+    opening(*help, QStringLiteral("userguide"), Text::userGuide, [desk] { desk->openUserGuide(); });
     opening(*help, QStringLiteral("bookAbbreviations"), Text::bookAbbreviations,
             page(abbreviationsPage));
     opening(*help, QStringLiteral("bookIndex"), Text::bookIndex, page(bookIndexPage));
     opening(*help, QStringLiteral("webqxr"), Text::productPage,
-            [owner] { owner->documents.openProductPage(); });
+            [desk] { desk->openProductPage(); });
     help->addSeparator();
     QAction* about = entry(*help, "test", text(Text::aboutTarnel));
-    QObject::connect(about, &QAction::triggered, &bar, actions.about);
+    QObject::connect(about, &QAction::triggered, &bar, [desk] { desk->showAbout(); });
 }
 
 } // namespace
 
-void buildMenus(QMenuBar& bar, Form1& form, FormBinding& binding, const MenuActions& actions) {
-    MenuBuilder builder(bar, form, binding);
-    builder.buildFile(actions);
+void buildMenus(QMenuBar& bar, const MenuModel& model, FormBinding& binding) {
+    MenuBuilder builder(bar, model, binding);
+    builder.buildFile();
     builder.buildEdit();
     builder.buildExercises();
     builder.buildBook();
     builder.buildView();
-    builder.buildHelp(actions);
+    builder.buildHelp();
 }
 
 } // namespace tarnel

@@ -1,6 +1,10 @@
 #pragma once
 
-#include "shell/form_1.h"
+#include "shell/box_desk.h"
+#include "shell/chart_display.h"
+#include "shell/document_desk.h"
+#include "shell/flight_desk.h"
+#include "shell/trainer_controls.h"
 #include "window/widgets/form_binding.h"
 
 #include <functional>
@@ -9,13 +13,20 @@ class QMenuBar;
 
 namespace tarnel {
 
-/// What the menus do that is not the form's own.
-struct MenuActions {
+/// What the menus show and act on.
+struct MenuModel {
+    TrainerControls& controls;
+    CheckBox& floatingGyroBox;
+    const HandHistory& history;
+    ChartDisplay& display;
+    FlightDesk& flights;
+    DocumentDesk& documents;
+    BoxDesk& boxes;
+    std::function<void(char)> pressKey;
     std::function<void()> exit;
-    std::function<void()> about;
 };
 
 /// Builds the menu bar.
-void buildMenus(QMenuBar& bar, Form1& form, FormBinding& binding, const MenuActions& actions);
+void buildMenus(QMenuBar& bar, const MenuModel& model, FormBinding& binding);
 
 } // namespace tarnel

@@ -20,7 +20,9 @@ constexpr int noticeMilliseconds = 8000;
 
 } // namespace
 
-StatusPanels::StatusPanels(Form1& form, FormBinding& binding, QWidget* parent) : QWidget(parent) {
+StatusPanels::StatusPanels(TrainerControls& form, TextPanel& flightNotice, FormBinding& binding,
+                           QWidget* parent)
+    : QWidget(parent) {
     setObjectName(QStringLiteral("StatusPanels"));
     const std::array<TextPanel*, 7> order = {
         &form.sessionPanel, &form.windPanel, &form.hidePanel,      &form.tracePanel,
@@ -32,12 +34,12 @@ StatusPanels::StatusPanels(Form1& form, FormBinding& binding, QWidget* parent) :
     }
     panels.back()->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     notice = new QLabel(this);
-    TextPanel& text = form.flightDesk.notice;
-    binding.bind(text, *notice);
+    binding.bind(flightNotice, *notice);
     noticeEnd.setSingleShot(true);
-    connect(&noticeEnd, &QTimer::timeout, this, [&text] { text.setVisible(false); });
-    binding.follow([this, &text] {
-        if (text.visible() && !noticeEnd.isActive())
+    connect(&noticeEnd, &QTimer::timeout, this,
+            [&flightNotice] { flightNotice.setVisible(false); });
+    binding.follow([this, &flightNotice] {
+        if (flightNotice.visible() && !noticeEnd.isActive())
             noticeEnd.start(noticeMilliseconds);
     });
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/form_1.h"
+#include "shell/trainer_controls.h"
 #include "window/widgets/form_binding.h"
 
 #include <QTimer>
@@ -17,7 +17,8 @@ class StatusPanels : public QWidget {
     Q_OBJECT
 
   public:
-    StatusPanels(Form1& form, FormBinding& binding, QWidget* parent = nullptr);
+    StatusPanels(TrainerControls& form, TextPanel& flightNotice, FormBinding& binding,
+                 QWidget* parent = nullptr);
 
   protected:
     void paintEvent(QPaintEvent* event) override;

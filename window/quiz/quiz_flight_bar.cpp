@@ -30,8 +30,8 @@ void keepPlace(QWidget& widget) {
 
 } // namespace
 
-QuizFlightBar::QuizFlightBar(Form1& owner, FormBinding& binding, QWidget* parent)
-    : QWidget(parent), form(owner) {
+QuizFlightBar::QuizFlightBar(const QuizModel& quizModel, FormBinding& binding, QWidget* parent)
+    : QWidget(parent), model(quizModel) {
     auto* rows = new QVBoxLayout(this);
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(rowGap);
@@ -45,31 +45,33 @@ QBoxLayout* QuizFlightBar::makeFlightRow(FormBinding& binding) {
     row->setSpacing(look::gap);
     startButton = new QPushButton(this);
     startButton->setProperty("primary", true);
-    binding.bind(form.startButton, *startButton);
+    binding.bind(model.controls.startButton, *startButton);
     row->addWidget(startButton);
-    speeds = segmentRow(
-        binding, {&form.rateHalf, &form.rateReal, &form.rateDouble, &form.rateQuadruple}, this);
+    speeds = segmentRow(binding,
+                        {&model.controls.rateHalf, &model.controls.rateReal,
+                         &model.controls.rateDouble, &model.controls.rateQuadruple},
+                        this);
     row->addWidget(speeds, 1);
     return row;
 }
 
 QBoxLayout* QuizFlightBar::makeReplayRow(FormBinding& binding) {
     auto* row = new QHBoxLayout;
-    addSign(*row, binding, form.replayPage.play, Sign::play);
-    addSign(*row, binding, form.replayPage.stop, Sign::stop);
+    addSign(*row, binding, model.controls.replayPage.play, Sign::play);
+    addSign(*row, binding, model.controls.replayPage.stop, Sign::stop);
     auto* bar = new ReplayBar(this);
     keepPlace(*bar);
-    binding.bind(form.replayPage.bar, *bar);
+    binding.bind(model.controls.replayPage.bar, *bar);
     row->addWidget(bar, 1);
     clock = new QLabel(this);
     clock->setProperty("secondary", true);
     keepPlace(*clock);
-    binding.bind(form.replayPage.clock, *clock);
+    binding.bind(model.controls.replayPage.clock, *clock);
     row->addWidget(clock);
     backButton = new QPushButton(this);
     backButton->setProperty("quiz", true);
     keepPlace(*backButton);
-    binding.bind(form.backButton, *backButton);
+    binding.bind(model.controls.backButton, *backButton);
     row->addWidget(backButton);
     return row;
 }
@@ -83,15 +85,15 @@ void QuizFlightBar::addSign(QBoxLayout& row, FormBinding& binding, OptionButton&
 }
 
 void QuizFlightBar::follow() {
-    const Sign sign = form.flight.flies() ? Sign::stop : Sign::play;
-    const QColor ink = form.startButton.enabled() ? Qt::white : look::secondaryInk;
+    const Sign sign = model.flight.flies() ? Sign::stop : Sign::play;
+    const QColor ink = model.controls.startButton.enabled() ? Qt::white : look::secondaryInk;
     startButton->setIcon(signIcon(sign, ink));
-    startButton->setVisible(form.QAform1.c_QAFly > 0);
-    clock->setVisible(form.replayPage.bar.visible());
+    startButton->setVisible(model.exercise.studentFlies());
+    clock->setVisible(model.controls.replayPage.bar.visible());
 }
 
 int QuizFlightBar::heightIn(int width) {
-    const bool starts = form.QAform1.c_QAFly > 0;
+    const bool starts = model.exercise.studentFlies();
     placeSpeeds(starts || width < roomForSpeeds * quiz::scaleOf(*this));
     const QWidget& first = starts ? *static_cast<QWidget*>(startButton) : *speeds;
     return briefHeight() + (speedsBesideStart ? rowGap + first.sizeHint().height() : 0);
@@ -118,7 +120,7 @@ void QuizFlightBar::placeSpeeds(bool besideStart) {
 }
 
 QWidget* QuizFlightBar::firstControl() const {
-    return form.QAform1.c_QAFly > 0 ? startButton : backButton;
+    return model.exercise.studentFlies() ? startButton : backButton;
 }
 
 } // namespace tarnel

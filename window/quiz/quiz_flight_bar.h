@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/form_1.h"
+#include "window/quiz/quiz_model.h"
 #include "window/widgets/form_binding.h"
 
 #include <QWidget>
@@ -18,7 +18,7 @@ class QuizFlightBar : public QWidget {
     Q_OBJECT
 
   public:
-    QuizFlightBar(Form1& form, FormBinding& binding, QWidget* parent);
+    QuizFlightBar(const QuizModel& quizModel, FormBinding& binding, QWidget* parent);
 
     /// The height that it takes at a width, with the speeds.
     [[nodiscard]] int heightIn(int width);
@@ -37,7 +37,7 @@ class QuizFlightBar : public QWidget {
     void follow();
     void placeSpeeds(bool besideStart);
 
-    Form1& form;
+    QuizModel model;
     QBoxLayout* flightRow = nullptr;
     QBoxLayout* replayRow = nullptr;
     QWidget* speeds = nullptr;

@@ -25,24 +25,24 @@ void announce(QWidget& widget) {
 
 } // namespace
 
-QuizPanel::QuizPanel(Form1& owner, FormBinding& links, QWidget* parent)
-    : QWidget(parent), form(owner), binding(links) {
+QuizPanel::QuizPanel(const QuizModel& quizModel, FormBinding& links, QWidget* parent)
+    : QWidget(parent), model(quizModel), binding(links) {
     setObjectName(QStringLiteral("QAform1"));
-    flightBar = new QuizFlightBar(form, binding, this);
+    flightBar = new QuizFlightBar(model, binding, this);
     flightBar->hide();
     hide();
 }
 
 /// A frame is made when its first exercise starts: the window comes up sooner.
 QuizFrame* QuizPanel::runningFrame() {
-    ExercisePanel* panel = form.exercise.runs() ? form.QAform1.activePanel() : nullptr;
+    ExercisePanel* panel = model.exercise.runs() ? model.exercises.activePanel() : nullptr;
     if (!panel)
         return nullptr;
     const auto found =
         std::ranges::find_if(frames, [panel](QuizFrame* each) { return &each->panel() == panel; });
     if (found != frames.end())
         return *found;
-    frames.push_back(new QuizFrame(*panel, form.texts, binding, this));
+    frames.push_back(new QuizFrame(*panel, model.texts, binding, this));
     frames.back()->hide();
     frames.back()->setGeometry(rect());
     return frames.back();
@@ -50,14 +50,15 @@ QuizFrame* QuizPanel::runningFrame() {
 
 void QuizPanel::refresh() {
     QuizFrame* running = runningFrame();
-    if (shown == form.state.revision() && running == active)
+    if (shown == model.controls.state.revision() && running == active)
         return;
-    shown = form.state.revision();
+    shown = model.controls.state.revision();
     if (running != active)
         show(running);
     if (!active)
         return;
-    const bool changed = active->follow(form.QAform1.c_QAFly > 0, form.exercise.solutionShown());
+    const bool changed =
+        active->follow(model.exercise.studentFlies(), model.exercise.solutionShown());
     followQuestion();
     if (changed || tallestWidth != width() || shownHeight == 0)
         measure();

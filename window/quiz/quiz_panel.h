@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/form_1.h"
+#include "window/quiz/quiz_model.h"
 #include "window/widgets/form_binding.h"
 
 #include <QWidget>
@@ -19,7 +19,7 @@ class QuizPanel : public QWidget {
     Q_OBJECT
 
   public:
-    QuizPanel(Form1& form, FormBinding& binding, QWidget* parent = nullptr);
+    QuizPanel(const QuizModel& quizModel, FormBinding& links, QWidget* parent = nullptr);
 
     /// To be called after the binding's `refresh`.
     void refresh();
@@ -48,7 +48,7 @@ class QuizPanel : public QWidget {
     void focusFlight();
     bool enter();
 
-    Form1& form;
+    QuizModel model;
     FormBinding& binding;
     std::vector<QuizFrame*> frames;
     QuizFlightBar* flightBar = nullptr;

@@ -34,8 +34,8 @@ constexpr int roomForCaptions = 420;
 
 } // namespace
 
-ControlStrip::ControlStrip(Form1& owner, FormBinding& links, QWidget* parent)
-    : QWidget(parent), form(owner), binding(links) {
+ControlStrip::ControlStrip(const StripModel& stripModel, FormBinding& links, QWidget* parent)
+    : QWidget(parent), model(stripModel), binding(links) {
     tellKeys();
     auto* rows = new QVBoxLayout(this);
     rows->setContentsMargins(look::cardInset, look::cardInset - 2, look::cardInset,
@@ -50,17 +50,17 @@ ControlStrip::ControlStrip(Form1& owner, FormBinding& links, QWidget* parent)
 
 /// The letters on the status panels, in the tips of what does the same.
 void ControlStrip::tellKeys() {
-    binding.tellKey(form.startButton, 'M');
-    binding.tellKey(form.replayPage.play, 'P');
-    binding.tellKey(form.replayPage.stop, 'P');
-    binding.tellKey(form.replayPage.hide, 'H');
-    binding.tellKey(form.chartPage.hide, 'H');
-    binding.tellKey(form.chartPage.trace, 'T');
-    binding.tellKey(form.chartPage.vectors, 'V');
-    binding.tellKey(form.windPage.none, 'W');
-    binding.tellKey(form.windPage.manual, 'W');
-    binding.tellKey(form.windPage.random, 'W');
-    binding.tellKey(form.radialCycleButton, 'R');
+    binding.tellKey(model.controls.startButton, 'M');
+    binding.tellKey(model.controls.replayPage.play, 'P');
+    binding.tellKey(model.controls.replayPage.stop, 'P');
+    binding.tellKey(model.controls.replayPage.hide, 'H');
+    binding.tellKey(model.controls.chartPage.hide, 'H');
+    binding.tellKey(model.controls.chartPage.trace, 'T');
+    binding.tellKey(model.controls.chartPage.vectors, 'V');
+    binding.tellKey(model.controls.windPage.none, 'W');
+    binding.tellKey(model.controls.windPage.manual, 'W');
+    binding.tellKey(model.controls.windPage.random, 'W');
+    binding.tellKey(model.controls.radialCycleButton, 'R');
 }
 
 QHBoxLayout* ControlStrip::makeFlightRow() {
@@ -68,28 +68,29 @@ QHBoxLayout* ControlStrip::makeFlightRow() {
     row->setSpacing(gapInRow);
     startButton = new QPushButton(this);
     startButton->setProperty("primary", true);
-    binding.bind(form.startButton, *startButton);
+    binding.bind(model.controls.startButton, *startButton);
     row->addWidget(startButton);
     row->addSpacing(8);
     speedCaption = captioned(Text::speed);
     row->addWidget(speedCaption);
-    row->addWidget(
-        segmentRow(binding, {&form.rateHalf, &form.rateReal, &form.rateDouble, &form.rateQuadruple},
-                   this),
-        1);
+    row->addWidget(segmentRow(binding,
+                              {&model.controls.rateHalf, &model.controls.rateReal,
+                               &model.controls.rateDouble, &model.controls.rateQuadruple},
+                              this),
+                   1);
     return row;
 }
 
 QHBoxLayout* ControlStrip::makeTabRow() {
     auto* row = new QHBoxLayout;
     row->setSpacing(0);
-    for (OptionButton* page :
-         {&form.pages.chart, &form.pages.replay, &form.pages.wind, &form.pages.stations})
+    for (OptionButton* page : {&model.controls.pages.chart, &model.controls.pages.replay,
+                               &model.controls.pages.wind, &model.controls.pages.stations})
         addTab(*row, *page);
     row->addStretch(1);
-    addReadout(*row, Text::autopilotSpeed, form.speedReadout, Text::unitKnots);
+    addReadout(*row, Text::autopilotSpeed, model.controls.speedReadout, Text::unitKnots);
     row->addSpacing(12);
-    addReadout(*row, Text::turnRate, form.turnReadout, Text::unitDegreesPerSecond);
+    addReadout(*row, Text::turnRate, model.controls.turnReadout, Text::unitDegreesPerSecond);
     return row;
 }
 
@@ -120,8 +121,8 @@ QScrollArea* ControlStrip::makePages() {
     scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     scroll->setMinimumHeight(1); // the strip measures the pages itself
     stack = new QStackedWidget;
-    pages = {new StripChartPage(form, binding, stack), new StripReplayPage(form, binding, stack),
-             new StripWindPage(form, binding, stack), new StripStationPage(form, binding, stack)};
+    pages = {new StripChartPage(model, binding, stack), new StripReplayPage(model, binding, stack),
+             new StripWindPage(model, binding, stack), new StripStationPage(model, binding, stack)};
     for (StripPage* page : pages)
         stack->addWidget(page);
     scroll->setWidget(stack);
@@ -129,19 +130,19 @@ QScrollArea* ControlStrip::makePages() {
 }
 
 QLabel* ControlStrip::captioned(Text text) {
-    auto* label = new QLabel(textOf(form.texts, text), this);
+    auto* label = new QLabel(textOf(model.boxes.texts, text), this);
     label->setProperty("secondary", true);
     return label;
 }
 
 void ControlStrip::refresh() {
-    const std::array order = {&form.pages.chart, &form.pages.replay, &form.pages.wind,
-                              &form.pages.stations};
+    const std::array order = {&model.controls.pages.chart, &model.controls.pages.replay,
+                              &model.controls.pages.wind, &model.controls.pages.stations};
     for (std::size_t i = 0; i < order.size(); ++i)
         if (order[i]->chosen())
             stack->setCurrentIndex(static_cast<int>(i));
     pages[static_cast<std::size_t>(stack->currentIndex())]->refresh();
-    const bool runs = form.flight.flies();
+    const bool runs = model.flight.flies();
     if (runs == startShowsStop)
         return;
     startShowsStop = runs;

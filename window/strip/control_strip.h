@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/form_1.h"
+#include "window/strip/strip_model.h"
 #include "window/widgets/form_binding.h"
 
 #include <QWidget>
@@ -23,7 +23,7 @@ class ControlStrip : public QWidget {
     Q_OBJECT
 
   public:
-    ControlStrip(Form1& form, FormBinding& binding, QWidget* parent = nullptr);
+    ControlStrip(const StripModel& stripModel, FormBinding& links, QWidget* parent = nullptr);
 
     /// Shows the page that is chosen, and on the start button what a click will do.
     void refresh();
@@ -47,7 +47,7 @@ class ControlStrip : public QWidget {
     QLabel* captioned(Text text);
     void tellKeys();
 
-    Form1& form;
+    StripModel model;
     FormBinding& binding;
     QLabel* speedCaption = nullptr;
     std::vector<QLabel*> readoutCaptions;

@@ -13,23 +13,24 @@
 
 namespace tarnel {
 
-StripChartPage::StripChartPage(Form1& owner, FormBinding& links, QWidget* parent)
-    : StripPage(owner, links, parent) {
+StripChartPage::StripChartPage(const StripModel& stripModel, FormBinding& links, QWidget* parent)
+    : StripPage(stripModel, links, parent) {
     addView();
     addScale();
     WrapLayout* boxes = addColumns();
-    addBox(*boxes, form.chartPage.trace);
-    boxes->addWidget(vectorBox(form, binding, this));
-    addBox(*boxes, form.chartPage.hide);
-    addBox(*boxes, form.floatingGyroBox);
+    addBox(*boxes, model.controls.chartPage.trace);
+    boxes->addWidget(vectorBox(model.controls.chartPage.vectors, model.display, binding, this));
+    addBox(*boxes, model.controls.chartPage.hide);
+    addBox(*boxes, model.floatingGyroBox);
     finish();
 }
 
 void StripChartPage::addView() {
     WrapLayout* line = addLine();
-    views = new ViewSwitch(form, this);
+    views = new ViewSwitch(model.display, model.boxes, this);
     line->addWidget(views);
-    for (CommandButton* control : {&form.chartPage.centre, &form.chartPage.reset}) {
+    for (CommandButton* control :
+         {&model.controls.chartPage.centre, &model.controls.chartPage.reset}) {
         auto* button = new QPushButton(this);
         binding.bind(*control, *button);
         line->addWidget(button);
@@ -41,14 +42,14 @@ void StripChartPage::addScale() {
     auto* group = new QWidget(this);
     auto* row = new QHBoxLayout(group);
     row->setContentsMargins(0, 0, 0, 0);
-    scales = new ScaleChoice(form, group);
+    scales = new ScaleChoice(model.display, model.boxes, group);
     row->addWidget(captioned(Text::chartScale));
     row->addWidget(scales);
     row->addWidget(captioned(Text::unitNauticalMiles));
     line->addWidget(group);
     auto* cycle = new QToolButton(this);
     cycle->setIcon(signIcon(Sign::radial, look::ink));
-    binding.bind(form.radialCycleButton, *cycle);
+    binding.bind(model.controls.radialCycleButton, *cycle);
     line->addWidget(cycle);
 }
 

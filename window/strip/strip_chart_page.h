@@ -12,7 +12,7 @@ class StripChartPage : public StripPage {
     Q_OBJECT
 
   public:
-    StripChartPage(Form1& form, FormBinding& binding, QWidget* parent = nullptr);
+    StripChartPage(const StripModel& stripModel, FormBinding& links, QWidget* parent = nullptr);
     void refresh() override;
 
   private:

@@ -15,8 +15,8 @@ constexpr int gapBetweenBoxes = 1;
 
 } // namespace
 
-StripPage::StripPage(Form1& owner, FormBinding& links, QWidget* parent)
-    : QWidget(parent), form(owner), binding(links), lines(new QVBoxLayout(this)) {
+StripPage::StripPage(const StripModel& stripModel, FormBinding& links, QWidget* parent)
+    : QWidget(parent), model(stripModel), binding(links), lines(new QVBoxLayout(this)) {
     lines->setContentsMargins(0, 0, 0, 0);
     lines->setSpacing(gapDown);
 }
@@ -44,7 +44,7 @@ void StripPage::addBox(QLayout& layout, CheckBox& control) {
 }
 
 QLabel* StripPage::captioned(Text text) {
-    auto* label = new QLabel(textOf(form.texts, text), this);
+    auto* label = new QLabel(textOf(model.boxes.texts, text), this);
     label->setProperty("secondary", true);
     return label;
 }

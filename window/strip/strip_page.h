@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/form_1.h"
+#include "window/strip/strip_model.h"
 #include "window/widgets/form_binding.h"
 #include "window/widgets/wrap_layout.h"
 
@@ -16,7 +16,7 @@ class StripPage : public QWidget {
     Q_OBJECT
 
   public:
-    StripPage(Form1& form, FormBinding& binding, QWidget* parent);
+    StripPage(const StripModel& stripModel, FormBinding& links, QWidget* parent);
 
     /// Brings up to date what no binding does.
     virtual void refresh() {}
@@ -32,7 +32,7 @@ class StripPage : public QWidget {
     void addBox(QLayout& layout, CheckBox& control);
     QLabel* captioned(Text text);
 
-    Form1& form;
+    StripModel model;
     FormBinding& binding;
     QVBoxLayout* lines = nullptr;
 };

@@ -18,22 +18,22 @@ constexpr int gapBeforeBar = 10;
 
 } // namespace
 
-StripReplayPage::StripReplayPage(Form1& owner, FormBinding& links, QWidget* parent)
-    : StripPage(owner, links, parent) {
+StripReplayPage::StripReplayPage(const StripModel& stripModel, FormBinding& links, QWidget* parent)
+    : StripPage(stripModel, links, parent) {
     auto* row = new QHBoxLayout;
     row->setSpacing(buttonGap);
-    addSign(*row, form.replayPage.play, Sign::play);
-    addSign(*row, form.replayPage.stop, Sign::stop);
-    addSign(*row, form.replayPage.loop, Sign::loop);
-    addSign(*row, form.replayPage.interpolate, Sign::interpolate);
+    addSign(*row, model.controls.replayPage.play, Sign::play);
+    addSign(*row, model.controls.replayPage.stop, Sign::stop);
+    addSign(*row, model.controls.replayPage.loop, Sign::loop);
+    addSign(*row, model.controls.replayPage.interpolate, Sign::interpolate);
     row->addSpacing(gapBeforeBar);
     row->addWidget(makeTimeline(), 1);
     lines->addLayout(row);
     lines->addSpacing(buttonGap);
     WrapLayout* boxes = addColumns();
-    addBox(*boxes, form.replayPage.hide);
-    addBox(*boxes, form.replayPage.lock);
-    addBox(*boxes, form.commentPanel.write);
+    addBox(*boxes, model.controls.replayPage.hide);
+    addBox(*boxes, model.controls.replayPage.lock);
+    addBox(*boxes, model.controls.commentPanel.write);
     finish();
 }
 
@@ -55,17 +55,17 @@ QWidget* StripReplayPage::makeTimeline() {
     auto* row = new QHBoxLayout(timeline);
     row->setContentsMargins(0, 0, 0, 0);
     auto* bar = new ReplayBar(timeline);
-    binding.bind(form.replayPage.bar, *bar);
+    binding.bind(model.controls.replayPage.bar, *bar);
     row->addWidget(bar, 1);
     auto* clock = new QLabel(timeline);
     clock->setProperty("secondary", true);
-    binding.bind(form.replayPage.clock, *clock);
+    binding.bind(model.controls.replayPage.clock, *clock);
     row->addWidget(clock);
     return place;
 }
 
 void StripReplayPage::refresh() {
-    timeline->setVisible(form.replayPage.bar.visible());
+    timeline->setVisible(model.controls.replayPage.bar.visible());
 }
 
 } // namespace tarnel

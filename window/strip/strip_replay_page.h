@@ -13,7 +13,7 @@ class StripReplayPage : public StripPage {
     Q_OBJECT
 
   public:
-    StripReplayPage(Form1& form, FormBinding& binding, QWidget* parent = nullptr);
+    StripReplayPage(const StripModel& stripModel, FormBinding& links, QWidget* parent = nullptr);
     void refresh() override;
 
   private:

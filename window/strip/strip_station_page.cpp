@@ -27,13 +27,14 @@ void showText(QLabel& label, const std::string& text) {
 
 } // namespace
 
-StripStationPage::StripStationPage(Form1& owner, FormBinding& links, QWidget* parent)
-    : StripPage(owner, links, parent) {
+StripStationPage::StripStationPage(const StripModel& stripModel, FormBinding& links,
+                                   QWidget* parent)
+    : StripPage(stripModel, links, parent) {
     auto* columns = addColumns(gapBetweenStations);
     for (std::size_t i = 0; i < slotCount; ++i)
         columns->addWidget(makeStation(i));
     // What nothing answers to rests.
-    CheckBox& edit = form.stationPage.edit;
+    CheckBox& edit = model.controls.stationPage.edit;
     edit.setEnabled(static_cast<bool>(edit.onClick));
     addBox(*addLine(), edit);
     refresh();
@@ -56,7 +57,7 @@ QWidget* StripStationPage::makeStation(std::size_t index) {
     column->setSpacing(0);
     stations[index] = {addLabel(*column, "readout"), addLabel(*column, "secondary")};
     stations[index].identifier->setObjectName(QStringLiteral("Name") + colourName(index));
-    const StationPage::Switches switches = form.stationPage.switches()[index];
+    const StationPage::Switches switches = model.controls.stationPage.switches()[index];
     for (CheckBox* control : {switches.station, switches.dme})
         if (control)
             addBox(*column, *control);
@@ -66,7 +67,7 @@ QWidget* StripStationPage::makeStation(std::size_t index) {
 
 void StripStationPage::refresh() {
     for (std::size_t i = 0; i < slotCount; ++i) {
-        const StationProperties& station = form.UserControl11.slot(static_cast<Slot>(i));
+        const StationProperties& station = model.sim.slot(static_cast<Slot>(i));
         showText(*stations[i].identifier, station.name.get());
         showText(*stations[i].frequency, station.frequency.get());
     }

@@ -12,7 +12,7 @@ class StripStationPage : public StripPage {
     Q_OBJECT
 
   public:
-    StripStationPage(Form1& form, FormBinding& binding, QWidget* parent = nullptr);
+    StripStationPage(const StripModel& stripModel, FormBinding& links, QWidget* parent = nullptr);
     void refresh() override;
 
   private:

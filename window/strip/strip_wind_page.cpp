@@ -11,16 +11,16 @@
 
 namespace tarnel {
 
-StripWindPage::StripWindPage(Form1& owner, FormBinding& links, QWidget* parent)
-    : StripPage(owner, links, parent) {
-    WindPage& page = form.windPage;
+StripWindPage::StripWindPage(const StripModel& stripModel, FormBinding& links, QWidget* parent)
+    : StripPage(stripModel, links, parent) {
+    WindPage& page = model.controls.windPage;
     WrapLayout* modes = addLine();
     modes->addWidget(segmentRow(binding, {&page.none, &page.manual, &page.random}, this));
     auto* draw = new QPushButton(this);
     binding.bind(page.draw, *draw);
     modes->addWidget(draw);
 
-    entry = new WindEntry(form, this);
+    entry = new WindEntry(model.wind, model.boxes, this);
     addLine()->addWidget(entry);
 
     WrapLayout* boxes = addColumns();
@@ -34,7 +34,7 @@ StripWindPage::StripWindPage(Form1& owner, FormBinding& links, QWidget* parent)
     row->addWidget(readout);
     row->addStretch(1);
     boxes->addWidget(shown);
-    QWidget* vectors = vectorBox(form, binding, this);
+    QWidget* vectors = vectorBox(model.controls.chartPage.vectors, model.display, binding, this);
     boxes->addWidget(vectors);
     finish();
 }

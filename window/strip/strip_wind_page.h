@@ -11,7 +11,7 @@ class StripWindPage : public StripPage {
     Q_OBJECT
 
   public:
-    StripWindPage(Form1& form, FormBinding& binding, QWidget* parent = nullptr);
+    StripWindPage(const StripModel& stripModel, FormBinding& links, QWidget* parent = nullptr);
     void refresh() override;
 
   private:

@@ -53,7 +53,8 @@ void showValue(QSpinBox& field, int value) {
 
 } // namespace
 
-WindEntry::WindEntry(Form1& owner, QWidget* parent) : QWidget(parent), form(owner) {
+WindEntry::WindEntry(WindDesk& windDesk, BoxDesk& boxDesk, QWidget* parent)
+    : QWidget(parent), desk(windDesk), boxes(boxDesk) {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     direction = addField("WindDirection", Text::windDirectionEntry, Text::unitDegreeSign);
@@ -66,12 +67,12 @@ WindEntry::WindEntry(Form1& owner, QWidget* parent) : QWidget(parent), form(owne
 }
 
 QSpinBox* WindEntry::addField(const char* name, Text caption, Text unit) {
-    auto* label = new QLabel(textOf(form.texts, caption), this);
+    auto* label = new QLabel(textOf(boxes.texts, caption), this);
     label->setProperty("secondary", true);
     auto* field = new WindField(this);
     field->setObjectName(QString::fromLatin1(name));
     field->setAccessibleName(label->text());
-    field->setSuffix(textOf(form.texts, unit));
+    field->setSuffix(textOf(boxes.texts, unit));
     field->setSingleStep(step);
     field->setKeyboardTracking(false);
     label->setBuddy(field);
@@ -84,15 +85,15 @@ QSpinBox* WindEntry::addField(const char* name, Text caption, Text unit) {
 }
 
 void WindEntry::take() {
-    form.guarded([this] {
-        form.windDesk.setManual(std::max(direction->value(), 0),
-                                static_cast<std::int16_t>(std::max(speed->value(), 0)));
+    boxes.guarded([this] {
+        desk.setManual(std::max(direction->value(), 0),
+                       static_cast<std::int16_t>(std::max(speed->value(), 0)));
     });
 }
 
 void WindEntry::refresh() {
-    const bool told = form.windDesk.isTold();
-    const Wind& wind = form.UserControl11.wind;
+    const bool told = desk.isTold();
+    const Wind& wind = desk.present();
     const int degrees = static_cast<int>(std::lround(wind.direction)) % (highestDirection + 1);
     showValue(*direction, told ? degrees : untold);
     showValue(*speed, told ? wind.speed : untold);

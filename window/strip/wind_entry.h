@@ -1,7 +1,7 @@
 #pragma once
 
-#include "core/aircraft.h"
-#include "shell/form_1.h"
+#include "shell/box_desk.h"
+#include "shell/wind_desk.h"
 
 #include <QWidget>
 
@@ -16,7 +16,7 @@ class WindEntry : public QWidget {
     Q_OBJECT
 
   public:
-    explicit WindEntry(Form1& form, QWidget* parent = nullptr);
+    WindEntry(WindDesk& windDesk, BoxDesk& boxDesk, QWidget* parent = nullptr);
 
     /// Shows the present wind.
     void refresh();
@@ -25,7 +25,8 @@ class WindEntry : public QWidget {
     QSpinBox* addField(const char* name, Text caption, Text unit);
     void take();
 
-    Form1& form;
+    WindDesk& desk;
+    BoxDesk& boxes;
     QSpinBox* direction = nullptr;
     QSpinBox* speed = nullptr;
 };
