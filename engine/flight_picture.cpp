@@ -34,14 +34,14 @@ void FlightScene::switchRadials() {
     redrawChart();
 }
 
-void FlightScene::relabel(Slot which) {
+void FlightScene::relabelStation(Slot which) {
     const StationProperties& station = given.stationSlots.slot(which);
     ++changesOfStations;
     picture.surface.set(inSlot(picture.symbols, which).name.caption,
                         station.name.get() + "\n" + station.frequency.get());
 }
 
-void FlightScene::switchStation(Slot which) {
+void FlightScene::showStationSymbol(Slot which) {
     const StationProperties& station = given.stationSlots.slot(which);
     const bool stationOn = station.enabled != off;
     const bool dmeOn = hasDme(which) ? station.dmeEnabled != off : stationOn;
@@ -63,7 +63,6 @@ void FlightScene::switchAirplane() {
     redrawTrace();
 }
 
-/// The wind stands beside the airplane with the vectors or the turns ahead.
 void FlightScene::showWindLabel() {
     constexpr double gap = 300;
     const bool shown =

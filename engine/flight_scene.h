@@ -34,6 +34,7 @@ class FlightScene {
     void step(bool flies);
     /// Brings them up to date where the aircraft is.
     void refresh() { step(false); }
+    /// Turns the aircraft as far as the last step's turn rate takes it in one tick.
     void turnByTick();
     /// Turns the aircraft at once. Degrees, 0 to 360.
     void turnAircraft(double heading);
@@ -56,13 +57,17 @@ class FlightScene {
     /// Draws stations and radials, as the panel has them or as `inputs` tell.
     void redrawChart() { redrawChart(radialInputs()); }
     void redrawChart(const RadialInputs& inputs);
+    /// Draws the radials again that are to be seen now.
     void switchRadials();
-    void relabel(Slot which);
-    void switchStation(Slot which);
+    /// Shows a station's name, frequency and facilities as its properties have them.
+    void relabelStation(Slot which);
+    void showStationSymbol(Slot which);
     void showAirplane();
     /// Turns the airplane's symbol as the aircraft flies: north-up along its heading, else up.
     void turnSymbol();
+    /// Shows or hides the airplane, and the trace with it.
     void switchAirplane();
+    /// The wind stands beside the airplane with the vectors or the turns ahead, if it may be told.
     void showWindLabel();
     /// Draws the trace of a flight at rest, or wipes it.
     void redrawTrace();

@@ -103,8 +103,8 @@ UserControl2::UserControl2(SimulationMessages& messages)
       mouse({.panel = *this, .editing = *this, .scene = scene, .wind = windSetting, .hand = hand}) {
     connect();
     for (std::size_t i = 0; i < slotCount; ++i) {
-        scene.relabel(static_cast<Slot>(i));
-        scene.switchStation(static_cast<Slot>(i));
+        scene.relabelStation(static_cast<Slot>(i));
+        scene.showStationSymbol(static_cast<Slot>(i));
     }
     scene.showScale();
     scene.redrawChart();
@@ -145,10 +145,10 @@ void UserControl2::connectChart() {
     c_TraceEN.onSet([this] { scene.redrawTrace(); });
     for (std::size_t i = 0; i < slotCount; ++i) {
         const auto which = static_cast<Slot>(i);
-        slot(which).name.onSet([this, which] { scene.relabel(which); });
-        slot(which).frequency.onSet([this, which] { scene.relabel(which); });
-        slot(which).enabled.onSet([this, which] { scene.switchStation(which); });
-        slot(which).dmeEnabled.onSet([this, which] { scene.switchStation(which); });
+        slot(which).name.onSet([this, which] { scene.relabelStation(which); });
+        slot(which).frequency.onSet([this, which] { scene.relabelStation(which); });
+        slot(which).enabled.onSet([this, which] { scene.showStationSymbol(which); });
+        slot(which).dmeEnabled.onSet([this, which] { scene.showStationSymbol(which); });
     }
 }
 

@@ -142,7 +142,7 @@ class UserControl2 : public SimulationProperties {
   public:
     ChartMouse mouse;
 
-    // What the rooms hold, for whoever shows it.
+    // What the rooms hold, under the names that all know it by. Only rooms change what is const.
     const Aircraft& aircraft = scene.aircraft;
     Stations& stations = scene.stations;
     const MapView& view = scene.view;

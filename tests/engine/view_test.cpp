@@ -1,5 +1,7 @@
 #include "engine/simulation_fixture.h"
 
+#include <sstream>
+
 namespace tarnel {
 namespace {
 
@@ -37,6 +39,22 @@ TEST_F(ViewTest, HeadingUpKeepsTheAircraftOnTheReferencePoint) {
     sim.c_TimerEN = 0;
     sim.c_MAPnorthUP = 1; // true at once
     EXPECT_LT(worstRadial(0), 0.3);
+}
+
+TEST_F(ViewTest, WhatIsSetIsSeenAtOnce) {
+    std::istringstream sets(
+        "c_NAVRadI2 1 c_NAVRadI3 1 c_NAV1freq 1 c_Inst2NAVselect 2 c_Inst3NAVselect 2 "
+        "c_NAV2freq 1 c_obsI2 50 c_obsI3 60 c_LocCrs1 100 c_SpeedVectorEN 1 c_TAS 120 "
+        "c_TraceAheadEN 1 c_VOR1name X c_VOR1Freq 117.2 c_VOR1EN 0 c_DME1EN 0 "
+        "c_NAVRadBorder -1 c_NAVRadCenter 0");
+    for (std::string property, value; sets >> property >> value;) {
+        const std::uint64_t before = sim.picture.surface.revision();
+        ASSERT_TRUE(sim.properties.find(property)->setText(value)) << property;
+        EXPECT_NE(sim.picture.surface.revision(), before) << property;
+    }
+    const double below = station(Slot::vor1).dme;
+    sim.c_Altitude = 40000;
+    EXPECT_GT(station(Slot::vor1).dme, below);
 }
 
 TEST_F(ViewTest, WindTurnsWithTheChart) {
