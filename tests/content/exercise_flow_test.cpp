@@ -48,52 +48,6 @@ class ExerciseFlow : public testing::TestWithParam<std::size_t> {
         }
     }
 
-    /// The answers that the solution shows, by row.
-    std::vector<std::string> solution() {
-        click(panel().solutionButton);
-        std::vector<std::string> answers;
-        for (const auto& row : panel().rows)
-            answers.push_back(row->answer.text());
-        return answers;
-    }
-    static int choices(const AnswerRow& row) {
-        return static_cast<int>(row.list ? row.list->entries().size() : row.options.size());
-    }
-    /// Types what a field asks for and picks a choice.
-    static void answer(AnswerRow& row, int choice, const std::string& solution) {
-        const auto digits = solution.find_first_of("0123456789-");
-        const std::string number = digits == std::string::npos ? "" : solution.substr(digits);
-        if (row.entries.size() == 1)
-            row.entries[0]->field.type(number);
-        else if (row.entries.size() == 2) {
-            row.entries[0]->field.type(number.substr(0, number.find('.')));
-            row.entries[1]->field.type(number.substr(number.find('.') + 1, 2));
-        }
-        if (row.list)
-            row.list->pick(choice);
-        else
-            row.options[static_cast<std::size_t>(choice)]->click();
-    }
-    [[nodiscard]] static bool asked(const AnswerRow& row) { return row.prompt.visible(); }
-
-    /// Finds the right choice of each row by trying: a wrong answer brings the question again.
-    std::vector<int> rightChoices(const std::vector<std::string>& solutions) {
-        std::vector<int> right(panel().rows.size(), -1);
-        for (std::size_t r = 0; r < right.size(); ++r) {
-            AnswerRow& row = *panel().rows[r];
-            const int first = row.list ? 1 : 0;
-            for (int choice = first; asked(row) && choice < choices(row); ++choice) {
-                answer(row, choice, solutions[r]);
-                const bool hit = row.verdict() == Verdict::right;
-                if (hit)
-                    right[r] = choice;
-                click(panel().nextButton);
-                if (hit)
-                    break;
-            }
-        }
-        return right;
-    }
     void expectHidden() {
         const UserControl2& sim = form.UserControl11;
         EXPECT_TRUE(form.exercise.questionOpen());
@@ -160,7 +114,7 @@ class ExerciseFlow : public testing::TestWithParam<std::size_t> {
     Form1 form{germanTable(), world, TARNEL_APPLICATION_FOLDER};
 };
 
-TEST_P(ExerciseFlow, IsAskedAnsweredShownAndLeft) {
+TEST_P(ExerciseFlow, IsAskedShownAndLeft) {
     couple();
     const std::int16_t type = static_cast<std::int16_t>(exerciseItems()[GetParam()].type);
     start(GetParam());
@@ -179,10 +133,10 @@ TEST_P(ExerciseFlow, IsAskedAnsweredShownAndLeft) {
         EXPECT_FALSE(item->enabled()) << item->name();
     EXPECT_FALSE(form.fileMenu.loadSession.enabled());
 
-    const std::vector<std::string> solutions = solution();
+    click(panel().solutionButton);
     EXPECT_FALSE(form.exercise.questionOpen());
-    EXPECT_TRUE(form.replay.runs());
-    EXPECT_TRUE(form.instruments.visible());
+    EXPECT_TRUE(form.replay.runs() && form.exercise.solutionShown());
+    EXPECT_TRUE(form.instruments.visible() && form.backButton.visible());
     EXPECT_EQ(form.UserControl11.c_AirplaneEN, 1);
     EXPECT_EQ(form.UserControl11.c_SpeedVectorEN, type == 8 ? 1 : 0);
     couple(1);
@@ -195,26 +149,6 @@ TEST_P(ExerciseFlow, IsAskedAnsweredShownAndLeft) {
     expectHidden();
     click(panel().cancelButton);
     EXPECT_FALSE(form.exercise.runs());
-
-    start(GetParam());
-    panel().randomBox.set(0);
-    toFirstQuestion();
-    const std::vector<int> right = rightChoices(solutions);
-    for (std::size_t r = 0; r < right.size(); ++r) {
-        if (asked(*panel().rows[r])) {
-            ASSERT_GE(right[r], 0) << "row " << r << " can't be answered: " << solutions[r];
-            answer(*panel().rows[r], right[r], solutions[r]);
-        }
-    }
-    couple();
-    EXPECT_TRUE(form.replay.runs()); // all right: the solution at once
-    EXPECT_TRUE(form.exercise.solutionShown());
-    EXPECT_TRUE(form.backButton.visible());
-    EXPECT_TRUE(form.replayPage.bar.enabled());
-    click(panel().nextButton);
-    EXPECT_THAT(panel().statistic.text(), testing::HasSubstr("Richtige: 1"));
-    EXPECT_THAT(panel().frame.text(), testing::HasSubstr("( 2 von 1"));
-    click(panel().cancelButton);
     form.inst2TypeList.pick(form.inst2.type % 5);
     form.replayPage.bar.scrollTo(2);
     EXPECT_FALSE(form.UserControl11.flightUnsaved()) << "looked at, not written over";

@@ -3,13 +3,16 @@
 #include "flights/plan_error.h"
 #include "persistence/chart_file.h"
 #include "persistence/file_bytes.h"
-#include "persistence/session_file.h"
+#include "support/told.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <map>
+#include <sstream>
 #include <vector>
 
 namespace tarnel {
@@ -48,95 +51,93 @@ std::string defaultChart() {
     return readFileBytes(TARNEL_DATA_FOLDER "/default.map", 1 << 20);
 }
 
-std::vector<FlownRow> fly(const std::string& plan) {
+std::vector<FlightRow> fly(const std::string& plan) {
     return flownRows(readPlan(plan, "plan.toml"));
 }
 
 TEST(ScriptedFlight, BeginsAsThePlanSays) {
-    const FlownRow start = fly(busyPlan).front();
-    EXPECT_EQ(start.text("tick"), "0");
-    EXPECT_EQ(start.position(), (GeoPosition{48.2, 11.5}));
-    EXPECT_EQ(start.text("heading"), "350");
-    EXPECT_EQ(start.text("turn_rate"), "0");
-    EXPECT_EQ(start.text("tas"), "180");
-    EXPECT_EQ(start.text("wind_direction"), "240");
-    EXPECT_EQ(start.text("inst2_type"), "VOR");
-    EXPECT_EQ(start.text("inst2_angle"), "270"); // course 90 under the index
-    EXPECT_EQ(start.text("inst2_needle2"), start.text("nav2_radial"));
-    EXPECT_EQ(start.text("inst3_type"), "RMI");
-    EXPECT_NEAR(start.number("inst3_needle2"), start.number("nav4_radial") - 180 - 350, 1e-9);
+    const FlightRow start = fly(busyPlan).front();
+    EXPECT_EQ(positionOf(start), (GeoPosition{48.2, 11.5}));
+    EXPECT_EQ(told(start.tick, start.heading, start.turnRate, start.tas, start.windDirection,
+                   start.inst2.type, start.inst2.angle, start.inst3.type),
+              told(0, 350, 0, 180, 240, vor, 270, rmi)); // course 90 under the index
+    EXPECT_EQ(start.inst2.needle2, start.vor2.radial);
+    EXPECT_NEAR(start.inst3.needle2, start.ndb2Radial - 180 - 350, 1e-9);
     ScriptedFlight turned = flightOf(readPlan("seconds = 1\nnorth_up = false", "plan.toml"));
     EXPECT_EQ(turned.form().UserControl11.c_MAPnorthUP, 0);
 }
 
 TEST(ScriptedFlight, FollowsTheChartWhereThePlanIsSilent) {
     const ChartFile chart = readChart(defaultChart());
-    const std::vector<FlownRow> rows = fly("seconds = 1");
+    const std::vector<FlightRow> rows = fly("seconds = 1");
     ASSERT_EQ(rows.size(), 4U);
-    EXPECT_EQ(rows[0].position(), chart.aircraft);
-    EXPECT_EQ(rows[0].number("heading"), chart.heading);
-    EXPECT_EQ(rows[3].text("seconds"), "1");
-    EXPECT_EQ(rows[3].text("tas"), "120");
-    EXPECT_NE(rows[3].position(), chart.aircraft);
-    EXPECT_EQ(rows[3].text("inst2_type"), "RMI");
-    EXPECT_EQ(rows[3].text("inst3_type"), "HSI");
+    EXPECT_EQ(positionOf(rows[0]), chart.aircraft);
+    EXPECT_NE(positionOf(rows[3]), chart.aircraft);
+    EXPECT_EQ(rows[0].heading, chart.heading);
+    EXPECT_EQ(told(rows[3].seconds, rows[3].tas, rows[3].inst2.type, rows[3].inst3.type),
+              told(1, 120, rmi, hsi));
 }
 
 TEST(ScriptedFlight, TakesAnEventAtTheFirstTickAtOrAfterItsTime) {
     for (const auto& [at, first] : {std::pair("0", 0), {"1", 3}, {"1.1", 4}, {"1.34", 5}}) {
-        const std::vector<FlownRow> rows = fly("seconds = 2\n[[event]]\nat = " + std::string(at) +
-                                               "\nwind = \"360/40\"\ntas = 300\nheading = 90");
-        for (int tick = 0; tick <= 6; ++tick) {
-            const FlownRow& row = rows.at(static_cast<std::size_t>(tick));
-            const bool taken = tick >= first;
-            EXPECT_EQ(row.text("wind_speed"), taken ? "40" : "0") << at << ' ' << tick;
-            EXPECT_EQ(row.text("tas"), taken ? "300" : "120") << at << ' ' << tick;
-            EXPECT_EQ(row.text("turn_rate"), taken ? "3" : "0") << at << ' ' << tick;
-        }
+        const std::vector<FlightRow> rows = fly("seconds = 2\n[[event]]\nat = " + std::string(at) +
+                                                "\nwind = \"360/40\"\ntas = 300\nheading = 90");
+        for (const FlightRow& row : rows)
+            EXPECT_EQ(told(row.windSpeed, row.tas, row.turnRate),
+                      row.tick >= first ? "40 300 3" : "0 120 0")
+                << at << ' ' << row.tick;
     }
     // Of two at the same time the one that stands later in the plan wins.
     EXPECT_EQ(fly("seconds = 1\n[[event]]\nat = 1\ntas = 90\n[[event]]\nat = 0.5\ntas = 200\n"
                   "[[event]]\nat = 1\ntas = 100")
                   .back()
-                  .text("tas"),
-              "100");
+                  .tas,
+              100);
 }
 
 TEST(ScriptedFlight, FliesTheSameBytesTwice) {
     const FlightPlan plan = readPlan(busyPlan, "plan.toml");
-    ScriptedFlight first = flightOf(plan);
-    ScriptedFlight second = flightOf(plan);
-    const std::string table = tableOf(first);
-    EXPECT_EQ(table, tableOf(second));
-    EXPECT_EQ(rowsOf(table).size(), 361U);
-
-    // A flight that ends earlier is the beginning of the longer one.
-    ScriptedFlight shorter = flightOf(plan);
-    std::string beginning = flightCsvHeader();
-    shorter.fly(33.4, [&] { beginning += flightCsvLine(presentRow(shorter)); });
-    EXPECT_EQ(shorter.tick(), 101);
-    EXPECT_TRUE(table.starts_with(beginning));
+    const auto table = [&](double seconds) {
+        ScriptedFlight flight = flightOf(plan);
+        std::string text = flightCsvHeader();
+        flight.fly(seconds, [&] { text += flightCsvLine(presentRow(flight)); });
+        return text;
+    };
+    const std::string whole = table(plan.seconds);
+    EXPECT_EQ(whole, table(plan.seconds));
+    EXPECT_EQ(std::ranges::count(whole, '\n'), 1 + 361);
+    const std::string beginning = table(33.4);
+    EXPECT_EQ(std::ranges::count(beginning, '\n'), 1 + 102);
+    EXPECT_TRUE(whole.starts_with(beginning)) << "a flight that ends earlier is the beginning";
 }
 
 TEST(ScriptedFlight, WritesNumbersThatReadBack) {
     ScriptedFlight flight = flightOf(readPlan(busyPlan, "plan.toml"));
     flight.fly(50, [] {});
     const FlightRow row = presentRow(flight);
-    const FlownRow read = rowsOf(flightCsvHeader() + flightCsvLine(row)).front();
-    EXPECT_EQ(read.number("latitude"), row.latitude);
-    EXPECT_EQ(read.number("seconds"), 50.0);
-    EXPECT_EQ(read.number("nav1_radial"), row.vor1.radial);
-    EXPECT_EQ(read.number("nav5_dme_gs"), row.localizer.dmeGroundSpeed);
-    EXPECT_EQ(read.number("inst3_needle"), row.inst3.needle);
+    std::istringstream names(flightCsvHeader());
+    std::istringstream values(flightCsvLine(row));
+    std::map<std::string, std::string> read;
+    for (std::string name, value; std::getline(names, name, ',');) {
+        ASSERT_TRUE(std::getline(values, value, ',')) << name;
+        read[name] = value;
+    }
+    for (const auto& [name, number] : {std::pair("latitude", row.latitude),
+                                       {"seconds", 50},
+                                       {"nav1_radial", row.vor1.radial},
+                                       {"nav5_dme_gs", double(row.localizer.dmeGroundSpeed)},
+                                       {"inst3_needle", row.inst3.needle}})
+        EXPECT_EQ(std::stod(read[name]), number) << name;
+    EXPECT_EQ(read["inst2_type"] + read["inst3_type"], "VORRMI");
 }
 
 TEST(ScriptedFlight, CountsOnWhenABoxStopsIt) {
     ScriptedFlight flight =
         flightOf(readPlan("seconds = 3\n[aircraft]\nlatitude = 60\nlongitude = 11", "far.toml"));
-    const std::vector<FlownRow> rows = rowsOf(tableOf(flight));
+    const std::vector<FlightRow> rows = rowsOf(flight);
     ASSERT_EQ(rows.size(), 10U);
-    EXPECT_EQ(rows.back().position(), (GeoPosition{60, 11}));
-    EXPECT_EQ(rows.back().text("tick"), "9");
+    EXPECT_EQ(positionOf(rows.back()), (GeoPosition{60, 11}));
+    EXPECT_EQ(rows.back().tick, 9);
     EXPECT_TRUE(flight.stopped());
     ASSERT_EQ(flight.boxes().size(), 1U);
     EXPECT_EQ(flight.boxes()[0].tick, 0);
@@ -187,24 +188,15 @@ class PlanWithChart : public testing::Test {
 
 TEST_F(PlanWithChart, FindsTheChartBesideThePlan) {
     std::istringstream lines(defaultChart());
+    std::map<int, std::string> own{{18, "47.5"}, {19, "12"}, {20, "200"}}; // place and heading
     std::string chart;
     std::string line;
-    for (int number = 1; std::getline(lines, line); ++number) {
-        constexpr int latitude = 18;
-        constexpr int longitude = 19;
-        constexpr int heading = 20;
-        if (number == latitude)
-            line = "47.5";
-        else if (number == longitude)
-            line = "12";
-        else if (number == heading)
-            line = "200";
-        chart += line + "\n";
-    }
+    for (int number = 1; std::getline(lines, line); ++number)
+        chart += (own.contains(number) ? own[number] : line) + "\n";
     writeChart(chart);
-    const std::vector<FlownRow> rows = flownRows(plan("own.map"));
-    EXPECT_EQ(rows[0].position(), (GeoPosition{47.5, 12}));
-    EXPECT_EQ(rows.back().text("heading"), "200"); // the bug stands there, too
+    const std::vector<FlightRow> rows = flownRows(plan("own.map"));
+    EXPECT_EQ(positionOf(rows[0]), (GeoPosition{47.5, 12}));
+    EXPECT_EQ(rows.back().heading, 200); // the bug stands there, too
 }
 
 TEST_F(PlanWithChart, RefusesAChartThatCannotBeRead) {

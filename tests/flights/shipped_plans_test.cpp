@@ -12,8 +12,8 @@ constexpr GeoPosition mun{48.180302, 11.816};
 constexpr GeoPosition mne{48.3554, 11.676};
 
 /// NM to the right of a course to or from `station`.
-double crossTrack(const FlownRow& row, const GeoPosition& station, double course) {
-    const CourseDistance from = CourseAndDistance(station, row.position());
+double crossTrack(const FlightRow& row, const GeoPosition& station, double course) {
+    const CourseDistance from = CourseAndDistance(station, positionOf(row));
     return from.distance * std::sin((from.course - course) * 3.14159265358979323846 / 180);
 }
 
@@ -33,14 +33,14 @@ TEST(ShippedPlans, TrackHoldAndKeepTheirDistance) {
         SCOPED_TRACE(plan.name);
         const auto rows = flownRows(readPlanFile(std::string(TARNEL_PLANS_FOLDER "/") + plan.name));
         double turned = 0;
-        double heading = rows.front().number("heading");
+        double heading = rows.front().heading;
         int passages = 0;
         bool near = false;
-        for (const FlownRow& row : rows) {
-            const double distance = CourseAndDistance(plan.station, row.position()).distance;
-            const double seconds = row.number("seconds");
-            turned += std::remainder(row.number("heading") - heading, 360.0);
-            heading = row.number("heading");
+        for (const FlightRow& row : rows) {
+            const double distance = CourseAndDistance(plan.station, positionOf(row)).distance;
+            const double seconds = row.seconds;
+            turned += std::remainder(row.heading - heading, 360.0);
+            heading = row.heading;
             const bool passes = !near && distance < 0.3;
             passages += passes;
             near = distance < (near ? 1.5 : 0.3);
@@ -48,7 +48,7 @@ TEST(ShippedPlans, TrackHoldAndKeepTheirDistance) {
                 EXPECT_LT(std::abs(crossTrack(row, plan.station, plan.course)), 0.3) << seconds;
             }
             if (plan.arc > 0 && seconds >= 130 && seconds <= 656) {
-                EXPECT_NEAR(row.number("nav1_dme"), plan.arc, 0.3) << seconds;
+                EXPECT_NEAR(row.vor1.dme, plan.arc, 0.3) << seconds;
             }
         }
         EXPECT_EQ(passages, plan.passages);
