@@ -2,6 +2,7 @@
 #include "exercises/exercise_catalogue.h"
 #include "flights/flight.h"
 #include "strings/string_table.h"
+#include "support/temporary_folder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -298,8 +299,8 @@ TEST_F(ExerciseShell, IsAsItWasAfterTenExercises) {
 }
 
 TEST_F(ExerciseShell, AMissingSessionIsToldAndTheQuestionCanBePassed) {
-    std::string name = (fs::temp_directory_path() / "tarnel-XXXXXX").string();
-    const fs::path bare = mkdtemp(name.data());
+    const TemporaryFolder folder;
+    const fs::path bare = folder.at;
     fs::create_directories(bare / "default");
     fs::copy(TARNEL_APPLICATION_FOLDER "/default/study", bare / "default/study",
              fs::copy_options::recursive | fs::copy_options::skip_symlinks);
@@ -318,7 +319,6 @@ TEST_F(ExerciseShell, AMissingSessionIsToldAndTheQuestionCanBePassed) {
     EXPECT_TRUE(form.exercise.questionOpen());
     click(panel().cancelButton);
     EXPECT_FALSE(form.exercise.runs());
-    fs::remove_all(bare);
 }
 
 TEST_F(ExerciseShell, APracticeFlightStandsAtItsFirstSampleWithAReference) {

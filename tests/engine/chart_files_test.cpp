@@ -1,7 +1,7 @@
 #include "engine/simulation_fixture.h"
 #include "support/sample_chart.h"
+#include "support/temporary_folder.h"
 
-#include <filesystem>
 #include <fstream>
 
 namespace tarnel {
@@ -9,8 +9,6 @@ namespace {
 
 class ChartLoadingTest : public SimulationTest {
   protected:
-    void TearDown() override { std::filesystem::remove(path); }
-
     void load(const std::string& text) {
         std::ofstream(path, std::ios::binary) << text;
         sim.c_ChartFileName = path;
@@ -19,8 +17,8 @@ class ChartLoadingTest : public SimulationTest {
     }
     void loadLines(std::size_t count) { load(joinLines(sampleChartLines(), count)); }
 
-    const std::string path = testing::TempDir() + "tarnel_" +
-                             testing::UnitTest::GetInstance()->current_test_info()->name() + ".map";
+    const TemporaryFolder folder;
+    const std::string path = folder.path + "/own.map";
 };
 
 TEST_F(ChartLoadingTest, ChartReplacesEverything) {

@@ -3,6 +3,7 @@
 #include "flights/plan_error.h"
 #include "persistence/chart_file.h"
 #include "persistence/file_bytes.h"
+#include "support/temporary_folder.h"
 #include "support/told.h"
 
 #include <gmock/gmock.h>
@@ -173,17 +174,13 @@ comment = "first"
 
 class PlanWithChart : public testing::Test {
   protected:
-    void SetUp() override { std::filesystem::create_directories(folder); }
-    void TearDown() override { std::filesystem::remove_all(folder); }
-
     void writeChart(const std::string& text) const { std::ofstream(folder / "own.map") << text; }
     [[nodiscard]] FlightPlan plan(const std::string& chart) const {
         return readPlan("seconds = 1\nchart = \"" + chart + "\"", (folder / "plan.toml").string());
     }
 
-    const std::filesystem::path folder =
-        std::filesystem::path(testing::TempDir()) /
-        testing::UnitTest::GetInstance()->current_test_info()->name();
+    const TemporaryFolder temporary;
+    const std::filesystem::path folder = temporary.at;
 };
 
 TEST_F(PlanWithChart, FindsTheChartBesideThePlan) {

@@ -1,5 +1,6 @@
 #include "shell/form_1.h"
 #include "strings/string_table.h"
+#include "support/temporary_folder.h"
 #include "window/frame/flight_guard.h"
 
 #include <QCoreApplication>
@@ -134,12 +135,6 @@ class Flight {
 
 class KilledFlights : public testing::Test {
   protected:
-    KilledFlights() {
-        std::string name = (fs::temp_directory_path() / "tarnel-XXXXXX").string();
-        folder = mkdtemp(name.data());
-    }
-    ~KilledFlights() override { fs::remove_all(folder); }
-
     /// Flies `count` programs at once, each with an own length and life of up to `longest` seconds,
     /// and ends each by `signal`.
     std::vector<Seconds> flyAndEnd(int count, int signal, int exitCode, double longest) {
@@ -147,7 +142,7 @@ class KilledFlights : public testing::Test {
         std::uniform_real_distribution<double> life(0.1, longest);
         std::vector<std::unique_ptr<Flight>> flights;
         for (int i = 0; i < count; ++i)
-            flights.push_back(std::make_unique<Flight>(folder / std::to_string(made++),
+            flights.push_back(std::make_unique<Flight>(folder.at / std::to_string(made++),
                                                        flown(random), Seconds(life(random))));
         std::vector<Seconds> lost;
         while (!flights.empty()) {
@@ -164,7 +159,7 @@ class KilledFlights : public testing::Test {
         return lost;
     }
 
-    fs::path folder;
+    const TemporaryFolder folder;
     std::mt19937 random{std::random_device{}()};
     int made = 0;
 };

@@ -1,5 +1,6 @@
 #include "core/run_time_error.h"
 #include "persistence/file_bytes.h"
+#include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 
@@ -12,11 +13,10 @@ namespace {
 
 class FileBytesTest : public testing::Test {
   protected:
-    void SetUp() override {
+    FileBytesTest() {
         std::filesystem::create_directories(folder + "/charts");
         std::ofstream(folder + "/charts/Größe.map", std::ios::binary) << bytes;
     }
-    void TearDown() override { std::filesystem::remove_all(folder); }
 
     Cause causeOf(const std::string& path, std::size_t limit = 100) const {
         try {
@@ -27,8 +27,8 @@ class FileBytesTest : public testing::Test {
         return Cause::invalidCall;
     }
 
-    const std::string folder = testing::TempDir() + "tarnel_file_bytes_" +
-                               testing::UnitTest::GetInstance()->current_test_info()->name();
+    const TemporaryFolder temporary;
+    const std::string folder = temporary.path;
     const std::string bytes = std::string("a\r\n\0\xff", 5);
 };
 

@@ -1,6 +1,7 @@
 #include "core/run_time_error.h"
 #include "persistence/flight_shelf.h"
 #include "support/sample_session.h"
+#include "support/temporary_folder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -15,12 +16,6 @@ namespace fs = std::filesystem;
 
 class FlightShelfTest : public testing::Test {
   protected:
-    FlightShelfTest() {
-        std::string name = (fs::temp_directory_path() / "tarnel-XXXXXX").string();
-        folder = fs::path(mkdtemp(name.data())) / "flights";
-    }
-    ~FlightShelfTest() override { fs::remove_all(folder.parent_path()); }
-
     static KeptFlight flightOf(std::size_t samples) {
         KeptFlight flight;
         flight.session.samples.resize(samples, sampleOfLines());
@@ -38,7 +33,8 @@ class FlightShelfTest : public testing::Test {
         });
     }
 
-    fs::path folder;
+    const TemporaryFolder temporary;
+    const fs::path folder = temporary.at / "flights";
 };
 
 TEST_F(FlightShelfTest, TwentyFlightsLieWholeAndTheOldestGoes) {

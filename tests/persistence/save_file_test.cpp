@@ -1,6 +1,7 @@
 #include "core/run_time_error.h"
 #include "persistence/file_bytes.h"
 #include "persistence/save_file.h"
+#include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 
@@ -73,12 +74,6 @@ class TakenNameDisk : public DiskCalls {
 
 class SaveFileTest : public testing::Test {
   protected:
-    void SetUp() override {
-        fs::remove_all(folder);
-        fs::create_directories(folder);
-    }
-    void TearDown() override { fs::remove_all(folder); }
-
     std::string content() const { return readFileBytes(path, most); }
     std::size_t filesInFolder() const {
         return static_cast<std::size_t>(std::distance(fs::directory_iterator(folder), {}));
@@ -108,8 +103,8 @@ class SaveFileTest : public testing::Test {
         return status;
     }
 
-    const std::string folder = testing::TempDir() + "tarnel_save_" +
-                               testing::UnitTest::GetInstance()->current_test_info()->name();
+    const TemporaryFolder temporary;
+    const std::string folder = temporary.path;
     const std::string path = folder + "/Flug über Köln.ts";
     const std::string before = "what was there\r\n";
     const std::string after = std::string(3500, 'x') + "\r\n"; // four writes

@@ -1,4 +1,5 @@
 #include "persistence/scratch_folder.h"
+#include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 
@@ -13,9 +14,9 @@ namespace {
 namespace fs = std::filesystem;
 
 TEST(ScratchFolder, IsOneProgramsOwnAndGoneAfterAnyEnd) {
-    const std::string parent = testing::TempDir() + "scratch_test";
-    fs::remove_all(parent);
-    std::ofstream(fs::path(testing::TempDir()) / "beside") << "another's";
+    const TemporaryFolder folder;
+    const std::string parent = folder.path + "/scratch";
+    std::ofstream(folder.path + "/beside") << "another's";
     {
         const ScratchFolder first(parent);
         std::ofstream(first.path() + "/temp.ts") << "a flight";
@@ -35,7 +36,7 @@ TEST(ScratchFolder, IsOneProgramsOwnAndGoneAfterAnyEnd) {
         EXPECT_EQ(std::distance(fs::directory_iterator(parent), {}), 4) << "two, with their locks";
     }
     EXPECT_TRUE(fs::is_empty(parent));
-    EXPECT_EQ(ScratchFolder(testing::TempDir() + "beside").path(), "");
+    EXPECT_EQ(ScratchFolder(folder.path + "/beside").path(), "");
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "persistence/file_bytes.h"
 #include "shell/form_1.h"
 #include "strings/string_table.h"
+#include "support/temporary_folder.h"
 #include "support/told.h"
 
 #include <gmock/gmock.h>
@@ -29,22 +30,11 @@ struct NotedWorld : OutsideWorld {
     }
 };
 
-/// A folder of its own with a default chart in it, gone at the end.
-class ApplicationFolder {
-  public:
-    ApplicationFolder() {
-        std::string name = (std::filesystem::temp_directory_path() / "tarnel-XXXXXX").string();
-        path = mkdtemp(name.data());
-    }
-    ~ApplicationFolder() { std::filesystem::remove_all(path); }
-    ApplicationFolder(const ApplicationFolder&) = delete;
-    ApplicationFolder& operator=(const ApplicationFolder&) = delete;
-
+/// A folder of its own, for a default chart.
+struct ApplicationFolder : TemporaryFolder {
     void writeChart(const std::string& text) const {
         std::ofstream(path + "/default.map", std::ios::binary) << text;
     }
-
-    std::string path;
 };
 
 /// The trainer on the shipped chart, with both clocks run by hand.

@@ -25,41 +25,12 @@ inline std::vector<std::string> sampleLines() {
             "17",    "18",    "19",      "1",    "---"};
 }
 
-/// The sample of these lines.
+/// The sample of these lines, field by field in its order.
 inline Sample sampleOfLines() {
-    Sample s;
-    s.traceLat = 48.25;
-    s.traceLon = 11.5;
-    s.traceHeading = 271.125;
-    s.traceStopMinutes = 1;
-    s.traceStopSeconds = 2;
-    s.traceTAS = 120;
-    s.traceTurnRate = -3;
-    s.traceFlightMinutes = 4;
-    s.traceFlightSeconds = 5;
-    s.traceFlightHours = 6;
-    s.traceStations = {{{48.5, 11.75}, {48.125, 10.5}, {47, -0.5}, {-33.5, 151.25}, {48.35, 11.6}}};
-    s.traceLocCourse = 83;
-    s.traceWindDirection = 250;
-    s.traceWindSpeed = 15;
-    s.traceObsI2 = 41.5;
-    s.traceObsI3 = 402.25;
-    s.traceInst2 = 3;
-    s.traceInst3 = 4;
-    s.traceInst2NAVselect = 7;
-    s.traceInst3NAVselect = 8;
-    s.traceInst2ADFCard = 9;
-    s.traceInst3ADFCard = 10;
-    s.traceNAV1freq = 11;
-    s.traceNAV2freq = 12;
-    s.traceADFfreq = 13;
-    s.traceDMEfreq = 14;
-    s.traceAPhdg = 16;
-    s.traceAPtas = 17;
-    s.traceAPalt = 18;
-    s.traceHDGbug = 19;
-    s.traceComment = 1;
-    return s;
+    constexpr std::array<GeoPosition, slotCount> stations{
+        {{48.5, 11.75}, {48.125, 10.5}, {47, -0.5}, {-33.5, 151.25}, {48.35, 11.6}}};
+    return {48.25, 11.5, 271.125, 1, 2, 120, -3, 4,  5,  6,  stations, 83, 250, 15, 41.5, 402.25,
+            3,     4,    7,       8, 9, 10,  11, 12, 13, 14, 16,       17, 18,  19, 1};
 }
 
 /// A session of `count` equal samples.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/temporary_folder.h"
 #include "window/quiz/quiz_panel.h"
 #include "window/student_fixture.h"
 
@@ -29,18 +30,15 @@ enum class Item {
 class ExerciseStudent : public Student {
   protected:
     void SetUp() override {
-        std::string name = (std::filesystem::temp_directory_path() / "tarnel-XXXXXX").string();
-        folder = mkdtemp(name.data());
         for (const auto& entry : std::filesystem::directory_iterator(TARNEL_APPLICATION_FOLDER))
             if (entry.path().filename() != "default")
                 std::filesystem::create_symlink(entry.path(), folder / entry.path().filename());
         std::filesystem::create_directories(folder / "default/study");
         std::filesystem::create_directories(folder / "default/sessions");
     }
-    void TearDown() override {
+    ~ExerciseStudent() override {
         window.reset();
         form.reset();
-        std::filesystem::remove_all(folder);
     }
 
     void writeStudy(const std::string& name, const std::string& text) {
@@ -124,7 +122,8 @@ class ExerciseStudent : public Student {
         return "visible";
     }
 
-    std::filesystem::path folder;
+    const TemporaryFolder temporary;
+    const std::filesystem::path folder = temporary.at;
     QuizPanel* quiz = nullptr;
 
   private:
