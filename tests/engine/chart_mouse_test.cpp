@@ -1,4 +1,5 @@
 #include "engine/simulation_fixture.h"
+#include "support/told.h"
 
 namespace tarnel {
 namespace {
@@ -80,22 +81,19 @@ TEST_F(ChartMouseTest, HeadingToolDrawsWholeDegrees) {
     std::vector<std::int16_t> drawn;
     sim.headingDrawn = [&](std::int16_t heading) { drawn.push_back(heading); };
     sim.mouse.down(ChartButton::right, {3405, 3405}); // on the aircraft: no direction
-    EXPECT_TRUE(sim.picture.help.visible);
-    EXPECT_TRUE(drawn.empty());
+    EXPECT_TRUE(sim.picture.help.visible && drawn.empty());
+    const HeadingLine& tool = sim.picture.heading;
     for (const auto& [at, heading, caption] : cases) {
         sim.mouse.move(at);
-        EXPECT_EQ(sim.c_HDG, heading);
-        EXPECT_EQ(sim.aircraft.trueHeading, heading);
         ASSERT_FALSE(drawn.empty());
-        EXPECT_EQ(drawn.back(), heading);
-        EXPECT_EQ(sim.picture.heading.value.caption, caption);
-        EXPECT_EQ(sim.picture.heading.line.to, at);
-        EXPECT_TRUE(sim.picture.heading.line.visible);
+        EXPECT_EQ(told(sim.c_HDG, sim.aircraft.trueHeading, drawn.back(), tool.value.caption),
+                  told(heading, heading, heading, caption));
+        EXPECT_EQ(tool.line.to, at);
+        EXPECT_TRUE(tool.line.visible);
     }
     EXPECT_EQ(place(), (GeoPosition{49, 11}));
     sim.mouse.up();
-    EXPECT_FALSE(sim.picture.heading.line.visible);
-    EXPECT_FALSE(sim.picture.help.visible);
+    EXPECT_FALSE(tool.line.visible || sim.picture.help.visible);
     click(ChartButton::right, {3405, 3405}); // once more puts the tool away
     click(ChartButton::right, {3405, 3405});
     EXPECT_FALSE(sim.picture.help.visible);

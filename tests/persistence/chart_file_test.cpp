@@ -19,24 +19,10 @@ std::string encipheredChart(const std::string& plain) {
            "\r\n7\r\n" + encipheredWithKey7(plain);
 }
 
-TEST(ChartReader, ReadsAGoodFileByteForByte) {
-    const ChartFile chart = readChart(":v1id:,ALB@u\r\n:v1fr:,112.30\r\n:v2id:,BRK@r\r\n"
-                                      ":v2fr:,108.40\r\n:n1id:,CA@l\r\n:n1fr:,338\r\n"
-                                      ":n2id:,DU@d\r\n:n2fr:,369\r\n:loid:,ILS EAST\r\n"
-                                      ":lofr:,108.70\r\n:n1:,2\r\n:n2:,5\r\n:n3:,1\r\n:n4:,2\r\n"
-                                      ":n1:,4\r\n:mc:,1\r\n:ms:,1.5\r\n48.25\r\n11.5\r\n0\r\n"
-                                      "11.75\r\n48.5\r\n10.5\r\n48.125\r\n-0.5\r\n47.75\r\n"
-                                      "151.25\r\n-33.5\r\n11.6\r\n48.35\r\n83\r\n");
+TEST(ChartReader, ReadsAGoodFile) {
+    const ChartFile chart = readChart(joinLines(sampleChartLines(), lineCount));
     EXPECT_FALSE(chart.problem);
-
-    struct Expected {
-        const char* identifier;
-        const char* frequency;
-        int labelX;
-        int labelY;
-        StationState state; // station, DME, button
-        GeoPosition position;
-    };
+    using Expected = std::tuple<std::string, std::string, int, int, StationState, GeoPosition>;
     const Expected expected[slotCount] = {
         {"ALB", "112.30", -200, -555, {true, true, true}, {48.5, 11.75}},
         {"BRK", "108.40", 200, -190, {false, true, false}, {48.125, 10.5}},
@@ -45,51 +31,43 @@ TEST(ChartReader, ReadsAGoodFileByteForByte) {
         {"ILS EAST", "108.70", -200, -555, {true, false, true}, {48.35, 11.6}},
     };
     for (std::size_t slot = 0; slot < slotCount; ++slot) {
-        const ChartStation& station = chart.stations[slot];
-        EXPECT_EQ(station.identifier, expected[slot].identifier);
-        EXPECT_EQ(station.frequency, expected[slot].frequency);
-        EXPECT_EQ(station.labelOffsetX, expected[slot].labelX) << slot;
-        EXPECT_EQ(station.labelOffsetY, expected[slot].labelY) << slot;
-        EXPECT_EQ(station.state, expected[slot].state) << slot;
-        EXPECT_EQ(station.position, expected[slot].position) << slot;
+        const ChartStation& read = chart.stations[slot];
+        EXPECT_TRUE(Expected(*read.identifier, *read.frequency, read.labelOffsetX,
+                             read.labelOffsetY, *read.state, *read.position) == expected[slot])
+            << slot;
     }
-    EXPECT_EQ(chart.mapCenterSelect, 1);
-    EXPECT_EQ(chart.mapScaleTwips, 333);
+    EXPECT_EQ(
+        std::tuple(chart.mapCenterSelect, chart.mapScaleTwips, chart.heading, chart.locCourse),
+        std::tuple(1, 333, 0, 83));
     EXPECT_EQ(chart.aircraft, (GeoPosition{48.25, 11.5}));
-    EXPECT_EQ(chart.heading, 0);
-    EXPECT_EQ(chart.locCourse, 83);
 }
 
 TEST(ChartReader, KnowsEveryStateCode) {
-    constexpr StationState vorStates[] = {
-        {false, false, false}, {true, true, false},  {true, true, true},  {true, false, false},
-        {true, false, true},   {false, true, false}, {false, true, true},
-    };
-    constexpr StationState ndbStates[] = {
-        {false, false, false}, {true, false, true}, {true, false, false}};
-    for (std::size_t code = 0; code < std::size(vorStates); ++code)
-        EXPECT_EQ(readChart(chartWith(11, ":n1:," + std::to_string(code))).stations[0].state,
-                  vorStates[code])
-            << code;
-    for (std::size_t code = 0; code < std::size(ndbStates); ++code)
-        EXPECT_EQ(readChart(chartWith(13, ":n3:," + std::to_string(code))).stations[2].state,
-                  ndbStates[code])
-            << code;
+    const std::pair<const char*, StationState> codes[] = {
+        // of a VOR and of an NDB
+        {":n1:,0", {false, false, false}}, {":n1:,1", {true, true, false}},
+        {":n1:,2", {true, true, true}},    {":n1:,3", {true, false, false}},
+        {":n1:,4", {true, false, true}},   {":n1:,5", {false, true, false}},
+        {":n1:,6", {false, true, true}},   {":n3:,0", {false, false, false}},
+        {":n3:,1", {true, false, true}},   {":n3:,2", {true, false, false}}};
+    for (const auto& [line, state] : codes) {
+        const bool ndb = line[2] == '3';
+        EXPECT_EQ(readChart(chartWith(ndb ? 13 : 11, line)).stations[ndb ? 2 : 0].state, state)
+            << line;
+    }
 }
 
 TEST(ChartReader, TakesScalesFromHalfToFour) {
-    const std::pair<const char*, std::optional<std::int16_t>> cases[] = {
-        {"0.5", std::int16_t{1000}},
-        {"4", std::int16_t{125}},
-        {"3", std::int16_t{167}},
-        {".8", std::int16_t{625}},
-        {"0.4", {}},
-        {"4.1", {}},
-        {"-2", {}},
-        {"0", {}}};
-    for (const auto& [text, twips] : cases) {
+    for (const auto& [text, twips] : {std::pair("0.5", 1000),
+                                      {"4", 125},
+                                      {"3", 167},
+                                      {".8", 625},
+                                      {"0.4", 0},
+                                      {"4.1", 0},
+                                      {"-2", 0},
+                                      {"0", 0}}) {
         const ChartFile chart = readChart(chartWith(17, std::string(":ms:,") + text));
-        EXPECT_EQ(chart.mapScaleTwips, twips) << text;
+        EXPECT_EQ(chart.mapScaleTwips.value_or(0), twips) << text;
         EXPECT_FALSE(chart.problem) << text;
         EXPECT_EQ(chart.locCourse, 83) << text;
     }

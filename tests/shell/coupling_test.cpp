@@ -201,16 +201,16 @@ TEST_F(RunTimeErrors, PauseTheFlightAndAreToldOnce) {
 TEST_F(Stopwatch, RunsStopsAndResetsAtOnceWhenPaused) {
     form.stopwatchStartButton.click();
     start();
-    fly(65.5);
-    EXPECT_EQ(form.tvsmtimer1.minsec.get(), "01.05");
-    form.stopwatchStartButton.click();
-    fly(10);
-    EXPECT_EQ(form.tvsmtimer1.minsec.get(), "01.05");
+    for (const double seconds : {65.5, 10.0}) {
+        fly(seconds);
+        EXPECT_EQ(form.tvsmtimer1.minsec.get(), "01.05");
+        if (seconds > 60)
+            form.stopwatchStartButton.click();
+    }
     form.startButton.click();
     form.stopwatchResetButton.click();
     couple(1);
-    EXPECT_EQ(form.tvsmtimer1.minsec.get(), "00.00");
-    EXPECT_EQ(form.flightTimePanel.text(), "0h1min15sec");
+    EXPECT_EQ(told(form.tvsmtimer1.minsec, form.flightTimePanel), "00.00 0h1min15sec");
 }
 
 TEST_F(Strip, AnAbandonedTrackStaysAway) {

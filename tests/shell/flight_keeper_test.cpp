@@ -17,6 +17,7 @@ class FlightKeeperTest : public TrainerWithFiles {
         keeper().useShelf(folder.path + "/flights");
     }
     void save() { form->fileMenu.saveSession.click(); }
+    void placeAircraft() { sim().placeAircraft(ChartPoint{1000, 2000}); }
     [[nodiscard]] std::vector<Sample> recorded() {
         std::vector<Sample> samples;
         for (int i = 1; i <= sim().c_TraceBufferMax; ++i)
@@ -42,10 +43,7 @@ TEST_F(FlightKeeperTest, NoWayOfLeavingAFlightLosesIt) {
         {"a practice", [this] { form->exerciseMenu.adfPractice[0]->click(); }},
         {"the introduction", [this] { form->exerciseMenu.introduction1.click(); }},
         {"an exercise without its session", [this] { sim().dropRecording(); }},
-        {"placing the aircraft",
-         [this] {
-             sim().placeAircraft(ChartPoint{1000, 2000});
-         }},
+        {"placing the aircraft", [this] { placeAircraft(); }},
         {"a start in the middle",
          [this] {
              form->replayPage.bar.scrollTo(20);
@@ -163,15 +161,8 @@ TEST_F(FlightKeeperTest, AFlightThatIsCalledBackIsNotPutAsideOnceMore) {
 
 TEST_F(FlightKeeperTest, ANameHoldsForTheFlightThatItWasGivenTo) {
     const std::vector<std::pair<const char*, std::function<void()>>> others = {
-        {"placed and started",
-         [this] {
-             sim().placeAircraft(ChartPoint{1000, 2000});
-             fly(40);
-         }},
-        {"placed alone",
-         [this] {
-             sim().placeAircraft(ChartPoint{1000, 2000});
-         }},
+        {"placed and started", [this] { placeAircraft(), fly(40); }},
+        {"placed alone", [this] { placeAircraft(); }},
         {"started in the middle",
          [this] {
              form->replayPage.bar.scrollTo(9);
@@ -225,7 +216,7 @@ TEST_F(FlightKeeperTest, ASituationSetUpByHandIsSavedAndFound) {
         start();
         if (afterFlight)
             fly(40);
-        sim().placeAircraft(ChartPoint{1000, 2000});
+        placeAircraft();
         sim().turnAircraft(77);
         form->coupling.setHeadingBug(123);
         form->windDesk.setManual(240, 15);

@@ -88,23 +88,24 @@ TEST_F(Needles, NothingPointsAtAStationThatIsOff) {
 }
 
 TEST_F(Needles, AdfCardIsFixedByHandOrSlavedAndHasNoOthersCourse) {
+    UserControl_1& dial = form.inst2.instrument;
+    const auto expectAngle = [&](double angle) {
+        couple();
+        EXPECT_EQ(dial.angle, angle);
+    };
     form.inst2TypeList.pick(vor - 1);
     placeAt(48.0, 11.9, 60);
     setCourse(form.inst2, 120);
     form.inst2TypeList.pick(adf - 1);
-    couple();
-    EXPECT_EQ(form.inst2.instrument.angle, 360) << "it starts at north";
-    form.inst2.instrument.mouse.stepKnob(InstrumentArea::obsKnob, 25);
-    couple();
-    EXPECT_EQ(form.inst2.instrument.angle, 335);
+    expectAngle(360); // it starts at north
+    dial.mouse.stepKnob(InstrumentArea::obsKnob, 25);
+    expectAngle(335);
     EXPECT_EQ(sim().c_obsI2, 25) << "is recorded";
-    form.inst2.instrument.mouse.stepKnob(InstrumentArea::selector, 1);
-    couple();
-    EXPECT_EQ(form.inst2.instrument.angle, 300);
+    dial.mouse.stepKnob(InstrumentArea::selector, 1);
+    expectAngle(300);
     form.inst2TypeList.pick(vor - 1);
-    couple();
-    EXPECT_EQ(form.inst2.instrument.angle, 240);
-    form.inst2.instrument.mouse.stepKnob(InstrumentArea::obsKnob, 1);
+    expectAngle(240);
+    dial.mouse.stepKnob(InstrumentArea::obsKnob, 1);
     couple();
     EXPECT_EQ(form.inst2.obs, 121) << "the knob counts on from the course";
 }
@@ -170,21 +171,21 @@ TEST_F(Needles, SwitchedOffStationsFlag) {
 }
 
 TEST_F(Needles, SecondPointerIsNamedByWhatItShows) {
-    couple();
-    EXPECT_EQ(form.inst2.instrument.c_LabelText4.get(), "NDB 1");
+    const auto expectNames = [this](const char* names, int overlay) {
+        couple();
+        EXPECT_EQ(told(form.inst2.instrument.c_LabelText4, form.inst3.instrument.c_LabelText4),
+                  names);
+        EXPECT_EQ(form.inst3OverlayBox.value(), overlay);
+    };
+    expectNames("NDB 1 ", 0);
     form.ADFControlFace1.stepUp();
-    couple();
-    EXPECT_EQ(form.inst2.instrument.c_LabelText4.get(), "NDB 2");
-    EXPECT_EQ(form.inst3.instrument.c_LabelText4.get(), "");
+    expectNames("NDB 2 ", 0);
     form.inst3OverlayBox.click();
-    couple();
-    EXPECT_EQ(form.inst3.instrument.c_LabelText4.get(), "VOR 1");
+    expectNames("NDB 2 VOR 1", 1);
     form.NAVControlFace1.c_SetFreq = 2;
-    couple();
-    EXPECT_EQ(form.inst3OverlayBox.value(), 2) << "greyed on a localizer";
+    expectNames("NDB 2 ", 2); // greyed on a localizer
     form.NAVControlFace1.c_SetFreq = 0;
-    couple();
-    EXPECT_EQ(form.inst3OverlayBox.value(), 1);
+    expectNames("NDB 2 VOR 1", 1);
 }
 
 } // namespace

@@ -53,16 +53,12 @@ TEST_F(CommentStudent, ReadsACommentBelowTheChartWhileTheWindowKeepsStill) {
 
 TEST_F(CommentStudent, ShowsTheMarkOnlyWithACommentAndWhileItBlinks) {
     open();
-    auto& mark = find<QLabel>("Text3");
-    form->commentPanel.mark.setVisible(true);
-    settle();
-    EXPECT_FALSE(mark.isVisible());
-    form->UserControl11.c_CurrentComment = "Here";
-    settle();
-    EXPECT_TRUE(mark.isVisible());
-    form->commentPanel.mark.setVisible(false);
-    settle();
-    EXPECT_FALSE(mark.isVisible());
+    for (const auto& [comment, blinks] : {std::pair("", true), {"Here", true}, {"Here", false}}) {
+        form->commentPanel.mark.setVisible(blinks);
+        form->UserControl11.c_CurrentComment = comment;
+        settle();
+        EXPECT_EQ(find<QLabel>("Text3").isVisible(), *comment && blinks);
+    }
 }
 
 } // namespace

@@ -37,29 +37,31 @@ class FlightSignsTest : public Student {
 };
 
 TEST_F(FlightSignsTest, TheWindowTellsOfAFlightAndWhereItWent) {
+    const std::string saved = "New Session.ts \u2013 Tarnel";
+    const std::string unsaved = "New Session.ts (not saved) \u2013 Tarnel";
     start();
-    EXPECT_EQ(title(), "New Session.ts \u2013 Tarnel");
+    auto& notice = find<QLabel>("StatusNotice");
+    EXPECT_EQ(title(), saved);
     ASSERT_EQ(openedList().actions().size(), 1);
     EXPECT_FALSE(openedList().actions()[0]->isEnabled());
     flyAMinute();
-    EXPECT_EQ(title(), "New Session.ts (not saved) \u2013 Tarnel");
-    EXPECT_FALSE(find<QLabel>("StatusNotice").isVisible());
+    EXPECT_EQ(title(), unsaved);
+    EXPECT_FALSE(notice.isVisible());
     form->fileMenu.newSession.click();
     settle();
-    EXPECT_TRUE(find<QLabel>("StatusNotice").isVisible());
-    EXPECT_THAT(find<QLabel>("StatusNotice").text().toStdString(), HasSubstr("1 min 0 s"));
-    EXPECT_EQ(title(), "New Session.ts \u2013 Tarnel");
-
+    EXPECT_TRUE(notice.isVisible());
+    EXPECT_THAT(notice.text().toStdString(), HasSubstr("1 min 0 s"));
+    EXPECT_EQ(title(), saved);
     const QList<QAction*> flights = openedList().actions();
     ASSERT_EQ(flights.size(), 1);
     EXPECT_THAT(flights[0]->text().toStdString(), HasSubstr("1 min 0 s   MUN"));
     flights[0]->trigger();
     settle();
     EXPECT_EQ(form->UserControl11.c_TraceBufferMax, 45);
-    EXPECT_EQ(title(), "New Session.ts (not saved) \u2013 Tarnel");
+    EXPECT_EQ(title(), unsaved);
     form->flightDesk.notice.setVisible(false);
     settle();
-    EXPECT_FALSE(find<QLabel>("StatusNotice").isVisible());
+    EXPECT_FALSE(notice.isVisible());
 }
 
 TEST_F(FlightSignsTest, TheNextStartOffersTheLastFlightInOneLine) {

@@ -124,15 +124,16 @@ TEST_F(SingleInstanceTest, AnotherUserIsNotListenedTo) {
 TEST(SingleInstanceFolder, IsTheUsersAlone) {
     const QTemporaryDir temporary;
     const std::string home = temporary.path().toStdString();
+    const std::string other = home + "/cache/tarnel-run";
     const QByteArray runtime = qgetenv("XDG_RUNTIME_DIR");
     const QByteArray cache = qgetenv("XDG_CACHE_HOME");
     qputenv("XDG_RUNTIME_DIR", temporary.path().toUtf8());
     qputenv("XDG_CACHE_HOME", temporary.path().toUtf8() + "/cache");
     EXPECT_EQ(SingleInstance::usersFolder(), home);
     std::filesystem::permissions(home, std::filesystem::perms(0755));
-    EXPECT_EQ(SingleInstance::usersFolder(), home + "/cache/tarnel-run");
-    std::filesystem::remove(home + "/cache/tarnel-run");
-    std::filesystem::create_symlink(home, home + "/cache/tarnel-run");
+    EXPECT_EQ(SingleInstance::usersFolder(), other);
+    std::filesystem::remove(other);
+    std::filesystem::create_symlink(home, other);
     EXPECT_EQ(SingleInstance::usersFolder(), "");
     qputenv("XDG_RUNTIME_DIR", runtime);
     qputenv("XDG_CACHE_HOME", cache);

@@ -27,7 +27,7 @@ constexpr long mostMegabytes = 256;
 
 std::string repeated(const std::string& part, std::size_t count) {
     std::string text;
-    for (std::size_t i = 0; i < count; ++i)
+    while (count-- > 0)
         text += part;
     return text;
 }
@@ -103,16 +103,19 @@ TEST_F(WorstFilesTest, OfChartsAndSessionsFreezeNothing) {
     constexpr std::size_t chart = std::size_t{1} << 20;
     const auto head = sessionHeadLines();
     const std::string start = joinLines(head, head.size());
-    expectQuickToOpen("one comment.ts", filled(":c:", "W", session) + "\n" + start, false);
-    expectQuickToOpen("one comment 2.ts", filled(":c:", "\xFC", session), false);
     const std::string enciphered = std::string(54, '*') + "\n\n\n7\n";
-    expectQuickToOpen("enciphered.ts", filled(enciphered, "\xFF", session), false);
-    expectQuickToOpen("enciphered lines.ts", filled(enciphered, "\n", session), false);
-    expectQuickToOpen("lines.ts", filled("", "\n", session), false);
-    expectQuickToOpen("comments.ts", filled("", ":c:\n", session), false);
-    expectQuickToOpen("digits.ts", filled(start, "9", session), false);
-    expectQuickToOpen("blanks.ts", filled(start, " ", session), false);
-    expectQuickToOpen("name.map", filled(":v1id:,", "W", chart), false);
+    const std::tuple<const char*, std::string, std::string, std::size_t> wrong[] = {
+        {"one comment.ts", ":c:", "W", session},
+        {"one comment 2.ts", ":c:", "\xFC", session},
+        {"enciphered.ts", enciphered, "\xFF", session},
+        {"enciphered lines.ts", enciphered, "\n", session},
+        {"lines.ts", "", "\n", session},
+        {"comments.ts", "", ":c:\n", session},
+        {"digits.ts", start, "9", session},
+        {"blanks.ts", start, " ", session},
+        {"name.map", ":v1id:,", "W", chart}};
+    for (const auto& [name, front, part, size] : wrong)
+        expectQuickToOpen(name, filled(front, part, size), false);
     expectQuickToOpen("digits.map", chartWith(18, std::string(chart / 2, '4')), false);
     expectQuickToOpen("names.map", chartWith(1, ":v1id:," + repeated("W", 40)), true);
     expectQuickToOpen("edge.map", chartWith(22, "89"), true);
