@@ -25,11 +25,12 @@ void drawRay(DrawingSurface& surface, Line& line, Point from, double angle, bool
     surface.show(line, visible);
 }
 
-void drawRadials(ChartPicture& picture, RadialLines& lines, std::size_t slot, double angle,
-                 Point station, const RadialInputs& inputs) {
+void drawRadials(ChartPicture& picture, RadialLines& lines, Slot tuned, double angle, Point station,
+                 const RadialInputs& inputs) {
     DrawingSurface& surface = picture.surface;
+    surface.set(lines.station, tuned);
     for (Line* line : {&lines.course, &lines.reciprocal, &lines.borderLeft, &lines.borderRight})
-        surface.set(line->colour, slotColour(slot));
+        surface.set(line->colour, slotColour(static_cast<std::size_t>(tuned)));
     surface.set(lines.angle, angle);
     drawRay(surface, lines.course, station, angle, inputs.center);
     drawRay(surface, lines.reciprocal, station, angle + 180, inputs.center);
@@ -60,12 +61,11 @@ void drawReceiverRadials(ChartPicture& picture, const Stations& stations, std::i
     const Slot* tuned = tunedSlot(inputs.navFreq[static_cast<std::size_t>(receiver - 1)]);
     if (!tuned)
         return;
-    const auto slot = static_cast<std::size_t>(*tuned);
     const auto draw = [&](const RadialSettings& settings, RadialLines& lines) {
         if (settings.navSelect != receiver || !settings.shown)
             return;
         const double angle = *tuned == Slot::localizer ? localizerAngle : settings.obs;
-        drawRadials(picture, lines, slot, angle, stations[slot].place.wide, inputs);
+        drawRadials(picture, lines, *tuned, angle, inSlot(stations, *tuned).place.wide, inputs);
     };
     draw(inputs.inst3, picture.radialsI3);
     draw(inputs.inst2, picture.radialsI2);

@@ -28,6 +28,7 @@ struct RadialLines {
     Line reciprocal;
     Line borderLeft; ///< 10 degrees to either side: full deflection
     Line borderRight;
+    Slot station = Slot::vor1; ///< that it belongs to
     double angle = 0; ///< degrees from the top of the chart, for the lettering along the line
 };
 

@@ -130,7 +130,7 @@ TEST(ChartInk, RadialArrowAndLetteringLieRightInBothViews) {
                   0.6);
 
         // The left half of the north arrow is filled, the right one is not.
-        const QRectF plate = northArrowPlate(frame);
+        const QRectF plate = toQt(NorthArrow(frame).plate);
         QTransform turn;
         turn.translate(plate.center().x(), plate.top() + 15 * frame.textScale);
         turn.rotate(-heading);

@@ -1,38 +1,19 @@
 #pragma once
 
-#include "core/drawing_surface.h"
+#include "paper/paper_frame.h"
+#include "window/chart/paper_shapes.h"
 
 #include <QFont>
-#include <QLineF>
-#include <QPointF>
-#include <QRectF>
 
 namespace tarnel {
 
-/// `ChartFrame`: how the chart's twips lie on the paper's pixels, and how large lettering and
-/// symbols are on a paper of that size.
-struct ChartFrame {
-    /// A paper of `paperSide` logical pixels that shows `paperTwips` x `paperTwips`.
+/// `ChartFrame`: the paper's frame as the painter takes it, and the fonts of that size.
+struct ChartFrame : PaperFrame {
     ChartFrame(double paperSide, double paperTwips, double devicePixelRatio);
 
-    [[nodiscard]] QPointF at(Point point) const {
-        return {point.x * pixelsPerTwip, point.y * pixelsPerTwip};
-    }
-    [[nodiscard]] QLineF along(const Line& line) const { return {at(line.from), at(line.to)}; }
-    /// The nearest place to `point` that falls on the device's pixels.
-    [[nodiscard]] QPointF snapped(QPointF point) const;
+    [[nodiscard]] QPointF at(Point point) const { return toQt(spot(point)); }
+    [[nodiscard]] QLineF along(const Line& line) const { return toQt(stroke(line)); }
 
-    /// Whether this is the frame for these values.
-    [[nodiscard]] bool fits(double paperSide, double paperTwips, double devicePixelRatio) const {
-        return side == paperSide && twips == paperTwips && pixelRatio == devicePixelRatio;
-    }
-
-    double side;
-    double twips;
-    double pixelRatio;
-    double pixelsPerTwip;
-    double symbolScale; ///< 1 on a paper of 544 pixels
-    double textScale;   ///< 1 on papers of 480 to 760 pixels
     QRectF paper;
     QFont nameFont;
     QFont frequencyFont;

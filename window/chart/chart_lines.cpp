@@ -1,25 +1,26 @@
 #include "window/chart/chart_lines.h"
 
-#include "window/widgets/line_clipping.h"
+#include "paper/line_clipping.h"
+#include "paper/line_layout.h"
+#include "paper/plates.h"
 #include "window/widgets/look.h"
 
 #include <QPainter>
 
 #include <algorithm>
-#include <cmath>
+#include <span>
 
 namespace tarnel {
 
 namespace {
-
-/// Lines go that far beyond the paper, so that no end shows; labels stay that far inside.
-constexpr double edgeMargin = 2;
 
 constexpr double courseWidth = 1.6;
 constexpr double reciprocalWidth = 1.1;
 constexpr double reciprocalOpacity = 0.5;
 constexpr double borderWidth = 1;
 constexpr double borderOpacity = 0.55;
+constexpr double reciprocalDashes[] = {6, 4};
+constexpr double borderDashes[] = {3, 3};
 
 constexpr double featherOpacity = 0.7;
 constexpr double fillNear = 0.32;
@@ -28,25 +29,10 @@ constexpr double paleHalf = 0.3; ///< of the filled half's opacity
 
 constexpr double plateOpacity = 0.85;
 constexpr double platePadding = 2;
-constexpr double headingPadding = 6; ///< beside the heading tool's labels
-constexpr double letteringGap = 2;
-constexpr double shortestLettered = 90;
-/// Where along the visible line the lettering may stand, the best place first.
-constexpr double letteringPlaces[] = {0.66, 0.74, 0.58, 0.82, 0.5, 0.9, 0.42, 0.34};
 
-/// The same for the texts beside the wind triangle.
-constexpr double vectorPlaces[] = {0.5, 0.62, 0.4, 0.74, 0.86, 0.3};
-
-constexpr double arrowLength = 9;
-constexpr double arrowHalfWidth = 3.5;
 constexpr double airWidth = 1.6;
 constexpr double windWidth = 2;
 constexpr double groundWidth = 2.4;
-constexpr double shortestArrow = 2;
-
-QRectF paintable(const ChartFrame& frame) {
-    return frame.paper.adjusted(-edgeMargin, -edgeMargin, edgeMargin, edgeMargin);
-}
 
 QLinearGradient fading(const QLineF& along, QColor colour, double strength) {
     QLinearGradient gradient(along.p1(), along.p2());
@@ -55,113 +41,53 @@ QLinearGradient fading(const QLineF& along, QColor colour, double strength) {
     return gradient;
 }
 
-/// A radial goes on to the edge of the paper, however far its station is.
-QLineF asRay(const ChartFrame& frame, const Line& line) {
-    QLineF ray = frame.along(line);
-    const QPointF centre = frame.paper.center();
-    const double needed = QLineF(ray.p1(), centre).length() + frame.side;
-    if (ray.length() > 0 && ray.length() < needed)
-        ray.setLength(needed);
-    return ray;
-}
-
-/// A line with dashes that stay where they are when the paper's edge cuts off its beginning.
 void paintDashedRay(QPainter& painter, const ChartFrame& frame, const Line& line, QPen pen,
-                    const QList<qreal>& pattern) {
-    const QLineF whole = asRay(frame, line);
-    const auto visible = clipped(whole, paintable(frame));
-    if (!line.visible || !visible)
+                    std::span<const double> pattern) {
+    const auto dashed = dashedRay(frame, line, pattern, pen.widthF());
+    if (!dashed)
         return;
-    double period = 0;
-    for (const double dash : pattern)
-        period += dash;
-    pen.setDashPattern(pattern);
-    pen.setDashOffset(std::fmod(QLineF(whole.p1(), visible->p1()).length() / pen.widthF(), period));
+    pen.setDashPattern({pattern.begin(), pattern.end()});
+    pen.setDashOffset(dashed->offset);
     painter.setPen(pen);
-    painter.drawLine(*visible);
+    painter.drawLine(toQt(dashed->visible));
 }
 
-void paintSolid(QPainter& painter, const ChartFrame& frame, const QLineF& line, const QPen& pen) {
-    if (const auto visible = clipped(line, paintable(frame))) {
+void paintSolid(QPainter& painter, const ChartFrame& frame, const Stroke& line, const QPen& pen) {
+    if (const auto visible = clipped(line, frame.beyondEdges())) {
         painter.setPen(pen);
-        painter.drawLine(*visible);
+        painter.drawLine(toQt(*visible));
     }
 }
 
-/// A text on its plate, laid around the painter's origin.
 void paintPlate(QPainter& painter, const QRectF& place, const QString& text) {
     painter.fillRect(place, look::faded(look::paper, plateOpacity));
     painter.drawText(place, Qt::AlignCenter, text);
 }
 
-QSizeF textSize(const QPainter& painter, const QString& text) {
-    const QFontMetricsF metrics(painter.font());
-    return {metrics.horizontalAdvance(text) + 2 * platePadding, metrics.height()};
-}
-
-/// The first of `shares` whose area covers none of `occupied`; the first of all if there is none.
-template <class AreaAt>
-double freeShare(std::span<const double> shares, std::span<const QRectF> occupied, AreaAt areaAt) {
-    for (const double share : shares) {
-        const QRectF area = areaAt(share);
-        if (std::none_of(occupied.begin(), occupied.end(),
-                         [&](const QRectF& other) { return other.intersects(area); }))
-            return share;
-    }
-    return shares.front();
-}
-
-/// An arrow, or nothing if it is too short to have a direction.
-void paintArrow(QPainter& painter, const ChartFrame& frame, const QLineF& line, QColor colour,
+void paintArrow(QPainter& painter, const ChartFrame& frame, const Stroke& line, QColor colour,
                 double width) {
-    const double length = line.length();
-    if (length < shortestArrow || !clipped(line, paintable(frame)))
+    const auto arrow = arrowAlong(frame, line);
+    if (!arrow)
         return;
-    const double head = std::min(arrowLength * frame.symbolScale, length);
-    const double spread =
-        arrowHalfWidth * frame.symbolScale * head / (arrowLength * frame.symbolScale);
-    const QPointF direction = (line.p2() - line.p1()) / length;
-    const QPointF across(-direction.y() * spread, direction.x() * spread);
-    const QPointF base = line.p2() - direction * head;
-    if (const auto shaft = clipped({line.p1(), base + direction}, paintable(frame))) {
+    if (arrow->shaft) {
         painter.setPen(QPen(colour, width * frame.symbolScale, Qt::SolidLine, Qt::FlatCap));
-        painter.drawLine(*shaft);
+        painter.drawLine(toQt(*arrow->shaft));
     }
     painter.setPen(Qt::NoPen);
     painter.setBrush(colour);
-    painter.drawPolygon(QPolygonF{line.p2(), base + across, base - across});
+    painter.drawPolygon(
+        QPolygonF{toQt(arrow->head[0]), toQt(arrow->head[1]), toQt(arrow->head[2])});
 }
 
-/// A text beside a line, and what it covers: on the side that `outwards` points to, near the middle
-/// or where it covers none of the `occupied` areas.
-QRectF paintBeside(QPainter& painter, const ChartFrame& frame, const QLineF& line, QPointF outwards,
-                   const QString& text, std::span<const QRectF> occupied) {
-    if (line.length() < shortestArrow)
-        return {};
-    painter.setFont(frame.vectorFont);
-    const QSizeF size = textSize(painter, text);
-    const double along =
-        std::abs(outwards.x()) * size.width() / 2 + std::abs(outwards.y()) * size.height() / 2;
-    const auto placeAt = [&](double share) {
-        const QPointF centre = line.pointAt(share) + outwards * (along + letteringGap);
-        return QRectF(centre - QPointF(size.width(), size.height()) / 2, size);
-    };
-    const QRectF place = placeAt(freeShare(vectorPlaces, occupied, placeAt));
-    paintPlate(painter, place, text);
-    return place;
-}
-
-/// The unit vector across `line` that points away from `other`, upwards or right if they coincide.
-QPointF awayFrom(const QLineF& line, QPointF other, bool otherwiseUp) {
-    const double length = line.length();
-    if (length == 0)
-        return {0, otherwiseUp ? -1.0 : 1.0};
-    const QPointF across(line.dy() / length, -line.dx() / length);
-    const double side = QPointF::dotProduct(across, other - line.p1());
-    if (std::abs(side) >= 1)
-        return side > 0 ? -across : across;
-    const bool pointsUp = across.y() < 0 || (across.y() == 0 && across.x() > 0);
-    return pointsUp == otherwiseUp ? across : -across;
+/// A side of the wind triangle, with its text below it.
+void paintSpeed(QPainter& painter, const ChartFrame& frame, const Stroke& line, QColor colour,
+                double width, const QString& text, const Box& plate) {
+    if (!plate.empty()) {
+        painter.setFont(frame.vectorFont);
+        painter.setPen(colour);
+        paintPlate(painter, toQt(plate), text);
+    }
+    paintArrow(painter, frame, line, colour, width);
 }
 
 /// A line of text on a plate.
@@ -170,41 +96,39 @@ struct PlateRow {
     QColor colour;
 };
 
-/// Texts below each other on one plate, whose upper left corner stands at `anchor` if the paper
-/// reaches that far.
+/// Texts below each other on one plate at `anchor`.
 void paintRows(QPainter& painter, const ChartFrame& frame, Point anchor,
                std::span<const PlateRow> rows) {
     painter.setFont(frame.nameFont);
-    const double rowHeight = QFontMetricsF(frame.nameFont).height();
-    double width = 0;
-    for (const PlateRow& row : rows)
-        width = std::max(width, textSize(painter, row.text).width());
-    QRectF plate(frame.at(anchor),
-                 QSizeF(width + headingPadding,
-                        rowHeight * static_cast<double>(rows.size()) + 2 * platePadding));
-    const auto onPaper = [&](double start, double length) {
-        return std::clamp(start, edgeMargin,
-                          std::max(edgeMargin, frame.side - length - edgeMargin));
-    };
-    plate.moveTopLeft({onPaper(plate.left(), plate.width()), onPaper(plate.top(), plate.height())});
+    RoomNeeded row;
+    for (const PlateRow& each : rows) {
+        const RoomNeeded room = textRoom(frame.nameFont, each.text);
+        row = {std::max(row.width, room.width), room.height};
+    }
+    const RowsPlate place = rowsPlate(frame, anchor, row, rows.size());
     painter.setPen(Qt::NoPen);
     painter.setBrush(look::faded(look::paper, plateOpacity));
-    painter.drawRoundedRect(plate, look::paperRadius, look::paperRadius);
-    QRectF at(plate.left() + headingPadding, plate.top() + platePadding, width, rowHeight);
-    for (const PlateRow& row : rows) {
-        painter.setPen(row.colour);
-        painter.drawText(at, Qt::AlignLeft | Qt::AlignVCenter, row.text);
-        at.translate(0, rowHeight);
+    painter.drawRoundedRect(toQt(place.plate), look::paperRadius, look::paperRadius);
+    QRectF at = toQt(place.firstRow);
+    for (const PlateRow& each : rows) {
+        painter.setPen(each.colour);
+        painter.drawText(at, Qt::AlignLeft | Qt::AlignVCenter, each.text);
+        at.translate(0, at.height());
     }
 }
 
 } // namespace
 
+RoomNeeded textRoom(const QFont& font, const QString& text) {
+    const QFontMetricsF metrics(font);
+    return {metrics.horizontalAdvance(text) + 2 * platePadding, metrics.height()};
+}
+
 void paintFeather(QPainter& painter, const ChartFrame& frame, const LocalizerLines& lines) {
     const Line* const all[] = {&lines.centre, &lines.leftEdge, &lines.rightEdge, &lines.leftClosing,
                                &lines.rightClosing};
     const auto onPaper = [&](const Line* line) {
-        return line->visible && clipped(frame.along(*line), frame.paper).has_value();
+        return line->visible && clipped(frame.stroke(*line), frame.sheet()).has_value();
     };
     if (std::none_of(std::begin(all), std::end(all), onPaper))
         return;
@@ -221,12 +145,10 @@ void paintFeather(QPainter& painter, const ChartFrame& frame, const LocalizerLin
     const QPen pen(look::onPaper(colour, featherOpacity), 1);
     for (const Line* line : all)
         if (line->visible)
-            paintSolid(painter, frame, frame.along(*line), pen);
+            paintSolid(painter, frame, frame.stroke(*line), pen);
 }
 
 void paintRadials(QPainter& painter, const ChartFrame& frame, const RadialLines& lines) {
-    static const QList<qreal> reciprocalDashes{6, 4};
-    static const QList<qreal> borderDashes{3, 3};
     const QColor colour = look::fromSurface(lines.course.colour);
     const QPen border(look::onPaper(colour, borderOpacity), borderWidth, Qt::SolidLine,
                       Qt::FlatCap);
@@ -242,58 +164,34 @@ void paintRadials(QPainter& painter, const ChartFrame& frame, const RadialLines&
 }
 
 void paintRadialLettering(QPainter& painter, const ChartFrame& frame, const Line& course,
-                          const QString& text, std::span<const QRectF> occupied) {
-    const auto visible = clipped(asRay(frame, course), frame.paper);
-    if (!course.visible || !visible || visible->length() < shortestLettered)
-        return;
-    painter.setFont(frame.lineFont);
-    const QSizeF size = textSize(painter, text);
-    const double reach = size.width() / 2;
-    const double share = freeShare(letteringPlaces, occupied, [&](double tried) {
-        const QPointF at = visible->pointAt(tried);
-        return QRectF(at.x() - reach, at.y() - reach, 2 * reach, 2 * reach);
-    });
-
+                          const QString& text, const LineLettering& place) {
     painter.save();
-    painter.translate(visible->pointAt(share));
-    const bool leftwards = visible->dx() < 0;
-    painter.rotate(-(leftwards ? QLineF(visible->p2(), visible->p1()) : *visible).angle());
+    painter.translate(toQt(place.on));
+    painter.rotate(place.turn);
+    painter.setFont(frame.lineFont);
     painter.setPen(look::fromSurface(course.colour));
-    const double above = size.height() + letteringGap;
-    paintPlate(painter, {-size.width() / 2, -above, size.width(), size.height()}, text);
+    paintPlate(painter, toQt(place.plate), text);
     painter.restore();
 }
 
-std::array<QRectF, 2> paintSpeedVectors(QPainter& painter, const ChartFrame& frame,
-                                        const SpeedVectorLines& lines, const VectorTexts& texts,
-                                        std::span<const QRectF> occupied) {
-    std::array<QRectF, 2> covered;
-    const QLineF air = frame.along(lines.air);
-    const QLineF ground(frame.at(lines.ground.to), frame.at(lines.ground.from));
-    const QColor groundColour = look::fromSurface(lines.ground.colour);
-    const QColor airColour = look::fromSurface(lines.air.colour);
-    if (lines.ground.visible) {
-        painter.setPen(groundColour);
-        covered[0] = paintBeside(painter, frame, ground, awayFrom(ground, air.p2(), false),
-                                 texts.ground, occupied);
-        paintArrow(painter, frame, ground, groundColour, groundWidth);
-    }
-    if (lines.air.visible) {
-        painter.setPen(airColour);
-        covered[1] =
-            paintBeside(painter, frame, air, awayFrom(air, ground.p2(), true), texts.air, occupied);
-        paintArrow(painter, frame, air, airColour, airWidth);
-    }
+void paintSpeedVectors(QPainter& painter, const ChartFrame& frame, const SpeedVectorLines& lines,
+                       const VectorTexts& texts, const ChartLettering& places) {
+    if (lines.ground.visible)
+        paintSpeed(painter, frame, {frame.spot(lines.ground.to), frame.spot(lines.ground.from)},
+                   look::fromSurface(lines.ground.colour), groundWidth, texts.ground,
+                   places.groundSpeed);
+    if (lines.air.visible)
+        paintSpeed(painter, frame, frame.stroke(lines.air), look::fromSurface(lines.air.colour),
+                   airWidth, texts.air, places.airSpeed);
     if (lines.wind.visible)
-        paintArrow(painter, frame, frame.along(lines.wind), look::fromSurface(lines.wind.colour),
+        paintArrow(painter, frame, frame.stroke(lines.wind), look::fromSurface(lines.wind.colour),
                    windWidth);
-    return covered;
 }
 
 void paintHeadingLine(QPainter& painter, const ChartFrame& frame, const HeadingLine& heading,
                       const ToolTexts& texts) {
     if (heading.line.visible)
-        paintArrow(painter, frame, frame.along(heading.line),
+        paintArrow(painter, frame, frame.stroke(heading.line),
                    look::fromSurface(heading.line.colour), airWidth);
     if (!heading.name.visible && !heading.value.visible)
         return;
@@ -309,7 +207,7 @@ void paintWindLine(QPainter& painter, const ChartFrame& frame, const WindLine& w
                    Qt::SolidLine, Qt::RoundCap);
     for (const Line* line : {&wind.line, &wind.headLeft, &wind.headRight})
         if (line->visible)
-            paintSolid(painter, frame, frame.along(*line), pen);
+            paintSolid(painter, frame, frame.stroke(*line), pen);
     if (!wind.name.visible)
         return;
     const PlateRow rows[] = {

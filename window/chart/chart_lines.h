@@ -1,17 +1,17 @@
 #pragma once
 
 #include "chart/chart_picture.h"
+#include "paper/chart_lettering.h"
 #include "window/chart/chart_frame.h"
 
-#include <QRectF>
 #include <QString>
-
-#include <array>
-#include <span>
 
 class QPainter;
 
 namespace tarnel {
+
+/// The room of a text with its plate's padding.
+[[nodiscard]] RoomNeeded textRoom(const QFont& font, const QString& text);
 
 /// The localizer's feather: its lines fade with the distance, the half on the right of who flies in
 /// is filled.
@@ -20,21 +20,18 @@ void paintFeather(QPainter& painter, const ChartFrame& frame, const LocalizerLin
 /// One instrument's radial: course solid, reciprocal dashed and paler, borders thin and dashed.
 void paintRadials(QPainter& painter, const ChartFrame& frame, const RadialLines& lines);
 
-/// Letters the course line with `text` where it covers none of the `occupied` areas, at about two
-/// thirds of what is visible of it.
+/// Letters the course line with `text`.
 void paintRadialLettering(QPainter& painter, const ChartFrame& frame, const Line& course,
-                          const QString& text, std::span<const QRectF> occupied);
+                          const QString& text, const LineLettering& place);
 
-/// The wind triangle, with what the air and the ground line stand for; the texts keep clear of the
-/// `occupied` areas where they can.
+/// What the air and the ground line stand for.
 struct VectorTexts {
     QString air;
     QString ground;
 };
-/// Returns what the two texts cover.
-std::array<QRectF, 2> paintSpeedVectors(QPainter& painter, const ChartFrame& frame,
-                                        const SpeedVectorLines& lines, const VectorTexts& texts,
-                                        std::span<const QRectF> occupied);
+/// The wind triangle, with its two texts where `places` has them.
+void paintSpeedVectors(QPainter& painter, const ChartFrame& frame, const SpeedVectorLines& lines,
+                       const VectorTexts& texts, const ChartLettering& places);
 
 /// The lettering beside the line that a tool draws.
 struct ToolTexts {

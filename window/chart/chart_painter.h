@@ -1,18 +1,17 @@
 #pragma once
 
 #include "engine/user_control_2.h"
+#include "paper/chart_lettering.h"
 #include "strings/string_table.h"
 #include "window/chart/chart_dots.h"
 #include "window/chart/chart_frame.h"
-#include "window/chart/chart_labels.h"
+#include "window/chart/chart_lines.h"
 #include "window/chart/chart_overlays.h"
 #include "window/chart/chart_symbols.h"
 
 #include <QString>
-#include <QVarLengthArray>
 
 #include <array>
-#include <span>
 #include <string>
 
 class QPainter;
@@ -34,26 +33,29 @@ class ChartPainter {
         std::string caption;
         QString identifier;
         QString frequency;
-        QSizeF size;
+        RoomNeeded room;
+    };
+    /// What the lettering says, besides the names.
+    struct Words {
+        QString radialI2;
+        QString radialI3;
+        VectorTexts speeds;
+        QString wind;
     };
 
-    using Areas = QVarLengthArray<QRectF, 2 * slotCount + 6>;
-
     void fitFrame(double side, double devicePixelRatio);
-    void layOutLabels(const ScaleBar& scale);
-    [[nodiscard]] bool isOnPaper(std::size_t slot) const;
     const NameText& nameText(std::size_t slot);
     [[nodiscard]] GridPlace gridPlace() const;
     [[nodiscard]] double rotation() const;
+    [[nodiscard]] Words words() const;
+    [[nodiscard]] QString courseOf(const RadialLines& lines) const;
+    void layOut(const Words& words, const ScaleBar& scale);
 
-    [[nodiscard]] Areas occupiedAreas(const ScaleBar& scale) const;
-    void paintRadialNames(QPainter& painter, std::span<const QRectF> occupied) const;
+    void paintLines(QPainter& painter);
+    void paintLettering(QPainter& painter, const Words& words) const;
     void paintNames(QPainter& painter) const;
-    void paintName(QPainter& painter, const ChartLabel& label, std::size_t slot) const;
-    void paintVectors(QPainter& painter, Areas& occupied) const;
-    void paintWindLabel(QPainter& painter, const Areas& occupied);
-    [[nodiscard]] QRectF windLabelAt(std::size_t index, QSizeF size) const;
-    [[nodiscard]] double costOfWindLabel(const QRectF& place, const Areas& occupied) const;
+    void paintName(QPainter& painter, const NameLabel& label, std::size_t slot) const;
+    void paintWindLabel(QPainter& painter, const QString& text) const;
     void paintOverlays(QPainter& painter, const ScaleBar& scale) const;
 
     const UserControl2& sim;
@@ -63,9 +65,7 @@ class ChartPainter {
     ChartDots trace;
     ChartDots ahead;
     std::array<NameText, slotCount> nameTexts;
-
-    std::array<ChartLabel, slotCount> labels;
-    std::size_t windPlace = 0; ///< where beside the airplane the wind label stood last
+    ChartLettering lettering;
 };
 
 } // namespace tarnel

@@ -18,14 +18,12 @@ constexpr double frameHalfHeight = 7.5;
 constexpr double hexagonRadius = 7.6;
 constexpr double dotRadius = 1.9;
 constexpr double stroke = 1.4;
-constexpr double symbolReach = 12;
 constexpr double pixmapMargin = 2;
 constexpr double localizerRadius = 4.6;
 constexpr double fillOpacity = 0.14;
 
 constexpr double ndbDotRadius = 2.2;
 constexpr double ndbRingRadius = 4.7;
-constexpr double ndbReach = 18;
 constexpr double ndbSpeckRadius = 0.9;
 struct SpeckRing {
     double radius;
@@ -33,15 +31,12 @@ struct SpeckRing {
 };
 constexpr SpeckRing speckRings[] = {{8.2, 14}, {12, 21}, {15.9, 28}};
 
-constexpr double roseShare = 0.0735; ///< of the paper's side
-constexpr double smallestRose = 24;
 constexpr double roseOpacity = 0.5;
 constexpr double northMarkOpacity = 0.6;
 constexpr double roseStroke = 0.9;
 constexpr double northTick = 8.5;
 constexpr double longTick = 6.2;
 constexpr double shortTick = 3.3;
-constexpr double northMarkHeight = 5;
 constexpr double northMarkHalfWidth = 3;
 constexpr double roseStep = 0.5; ///< degrees between two turns of the rose
 
@@ -52,10 +47,6 @@ Kind kindOf(std::size_t slot) {
     if (static_cast<Slot>(slot) == Slot::localizer)
         return Kind::localizer;
     return hasDme(slot) ? Kind::vor : Kind::ndb;
-}
-
-double roseRadius(const ChartFrame& frame) {
-    return std::max(smallestRose, roseShare * frame.side);
 }
 
 /// Ticks that point inwards from a circle.
@@ -83,7 +74,7 @@ void paintRose(QPainter& painter, QColor colour, double radius, double scale, do
     paintTicks(painter, radius, 360, northTick * scale);
     painter.setPen(Qt::NoPen);
     painter.setBrush(look::faded(colour, northMarkOpacity));
-    painter.drawPolygon(QPolygonF{{0, -radius - northMarkHeight * scale},
+    painter.drawPolygon(QPolygonF{{0, -radius - PaperFrame::northMarkHeight * scale},
                                   {northMarkHalfWidth * scale, -radius},
                                   {-northMarkHalfWidth * scale, -radius}});
     painter.restore();
@@ -142,7 +133,7 @@ void paintNdb(QPainter& painter, QColor colour, double scale) {
 
 QPixmap symbolPixmap(const ChartFrame& frame, std::size_t slot, SymbolImage image,
                      double rotation) {
-    const double reach = ChartSymbols::outerRadius(frame, slot) + pixmapMargin;
+    const double reach = frame.outerRadius(slot) + pixmapMargin;
     const int pixels = 2 * static_cast<int>(std::ceil(reach * frame.pixelRatio));
     QPixmap pixmap(pixels, pixels);
     pixmap.setDevicePixelRatio(frame.pixelRatio);
@@ -159,22 +150,12 @@ QPixmap symbolPixmap(const ChartFrame& frame, std::size_t slot, SymbolImage imag
         return pixmap;
     }
     if (kind == Kind::vor)
-        paintRose(painter, colour, roseRadius(frame), frame.symbolScale, rotation);
+        paintRose(painter, colour, frame.roseRadius(), frame.symbolScale, rotation);
     paintStation(painter, colour, kind, image, frame.symbolScale);
     return pixmap;
 }
 
 } // namespace
-
-double ChartSymbols::innerRadius(const ChartFrame& frame, std::size_t slot) {
-    return frame.symbolScale * (kindOf(slot) == Kind::ndb ? ndbReach : symbolReach);
-}
-
-double ChartSymbols::outerRadius(const ChartFrame& frame, std::size_t slot) {
-    if (kindOf(slot) == Kind::vor)
-        return roseRadius(frame) + northMarkHeight * frame.symbolScale;
-    return innerRadius(frame, slot);
-}
 
 void ChartSymbols::paint(QPainter& painter, const ChartFrame& frame, const StationSymbol& symbol,
                          std::size_t slot, double rotation) {
@@ -184,7 +165,7 @@ void ChartSymbols::paint(QPainter& painter, const ChartFrame& frame, const Stati
     if (own.look != wanted)
         own = {wanted, symbolPixmap(frame, slot, symbol.image, turn)};
     const double half = own.pixmap.deviceIndependentSize().width() / 2;
-    painter.drawPixmap(frame.snapped(frame.at(symbol.leader.from) - QPointF(half, half)),
+    painter.drawPixmap(toQt(frame.snapped(frame.spot(symbol.leader.from) - Spot{half, half})),
                        own.pixmap);
 }
 

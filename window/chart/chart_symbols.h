@@ -20,10 +20,6 @@ class ChartSymbols {
     void paint(QPainter& painter, const ChartFrame& frame, const StationSymbol& symbol,
                std::size_t slot, double rotation);
 
-    /// The radius of the symbol itself, and that of all that belongs to it.
-    [[nodiscard]] static double innerRadius(const ChartFrame& frame, std::size_t slot);
-    [[nodiscard]] static double outerRadius(const ChartFrame& frame, std::size_t slot);
-
   private:
     struct Look {
         SymbolImage image = SymbolImage::none;

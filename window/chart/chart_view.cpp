@@ -2,6 +2,7 @@
 
 #include "core/number_text.h"
 #include "core/rounding.h"
+#include "paper/plates.h"
 #include "window/chart/reference_lamps.h"
 #include "window/widgets/look.h"
 #include "window/widgets/text_of.h"
@@ -100,8 +101,8 @@ void ChartView::paintEvent(QPaintEvent* /*event*/) {
 }
 
 void ChartView::resizeEvent(QResizeEvent* /*event*/) {
-    const ChartFrame frame(side(), sim.picture.size, devicePixelRatioF());
-    lamps->setGeometry(lampsPlate(frame).toAlignedRect());
+    const PaperFrame frame(side(), sim.picture.size, devicePixelRatioF());
+    lamps->setGeometry(toQt(lampsPlate(frame)).toAlignedRect());
 }
 
 void ChartView::showCursor() {

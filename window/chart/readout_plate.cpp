@@ -2,6 +2,7 @@
 
 #include "core/number_text.h"
 #include "core/rounding.h"
+#include "paper/plates.h"
 #include "shell/signal_name.h"
 #include "window/widgets/look.h"
 #include "window/widgets/text_of.h"
@@ -10,7 +11,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <vector>
 
 namespace tarnel {
@@ -19,8 +19,6 @@ namespace {
 
 constexpr double padding = 8;
 constexpr double columnGap = 10;
-constexpr double pointerGap = 12;
-constexpr double edgeMargin = 3;
 constexpr double plateOpacity = 0.94;
 constexpr int columnCount = 3;
 
@@ -34,13 +32,6 @@ Columns columnsOf(const StationBearing& line, const StringTable& texts) {
             QString::fromStdString(zeroPadded(toInt16(line.bearing), bearingDigits)) +
                 textOf(texts, Text::unitDegreeSign),
             textOf(texts, signalName(line.other))};
-}
-
-/// Beside the anchor; on its other side where the paper ends.
-double besidePointer(double anchor, double length, double side) {
-    const double last = side - length - edgeMargin;
-    const double start = anchor <= last ? anchor : anchor - length - 2 * pointerGap;
-    return std::clamp(start, edgeMargin, std::max(edgeMargin, last));
 }
 
 } // namespace
@@ -61,12 +52,9 @@ void paintStationReadout(QPainter& painter, const ChartFrame& frame, const Chart
     }
     const double inset = padding * frame.textScale;
     const double gap = columnGap * frame.textScale;
-    const QSizeF size(widths[0] + widths[1] + widths[2] + 2 * gap + 2 * inset,
-                      metrics.height() * static_cast<double>(rows.size()) + 2 * inset);
-    const QPointF anchor = frame.at(readout.anchor);
-    const QRectF plate({std::round(besidePointer(anchor.x(), size.width(), frame.side)),
-                        std::round(besidePointer(anchor.y(), size.height(), frame.side))},
-                       size);
+    const RoomNeeded room{widths[0] + widths[1] + widths[2] + 2 * gap + 2 * inset,
+                          metrics.height() * static_cast<double>(rows.size()) + 2 * inset};
+    const QRectF plate = toQt(plateBesidePointer(frame, readout.anchor, room));
     painter.setPen(QPen(look::line, 1));
     painter.setBrush(look::faded(look::card, plateOpacity));
     painter.drawRoundedRect(plate, look::controlRadius, look::controlRadius);

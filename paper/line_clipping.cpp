@@ -1,4 +1,4 @@
-#include "window/widgets/line_clipping.h"
+#include "paper/line_clipping.h"
 
 #include <algorithm>
 #include <cmath>
@@ -26,14 +26,15 @@ struct Stretch {
 
 } // namespace
 
-std::optional<QLineF> clipped(const QLineF& line, const QRectF& area) {
-    if (!std::isfinite(line.dx()) || !std::isfinite(line.dy()))
+std::optional<Stroke> clipped(const Stroke& line, const Box& area) {
+    const Spot way = line.way();
+    if (!std::isfinite(way.x) || !std::isfinite(way.y))
         return std::nullopt;
     Stretch stretch;
-    if (!stretch.keep(line.x1(), line.dx(), area.left(), area.right()) ||
-        !stretch.keep(line.y1(), line.dy(), area.top(), area.bottom()))
+    if (!stretch.keep(line.from.x, way.x, area.left, area.right()) ||
+        !stretch.keep(line.from.y, way.y, area.top, area.bottom()))
         return std::nullopt;
-    return QLineF(line.pointAt(stretch.from), line.pointAt(stretch.to));
+    return Stroke{line.at(stretch.from), line.at(stretch.to)};
 }
 
 } // namespace tarnel

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <QLineF>
-#include <QRectF>
+#include "paper/shapes.h"
 
 #include <optional>
 
@@ -9,6 +8,6 @@ namespace tarnel {
 
 /// The part of `line` within `area`, in its direction, or nothing. A line that only touches the
 /// border counts. Ends that are not finite numbers give nothing.
-[[nodiscard]] std::optional<QLineF> clipped(const QLineF& line, const QRectF& area);
+[[nodiscard]] std::optional<Stroke> clipped(const Stroke& line, const Box& area);
 
 } // namespace tarnel

@@ -1,17 +1,24 @@
-#include "window/chart/chart_labels.h"
+#include "paper/name_labels.h"
 
-#include "window/widgets/line_clipping.h"
-
-#include <QtMath>
+#include "paper/line_clipping.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
 #include <limits>
+#include <numbers>
 
 namespace tarnel {
 
 namespace {
+
+constexpr double degreesPerRadian = 180 / std::numbers::pi;
+
+/// The size that a name label is taken to have where its anchor is set, in twips.
+constexpr double nominalWidth = 560;
+constexpr double nominalHeight = 400;
+constexpr double levelTwips = 50;  ///< what stands no lower than that counts as beside or above
+constexpr double leastLean = 0.45; ///< of the longer side
 
 constexpr int turnSteps = 24;
 constexpr int rings = 4;
@@ -34,25 +41,24 @@ constexpr double leaderCost = 1;
 constexpr double habitBonus = 0.12; ///< more than one step
 
 struct Candidate {
-    QRectF box;
+    Box box;
     bool leftOfStation = false;
     int turn = 0;
     int ring = 0;
 };
 
 /// The part of `box` that `other` covers, 0 to 1.
-double coveredShare(const QRectF& box, const QRectF& other) {
-    const QRectF common = box.intersected(other);
-    return common.width() * common.height() / (box.width() * box.height());
+double coveredShare(const Box& box, const Box& other) {
+    return box.sharedArea(other) / (box.width * box.height);
 }
 
-QRectF squareAbout(QPointF centre, double radius) {
-    return {centre.x() - radius, centre.y() - radius, 2 * radius, 2 * radius};
+Box squareAbout(Spot centre, double radius) {
+    return Box::about(centre, {2 * radius, 2 * radius});
 }
 
-double distanceTo(const QRectF& box, QPointF point) {
-    const double dx = std::max({box.left() - point.x(), 0.0, point.x() - box.right()});
-    const double dy = std::max({box.top() - point.y(), 0.0, point.y() - box.bottom()});
+double distanceTo(const Box& box, Spot point) {
+    const double dx = std::max({box.left - point.x, 0.0, point.x - box.right()});
+    const double dy = std::max({box.top - point.y, 0.0, point.y - box.bottom()});
     return std::hypot(dx, dy);
 }
 
@@ -69,65 +75,63 @@ double barDistance(double sine, double cosine, double height, double clearance) 
     return clearance / std::max(std::abs(sine), smallestSine);
 }
 
-QRectF within(QRectF box, const QRectF& paper) {
-    box.moveLeft(
-        std::clamp(box.left(), paper.left(), std::max(paper.left(), paper.right() - box.width())));
-    box.moveTop(
-        std::clamp(box.top(), paper.top(), std::max(paper.top(), paper.bottom() - box.height())));
+Box within(Box box, const Box& paper) {
+    box.left = std::clamp(box.left, paper.left, std::max(paper.left, paper.right() - box.width));
+    box.top = std::clamp(box.top, paper.top, std::max(paper.top, paper.bottom() - box.height));
     return box;
 }
 
-Candidate candidateFor(const ChartLabel& label, int turn, int ring, const QRectF& paper) {
-    const double angle = qDegreesToRadians(label.side + turn * 360.0 / turnSteps);
+Candidate candidateFor(const NameLabel& label, int turn, int ring, const Box& paper) {
+    const double angle = (label.side + turn * 360.0 / turnSteps) / degreesPerRadian;
     const double sine = std::sin(angle);
     const double cosine = std::cos(angle);
-    const double height = label.size.height();
+    const double height = label.size.height;
     const double distance =
         barDistance(sine, cosine, height, label.clearance) + ring * ringShare * height;
     const bool left = sine < 0;
-    const QPointF bar = label.station + QPointF(sine, -cosine) * distance;
-    const QRectF box({left ? bar.x() - label.size.width() : bar.x(), bar.y() - height / 2},
-                     label.size);
+    const Spot bar = label.station + Spot{sine, -cosine} * distance;
+    const Box box{left ? bar.x - label.size.width : bar.x, bar.y - height / 2, label.size.width,
+                  height};
     return {within(box, paper), left, turn, ring};
 }
 
-void apply(const Candidate& candidate, ChartLabel& label) {
+void apply(const Candidate& candidate, NameLabel& label) {
     label.box = candidate.box;
     label.leftOfStation = candidate.leftOfStation;
     label.turn = candidate.turn;
     label.ring = candidate.ring;
 }
 
-double effort(const ChartLabel& label, int turn, int ring) {
+double effort(const NameLabel& label, int turn, int ring) {
     const double far = std::abs(turn) / (turnSteps / 2.0) + ring * ringCost;
     return label.turn == turn && label.ring == ring ? far - habitBonus : far;
 }
 
 /// The cost of standing near another label; its box is empty while it has no place yet.
-double crowding(const ChartLabel& tried, const ChartLabel& other) {
-    const QRectF room = tried.box.adjusted(-margin, -margin, margin, margin);
+double crowding(const NameLabel& tried, const NameLabel& other) {
+    const Box room = tried.box.grownBy(margin);
     double cost = symbolCost * coveredShare(room, squareAbout(other.station, other.symbolRadius)) +
                   roseCost * coveredShare(room, squareAbout(other.station, other.clearance));
-    if (other.box.isEmpty())
+    if (other.box.empty())
         return cost;
     cost += labelCost * coveredShare(room, other.box);
-    if (tried.box.intersects(other.box))
+    if (tried.box.overlaps(other.box))
         cost += labelTouchCost;
     if (clipped(tried.leader(), other.box) || clipped(other.leader(), tried.box))
         cost += leaderCost;
     return cost;
 }
 
-double costAt(const ChartLabel& tried, std::size_t own, std::span<const ChartLabel> labels,
+double costAt(const NameLabel& tried, std::size_t own, std::span<const NameLabel> labels,
               const LabelObstacles& obstacles) {
     double cost = 0;
     const double away = distanceTo(tried.box, tried.station);
     if (away < tried.clearance - 1)
         cost += ownSymbolCost * (1 - away / tried.clearance);
-    for (const QRectF& area : obstacles.areas)
+    for (const Box& area : obstacles.areas)
         if (const double share = coveredShare(tried.box, area); share > 0)
             cost += areaTouchCost + areaCost * share;
-    for (const QLineF& line : obstacles.lines)
+    for (const Stroke& line : obstacles.lines)
         if (clipped(line, tried.box))
             cost += lineCost;
     for (std::size_t i = 0; i < labels.size(); ++i)
@@ -136,10 +140,10 @@ double costAt(const ChartLabel& tried, std::size_t own, std::span<const ChartLab
     return cost;
 }
 
-void placeLabel(std::size_t own, std::span<ChartLabel> labels, const QRectF& paper,
+void placeLabel(std::size_t own, std::span<NameLabel> labels, const Box& paper,
                 const LabelObstacles& obstacles) {
-    const ChartLabel before = labels[own];
-    ChartLabel tried = before;
+    const NameLabel before = labels[own];
+    NameLabel tried = before;
     double best = std::numeric_limits<double>::infinity();
     for (int ring = 0; ring < rings; ++ring) {
         for (int turn = 1 - turnSteps / 2; turn <= turnSteps / 2; ++turn) {
@@ -158,23 +162,31 @@ void placeLabel(std::size_t own, std::span<ChartLabel> labels, const QRectF& pap
 
 } // namespace
 
-QLineF ChartLabel::bar() const {
-    const double x = leftOfStation ? box.right() : box.left();
-    return {x, box.top(), x, box.bottom()};
+Stroke NameLabel::bar() const {
+    const double x = leftOfStation ? box.right() : box.left;
+    return {{x, box.top}, {x, box.bottom()}};
 }
 
-QLineF ChartLabel::leader() const {
-    QLineF line(station, bar().center());
+Stroke NameLabel::leader() const {
+    Stroke line{station, bar().middle()};
     const double length = line.length();
     if (length > symbolRadius)
-        line.setP1(line.pointAt(symbolRadius / length));
+        line.from = line.at(symbolRadius / length);
     return line;
 }
 
-void placeLabels(std::span<ChartLabel> labels, const QRectF& paper,
-                 const LabelObstacles& obstacles) {
-    const QRectF inner = paper.adjusted(paperMargin, paperMargin, -paperMargin, -paperMargin);
-    for (ChartLabel& label : labels)
+double sideOf(const StationSymbol& symbol) {
+    const double dx = symbol.name.anchor.x + nominalWidth / 2 - symbol.leader.from.x;
+    const double dy = symbol.name.anchor.y + nominalHeight / 2 - symbol.leader.from.y;
+    const double across = std::max(std::abs(dx), leastLean * std::abs(dy));
+    const double along = std::max(std::abs(dy), leastLean * std::abs(dx));
+    return degreesPerRadian *
+           std::atan2(std::copysign(across, dx), std::copysign(along, dy > levelTwips ? -1 : 1));
+}
+
+void placeLabels(std::span<NameLabel> labels, const Box& paper, const LabelObstacles& obstacles) {
+    const Box inner = paper.grownBy(-paperMargin);
+    for (NameLabel& label : labels)
         label.box = {};
     // The second round lets the first labels see those that were placed after them.
     for (int round = 0; round < 2; ++round)
