@@ -8,7 +8,7 @@
 namespace tarnel {
 
 /// From the edge of the paper to what lies over it.
-constexpr double overlayInset = 10;
+constexpr int overlayInset = 10;
 
 /// The strip at the top where controls stand on the chart.
 [[nodiscard]] Box controlStrip(const PaperFrame& frame);

@@ -4,7 +4,7 @@
 #include "window/chart/chart_overlays.h"
 #include "window/chart/chart_painter.h"
 #include "window/dials/instrument_painter.h"
-#include "window/widgets/panel_look.h"
+#include "look/panel_look.h"
 
 #include <QImage>
 #include <QPaintDevice>

@@ -3,7 +3,7 @@
 #include "window/dials/instrument_painter.h"
 #include "window/dials/needle_swatch.h"
 #include "window/student_fixture.h"
-#include "window/widgets/panel_look.h"
+#include "look/panel_look.h"
 
 #include <QImage>
 #include <QPainter>

@@ -1,6 +1,7 @@
 #include "tools/instrument/instrument_bench.h"
 
 #include "core/run_time_error.h"
+#include "look/panel_look.h"
 #include "strings/cause_text.h"
 #include "strings/string_table.h"
 #include "tools/instrument/input_range.h"
@@ -19,7 +20,6 @@ namespace tarnel {
 namespace {
 
 constexpr int refreshMilliseconds = 40;
-constexpr double twipsPerPixel = 15;
 constexpr QSize firstSize{900, 700};
 
 /// A column that scrolls up and down only.
@@ -93,7 +93,7 @@ void InstrumentBench::change(const std::function<void()>& action) {
 }
 
 void InstrumentBench::fitInstrument() {
-    const int side = static_cast<int>(instrument.picture.size / twipsPerPixel);
+    const int side = static_cast<int>(instrument.picture.size / look::twipsPerPixel);
     if (view->width() == side && view->height() == side)
         return;
     view->setFixedSize(side, side);

@@ -9,18 +9,18 @@
 namespace tarnel {
 
 using palette::downward;
-using palette::thinned;
+using look::faded;
 
 namespace {
 
 constexpr double plateMargin = 0.008;
-constexpr double plateRounding = 0.09;
+constexpr double plateRounding = 2 * look::bezelRadiusShare;
 constexpr double hairline = 0.005;
 constexpr double recessWidth = 0.05;
 constexpr double sealWidth = 0.018;
 
-constexpr double knobCentre = 0.824;
-constexpr double knobRadius = 0.124;
+constexpr double knobCentre = 1 - 2 * look::bezel::knobInset;
+constexpr double knobRadius = 2 * look::bezel::knobRadius;
 constexpr double screwCentre = 0.868;
 
 constexpr double wordSize = 0.074;
@@ -49,20 +49,20 @@ void strokeCircle(QPainter& painter, QPointF centre, double radius, const QBrush
 // The light that an edge facing upward catches, and the shade below it.
 QLinearGradient rimLight(double top, double bottom, double light, double shade) {
     return downward(top, bottom,
-                    {{0.0, thinned(palette::white, light)},
-                     {0.25, thinned(palette::white, light / 4)},
-                     {0.5, thinned(palette::white, 0)},
-                     {0.51, thinned(palette::black, 0)},
-                     {1.0, thinned(palette::black, shade)}});
+                    {{0.0, faded(palette::white, light)},
+                     {0.25, faded(palette::white, light / 4)},
+                     {0.5, faded(palette::white, 0)},
+                     {0.51, faded(palette::black, 0)},
+                     {1.0, faded(palette::black, shade)}});
 }
 
 // The lower edge of something let into the plate: dark above, light below.
 QLinearGradient lipLight(double top, double bottom, double light, double shade) {
     return downward(top, bottom,
-                    {{0.0, thinned(palette::black, shade)},
-                     {0.49, thinned(palette::black, 0)},
-                     {0.5, thinned(palette::white, 0)},
-                     {1.0, thinned(palette::white, light)}});
+                    {{0.0, faded(palette::black, shade)},
+                     {0.49, faded(palette::black, 0)},
+                     {0.5, faded(palette::white, 0)},
+                     {1.0, faded(palette::white, light)}});
 }
 
 void paintScale(QPainter& painter, QPointF centre) {
@@ -72,7 +72,7 @@ void paintScale(QPainter& painter, QPointF centre) {
     constexpr double inner = 0.144;
     constexpr double outer = 0.154;
     painter.save();
-    painter.setPen(QPen(thinned(palette::lettering, 0.6), 0.007));
+    painter.setPen(QPen(faded(look::unit, 0.6), 0.007));
     painter.translate(centre);
     painter.rotate(firstDegrees);
     for (int mark = 0; mark < marks; ++mark) {
@@ -100,9 +100,9 @@ void paintKey(QPainter& painter, const QRectF& key, const QString& word, bool li
     const QPointF base(key.center().x(), key.center().y() + wordSize * capitalHeight / 2);
     const QPainterPath outline = letters(word, wordSize, base, Anchor::Centre);
     for (int step = 1; lit && step <= glowSteps; ++step)
-        painter.strokePath(outline, QPen(thinned(palette::green, 0.035), step * glowStep,
+        painter.strokePath(outline, QPen(faded(look::measured, 0.035), step * glowStep,
                                          Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.fillPath(outline, QColor(lit ? palette::green : palette::dimLettering));
+    painter.fillPath(outline, QColor(lit ? look::measured : palette::dimLettering));
 }
 
 } // namespace
@@ -111,12 +111,12 @@ void paintPlate(QPainter& painter) {
     const QRectF whole(-1, -1, 2, 2);
     const QRectF plate =
         whole.adjusted(plateMargin, plateMargin / 2, -plateMargin, -plateMargin * 1.5);
-    painter.fillRect(whole, QColor(palette::panel));
-    painter.setBrush(thinned(palette::black, 0.5));
+    painter.fillRect(whole, palette::panel);
+    painter.setBrush(faded(palette::black, 0.5));
     painter.drawRoundedRect(plate.translated(0, plateMargin), plateRounding, plateRounding);
     painter.setBrush(downward(
         -1, 1,
-        {{0.0, palette::bezelTop}, {0.55, palette::bezelMiddle}, {1.0, palette::bezelBottom}}));
+        {{0.0, look::bezelTop}, {0.55, palette::bezelMiddle}, {1.0, look::bezelBottom}}));
     painter.drawRoundedRect(plate, plateRounding, plateRounding);
 
     const double inset = hairline / 2;
@@ -124,10 +124,10 @@ void paintPlate(QPainter& painter) {
     painter.save();
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(downward(-1, 1,
-                                 {{0.0, thinned(palette::white, 0.30)},
-                                  {0.06, thinned(palette::white, 0.10)},
-                                  {0.9, thinned(palette::white, 0.03)},
-                                  {1.0, thinned(palette::black, 0.30)}}),
+                                 {{0.0, faded(palette::white, 0.30)},
+                                  {0.06, faded(palette::white, 0.10)},
+                                  {0.9, faded(palette::white, 0.03)},
+                                  {1.0, faded(palette::black, 0.30)}}),
                         hairline));
     painter.drawRoundedRect(plate.adjusted(inset, inset, -inset, -inset), rounding, rounding);
     painter.restore();
@@ -160,7 +160,7 @@ void paintKnobSeat(QPainter& painter, Corner corner, const QString& word) {
     const bool left = corner == Corner::BottomLeft;
     const QPointF base(left ? -wordStart : wordStart, wordBaseline);
     painter.fillPath(letters(word, wordSize, base, left ? Anchor::Left : Anchor::Right),
-                     QColor(palette::lettering));
+                     look::unit);
 }
 
 void paintScrew(QPainter& painter, Corner corner) {
@@ -182,14 +182,14 @@ void paintScrew(QPainter& painter, Corner corner) {
     painter.fillRect(QRectF(-radius * 0.86, -slotWidth / 2, radius * 1.72, slotWidth),
                      QColor(0xFF131618));
     painter.fillRect(QRectF(-radius * 0.86, slotWidth / 2, radius * 1.72, slotWidth / 3),
-                     thinned(palette::white, 0.14));
+                     faded(palette::white, 0.14));
     painter.restore();
 }
 
 void paintSelector(QPainter& painter, const Selector& selector) {
-    constexpr double width = 0.38;
-    constexpr double height = 0.128;
-    constexpr double cornerDistance = 0.944;
+    constexpr double width = 2 * look::bezel::selectorWidth;
+    constexpr double height = 2 * look::bezel::keyHeight;
+    constexpr double cornerDistance = 1 - 2 * look::bezel::keyInset;
     constexpr double frame = 0.012;
     constexpr double rounding = 0.024;
     constexpr double captionGap = 0.026;
@@ -210,12 +210,12 @@ void paintSelector(QPainter& painter, const Selector& selector) {
 
     const QPointF base(slot.center().x(), slot.bottom() + captionGap + wordSize * capitalHeight);
     painter.fillPath(letters(selector.caption, wordSize, base, Anchor::Centre),
-                     QColor(palette::lettering));
+                     look::unit);
 }
 
 void paintTypeWord(QPainter& painter, const QString& word) {
     painter.fillPath(letters(word, typeWordSize, {0, wordBaseline + 0.008}, Anchor::Centre),
-                     QColor(palette::dimLettering));
+                     palette::dimLettering);
 }
 
 } // namespace tarnel

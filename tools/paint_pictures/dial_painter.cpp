@@ -13,7 +13,7 @@
 namespace tarnel {
 
 using palette::downward;
-using palette::thinned;
+using look::faded;
 
 namespace {
 
@@ -27,16 +27,16 @@ QPainterPath circlePath(QPointF centre, double radius) {
 void paintRimShadow(QPainter& painter, double radius) {
     constexpr double fall = 0.045;
     QRadialGradient around(QPointF(), radius);
-    around.setColorAt(0.0, thinned(palette::black, 0));
-    around.setColorAt(0.80, thinned(palette::black, 0));
-    around.setColorAt(0.93, thinned(palette::black, 0.35));
-    around.setColorAt(1.0, thinned(palette::black, 0.75));
+    around.setColorAt(0.0, faded(palette::black, 0));
+    around.setColorAt(0.80, faded(palette::black, 0));
+    around.setColorAt(0.93, faded(palette::black, 0.35));
+    around.setColorAt(1.0, faded(palette::black, 0.75));
     painter.fillPath(circlePath({}, radius), around);
 
     QRadialGradient fromAbove(QPointF(0, fall), radius + fall);
-    fromAbove.setColorAt(0.0, thinned(palette::black, 0));
-    fromAbove.setColorAt(0.88, thinned(palette::black, 0));
-    fromAbove.setColorAt(1.0, thinned(palette::black, 0.6));
+    fromAbove.setColorAt(0.0, faded(palette::black, 0));
+    fromAbove.setColorAt(0.88, faded(palette::black, 0));
+    fromAbove.setColorAt(1.0, faded(palette::black, 0.6));
     painter.fillPath(circlePath({}, radius), fromAbove);
 }
 
@@ -44,7 +44,7 @@ void paintArrow(QPainter& painter, QPointF centre, bool down) {
     constexpr double halfWidth = 0.029;
     constexpr double halfHeight = 0.026;
     const double tip = down ? halfHeight : -halfHeight;
-    painter.setBrush(QColor(palette::cardWhite));
+    painter.setBrush(look::ticks);
     painter.drawPolygon(QPolygonF{centre + QPointF(0, tip), centre + QPointF(halfWidth, -tip),
                                   centre + QPointF(-halfWidth, -tip)});
 }
@@ -55,10 +55,10 @@ void paintShutter(QPainter& painter, const QRectF& window) {
     painter.fillRect(window, downward(window.top(), window.bottom(),
                                       {{0.0, 0xFF0C0D0E}, {0.5, 0xFF141618}, {1.0, 0xFF101213}}));
     painter.fillRect(QRectF(window.left(), window.center().y() - seam / 2, window.width(), seam),
-                     QColor(palette::black));
+                     palette::black);
     painter.fillRect(
         QRectF(window.left(), window.center().y() + seam / 2, window.width(), seam / 2),
-        thinned(palette::white, 0.07));
+        faded(palette::white, 0.07));
 }
 
 void paintFlagWord(QPainter& painter, const QRectF& window, WindowFlag flag) {
@@ -69,7 +69,7 @@ void paintFlagWord(QPainter& painter, const QRectF& window, WindowFlag flag) {
     const QPointF base = window.center() + QPointF(wordShift, size * capitalHeight / 2);
     painter.fillRect(
         window, downward(window.top(), window.bottom(), {{0.0, 0xFF1D2124}, {1.0, 0xFF2A2F33}}));
-    painter.fillPath(letters(word, size, base, Anchor::Centre), QColor(palette::cardWhite));
+    painter.fillPath(letters(word, size, base, Anchor::Centre), look::ticks);
     paintArrow(painter, window.center() + QPointF(arrowShift, 0), flag == WindowFlag::From);
 }
 
@@ -82,18 +82,18 @@ void paintCard(QPainter& painter, const DialShape& shape) {
     painter.fillPath(circlePath({}, glass),
                      downward(-glass, glass, {{0.0, 0xFF141619}, {1.0, 0xFF0E1012}}));
     painter.fillPath(circlePath({}, edge), downward(-edge, edge,
-                                                    {{0.0, QColor(palette::dialTop)},
-                                                     {1.0, QColor(palette::dialBottom)}}));
+                                                    {{0.0, look::dialTop},
+                                                     {1.0, look::dialBottom}}));
     paintRimShadow(painter, glass);
 
     painter.save();
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(thinned(palette::black, 0.75), step / 2));
+    painter.setPen(QPen(faded(palette::black, 0.75), step / 2));
     painter.drawEllipse(QPointF(), edge + step / 4, edge + step / 4);
     painter.setPen(QPen(downward(-edge, edge,
-                                 {{0.0, thinned(palette::white, 0.10)},
-                                  {0.5, thinned(palette::white, 0.03)},
-                                  {1.0, thinned(palette::white, 0.07)}}),
+                                 {{0.0, faded(palette::white, 0.10)},
+                                  {0.5, faded(palette::white, 0.03)},
+                                  {1.0, faded(palette::white, 0.07)}}),
                         step / 3));
     painter.drawEllipse(QPointF(), edge - step / 4, edge - step / 4);
     painter.restore();
@@ -117,7 +117,7 @@ void paintFixedMarks(QPainter& painter, const DialShape& shape, TopMark topMark)
             downward(-outer, -inner, {{0.0, palette::markDark}, {1.0, palette::markLight}}));
     }
     painter.restore();
-    painter.setBrush(QColor(palette::cardWhite));
+    painter.setBrush(look::ticks);
     if (topMark == TopMark::SlimBar) {
         painter.drawRect(QRectF(-slimWidth / 2, -outer, slimWidth, outer - inner));
         return;
@@ -148,7 +148,7 @@ void paintFlagWindow(QPainter& painter, WindowFlag flag) {
         paintFlagWord(painter, window, flag);
     painter.fillRect(
         window, downward(window.top(), window.top() + shade,
-                         {{0.0, thinned(palette::black, 0.6)}, {1.0, thinned(palette::black, 0)}}));
+                         {{0.0, faded(palette::black, 0.6)}, {1.0, faded(palette::black, 0)}}));
     painter.restore();
 }
 
@@ -163,9 +163,9 @@ void paintGlass(QPainter& painter, const DialShape& shape) {
     painter.save();
     painter.setClipPath(circlePath({}, glass));
     painter.fillPath(aboveEdge, downward(-glass, edgeTop + 0.3 * glass,
-                                         {{0.0, thinned(palette::white, strongest)},
-                                          {0.7, thinned(palette::white, weakest)},
-                                          {1.0, thinned(palette::white, weakest)}}));
+                                         {{0.0, faded(palette::white, strongest)},
+                                          {0.7, faded(palette::white, weakest)},
+                                          {1.0, faded(palette::white, weakest)}}));
     painter.restore();
 }
 

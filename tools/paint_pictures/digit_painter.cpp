@@ -27,13 +27,14 @@ constexpr std::array<SegmentSet, segmentSigns> litSegments{
     0b1111101, 0b0000111, 0b1111111, 0b1101111, 0b1000000, 0b0000000};
 constexpr int one = 1;
 
-constexpr double stroke = 0.13 * digitCell.height();
+constexpr QSize digitCell{look::digits::cellWidth, look::digits::cellHeight};
+constexpr double stroke = look::digits::strokeShare * digitCell.height();
 constexpr double gap = 0.012 * digitCell.height(); // from a tip to where two segments would meet
 constexpr double slantDegrees = 5;
-constexpr double margin = 9;
+constexpr double margin = look::digits::cellMargin;
 
 // The upright figure before it is slanted, with its origin at the top left.
-constexpr double figureHeight = digitCell.height() - 2 * margin;
+constexpr double figureHeight = look::digits::figureHeight;
 
 double slant() {
     return std::tan(slantDegrees * std::numbers::pi / 180);
@@ -102,7 +103,7 @@ QPainterPath glyph(int sign) {
 
 } // namespace
 
-QImage paintDigit(int sign, QRgb colour) {
+QImage paintDigit(int sign, const QColor& colour) {
     constexpr std::array<double, 3> glowWidths{16, 10, 5};
     constexpr double glowOpacity = 0.06;
     QImage picture = deepPicture(digitCell);
@@ -110,9 +111,9 @@ QImage paintDigit(int sign, QRgb colour) {
     painter.setRenderHint(QPainter::Antialiasing);
     const QPainterPath outline = glyph(sign);
     for (const double width : glowWidths)
-        painter.strokePath(outline, QPen(palette::thinned(colour, glowOpacity), width,
+        painter.strokePath(outline, QPen(look::faded(colour, glowOpacity), width,
                                          Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.fillPath(outline, QColor(colour));
+    painter.fillPath(outline, colour);
     painter.end();
     return picture.convertToFormat(QImage::Format_ARGB32);
 }

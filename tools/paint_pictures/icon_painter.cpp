@@ -9,7 +9,7 @@
 namespace tarnel {
 
 using palette::downward;
-using palette::thinned;
+using look::faded;
 
 namespace {
 
@@ -22,7 +22,7 @@ void paintGround(QPainter& painter) {
     constexpr double edge = 0.97;
     constexpr double rounding = 0.40;
     const QRectF plate(-edge, -edge, 2 * edge, 2 * edge);
-    painter.setBrush(downward(-edge, edge, {{0.0, 0xFF4A515A}, {1.0, palette::bezelBottom}}));
+    painter.setBrush(downward(-edge, edge, {{0.0, 0xFF4A515A}, {1.0, look::bezelBottom}}));
     painter.drawRoundedRect(plate, rounding, rounding);
     painter.setBrush(downward(-dialRadius, dialRadius, {{0.0, 0xFF0B0C0E}, {1.0, 0xFF5B666F}}));
     painter.drawEllipse(QPointF(), dialRadius + 0.045, dialRadius + 0.045);
@@ -40,7 +40,7 @@ void paintRose(QPainter& painter, int side) {
     for (int mark = 0; mark < marks; ++mark) {
         const bool strong = fine ? mark % 3 == 0 : mark % (marks / 4) == 0;
         const double inner = strong ? 0.53 : 0.60;
-        painter.setPen(QPen(QColor(strong ? palette::cardWhite : palette::lettering),
+        painter.setPen(QPen(QColor(strong ? look::ticks : look::unit),
                             strong ? width * 1.5 : width));
         painter.drawLine(QPointF(0, -outer), QPointF(0, -inner));
         painter.rotate(360.0 / marks);
@@ -60,7 +60,7 @@ void paintCourse(QPainter& painter, int side) {
     constexpr double barShift = 0.19;
     painter.save();
     painter.rotate(courseDegrees);
-    painter.setBrush(QColor(palette::courseYellow));
+    painter.setBrush(look::course);
     painter.drawPolygon(
         QPolygonF{QPointF(0, -tip), QPointF(headWidth, -head), QPointF(-headWidth, -head)});
     if (divided) {
@@ -81,7 +81,7 @@ void paintDots(QPainter& painter, int side) {
     constexpr int dotsASide = 3;
     painter.save();
     painter.rotate(courseDegrees);
-    painter.setBrush(QColor(palette::cardWhite));
+    painter.setBrush(look::ticks);
     for (int dot = -dotsASide; dot <= dotsASide; ++dot)
         painter.drawEllipse(QPointF(dot * spacing, 0), radius, radius);
     painter.restore();

@@ -13,9 +13,12 @@
 namespace tarnel {
 
 using palette::downward;
-using palette::thinned;
+using look::faded;
 
 namespace {
+
+// The rim of a cap as a fraction of half the picture.
+constexpr double knobRimRadius = look::knob::rimInPicture;
 
 // One cap, however large: the ribs are counted so that they look alike on both sizes.
 struct Cap {
@@ -26,7 +29,7 @@ struct Cap {
 
 constexpr Cap singleCap{knobRimRadius, 24, 0.050};
 constexpr Cap outerRing{knobRimRadius, 30, 0.042};
-constexpr Cap innerCap{knobRimRadius * innerCapShare, 18, 0.060};
+constexpr Cap innerCap{knobRimRadius * look::knob::innerCap, 18, 0.060};
 
 constexpr double faceShare = 0.74; // the smooth top within the ribs
 
@@ -55,10 +58,10 @@ void paintSoftShadow(QPainter& painter, double rim, double opacity) {
     const QPointF centre(0, rim * 0.10);
     const double reach = rim * 1.22;
     QRadialGradient shadow(centre, reach);
-    shadow.setColorAt(0.0, thinned(palette::black, opacity));
-    shadow.setColorAt(0.72, thinned(palette::black, opacity));
-    shadow.setColorAt(0.86, thinned(palette::black, opacity * 0.32));
-    shadow.setColorAt(1.0, thinned(palette::black, 0));
+    shadow.setColorAt(0.0, faded(palette::black, opacity));
+    shadow.setColorAt(0.72, faded(palette::black, opacity));
+    shadow.setColorAt(0.86, faded(palette::black, opacity * 0.32));
+    shadow.setColorAt(1.0, faded(palette::black, 0));
     painter.setBrush(shadow);
     painter.drawEllipse(centre, reach, reach);
 }
@@ -72,14 +75,14 @@ void paintGrooves(QPainter& painter, const Cap& cap) {
     const double outer = cap.rim * (1 - cap.ribDepth);
     for (int groove = 0; groove < cap.ribs; ++groove) {
         const double angle = 2 * std::numbers::pi * (groove + 0.5) / cap.ribs;
-        painter.setPen(QPen(thinned(palette::black, grooveShade), width * cap.rim, Qt::SolidLine,
+        painter.setPen(QPen(faded(palette::black, grooveShade), width * cap.rim, Qt::SolidLine,
                             Qt::RoundCap));
         painter.drawLine(onCircle(inner, angle), onCircle(outer, angle));
         const double side = std::sin(angle) < 0 ? -1 : 1;
         const double flank = angle + side * width * 0.9;
         const double light = flankLight * std::abs(std::sin(angle)) * (1 + std::cos(angle)) / 2;
         painter.setPen(
-            QPen(thinned(palette::white, light), width * cap.rim / 2, Qt::SolidLine, Qt::RoundCap));
+            QPen(faded(palette::white, light), width * cap.rim / 2, Qt::SolidLine, Qt::RoundCap));
         painter.drawLine(onCircle(inner, flank), onCircle(outer, flank));
     }
     painter.setPen(Qt::NoPen);
@@ -92,9 +95,9 @@ void paintFaceDisc(QPainter& painter, double radius) {
         downward(-radius, radius, {{0.0, 0xFF59626A}, {0.45, 0xFF434A51}, {1.0, 0xFF2E3338}}));
     painter.drawEllipse(QPointF(), radius, radius);
     painter.setPen(QPen(downward(-radius, radius,
-                                 {{0.0, thinned(palette::white, 0.42)},
-                                  {0.4, thinned(palette::white, 0.08)},
-                                  {1.0, thinned(palette::white, 0.03)}}),
+                                 {{0.0, faded(palette::white, 0.42)},
+                                  {0.4, faded(palette::white, 0.08)},
+                                  {1.0, faded(palette::white, 0.03)}}),
                         radius * 0.022));
     painter.setBrush(Qt::NoBrush);
     painter.drawEllipse(QPointF(), radius * 0.985, radius * 0.985);
@@ -115,9 +118,9 @@ void paintCap(QPainter& painter, const Cap& cap) {
 void paintHover(QPainter& painter, const Cap& cap) {
     constexpr double lift = 0.09;
     constexpr double ringWidth = 0.032;
-    painter.fillPath(ribbedOutline(cap), thinned(palette::white, lift));
+    painter.fillPath(ribbedOutline(cap), faded(palette::white, lift));
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(QColor(palette::accent), ringWidth));
+    painter.setPen(QPen(look::panelAccent, ringWidth));
     const double radius = cap.rim + ringWidth;
     painter.drawEllipse(QPointF(), radius, radius);
     painter.setPen(Qt::NoPen);
@@ -152,17 +155,17 @@ QImage paintDoubleKnob(int side, KnobLook look) {
 }
 
 QImage paintPointer(int side) {
-    constexpr double from = 0.24 * knobRimRadius;
-    constexpr double to = 0.66 * knobRimRadius;
+    constexpr double from = look::knob::pointerFrom * knobRimRadius;
+    constexpr double to = look::knob::pointerTo * knobRimRadius;
     constexpr double width = 0.105 * knobRimRadius;
     constexpr double outline = 0.035 * knobRimRadius;
     QImage picture = deepPicture({side, side});
     QPainter painter(&picture);
     useHalfSideUnits(painter, side);
     painter.setPen(
-        QPen(thinned(palette::black, 0.35), width + outline, Qt::SolidLine, Qt::RoundCap));
+        QPen(faded(palette::black, 0.35), width + outline, Qt::SolidLine, Qt::RoundCap));
     painter.drawLine(QPointF(0, -from), QPointF(0, -to));
-    painter.setPen(QPen(QColor(palette::white), width, Qt::SolidLine, Qt::RoundCap));
+    painter.setPen(QPen(palette::white, width, Qt::SolidLine, Qt::RoundCap));
     painter.drawLine(QPointF(0, -from), QPointF(0, -to));
     painter.end();
     return dithered(picture);

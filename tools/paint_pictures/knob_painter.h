@@ -5,12 +5,6 @@
 
 namespace tarnel {
 
-// The rim of a cap as a fraction of half the picture; the rest is for the shadow.
-inline constexpr double knobRimRadius = 0.75;
-
-// The rim of the inner cap of a double knob as a fraction of the outer rim.
-inline constexpr double innerCapShare = 0.56;
-
 enum class KnobLook { Resting, Hovered };
 
 QImage paintKnob(int side, KnobLook look);

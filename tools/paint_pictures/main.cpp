@@ -84,7 +84,7 @@ void writeKnobs(const PictureFolder& folder) {
     folder.writeBoth("knob_pointer.png", paintPointer(side), pointerDivisor);
 }
 
-void writeDigits(const PictureFolder& folder, const QString& colourWord, QRgb colour) {
+void writeDigits(const PictureFolder& folder, const QString& colourWord, const QColor& colour) {
     for (int sign = 0; sign < segmentSigns; ++sign) {
         const QString number = QString::number(sign + 1).rightJustified(2, '0');
         folder.writeBoth("digit_" + colourWord + "_" + number + ".png", paintDigit(sign, colour),
@@ -102,8 +102,8 @@ void paintPictures(const QString& path) {
     const PictureFolder folder(path);
     writeFaces(folder);
     writeKnobs(folder);
-    writeDigits(folder, "amber", palette::amber);
-    writeDigits(folder, "green", palette::green);
+    writeDigits(folder, "amber", look::setByYou);
+    writeDigits(folder, "green", look::measured);
     writeIcons(folder);
 }
 

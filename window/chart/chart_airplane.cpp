@@ -1,7 +1,7 @@
 #include "window/chart/chart_airplane.h"
 
 #include "core/plane_geometry.h"
-#include "window/widgets/look.h"
+#include "look/look.h"
 
 #include <QPainter>
 #include <QPainterPath>

@@ -1,8 +1,8 @@
 #include "window/chart/chart_controls.h"
 
+#include "look/look.h"
 #include "window/chart/view_switch.h"
 #include "window/widgets/icons.h"
-#include "window/widgets/look.h"
 #include "window/widgets/text_of.h"
 
 #include <QHBoxLayout>

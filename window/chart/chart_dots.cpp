@@ -1,6 +1,6 @@
 #include "window/chart/chart_dots.h"
 
-#include "window/widgets/look.h"
+#include "look/look.h"
 
 #include <QPainter>
 

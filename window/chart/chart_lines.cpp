@@ -3,7 +3,7 @@
 #include "paper/line_clipping.h"
 #include "paper/line_layout.h"
 #include "paper/plates.h"
-#include "window/widgets/look.h"
+#include "look/look.h"
 
 #include <QPainter>
 

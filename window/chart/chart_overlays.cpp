@@ -1,6 +1,6 @@
 #include "window/chart/chart_overlays.h"
 
-#include "window/widgets/look.h"
+#include "look/look.h"
 
 #include <QPainter>
 #include <QVarLengthArray>

@@ -3,7 +3,7 @@
 #include "core/number_text.h"
 #include "window/chart/chart_airplane.h"
 #include "window/chart/readout_plate.h"
-#include "window/widgets/look.h"
+#include "look/look.h"
 #include "window/widgets/text_of.h"
 
 #include <QPainter>

@@ -4,7 +4,7 @@
 #include "core/rounding.h"
 #include "paper/plates.h"
 #include "window/chart/reference_lamps.h"
-#include "window/widgets/look.h"
+#include "look/look.h"
 #include "window/widgets/text_of.h"
 
 #include <QAccessible>

@@ -1,6 +1,6 @@
 #include "window/chart/reference_lamps.h"
 
-#include "window/widgets/look.h"
+#include "look/look.h"
 #include "window/widgets/text_of.h"
 
 #include <QPainter>

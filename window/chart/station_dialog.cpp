@@ -1,7 +1,7 @@
 #include "window/chart/station_dialog.h"
 
 #include "chart/chart_picture.h"
-#include "window/widgets/look.h"
+#include "look/look.h"
 #include "window/widgets/text_of.h"
 #include "window/widgets/tick_box.h"
 

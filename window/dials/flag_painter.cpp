@@ -1,6 +1,6 @@
 #include "window/dials/flag_painter.h"
 
-#include "window/widgets/panel_look.h"
+#include "look/panel_look.h"
 
 #include <QPainter>
 #include <QPainterPath>

@@ -2,7 +2,7 @@
 
 #include "window/widgets/cover_plate.h"
 #include "window/widgets/form_binding.h"
-#include "window/widgets/look.h"
+#include "look/look.h"
 
 #include <QCloseEvent>
 #include <QPainter>

@@ -1,6 +1,6 @@
 #include "window/dials/instrument_areas.h"
 
-#include "window/widgets/look.h"
+#include "look/look.h"
 
 #include <algorithm>
 #include <array>
@@ -24,11 +24,9 @@ double InstrumentAreas::knobRadius(double side) {
 }
 
 QRectF InstrumentAreas::selectorKeys(double side) {
-    constexpr double right = 0.972;
-    constexpr double top = 0.028;
-    constexpr double width = 0.19;
-    constexpr double height = 0.064;
-    return {(right - width) * side, top * side, width * side, height * side};
+    using namespace look::bezel;
+    return {(1 - keyInset - selectorWidth) * side, keyInset * side, selectorWidth * side,
+            keyHeight * side};
 }
 
 const KnobArea& InstrumentAreas::knob(InstrumentArea area) const {

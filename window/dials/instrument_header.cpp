@@ -3,7 +3,7 @@
 #include "window/dials/needle_swatch.h"
 #include "window/widgets/dark_list.h"
 #include "window/widgets/icons.h"
-#include "window/widgets/panel_look.h"
+#include "look/panel_look.h"
 
 #include <QHBoxLayout>
 #include <QPainter>

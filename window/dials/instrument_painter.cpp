@@ -2,7 +2,7 @@
 
 #include "window/dials/flag_painter.h"
 #include "window/dials/needle_shapes.h"
-#include "window/widgets/panel_look.h"
+#include "look/panel_look.h"
 
 #include <QPainter>
 

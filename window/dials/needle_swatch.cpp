@@ -1,6 +1,6 @@
 #include "window/dials/needle_swatch.h"
 
-#include "window/widgets/panel_look.h"
+#include "look/panel_look.h"
 
 #include <QPainter>
 #include <QPolygonF>

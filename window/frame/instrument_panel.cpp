@@ -8,7 +8,7 @@
 #include "window/radios/nav_module.h"
 #include "window/radios/stopwatch_module.h"
 #include "window/widgets/cover_plate.h"
-#include "window/widgets/panel_look.h"
+#include "look/panel_look.h"
 
 #include <QPainter>
 
@@ -82,10 +82,10 @@ void InstrumentPanel::makeModules(FormBinding& binding, PictureStore& pictures,
 
 void InstrumentPanel::layOutChannelLamp(std::size_t position, const QRect& bezel) {
     const double side = bezel.width();
-    const double inset = look::bezel::channelButtonInset * side;
+    const double inset = look::bezel::keyInset * side;
     channelLamps[position]->setGeometry(QRectF(bezel.left() + inset, bezel.top() + inset,
                                                look::bezel::channelButtonWidth * side,
-                                               look::bezel::channelButtonHeight * side)
+                                               look::bezel::keyHeight * side)
                                             .toRect());
     channelLamps[position]->raise();
 }

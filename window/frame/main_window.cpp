@@ -1,5 +1,6 @@
 #include "window/frame/main_window.h"
 
+#include "paper/plates.h"
 #include "window/chart/chart_controls.h"
 #include "window/chart/chart_view.h"
 #include "window/chart/comment_card.h"
@@ -12,7 +13,7 @@
 #include "window/frame/status_panels.h"
 #include "window/quiz/quiz_panel.h"
 #include "window/strip/control_strip.h"
-#include "window/widgets/look.h"
+#include "look/look.h"
 #include "window/widgets/style_sheet.h"
 
 #include <QCloseEvent>
@@ -170,7 +171,7 @@ void MainWindow::layOut() {
     shownQuiz = quiz->contents();
     shownOpen = form.exercise.questionOpen();
     chart->setGeometry(layout.chart);
-    const int inset = look::overlayInset;
+    const int inset = overlayInset;
     chartControls->setGeometry(inset, inset, layout.chart.width() - 2 * inset,
                                chartControls->sizeHint().height());
     strip->setGeometry(layout.strip);

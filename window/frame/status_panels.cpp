@@ -1,6 +1,6 @@
 #include "window/frame/status_panels.h"
 
-#include "window/widgets/look.h"
+#include "look/look.h"
 
 #include <QLabel>
 #include <QPainter>

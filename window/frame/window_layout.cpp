@@ -1,6 +1,6 @@
 #include "window/frame/window_layout.h"
 
-#include "window/widgets/look.h"
+#include "look/look.h"
 
 #include <algorithm>
 #include <cmath>

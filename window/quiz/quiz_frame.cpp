@@ -2,7 +2,7 @@
 
 #include "window/quiz/quiz_flight_bar.h"
 #include "window/quiz/quiz_row.h"
-#include "window/widgets/look.h"
+#include "look/look.h"
 #include "window/widgets/quiz_measures.h"
 #include "window/widgets/tick_box.h"
 

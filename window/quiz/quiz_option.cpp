@@ -1,6 +1,6 @@
 #include "window/quiz/quiz_option.h"
 
-#include "window/widgets/look.h"
+#include "look/look.h"
 #include "window/widgets/quiz_measures.h"
 
 #include <QPainter>

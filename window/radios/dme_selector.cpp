@@ -1,6 +1,6 @@
 #include "window/radios/dme_selector.h"
 
-#include "window/widgets/panel_look.h"
+#include "look/panel_look.h"
 #include "window/widgets/text_of.h"
 
 #include <QFontMetricsF>

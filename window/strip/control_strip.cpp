@@ -7,7 +7,7 @@
 #include "window/widgets/card.h"
 #include "window/widgets/choice_button.h"
 #include "window/widgets/icons.h"
-#include "window/widgets/look.h"
+#include "look/look.h"
 #include "window/widgets/segment_row.h"
 
 #include <QHBoxLayout>

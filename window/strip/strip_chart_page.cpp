@@ -4,7 +4,7 @@
 #include "window/chart/vector_box.h"
 #include "window/chart/view_switch.h"
 #include "window/widgets/icons.h"
-#include "window/widgets/look.h"
+#include "look/look.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "window/widgets/look.h"
+#include "look/look.h"
 
 #include <QPainter>
 

@@ -1,6 +1,6 @@
 #include "window/widgets/choice_button.h"
 
-#include "window/widgets/look.h"
+#include "look/look.h"
 
 #include <QFontInfo>
 #include <QFontMetrics>

@@ -1,6 +1,6 @@
 #include "window/widgets/cover_plate.h"
 
-#include "window/widgets/panel_look.h"
+#include "look/panel_look.h"
 #include "window/widgets/text_of.h"
 
 #include <QPainter>

@@ -1,6 +1,6 @@
 #include "window/widgets/dark_button.h"
 
-#include "window/widgets/panel_look.h"
+#include "look/panel_look.h"
 
 #include <QEvent>
 #include <QFontMetricsF>

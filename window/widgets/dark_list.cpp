@@ -1,6 +1,6 @@
 #include "window/widgets/dark_list.h"
 
-#include "window/widgets/panel_look.h"
+#include "look/panel_look.h"
 
 #include <QPainter>
 

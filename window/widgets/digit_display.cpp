@@ -1,6 +1,6 @@
 #include "window/widgets/digit_display.h"
 
-#include "window/widgets/panel_look.h"
+#include "look/panel_look.h"
 #include "window/widgets/picture_store.h"
 
 #include <QFontMetricsF>
@@ -12,12 +12,10 @@ namespace tarnel {
 
 namespace {
 
-// A digit's picture: the cell with a margin for the glow around the figure.
-constexpr double cellWidth = 168;
-constexpr double cellHeight = 271;
-constexpr double figureHeight = 253;
-constexpr double cellWidthPerHeight = cellWidth / figureHeight;
-constexpr double cellHeightPerHeight = cellHeight / figureHeight;
+constexpr double cellWidthPerHeight =
+    static_cast<double>(look::digits::cellWidth) / look::digits::figureHeight;
+constexpr double cellHeightPerHeight =
+    static_cast<double>(look::digits::cellHeight) / look::digits::figureHeight;
 
 constexpr double pointCells = 0.26;
 constexpr double sideMargin = 0.32; ///< of the digits' height, on either side

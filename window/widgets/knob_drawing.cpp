@@ -1,6 +1,6 @@
 #include "window/widgets/knob_drawing.h"
 
-#include "window/widgets/panel_look.h"
+#include "look/panel_look.h"
 #include "window/widgets/picture_store.h"
 
 #include <QPainter>
@@ -9,9 +9,9 @@ namespace tarnel {
 
 namespace {
 
-constexpr double rimInPicture = 0.75; ///< of half the picture; the rest is shadow
-constexpr double pointerFrom = 0.24;  ///< of the rim
-constexpr double pointerTo = 0.66;
+using look::knob::pointerFrom;
+using look::knob::pointerTo;
+using look::knob::rimInPicture;
 
 QString pictureOf(const KnobLook& knob) {
     const bool lit = knob.hovered && !knob.dimmed;
@@ -78,7 +78,7 @@ void paintKnob(QPainter& painter, PictureStore& pictures, QPointF centre, double
         painter.setBrush(look::faded(Qt::black, pressedShade));
         painter.drawEllipse(centre, radius, radius);
     }
-    const double pointed = knob.cap == KnobCap::concentric ? radius * innerCapShare : radius;
+    const double pointed = knob.cap == KnobCap::concentric ? radius * look::knob::innerCap : radius;
     paintPointer(painter, pictures, centre, pointed, knob.pointer);
     painter.restore();
     if (knob.focused)

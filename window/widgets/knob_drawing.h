@@ -10,9 +10,6 @@ class PictureStore;
 
 enum class KnobCap { single, concentric };
 
-/// The rim of a concentric knob's inner cap as a share of the outer rim.
-constexpr double innerCapShare = 0.56;
-
 /// How a knob looks at a moment.
 struct KnobLook {
     KnobCap cap = KnobCap::single;

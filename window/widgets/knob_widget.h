@@ -5,7 +5,7 @@
 #include "window/widgets/knob_drawing.h"
 #include "window/widgets/mouse_hold.h"
 #include "window/widgets/panel_input.h"
-#include "window/widgets/panel_look.h"
+#include "look/panel_look.h"
 
 #include <QWidget>
 

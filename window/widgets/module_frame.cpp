@@ -2,7 +2,7 @@
 
 #include "window/widgets/digit_display.h"
 #include "window/widgets/knob_widget.h"
-#include "window/widgets/panel_look.h"
+#include "look/panel_look.h"
 
 #include <QPainter>
 

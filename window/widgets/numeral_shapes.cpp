@@ -1,6 +1,6 @@
 #include "window/widgets/numeral_shapes.h"
 
-#include "window/widgets/panel_look.h"
+#include "look/panel_look.h"
 
 #include <QTransform>
 

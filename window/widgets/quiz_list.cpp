@@ -1,6 +1,6 @@
 #include "window/widgets/quiz_list.h"
 
-#include "window/widgets/look.h"
+#include "look/look.h"
 #include "window/widgets/quiz_measures.h"
 
 #include <QKeyEvent>

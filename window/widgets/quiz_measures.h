@@ -1,5 +1,7 @@
 #pragma once
 
+#include "look/look.h"
+
 #include <QFontInfo>
 #include <QWidget>
 
@@ -16,8 +18,7 @@ inline constexpr double leastPromptShare = 0.35;
 
 /// The text scale of a widget that the style sheet has dressed.
 inline double scaleOf(const QWidget& widget) {
-    constexpr double bodyType = 13;
-    return QFontInfo(widget.font()).pixelSize() / bodyType;
+    return QFontInfo(widget.font()).pixelSize() / static_cast<double>(look::bodyType);
 }
 
 } // namespace tarnel::quiz

@@ -1,6 +1,6 @@
 #include "window/widgets/stepped_digits.h"
 
-#include "window/widgets/panel_look.h"
+#include "look/panel_look.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>

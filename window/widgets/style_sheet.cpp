@@ -1,7 +1,7 @@
 #include "window/widgets/style_sheet.h"
 
 #include "chart/chart_picture.h"
-#include "window/widgets/panel_look.h"
+#include "look/panel_look.h"
 
 #include <QHash>
 #include <QRegularExpression>
@@ -151,7 +151,7 @@ const QHash<QString, QColor>& colours() {
         {QStringLiteral("accentLight"), look::accent.lighter(115)},
         {QStringLiteral("first"), look::fromSurface(chartColour::first)},
         {QStringLiteral("second"), look::fromSurface(chartColour::second)},
-        {QStringLiteral("localizer"), look::localizer},
+        {QStringLiteral("localizer"), look::fromSurface(chartColour::localizer)},
         {QStringLiteral("wrong"), look::wrong},
         {QStringLiteral("unit"), look::unit},
         {QStringLiteral("moduleTop"), look::moduleTop},

@@ -1,6 +1,6 @@
 #include "window/widgets/tick_box.h"
 
-#include "window/widgets/look.h"
+#include "look/look.h"
 
 #include <QPainter>
 #include <QPainterPath>

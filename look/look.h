@@ -9,8 +9,9 @@
 #include <algorithm>
 #include <cmath>
 
-/// The palette and the metrics of the whole window. Lengths are logical pixels unless they are
-/// called a share.
+/// The palette and the measures of the window and of the pictures that are painted for it. Lengths
+/// are logical pixels unless they are called a share. What stands on the chart has its colours in
+/// `chartColour`.
 namespace tarnel::look {
 
 /// A colour from 0xRRGGBB.
@@ -85,9 +86,6 @@ inline constexpr QColor needleTwo = rgb(0x35D27B);
 
 // Chart.
 inline constexpr QColor paper = rgb(0xFFFFFF);
-inline constexpr QColor localizer = rgb(0x3D7A5C);
-inline constexpr QColor groundSpeed = rgb(0x00809C);
-inline constexpr QColor wind = rgb(0xB05A00);
 inline constexpr QColor gridMile = rgb(0xF4F6F9);
 inline constexpr QColor gridFiveMiles = rgb(0xE7ECF1);
 inline constexpr QColor gridTenMiles = rgb(0xDCE3EA);
@@ -113,7 +111,6 @@ inline constexpr double disabledOpacity = 0.4;
 inline constexpr int gap = 8; ///< outer margin, gutters, inset of the panel
 inline constexpr int cardInset = 10;
 inline constexpr int moduleInset = 12;
-inline constexpr int overlayInset = 10; ///< from the edge of the paper
 inline constexpr int statusHeight = 26;
 inline constexpr double paperRadius = 3;
 inline constexpr double controlRadius = 5;
@@ -127,8 +124,9 @@ inline constexpr double glassRadius = 0.448;
 inline constexpr double knobRadius = 0.062;
 inline constexpr double knobInset = 0.088; ///< its centre from both edges
 inline constexpr double channelButtonWidth = 0.205;
-inline constexpr double channelButtonHeight = 0.064;
-inline constexpr double channelButtonInset = 0.028;
+inline constexpr double selectorWidth = 0.19; ///< of the two keys at the top right
+inline constexpr double keyHeight = 0.064;    ///< of that button and of these keys
+inline constexpr double keyInset = 0.028;     ///< from both edges
 inline constexpr double lettering = 0.029; ///< but never below `smallestLettering`
 inline constexpr int smallestLettering = 9;
 } // namespace bezel
@@ -139,9 +137,21 @@ inline constexpr double numeralHeight = 0.132;
 inline constexpr double cardinalHeight = 0.155;
 } // namespace card_share
 
-/// Vector digits, seven segments.
+/// Pictures of digits, seven segments: a cell with a margin for the glow around the figure.
 namespace digits {
-inline constexpr double strokeShare = 0.13;
+inline constexpr int cellWidth = 168;
+inline constexpr int cellHeight = 271;
+inline constexpr int cellMargin = 9;
+inline constexpr int figureHeight = cellHeight - 2 * cellMargin;
+inline constexpr double strokeShare = 0.13; ///< of the height
 } // namespace digits
+
+/// Pictures of knobs.
+namespace knob {
+inline constexpr double rimInPicture = 0.75; ///< of half the picture; the rest is for the shadow
+inline constexpr double innerCap = 0.56;     ///< of a concentric knob, of the outer rim
+inline constexpr double pointerFrom = 0.24;  ///< of the rim
+inline constexpr double pointerTo = 0.66;
+} // namespace knob
 
 } // namespace tarnel::look

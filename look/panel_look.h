@@ -1,6 +1,6 @@
 #pragma once
 
-#include "window/widgets/look.h"
+#include "look/look.h"
 
 /// What only the dark panel's painted parts need of colours and measures.
 namespace tarnel::look {
