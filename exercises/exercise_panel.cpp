@@ -31,6 +31,11 @@ ExercisePanel::ExercisePanel(FormState& form, const PanelWidgets& widgets)
             control->setVisible(false);
 }
 
+void ExercisePanel::fold(bool folds) {
+    small = folds;
+    frame.setHeight(small ? foldedPanelHeight : panelHeight);
+}
+
 void ExercisePanel::setTitle(const std::string& exerciseName) {
     name = exerciseName;
     shownPlace = {};

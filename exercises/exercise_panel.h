@@ -33,13 +33,13 @@ class ExercisePanel {
     /// Shows no question; it can only be passed or left.
     void clear();
     /// Folds the frame to its small height, or unfolds it.
-    void fold(bool small) { frame.setHeight(small ? foldedPanelHeight : panelHeight); }
+    void fold(bool folds);
     /// Tells `message` in place of a question or above it; nothing if it is empty.
     void setNotice(const std::string& message);
 
     [[nodiscard]] const std::string& title() const { return name; }
     [[nodiscard]] QuestionPlace place() const { return shownPlace; }
-    [[nodiscard]] bool folded() const { return frame.height() == foldedPanelHeight; }
+    [[nodiscard]] bool folded() const { return small; }
     /// Whether the panel folds to its small height when the student watches or flies.
     [[nodiscard]] bool folds() const { return flyCode != 0; }
     /// All widgets, in the order of the keyboard.
@@ -65,6 +65,7 @@ class ExercisePanel {
 
     std::string name;
     QuestionPlace shownPlace;
+    bool small = false;
 };
 
 } // namespace tarnel

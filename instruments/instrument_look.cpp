@@ -1,5 +1,7 @@
 #include "instruments/instrument_look.h"
 
+#include "instruments/needle_role.h"
+
 #include <array>
 #include <cmath>
 #include <cstddef>
@@ -64,7 +66,7 @@ void dressTexts(InstrumentPicture& picture, InstrumentKind kind) {
 
 void showKnobs(InstrumentPicture& picture, InstrumentKind kind) {
     using enum InstrumentKind;
-    picture.surface.show(picture.Image2, kind == rmi || kind == hsi || kind == dg);
+    picture.surface.show(picture.Image2, hasHeadingBug(kind));
     picture.surface.show(picture.Image3, kind != dg);
 }
 
@@ -87,9 +89,10 @@ void dressInstrument(InstrumentPicture& picture, InstrumentKind kind, bool large
     const int thin = large ? 2 : 1;
     const int medium = large ? 4 : 2;
     const int thick = large ? 4 : 3;
-    const bool bug = kind == rmi || kind == hsi || kind == dg;
+    const bool bug = hasHeadingBug(kind);
     const bool deviation = kind == vor || kind == hsi;
 
+    surface.set(picture.kind, kind);
     surface.show(picture.Image1, true);
     style(surface, picture.Line1, white, thin, true);
     style(surface, picture.Line3to6, yellow, thick, kind == adf || kind == rmi || kind == hsi);

@@ -3,6 +3,7 @@
 #include "core/angle.h"
 #include "core/rounding.h"
 #include "instruments/instrument_layout.h"
+#include "instruments/needle_role.h"
 #include "instruments/user_control_1.h"
 
 #include <algorithm>
@@ -45,7 +46,7 @@ bool InstrumentMouse::usable(InstrumentArea area) const {
     if (instrument.c_DisableKnobs == 0)
         return false;
     if (area == InstrumentArea::headingBug)
-        return instrument.picture.Line17to23.front().visible;
+        return hasHeadingBug(instrument.picture.kind);
     return area == InstrumentArea::card && instrument.turnsCourse();
 }
 

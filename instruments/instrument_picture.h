@@ -26,6 +26,7 @@ struct KnobArea {
 struct InstrumentPicture {
     DrawingSurface surface;
     double size = 3855; ///< width and height
+    InstrumentKind kind = InstrumentKind::adf;
 
     Picture Image1;  ///< the background
     KnobArea Image2; ///< heading bug knob

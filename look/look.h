@@ -127,7 +127,7 @@ inline constexpr double channelButtonWidth = 0.205;
 inline constexpr double selectorWidth = 0.19; ///< of the two keys at the top right
 inline constexpr double keyHeight = 0.064;    ///< of that button and of these keys
 inline constexpr double keyInset = 0.028;     ///< from both edges
-inline constexpr double lettering = 0.029; ///< but never below `smallestLettering`
+inline constexpr double lettering = 0.029;    ///< but never below `smallestLettering`
 inline constexpr int smallestLettering = 9;
 } // namespace bezel
 

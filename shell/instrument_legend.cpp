@@ -17,12 +17,12 @@ std::string receiverName(const StringTable& texts, std::int16_t receiver) {
     return std::string(texts[receiver == 1 ? Text::faceNav1 : Text::faceNav2]);
 }
 
-LegendPart coursePart(LegendNeedle needle, const StringTable& texts, double degrees) {
+LegendPart coursePart(NeedleRole needle, const StringTable& texts, double degrees) {
     const std::string value = degreesText(texts, degrees);
     return {needle, std::string(texts[Text::courseShort]) + " " + value, value};
 }
 
-LegendPart stationPart(LegendNeedle needle, const StringTable& texts, const NeedleSource& source) {
+LegendPart stationPart(NeedleRole needle, const StringTable& texts, const NeedleSource& source) {
     return {needle, std::string(texts[signalName(source.slot)])};
 }
 
@@ -31,7 +31,7 @@ LegendPart stationPart(LegendNeedle needle, const StringTable& texts, const Need
 std::vector<LegendPart> instrumentLegend(const StringTable& texts,
                                          const InstrumentPosition& position,
                                          const FeedSources& sources, const QuestionCover& cover) {
-    using enum LegendNeedle;
+    using enum NeedleRole;
     if (cover.instruments)
         return {};
     const NeedleSources needles = needleSources(position, sources);

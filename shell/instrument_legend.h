@@ -1,5 +1,6 @@
 #pragma once
 
+#include "instruments/needle_role.h"
 #include "shell/needle_sources.h"
 #include "shell/question_cover.h"
 #include "strings/string_table.h"
@@ -9,12 +10,8 @@
 
 namespace tarnel {
 
-/// Which needle a part of a legend belongs to: the first or second pointer, the VOR indicator's
-/// bar, the HSI's course arrow or its overlay needle; or none.
-enum class LegendNeedle { none, first, second, bar, arrow, overlay };
-
 struct LegendPart {
-    LegendNeedle needle;
+    NeedleRole needle; ///< that it belongs to
     std::string text;
     std::string shortText = text; ///< where there is little room
     bool operator==(const LegendPart&) const = default;

@@ -83,6 +83,7 @@ TEST_F(ChartDrawingTest, RadialsFollowReceiverAndStation) {
         EXPECT_EQ(lines.course.visible, slot >= 0);
         if (slot >= 0) {
             EXPECT_EQ(lines.course.from, stations[static_cast<std::size_t>(slot)].place.wide);
+            EXPECT_EQ(lines.station, static_cast<Slot>(slot));
         }
     };
     for (const Case& c : cases) {

@@ -1,10 +1,10 @@
 #include "engine/simulation_fixture.h"
 #include "instruments/instrument_fixture.h"
+#include "look/panel_look.h"
 #include "strings/string_table.h"
 #include "window/chart/chart_overlays.h"
 #include "window/chart/chart_painter.h"
 #include "window/dials/instrument_painter.h"
-#include "look/panel_look.h"
 
 #include <QImage>
 #include <QPaintDevice>

@@ -1,14 +1,15 @@
+#include "look/panel_look.h"
 #include "shell/instrument_legend.h"
 #include "window/dials/instrument_header.h"
 #include "window/dials/instrument_painter.h"
 #include "window/dials/needle_swatch.h"
 #include "window/student_fixture.h"
-#include "look/panel_look.h"
 
 #include <QImage>
 #include <QPainter>
 
 #include <set>
+#include <span>
 
 namespace tarnel {
 
@@ -40,7 +41,7 @@ TEST_F(Student, FindsEachNeedleOfTheLegendOnTheDial) {
         EXPECT_EQ(parts.size(), kind == hsi ? 3 : kind == adf ? 1 : 2);
         for (const LegendPart& part : parts) {
             EXPECT_GT(inkOf(needleColour(part.needle), dial, dial.rect()), 40) << part.text;
-            const bool room = part.needle != LegendNeedle::overlay;
+            const bool room = part.needle != NeedleRole::overlay;
             EXPECT_EQ(inkOf(needleColour(part.needle), legend, legend.rect()) > 2, room)
                 << part.text;
             QImage sign(24, 24, QImage::Format_RGB32);
@@ -48,12 +49,40 @@ TEST_F(Student, FindsEachNeedleOfTheLegendOnTheDial) {
             QPainter painter(&sign);
             paintSwatch(painter, part.needle, {12, 12});
             painter.end();
-            if (part.needle != LegendNeedle::none)
+            if (part.needle != NeedleRole::none)
                 signs.insert(QByteArray(reinterpret_cast<const char*>(sign.constBits()),
                                         static_cast<int>(sign.sizeInBytes())));
         }
     }
     EXPECT_EQ(signs.size(), 5U);
+}
+
+// What a needle is decides how it is painted, not the colour that the model gives its lines.
+TEST_F(Student, SeesNeedlesByWhatTheyAre) {
+    PictureStore pictures("no such folder");
+    InstrumentPainter paint(pictures);
+    for (const int kind : {adf, rmi, vor, hsi, dg}) {
+        UserControl_1 instrument;
+        instrument.Display = static_cast<std::int16_t>(kind);
+        instrument.c_RMIoverlayEN = 1;
+        const auto painted = [&] {
+            QImage image(344, 344, QImage::Format_RGB32);
+            image.fill(Qt::black);
+            QPainter painter(&image);
+            paint.paint(painter, instrument.picture, image.width());
+            return image;
+        };
+        const QImage before = painted();
+        InstrumentPicture& picture = instrument.picture;
+        for (const std::span<Line> lines :
+             {std::span<Line>(picture.Line1), std::span<Line>(picture.Line3to6),
+              std::span<Line>(picture.Line7to12), std::span(&picture.Line13, 1),
+              std::span<Line>(picture.Line15), std::span<Line>(picture.Line16),
+              std::span<Line>(picture.Line17to23)})
+            for (Line& line : lines)
+                line.colour = 0x345678;
+        EXPECT_EQ(painted(), before) << kind;
+    }
 }
 
 // Needles pass below the numerals.

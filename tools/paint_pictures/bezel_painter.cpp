@@ -8,8 +8,8 @@
 
 namespace tarnel {
 
-using palette::downward;
 using look::faded;
+using palette::downward;
 
 namespace {
 
@@ -115,8 +115,7 @@ void paintPlate(QPainter& painter) {
     painter.setBrush(faded(palette::black, 0.5));
     painter.drawRoundedRect(plate.translated(0, plateMargin), plateRounding, plateRounding);
     painter.setBrush(downward(
-        -1, 1,
-        {{0.0, look::bezelTop}, {0.55, palette::bezelMiddle}, {1.0, look::bezelBottom}}));
+        -1, 1, {{0.0, look::bezelTop}, {0.55, palette::bezelMiddle}, {1.0, look::bezelBottom}}));
     painter.drawRoundedRect(plate, plateRounding, plateRounding);
 
     const double inset = hairline / 2;
@@ -209,8 +208,7 @@ void paintSelector(QPainter& painter, const Selector& selector) {
     paintKey(painter, key, selector.secondWord, !selector.firstLit);
 
     const QPointF base(slot.center().x(), slot.bottom() + captionGap + wordSize * capitalHeight);
-    painter.fillPath(letters(selector.caption, wordSize, base, Anchor::Centre),
-                     look::unit);
+    painter.fillPath(letters(selector.caption, wordSize, base, Anchor::Centre), look::unit);
 }
 
 void paintTypeWord(QPainter& painter, const QString& word) {

@@ -12,8 +12,8 @@
 
 namespace tarnel {
 
-using palette::downward;
 using look::faded;
+using palette::downward;
 
 namespace {
 
@@ -81,9 +81,8 @@ void paintCard(QPainter& painter, const DialShape& shape) {
     const double edge = shape.cardRadius + step;
     painter.fillPath(circlePath({}, glass),
                      downward(-glass, glass, {{0.0, 0xFF141619}, {1.0, 0xFF0E1012}}));
-    painter.fillPath(circlePath({}, edge), downward(-edge, edge,
-                                                    {{0.0, look::dialTop},
-                                                     {1.0, look::dialBottom}}));
+    painter.fillPath(circlePath({}, edge),
+                     downward(-edge, edge, {{0.0, look::dialTop}, {1.0, look::dialBottom}}));
     paintRimShadow(painter, glass);
 
     painter.save();

@@ -111,8 +111,8 @@ QImage paintDigit(int sign, const QColor& colour) {
     painter.setRenderHint(QPainter::Antialiasing);
     const QPainterPath outline = glyph(sign);
     for (const double width : glowWidths)
-        painter.strokePath(outline, QPen(look::faded(colour, glowOpacity), width,
-                                         Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.strokePath(outline, QPen(look::faded(colour, glowOpacity), width, Qt::SolidLine,
+                                         Qt::RoundCap, Qt::RoundJoin));
     painter.fillPath(outline, colour);
     painter.end();
     return picture.convertToFormat(QImage::Format_ARGB32);

@@ -8,8 +8,8 @@
 
 namespace tarnel {
 
-using palette::downward;
 using look::faded;
+using palette::downward;
 
 namespace {
 
@@ -40,8 +40,8 @@ void paintRose(QPainter& painter, int side) {
     for (int mark = 0; mark < marks; ++mark) {
         const bool strong = fine ? mark % 3 == 0 : mark % (marks / 4) == 0;
         const double inner = strong ? 0.53 : 0.60;
-        painter.setPen(QPen(QColor(strong ? look::ticks : look::unit),
-                            strong ? width * 1.5 : width));
+        painter.setPen(
+            QPen(QColor(strong ? look::ticks : look::unit), strong ? width * 1.5 : width));
         painter.drawLine(QPointF(0, -outer), QPointF(0, -inner));
         painter.rotate(360.0 / marks);
     }

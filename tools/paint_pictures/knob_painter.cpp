@@ -12,8 +12,8 @@
 
 namespace tarnel {
 
-using palette::downward;
 using look::faded;
+using palette::downward;
 
 namespace {
 
@@ -75,8 +75,8 @@ void paintGrooves(QPainter& painter, const Cap& cap) {
     const double outer = cap.rim * (1 - cap.ribDepth);
     for (int groove = 0; groove < cap.ribs; ++groove) {
         const double angle = 2 * std::numbers::pi * (groove + 0.5) / cap.ribs;
-        painter.setPen(QPen(faded(palette::black, grooveShade), width * cap.rim, Qt::SolidLine,
-                            Qt::RoundCap));
+        painter.setPen(
+            QPen(faded(palette::black, grooveShade), width * cap.rim, Qt::SolidLine, Qt::RoundCap));
         painter.drawLine(onCircle(inner, angle), onCircle(outer, angle));
         const double side = std::sin(angle) < 0 ? -1 : 1;
         const double flank = angle + side * width * 0.9;
@@ -162,8 +162,7 @@ QImage paintPointer(int side) {
     QImage picture = deepPicture({side, side});
     QPainter painter(&picture);
     useHalfSideUnits(painter, side);
-    painter.setPen(
-        QPen(faded(palette::black, 0.35), width + outline, Qt::SolidLine, Qt::RoundCap));
+    painter.setPen(QPen(faded(palette::black, 0.35), width + outline, Qt::SolidLine, Qt::RoundCap));
     painter.drawLine(QPointF(0, -from), QPointF(0, -to));
     painter.setPen(QPen(palette::white, width, Qt::SolidLine, Qt::RoundCap));
     painter.drawLine(QPointF(0, -from), QPointF(0, -to));

@@ -1,9 +1,9 @@
 #include "window/chart/chart_lines.h"
 
+#include "look/look.h"
 #include "paper/line_clipping.h"
 #include "paper/line_layout.h"
 #include "paper/plates.h"
-#include "look/look.h"
 
 #include <QPainter>
 

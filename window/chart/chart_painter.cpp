@@ -1,9 +1,9 @@
 #include "window/chart/chart_painter.h"
 
 #include "core/number_text.h"
+#include "look/look.h"
 #include "window/chart/chart_airplane.h"
 #include "window/chart/readout_plate.h"
-#include "look/look.h"
 #include "window/widgets/text_of.h"
 
 #include <QPainter>

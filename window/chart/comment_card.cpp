@@ -1,7 +1,7 @@
 #include "window/chart/comment_card.h"
 
-#include "window/widgets/card.h"
 #include "look/look.h"
+#include "window/widgets/card.h"
 #include "window/widgets/segment_row.h"
 #include "window/widgets/text_of.h"
 

@@ -2,9 +2,9 @@
 
 #include "core/number_text.h"
 #include "core/rounding.h"
+#include "look/look.h"
 #include "paper/plates.h"
 #include "shell/signal_name.h"
-#include "look/look.h"
 #include "window/widgets/text_of.h"
 
 #include <QPainter>

@@ -1,8 +1,8 @@
 #include "window/dials/floating_gyro.h"
 
+#include "look/look.h"
 #include "window/widgets/cover_plate.h"
 #include "window/widgets/form_binding.h"
-#include "look/look.h"
 
 #include <QCloseEvent>
 #include <QPainter>

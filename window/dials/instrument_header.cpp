@@ -1,9 +1,9 @@
 #include "window/dials/instrument_header.h"
 
+#include "look/panel_look.h"
 #include "window/dials/needle_swatch.h"
 #include "window/widgets/dark_list.h"
 #include "window/widgets/icons.h"
-#include "look/panel_look.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
@@ -85,7 +85,7 @@ void InstrumentHeader::refresh() {
 
 /// A needle is shown once, before the first of the parts that speak of it.
 bool InstrumentHeader::hasSwatch(std::size_t part) const {
-    return legend[part].needle != LegendNeedle::none &&
+    return legend[part].needle != NeedleRole::none &&
            (part == 0 || legend[part - 1].needle != legend[part].needle);
 }
 

@@ -1,8 +1,10 @@
 #include "window/dials/instrument_painter.h"
 
+#include "instruments/needle_role.h"
+#include "look/panel_look.h"
 #include "window/dials/flag_painter.h"
 #include "window/dials/needle_shapes.h"
-#include "look/panel_look.h"
+#include "window/dials/needle_swatch.h"
 
 #include <QPainter>
 
@@ -29,23 +31,11 @@ constexpr double arrowWeight = 1.4;
 constexpr double barWeight = 1.5;
 constexpr double hubRadius = 0.03; ///< of the side
 
-/// The panel's own shade of a colour that the model gives as a pure one.
-QColor shadeOf(Colour colour) {
-    switch (colour) {
-    case 0xFFFFFF:
-    case 0xEFF0E0:
-    case 0xE0E0E0:
-        return look::ticks;
-    case 0x00DFFF:
-        return look::course;
-    case 0x00FF00:
-    case 0x00C000:
+/// The aircraft in the middle stands out from the needles about it.
+QColor aircraftColour(InstrumentKind kind) {
+    if (kind == InstrumentKind::adf)
         return look::needleTwo;
-    case 0xFFC0C0:
-        return look::overlayNeedle;
-    default:
-        return look::fromSurface(colour);
-    }
+    return kind == InstrumentKind::dg ? look::ticks : look::headingBug;
 }
 
 // Long filled paths are slow, since the raster splits them over threads; single lines are not. So
@@ -108,9 +98,8 @@ void paintTicks(const Scene& scene) {
         for (const Line& tick : ticks)
             if (tick.visible)
                 axes << scene.shapes.bar(tick).axis;
-        scene.painter.setPen(QPen(shadeOf(ticks.front().colour),
-                                  scene.shapes.bar(ticks.front(), weight).width, Qt::SolidLine,
-                                  Qt::FlatCap));
+        scene.painter.setPen(QPen(look::ticks, scene.shapes.bar(ticks.front(), weight).width,
+                                  Qt::SolidLine, Qt::FlatCap));
         scene.painter.drawLines(axes);
     };
     draw(all.first(longTicks), longTickWeight);
@@ -130,9 +119,8 @@ void paintNumerals(const Scene& scene, NumeralShapes& numerals) {
 }
 
 void paintHeadingBug(const Scene& scene) {
-    const Line& first = scene.picture.Line17to23.front();
-    if (first.visible)
-        drawRaised(scene, scene.shapes.headingBug(), shadeOf(first.colour));
+    if (hasHeadingBug(scene.picture.kind))
+        drawRaised(scene, scene.shapes.headingBug(), look::headingBug);
 }
 
 void paintDots(const Scene& scene) {
@@ -147,7 +135,7 @@ void paintDots(const Scene& scene) {
         const bool centre = &dot == &scene.picture.Shape2.front();
         const double ring = scene.side * ringShare;
         const double radius = dot.diameter * scene.scale / 2 - ring * ringInset;
-        painter.setPen(QPen(look::faded(shadeOf(dot.colour), centre ? centreOpacity : 1), ring));
+        painter.setPen(QPen(look::faded(look::ticks, centre ? centreOpacity : 1), ring));
         painter.drawEllipse(scene.shapes.place(dot.centre), radius, radius);
     }
     painter.setPen(Qt::NoPen);
@@ -156,7 +144,7 @@ void paintDots(const Scene& scene) {
 void paintSecondNeedle(const Scene& scene) {
     const auto& lines = scene.picture.Line7to12;
     const NeedleShapes& shapes = scene.shapes;
-    const QColor colour = shadeOf(lines.front().colour);
+    const QColor colour = needleColour(secondNeedleOf(scene.picture.kind));
     if (lines[4].visible)
         drawRaised(scene, {{shapes.bar(lines[4])}, {}}, colour);
     if (lines.front().visible) {
@@ -170,7 +158,7 @@ void paintSecondNeedle(const Scene& scene) {
 }
 
 bool hasCourseArrow(const InstrumentPicture& picture) {
-    return picture.Line14.visible;
+    return firstNeedleOf(picture.kind) == NeedleRole::arrow;
 }
 
 void paintFirstNeedle(const Scene& scene) {
@@ -179,19 +167,19 @@ void paintFirstNeedle(const Scene& scene) {
         return;
     const bool arrow = hasCourseArrow(scene.picture);
     drawRaised(scene, scene.shapes.firstNeedle(arrow ? arrowWeight : needleWeight),
-               arrow ? look::course : look::needleOne);
+               needleColour(firstNeedleOf(scene.picture.kind)));
     if (arrow)
         drawRaised(scene, {{scene.shapes.bar(scene.picture.Line14, arrowWeight)}, {}},
-                   look::course);
+                   needleColour(NeedleRole::arrow));
 }
 
 void paintDeviation(const Scene& scene) {
     const InstrumentPicture& picture = scene.picture;
     if (picture.Line15.front().visible)
-        drawRaised(scene, scene.shapes.triangle(), shadeOf(picture.Line15.front().colour));
+        drawRaised(scene, scene.shapes.triangle(), look::ticks);
     if (picture.Line13.visible)
         drawRaised(scene, {{scene.shapes.bar(picture.Line13, barWeight)}, {}},
-                   shadeOf(picture.Line13.colour));
+                   needleColour(deviationOf(picture.kind)));
     if (picture.Line24.visible)
         drawRaised(scene, {{scene.shapes.bar(picture.Line24, longTickWeight)}, {}}, look::ticks);
 }
@@ -219,14 +207,14 @@ void paintHub(const Scene& scene) {
 void paintAircraft(const Scene& scene) {
     const Line& first = scene.picture.Line16.front();
     if (first.visible)
-        drawRaised(scene, scene.shapes.aircraft(), shadeOf(first.colour));
+        drawRaised(scene, scene.shapes.aircraft(), aircraftColour(scene.picture.kind));
 }
 
 void paintFlags(const Scene& scene) {
     const InstrumentPicture& picture = scene.picture;
     if (picture.Label2_3.visible)
         paintNeedleName(scene.painter, picture.Label2_3,
-                        picture.Line7to12[4].visible ? shadeOf(picture.Line7to12[4].colour)
+                        picture.Line7to12[4].visible ? needleColour(secondNeedleOf(picture.kind))
                                                      : look::unit,
                         scene.scale);
     if (picture.Label2_4.visible && !picture.Label2_4.caption.empty())

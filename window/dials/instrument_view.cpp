@@ -1,7 +1,7 @@
 #include "window/dials/instrument_view.h"
 
-#include "window/widgets/knob_drawing.h"
 #include "look/panel_look.h"
+#include "window/widgets/knob_drawing.h"
 #include "window/widgets/text_of.h"
 
 #include <QHelpEvent>

@@ -54,44 +54,44 @@ void paintBar(QPainter& painter) {
 
 } // namespace
 
-QColor needleColour(LegendNeedle needle) {
+QColor needleColour(NeedleRole needle) {
     switch (needle) {
-    case LegendNeedle::first:
+    case NeedleRole::first:
         return look::needleOne;
-    case LegendNeedle::second:
+    case NeedleRole::second:
         return look::needleTwo;
-    case LegendNeedle::bar:
+    case NeedleRole::bar:
         return look::deviationBar;
-    case LegendNeedle::arrow:
+    case NeedleRole::arrow:
         return look::course;
-    case LegendNeedle::overlay:
+    case NeedleRole::overlay:
         return look::overlayNeedle;
-    case LegendNeedle::none:
+    case NeedleRole::none:
         break;
     }
     return look::ticks;
 }
 
-int swatchWidth(LegendNeedle needle, double scale) {
+int swatchWidth(NeedleRole needle, double scale) {
     constexpr int upright = 5;
-    return needle == LegendNeedle::bar ? upright : static_cast<int>(2 * halfWidth * scale);
+    return needle == NeedleRole::bar ? upright : static_cast<int>(2 * halfWidth * scale);
 }
 
-void paintSwatch(QPainter& painter, LegendNeedle needle, QPointF middle, double scale) {
+void paintSwatch(QPainter& painter, NeedleRole needle, QPointF middle, double scale) {
     painter.save();
     painter.translate(middle);
-    if (needle != LegendNeedle::bar)
+    if (needle != NeedleRole::bar)
         painter.scale(scale, scale);
     painter.setPen(Qt::NoPen);
     painter.setBrush(needleColour(needle));
-    if (needle == LegendNeedle::bar)
+    if (needle == NeedleRole::bar)
         paintBar(painter);
-    else if (needle == LegendNeedle::second)
+    else if (needle == NeedleRole::second)
         paintDouble(painter);
-    else if (needle == LegendNeedle::arrow)
+    else if (needle == NeedleRole::arrow)
         paintArrow(painter);
     else
-        paintSingle(painter, needle == LegendNeedle::overlay ? 1.25 : 2);
+        paintSingle(painter, needle == NeedleRole::overlay ? 1.25 : 2);
     painter.restore();
 }
 

@@ -3,6 +3,7 @@
 #include "core/angle.h"
 #include "core/number_text.h"
 #include "core/rounding.h"
+#include "instruments/needle_role.h"
 #include "shell/signal_name.h"
 #include "shell/text_format.h"
 
@@ -123,7 +124,7 @@ std::string spokenReading(const UserControl_1& instrument, const SpokenStations&
         addDeviation(sentence, instrument, addStation(sentence, stations.first));
     if (shows(reading, hsi) && instrument.c_RMIoverlayEN == 1)
         sentence.add(Text::spokenBearing, instrument.adf2radial - 180);
-    if (instrument.picture.Line17to23.front().visible)
+    if (hasHeadingBug(instrument.picture.kind))
         sentence.add(Text::spokenHeadingBug, instrument.c_HDGbug);
     if (instrument.c_DisableKnobs == 0)
         sentence.add(Text::spokenLocked);

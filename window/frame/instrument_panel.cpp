@@ -1,5 +1,6 @@
 #include "window/frame/instrument_panel.h"
 
+#include "look/panel_look.h"
 #include "window/dials/channel_lamp.h"
 #include "window/dials/instrument_header.h"
 #include "window/dials/instrument_view.h"
@@ -8,7 +9,6 @@
 #include "window/radios/nav_module.h"
 #include "window/radios/stopwatch_module.h"
 #include "window/widgets/cover_plate.h"
-#include "look/panel_look.h"
 
 #include <QPainter>
 
@@ -92,12 +92,12 @@ void InstrumentPanel::layOutChannelLamp(std::size_t position, const QRect& bezel
 
 /// Under a plate nothing is to be reached by keyboard either.
 void InstrumentPanel::coverInstruments() {
-    const bool covered = !model.controls.instruments.visible();
+    const QuestionCover cover = model.exercise.cover();
     for (std::size_t i = 0; i < plates.size(); ++i) {
-        plates[i]->setReason(textOf(model.boxes.texts, model.exercise.cover().reason));
-        plates[i]->setVisible(covered);
-        instruments[i]->setVisible(!covered);
-        headers[i]->setEnabled(!covered);
+        plates[i]->setReason(textOf(model.boxes.texts, cover.reason));
+        plates[i]->setVisible(cover.instruments);
+        instruments[i]->setVisible(!cover.instruments);
+        headers[i]->setEnabled(!cover.instruments);
     }
 }
 

@@ -1,5 +1,6 @@
 #include "window/frame/main_window.h"
 
+#include "look/look.h"
 #include "paper/plates.h"
 #include "window/chart/chart_controls.h"
 #include "window/chart/chart_view.h"
@@ -13,7 +14,6 @@
 #include "window/frame/status_panels.h"
 #include "window/quiz/quiz_panel.h"
 #include "window/strip/control_strip.h"
-#include "look/look.h"
 #include "window/widgets/style_sheet.h"
 
 #include <QCloseEvent>

@@ -1,7 +1,7 @@
 #include "window/quiz/quiz_flight_bar.h"
 
-#include "window/widgets/icons.h"
 #include "look/look.h"
+#include "window/widgets/icons.h"
 #include "window/widgets/quiz_measures.h"
 #include "window/widgets/replay_bar.h"
 #include "window/widgets/segment_row.h"

@@ -1,8 +1,8 @@
 #include "window/quiz/quiz_frame.h"
 
+#include "look/look.h"
 #include "window/quiz/quiz_flight_bar.h"
 #include "window/quiz/quiz_row.h"
-#include "look/look.h"
 #include "window/widgets/quiz_measures.h"
 #include "window/widgets/tick_box.h"
 

@@ -1,7 +1,7 @@
 #include "window/radios/autopilot_module.h"
 
-#include "window/dials/spoken_reading.h"
 #include "look/panel_look.h"
+#include "window/dials/spoken_reading.h"
 #include "window/widgets/text_of.h"
 
 #include <QPainter>

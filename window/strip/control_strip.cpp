@@ -1,5 +1,6 @@
 #include "window/strip/control_strip.h"
 
+#include "look/look.h"
 #include "window/strip/strip_chart_page.h"
 #include "window/strip/strip_replay_page.h"
 #include "window/strip/strip_station_page.h"
@@ -7,7 +8,6 @@
 #include "window/widgets/card.h"
 #include "window/widgets/choice_button.h"
 #include "window/widgets/icons.h"
-#include "look/look.h"
 #include "window/widgets/segment_row.h"
 
 #include <QHBoxLayout>

@@ -1,10 +1,10 @@
 #include "window/strip/strip_chart_page.h"
 
+#include "look/look.h"
 #include "window/chart/scale_choice.h"
 #include "window/chart/vector_box.h"
 #include "window/chart/view_switch.h"
 #include "window/widgets/icons.h"
-#include "look/look.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

@@ -1,7 +1,7 @@
 #include "window/strip/strip_replay_page.h"
 
-#include "window/widgets/icons.h"
 #include "look/look.h"
+#include "window/widgets/icons.h"
 #include "window/widgets/replay_bar.h"
 
 #include <QHBoxLayout>

@@ -1,9 +1,9 @@
 #include "window/strip/strip_station_page.h"
 
-#include "chart/chart_picture.h"
-
 #include <QLabel>
 #include <QVBoxLayout>
+
+#include <array>
 
 namespace tarnel {
 
@@ -14,10 +14,9 @@ constexpr int gapAfterBar = 6;
 
 /// The name of a station's colour in the style sheet.
 QString colourName(std::size_t slot) {
-    const Colour colour = slotColour(slot);
-    return colour == chartColour::first    ? QStringLiteral("First")
-           : colour == chartColour::second ? QStringLiteral("Second")
-                                           : QStringLiteral("Localizer");
+    constexpr std::array<const char*, slotCount> names{"First", "Second", "First", "Second",
+                                                       "Localizer"};
+    return QString::fromLatin1(names[slot]);
 }
 
 void showText(QLabel& label, const std::string& text) {

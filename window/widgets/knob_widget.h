@@ -2,10 +2,10 @@
 
 #include "core/drawing_surface.h"
 #include "instruments/knob_drag.h"
+#include "look/panel_look.h"
 #include "window/widgets/knob_drawing.h"
 #include "window/widgets/mouse_hold.h"
 #include "window/widgets/panel_input.h"
-#include "look/panel_look.h"
 
 #include <QWidget>
 

@@ -1,8 +1,8 @@
 #include "window/widgets/module_frame.h"
 
+#include "look/panel_look.h"
 #include "window/widgets/digit_display.h"
 #include "window/widgets/knob_widget.h"
-#include "look/panel_look.h"
 
 #include <QPainter>
 
