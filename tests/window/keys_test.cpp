@@ -57,7 +57,7 @@ TEST_F(KeyStudent, TypesTheSameLettersIntoFields) {
     EXPECT_EQ(QString::fromStdString(form->commentPanel.text.text()), text.text());
     press(Qt::Key_Return);
     EXPECT_EQ(sim().comments.text(0), text.text().toStdString());
-    click("PageWind");
+    turnTo("PageWind");
     findShown<QSpinBox>("WindSpeed").setFocus();
     press(Qt::Key_M);
     press(Qt::Key_H);
@@ -69,7 +69,7 @@ TEST_F(KeyStudent, TypesTheSameLettersIntoFields) {
 TEST_F(KeyStudent, ReachesEveryControlOfThePagesByTab) {
     openInFront();
     for (const char* tab : {"PageChart", "PageReplay", "PageWind", "PageStations"}) {
-        click(tab);
+        turnTo(tab);
         find("Command6").setFocus();
         QSet<QWidget*> reached;
         for (int i = 0; i < 120; ++i) {

@@ -4,6 +4,7 @@
 #include <QFontMetrics>
 #include <QLabel>
 #include <QScrollArea>
+#include <QTabBar>
 #include <gtest/gtest.h>
 
 #include <string>
@@ -56,6 +57,15 @@ inline void expectTextsInFull(const QWidget& area, const std::string& where) {
             continue;
         const int needed = QFontMetrics(button->font()).horizontalAdvance(button->text());
         EXPECT_GE(button->width(), needed) << qPrintable(button->text()) << where;
+    }
+    for (auto* tabs : area.findChildren<QTabBar*>()) {
+        QFont bold = tabs->font();
+        bold.setBold(true);
+        for (int i = 0; i < tabs->count() && tabs->isVisible(); ++i)
+            EXPECT_TRUE(tabs->rect().contains(tabs->tabRect(i)) &&
+                        tabs->tabRect(i).width() >
+                            QFontMetrics(bold).horizontalAdvance(tabs->tabText(i)))
+                << qPrintable(tabs->tabText(i)) << where;
     }
     for (auto* label : area.findChildren<QLabel*>())
         if (label->isVisible() && !label->wordWrap()) {

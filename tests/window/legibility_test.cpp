@@ -23,7 +23,7 @@ TEST_F(Student, ReadsEverythingInFull) {
                     }
                     for (const char* page :
                          {"PageChart", "PageReplay", "PageWind", "PageStations"}) {
-                        click(page);
+                        turnTo(page);
                         const std::string where = std::string(page) + " at " +
                                                   std::to_string(size.width()) +
                                                   (large ? " large" : "");
@@ -40,7 +40,7 @@ TEST_F(Student, ReadsEverythingInFullOnALargeScreen) {
     open(germanTable(), {3840, 2160});
     settle();
     for (const char* page : {"PageChart", "PageWind"}) {
-        click(page);
+        turnTo(page);
         expectTextsInFull(*window, page);
     }
 }

@@ -66,7 +66,7 @@ class QuizPanelTest : public ExerciseStudent {
 // Typing and arrows go through the list; only Enter answers, and it goes on at the end.
 TEST_F(QuizPanelTest, PositionByKeyboardAlone) {
     begin(Item::hsiPosition);
-    EXPECT_FALSE(find<QWidget>("PageChart").isVisible());
+    EXPECT_FALSE(find<QTabBar>("Pages").isVisible());
     play("focus>Combo1; Frame1~Which radial of MUN are you on?; key Return");
     QApplication::activePopupWidget()->close();
     // No entry begins with 236.
@@ -153,7 +153,7 @@ TEST_F(QuizPanelTest, OrientationCoversTheInstruments) {
     }
     for (const bool runs : {false, true}) {
         EXPECT_EQ(quiz->isVisible(), runs);
-        EXPECT_NE(find<QWidget>("PageChart").isVisible(), runs);
+        EXPECT_NE(find<QTabBar>("Pages").isVisible(), runs);
         form->exerciseMenu.exercises[static_cast<std::size_t>(Item::orientation)]->click();
         settle();
     }

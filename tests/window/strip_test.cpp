@@ -30,13 +30,20 @@ TEST_F(StripStudent, TurnsThePagesAndKeepsStartAndSpeedInSight) {
     EXPECT_EQ(page(), 1);
     const char* const tabs[] = {"PageChart", "PageReplay", "PageWind", "PageStations"};
     for (int i = 3; i >= 0; --i) {
-        clickShown(tabs[i]);
+        turnTo(tabs[i]);
         EXPECT_EQ(page(), i);
         for (const char* always : {"Command6", "Option5", "Option8"})
             EXPECT_TRUE(find(always).isVisible()) << always;
         EXPECT_TRUE(find<QLabel>("Text1_16").isVisible());
     }
+    auto& bar = find<QTabBar>("Pages");
+    for (int i = 1; i <= 3; ++i) {
+        QTest::keyClick(&bar, Qt::Key_Right);
+        settle();
+        EXPECT_EQ(page(), i) << "by the arrow keys";
+    }
     click("Command6");
+    EXPECT_EQ(bar.currentIndex(), 1);
     EXPECT_EQ(page(), 1) << "a start shows the replay's page";
 }
 
@@ -45,7 +52,7 @@ TEST_F(StripStudent, ClicksThroughAllButtonsOfThePages) {
     record();
     int clicked = 0;
     for (const char* tab : {"PageChart", "PageWind", "PageStations", "PageReplay"}) {
-        clickShown(tab);
+        turnTo(tab);
         for (auto* button :
              window->findChild<QStackedWidget*>()->findChildren<QAbstractButton*>()) {
             if (!button->isVisible() || !button->isEnabled())
@@ -88,7 +95,7 @@ TEST_F(StripStudent, SeesTheFlightTheReplayAndAHeldKnobMoveByThemselves) {
 }
 
 TEST_F(StripStudent, EntersTheWind) {
-    clickShown("PageWind");
+    turnTo("PageWind");
     auto& direction = findShown<QSpinBox>("WindDirection");
     auto& speed = findShown<QSpinBox>("WindSpeed");
     const auto type = [this](QSpinBox& field, const char* text) {
@@ -113,7 +120,7 @@ TEST_F(StripStudent, EntersTheWind) {
 
 TEST_F(StripStudent, IsNotToldAWindByChanceBeforeAskingForIt) {
     sim().clockSeed = [] { return 7U; };
-    clickShown("PageWind");
+    turnTo("PageWind");
     form->windDesk.setManual(270, 20);
     clickShown("Option14");
     ASSERT_NE(sim().c_wind.get(), "270/20");

@@ -7,6 +7,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QLabel>
+#include <QTabBar>
 #include <QTest>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -72,6 +73,14 @@ class Student : public testing::Test {
     }
     void click(const char* name) {
         find(name).click();
+        settle();
+    }
+    /// Turns the strip to a page, as a click on its tab does.
+    void turnTo(const char* page) {
+        auto& tabs = find<QTabBar>("Pages");
+        for (int i = 0; i < tabs.count(); ++i)
+            if (tabs.tabData(i).toString() == QLatin1String(page))
+                QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(i).center());
         settle();
     }
     void drag(QWidget& widget, QPoint from, QPoint way) {

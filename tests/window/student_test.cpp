@@ -91,7 +91,7 @@ TEST_F(Student, WhatIsDisabledLooksDisabled) {
         return count;
     };
     for (const char* page : {"PageChart", "PageReplay", "PageWind", "PageStations"}) {
-        click(page);
+        turnTo(page);
         expectSigns(page, [](const QWidget& widget) {
             return widget.isEnabled() && (qobject_cast<const QAbstractButton*>(&widget) ||
                                           qobject_cast<const QComboBox*>(&widget));

@@ -4,9 +4,9 @@
 #include "window/strip/strip_chart_page.h"
 #include "window/strip/strip_replay_page.h"
 #include "window/strip/strip_station_page.h"
+#include "window/strip/strip_tabs.h"
 #include "window/strip/strip_wind_page.h"
 #include "window/widgets/card.h"
-#include "window/widgets/choice_button.h"
 #include "window/widgets/icons.h"
 #include "window/widgets/segment_row.h"
 
@@ -19,7 +19,6 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <array>
 
 namespace tarnel {
 
@@ -27,7 +26,6 @@ namespace {
 
 constexpr int rowGap = 3;
 constexpr int gapInRow = 5;
-constexpr int tabPadding = 16;
 
 /// Narrower strips do without the words before the speeds and the read-outs.
 constexpr int roomForCaptions = 420;
@@ -81,24 +79,23 @@ QHBoxLayout* ControlStrip::makeFlightRow() {
     return row;
 }
 
+/// In the order of the pages.
+std::vector<OptionButton*> ControlStrip::pageOptions() {
+    StripPages& options = model.controls.pages;
+    return {&options.chart, &options.replay, &options.wind, &options.stations};
+}
+
 QHBoxLayout* ControlStrip::makeTabRow() {
     auto* row = new QHBoxLayout;
     row->setSpacing(0);
-    for (OptionButton* page : {&model.controls.pages.chart, &model.controls.pages.replay,
-                               &model.controls.pages.wind, &model.controls.pages.stations})
-        addTab(*row, *page);
+    auto* tabs = new StripTabs(this);
+    binding.bind(pageOptions(), *tabs);
+    row->addWidget(tabs);
     row->addStretch(1);
     addReadout(*row, Text::autopilotSpeed, model.controls.speedReadout, Text::unitKnots);
     row->addSpacing(12);
     addReadout(*row, Text::turnRate, model.controls.turnReadout, Text::unitDegreesPerSecond);
     return row;
-}
-
-void ControlStrip::addTab(QHBoxLayout& row, OptionButton& page) {
-    auto* tab = new ChoiceButton(tabPadding, this);
-    tab->setProperty("tab", true);
-    binding.bind(page, *tab);
-    row.addWidget(tab);
 }
 
 void ControlStrip::addReadout(QHBoxLayout& row, Text name, TextPanel& readout, Text unit) {
@@ -136,8 +133,7 @@ QLabel* ControlStrip::captioned(Text text) {
 }
 
 void ControlStrip::refresh() {
-    const std::array order = {&model.controls.pages.chart, &model.controls.pages.replay,
-                              &model.controls.pages.wind, &model.controls.pages.stations};
+    const std::vector<OptionButton*> order = pageOptions();
     for (std::size_t i = 0; i < order.size(); ++i)
         if (order[i]->chosen())
             stack->setCurrentIndex(static_cast<int>(i));

@@ -42,7 +42,7 @@ class ControlStrip : public QWidget {
     QHBoxLayout* makeTabRow();
     QScrollArea* makePages();
     [[nodiscard]] int heightWith(int page) const;
-    void addTab(QHBoxLayout& row, OptionButton& page);
+    std::vector<OptionButton*> pageOptions();
     void addReadout(QHBoxLayout& row, Text name, TextPanel& readout, Text unit);
     QLabel* captioned(Text text);
     void tellKeys();

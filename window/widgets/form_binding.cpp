@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QSignalBlocker>
+#include <QTabBar>
 
 namespace tarnel {
 
@@ -134,6 +135,28 @@ void FormBinding::bindOption(OptionButton& control, QAbstractButton& button,
         button.setText(caption());
         button.setChecked(control.chosen());
     });
+}
+
+void FormBinding::bind(const std::vector<OptionButton*>& options, QTabBar& tabs) {
+    for (const OptionButton* option : options)
+        tabs.setTabData(tabs.addTab(captionOf(*option)), nameOf(*option));
+    connect(&tabs, &QTabBar::currentChanged, this, [this, options](int index) {
+        guarded([&] { options[static_cast<std::size_t>(index)]->click(); });
+    });
+    follow([this, options, &tabs] {
+        const QSignalBlocker quiet(&tabs);
+        for (std::size_t i = 0; i < options.size(); ++i)
+            showTab(*options[i], tabs, static_cast<int>(i));
+    });
+}
+
+void FormBinding::showTab(const OptionButton& option, QTabBar& tabs, int index) const {
+    tabs.setTabVisible(index, option.visible());
+    tabs.setTabEnabled(index, option.enabled());
+    if (option.tip())
+        tabs.setTabToolTip(index, tipOf(option));
+    if (option.chosen())
+        tabs.setCurrentIndex(index);
 }
 
 void FormBinding::bind(SelectionList& control, QComboBox& list) {

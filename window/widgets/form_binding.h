@@ -21,6 +21,7 @@ class QAction;
 class QComboBox;
 class QLabel;
 class QLineEdit;
+class QTabBar;
 class QWidget;
 
 namespace tarnel {
@@ -52,6 +53,8 @@ class FormBinding : public QObject {
     void bind(CheckBox& control, QAction& action);
     void bind(OptionButton& control, QAbstractButton& button);
     void bind(TextOption& control, QAbstractButton& button);
+    /// A tab for each of the options, with its name as data.
+    void bind(const std::vector<OptionButton*>& options, QTabBar& tabs);
     void bind(SelectionList& control, QComboBox& list);
     void bind(TextList& control, QuizList& list);
     void bind(TextPanel& control, QLabel& label);
@@ -66,6 +69,7 @@ class FormBinding : public QObject {
   private:
     void bindOption(OptionButton& control, QAbstractButton& button,
                     std::function<QString()> caption);
+    void showTab(const OptionButton& option, QTabBar& tabs, int index) const;
     void showCommon(const FormControl& control, QWidget& widget) const;
     [[nodiscard]] QString captionOf(const FormControl& control) const;
     [[nodiscard]] QString tipOf(const FormControl& control) const;

@@ -72,15 +72,14 @@ QPushButton[segment]:disabled { background: $card; color: $unit; border-color: $
 QPushButton[segment]:checked:disabled { background: $card; color: $secondaryInk;
   border-color: $line; }
 
-QPushButton[tab="true"] { background: transparent; border: none; border-radius: 0;
-  border-bottom: {2}px solid transparent; padding: 0 {4}px;
-  min-height: {22}px; max-height: {22}px; }
-QPushButton[tab="true"]:hover { color: $accent; }
-QPushButton[tab="true"]:checked { color: $accent; font-weight: bold; border-bottom-color: $accent; }
-QPushButton[tab="true"]:disabled { color: $unit; border-bottom-color: transparent; }
-QPushButton[tab="true"]:focus { background: $hairline; border-top-left-radius: {4}px;
+QTabBar { background: transparent; border: none; font-size: {12}px; }
+QTabBar::tab { background: transparent; color: $ink; border: none;
+  border-bottom: {2}px solid transparent; }
+QTabBar::tab:hover { color: $accent; }
+QTabBar::tab:selected { color: $accent; font-weight: bold; border-bottom-color: $accent; }
+QTabBar::tab:disabled { color: $unit; border-bottom-color: transparent; }
+QTabBar::tab:focus { background: $hairline; border-top-left-radius: {4}px;
   border-top-right-radius: {4}px; }
-QPushButton[tab="true"]:disabled { color: $unit; border-bottom-color: transparent; }
 
 QSpinBox { font-size: {12}px; min-height: {24}px; }
 QSpinBox:disabled { color: $unit; }
