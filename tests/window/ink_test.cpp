@@ -78,6 +78,25 @@ TEST(DialInk, BarAndTriangleStandWhereTheNeedleIs) {
     }
 }
 
+TEST(DialInk, ASecondNeedleEndsInItsHead) {
+    PictureStore pictures("no such folder");
+    InstrumentPainter dial(pictures);
+    PanelInstrument rmi(InstrumentKind::rmi);
+    rmi.adfradial = 90; // out of its way
+    rmi.adf2radial = 0;
+    rmi.angle = 0;
+    const QImage image =
+        painted([&](QPainter& painter) { dial.paint(painter, rmi.picture, side); });
+    for (const double x : {-0.03, 0.03})
+        EXPECT_GT(
+            inkAlong(
+                image,
+                QTransform::fromScale(side / 2.0, side / 2.0).map(QLineF(1 + x, 0.57, 1 + x, 0.5)),
+                look::needleTwo),
+            0.8)
+            << x;
+}
+
 /// Notes what is written, and by how much it is turned.
 class Lettering : public QPaintDevice, private QPaintEngine {
   public:
