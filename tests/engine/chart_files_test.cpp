@@ -50,11 +50,23 @@ TEST_F(ChartLoadingTest, ChartReplacesEverything) {
 }
 
 TEST_F(ChartLoadingTest, RecordingStartsOver) {
+    sim.newSessionName = "new";
     start(120);
+    sim.startComment("of the flight before");
     tick(100);
     sim.c_TimerEN = 0;
+    sim.reference.append({49, 11});
+    sim.setWind({90, 40});
+    sim.c_SessionFileName = "old";
+    sim.c_replayInstLock = 1;
     loadLines(31);
     EXPECT_EQ(sim.c_TraceBufferMax, 1);
+    EXPECT_EQ(sim.c_SessionFileName.get(), "new");
+    EXPECT_EQ(sim.c_replayInstLock, 0);
+    EXPECT_FALSE(sim.hasCommentMarks());
+    EXPECT_TRUE(sim.reference.empty());
+    EXPECT_FALSE(sim.undo());
+    EXPECT_EQ(sim.clock.flightSeconds, 0);
     const Sample& first = sim.recording.at(1);
     EXPECT_EQ(std::tuple(first.traceLat, first.traceLon, first.traceHeading, first.traceTAS,
                          first.traceLocCourse),

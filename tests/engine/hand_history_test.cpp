@@ -1,5 +1,7 @@
 #include "engine/simulation_fixture.h"
 
+#include <array>
+
 namespace tarnel {
 namespace {
 
@@ -85,19 +87,32 @@ TEST_F(HandHistoryTest, TheFlightThatAPressEndedComesBackWhole) {
     sim.c_SessionFileName = "mine.ts";
     sim.reference.append({49, 11});
     fly(30);
-    const std::int16_t samples = sim.c_TraceBufferMax;
     goTo(20);
     const GeoPosition there = place();
+    const std::array shown = {&sim.c_TraceBufferMax, &sim.c_FlyEN,      &sim.c_replayInstLock,
+                              &sim.c_RepeatValue,    &sim.c_ApMinutes,  &sim.c_ApSeconds,
+                              &sim.c_ApHours2,       &sim.c_ApMinutes2, &sim.c_ApSeconds2};
+    const auto kept = [&] {
+        std::string text = sim.c_SessionFileName.get() + std::to_string(sim.clock.flightSeconds);
+        for (const auto* property : shown)
+            text += " " + property->text();
+        return text;
+    };
+    const std::string before = kept();
+    sim.placedByHand = [&] { // as a strip that comes to rest
+        for (auto* property : shown)
+            property->publish(77);
+        sim.c_SessionFileName = "another";
+    };
     drag(ChartButton::left, {1000, 1000}, {900, 900});
     sim.mouse.down(ChartButton::left, {3000, 3000});
     sim.mouse.takeBack();
     EXPECT_TRUE(sim.reference.empty());
     EXPECT_TRUE(sim.undo());
     EXPECT_EQ(place(), there);
-    EXPECT_EQ(sim.c_TraceBufferMax, samples);
+    EXPECT_EQ(kept(), before);
     EXPECT_EQ(sim.presentSampleIndex(), 20);
     EXPECT_FALSE(sim.reference.empty());
-    EXPECT_EQ(sim.c_SessionFileName.get(), "mine.ts");
     sim.c_TimerEN = 1;
     tick(4);
     EXPECT_EQ(sim.c_TraceBufferMax, 21) << "it goes on from there";
