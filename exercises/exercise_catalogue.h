@@ -2,7 +2,6 @@
 
 #include "core/instrument_kind.h"
 #include "exercises/exercise.h"
-#include "exercises/exercise_codes.h"
 #include "exercises/panel_widgets.h"
 #include "exercises/question_draw.h"
 #include "exercises/study_file.h"
@@ -14,6 +13,32 @@
 #include <vector>
 
 namespace tarnel {
+
+/// The numbers of `c_QAtype`: the exercise that runs, or why none does.
+enum class ExerciseType : std::int16_t {
+    closed = -1,
+    left = 0, ///< by the student; the trainer has not yet followed
+    hsiPosition,
+    standardVorPosition,
+    hsiHolding,
+    dgHolding,
+    adfPosition,
+    qdm,
+    qdr,
+    wind,
+    dmeArc,
+    orientation,
+};
+
+/// The numbers of `c_showResult`: what an exercise asks the trainer to do next. The replay is to
+/// begin either at once or with its controls armed.
+enum class ShowResult : std::int16_t {
+    nothing = 0,
+    replaySolution = 1,
+    nextQuestion = 2,
+    studentFlies = 4,
+    replayArmed = 6,
+};
 
 /// What stands for an exercise outside its questions.
 struct ExerciseKind {
