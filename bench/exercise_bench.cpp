@@ -14,7 +14,6 @@ using namespace tarnel;
 
 constexpr double most = 1.3; ///< times the load of the session alone
 constexpr int rounds = 400;
-constexpr std::size_t qdm = 1; ///< of the exercises in the menu
 
 double median(std::vector<double> values) {
     std::sort(values.begin(), values.end());
@@ -28,7 +27,8 @@ double median(std::vector<double> values) {
 int main() {
     SilentWorld world;
     Form1 form(germanTable(), world, applicationFolder());
-    form.exerciseMenu.exercises[qdm]->click();
+    const auto& items = form.exerciseMenu.exercises;
+    (*std::ranges::find(items, "qdm", [](const auto& item) { return item->name(); }))->click();
     form.Timer1();
     ExercisePanel& panel = *form.QAform1.activePanel();
     panel.randomBox.set(1);

@@ -4,27 +4,13 @@
 #include "window/quiz/quiz_panel.h"
 #include "window/student_fixture.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <string>
 
 namespace tarnel {
-
-/// The exercises in the order of the menu.
-enum class Item {
-    adfPosition,
-    qdm,
-    qdr,
-    hsiPosition,
-    hsiLarge,
-    hsiHolding,
-    dmeArc,
-    stdVor,
-    wind,
-    dgHolding,
-    orientation
-};
 
 /// A student who has an exercise's study file and a recorded flight for its questions.
 class ExerciseStudent : public Student {
@@ -46,7 +32,8 @@ class ExerciseStudent : public Student {
     }
 
     /// Opens the window and starts an exercise whose questions stand in "flight.ts".
-    void begin(Item item, const StringTable& texts = englishTable(), QSize size = {1280, 800}) {
+    void begin(const std::string& item, const StringTable& texts = englishTable(),
+               QSize size = {1280, 800}) {
         window.reset();
         dressApplication(texts, QString::fromStdString(folder.string()));
         form = std::make_unique<Form1>(texts, world, folder.string());
@@ -56,9 +43,17 @@ class ExerciseStudent : public Student {
         window->activateWindow();
         settle();
         recordFlight();
-        form->exerciseMenu.exercises[static_cast<std::size_t>(item)]->click();
-        settle();
+        chooseExercise(item);
         quiz = window->findChild<QuizPanel*>();
+    }
+
+    /// An exercise by the name of its menu item.
+    void chooseExercise(const std::string& item) {
+        const auto& items = form->exerciseMenu.exercises;
+        (*std::ranges::find(items, item, [](const auto& button) {
+            return button->name();
+        }))->click();
+        settle();
     }
 
     void press(Qt::Key key) {

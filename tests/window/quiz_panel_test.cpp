@@ -65,7 +65,7 @@ class QuizPanelTest : public ExerciseStudent {
 
 // Typing and arrows go through the list; only Enter answers, and it goes on at the end.
 TEST_F(QuizPanelTest, PositionByKeyboardAlone) {
-    begin(Item::hsiPosition);
+    begin("hsipos2");
     EXPECT_FALSE(find<QTabBar>("Pages").isVisible());
     play("focus>Combo1; Frame1~Which radial of MUN are you on?; key Return");
     QApplication::activePopupWidget()->close();
@@ -78,7 +78,7 @@ TEST_F(QuizPanelTest, PositionByKeyboardAlone) {
 }
 
 TEST_F(QuizPanelTest, TheWheelAndTheMouseOverAListAnswerNothing) {
-    begin(Item::hsiPosition);
+    begin("hsipos2");
     auto& list = inQuiz<QuizList>("Combo2");
     QWheelEvent wheel(QPointF(5, 5), list.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton,
                       Qt::NoModifier, Qt::NoScrollPhase, false);
@@ -95,7 +95,7 @@ TEST_F(QuizPanelTest, TheWheelAndTheMouseOverAListAnswerNothing) {
 
 // Digits answer the row with the keyboard, or the first open one from anywhere in the window.
 TEST_F(QuizPanelTest, DigitsAnswerAndSolutionFolds) {
-    begin(Item::hsiHolding);
+    begin("hldhsi");
     EXPECT_THAT(shown("Label2"), HasSubstr("inbound 070"));
     const int height = quiz->height();
     find<QWidget>("UserControl13_0").setFocus();
@@ -113,7 +113,7 @@ TEST_F(QuizPanelTest, DigitsAnswerAndSolutionFolds) {
 }
 
 TEST_F(QuizPanelTest, FliesTheQuestionAndComesBack) {
-    begin(Item::qdm);
+    begin("qdm");
     offer({"Option50", "Option49", "Option48", "Option46"}, "075").click();
     settle();
     play("Label27>075; Command15; focus>Command6; Option38>");
@@ -127,7 +127,7 @@ TEST_F(QuizPanelTest, FliesTheQuestionAndComesBack) {
 }
 
 TEST_F(QuizPanelTest, WindIsTypedAndCommitted) {
-    begin(Item::wind);
+    begin("wind");
     EXPECT_TRUE(inQuiz("WindRule").isVisible());
     EXPECT_FALSE(inQuiz("Option47").isEnabled());
     play("focus>Text4; WindKnown>Inbound, TAS; type 17; key Return; focus>Option47; Label43>kt; "
@@ -137,7 +137,7 @@ TEST_F(QuizPanelTest, WindIsTypedAndCommitted) {
 }
 
 TEST_F(QuizPanelTest, OrientationCoversTheInstruments) {
-    begin(Item::orientation);
+    begin("qdnorient");
     const auto expectCovered = [this](bool covered) {
         int plates = 0;
         for (const auto* plate : window->findChildren<CoverPlate*>())
@@ -154,14 +154,13 @@ TEST_F(QuizPanelTest, OrientationCoversTheInstruments) {
     for (const bool runs : {false, true}) {
         EXPECT_EQ(quiz->isVisible(), runs);
         EXPECT_NE(find<QTabBar>("Pages").isVisible(), runs);
-        form->exerciseMenu.exercises[static_cast<std::size_t>(Item::orientation)]->click();
-        settle();
+        chooseExercise("qdnorient");
     }
 }
 
 TEST_F(QuizPanelTest, TellsWhatIsWrongWithTheStudyFile) {
     std::filesystem::remove(folder / "default/study/e-dgHLD.sty");
-    begin(Item::dgHolding);
+    begin("hlddg");
     EXPECT_TRUE(inQuiz("StudyNotice2").isVisible());
     EXPECT_THAT(inQuiz<QLabel>("StudyNotice2").text().toStdString(), HasSubstr("dgHLD.sty"));
     EXPECT_FALSE(inQuiz("Option11").isVisible());
@@ -189,10 +188,9 @@ void expectWholeTexts(const QuizPanel& quiz, bool inOneLine, const std::string& 
 TEST_F(QuizPanelTest, HasRoomForEveryFrame) {
     for (const StringTable* texts : {&germanTable(), &englishTable()})
         for (const QSize size : {QSize(960, 540), QSize(1024, 768), QSize(1280, 800)})
-            for (const Item item : {Item::adfPosition, Item::qdm, Item::hsiPosition,
-                                    Item::hsiHolding, Item::wind, Item::orientation}) {
-                const std::string where = " " + std::to_string(static_cast<int>(item)) + " at " +
-                                          std::to_string(size.width());
+            for (const std::string item :
+                 {"adfpos", "qdm", "hsipos2", "hldhsi", "wind", "qdnorient"}) {
+                const std::string where = " " + item + " at " + std::to_string(size.width());
                 open(*texts, size);
                 const QRect instrument = find<QWidget>("UserControl13_0").geometry();
                 begin(item, *texts, size);
