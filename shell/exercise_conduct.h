@@ -2,13 +2,13 @@
 
 #include "engine/user_control_2.h"
 #include "exercises/qa_form.h"
+#include "exercises/question_cover.h"
+#include "panel/panel_coupling.h"
 #include "shell/box_desk.h"
 #include "shell/chart_display.h"
 #include "shell/exercise_menu.h"
 #include "shell/flight_switch.h"
-#include "shell/panel_coupling.h"
 #include "shell/practice_desk.h"
-#include "shell/question_cover.h"
 #include "shell/replay_deck.h"
 
 #include <functional>

@@ -2,11 +2,11 @@
 
 #include "engine/simulation_messages.h"
 #include "engine/user_control_2.h"
+#include "panel/panel_coupling.h"
 #include "shell/box_desk.h"
 #include "shell/comment_strip.h"
 #include "shell/exercise_conduct.h"
 #include "shell/flight_switch.h"
-#include "shell/panel_coupling.h"
 #include "shell/practice_desk.h"
 #include "shell/replay_deck.h"
 #include "shell/trainer_controls.h"

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "engine/user_control_2.h"
+#include "panel/instrument_positions.h"
 #include "shell/exercise_conduct.h"
 #include "shell/flight_switch.h"
-#include "shell/instrument_positions.h"
 #include "shell/replay_deck.h"
 #include "shell/trainer_controls.h"
 

@@ -1,5 +1,5 @@
 #include "look/panel_look.h"
-#include "shell/instrument_legend.h"
+#include "panel/instrument_legend.h"
 #include "window/dials/instrument_header.h"
 #include "window/dials/instrument_painter.h"
 #include "window/dials/needle_swatch.h"

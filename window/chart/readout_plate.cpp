@@ -3,8 +3,8 @@
 #include "core/number_text.h"
 #include "core/rounding.h"
 #include "look/look.h"
+#include "panel/signal_name.h"
 #include "paper/plates.h"
-#include "shell/signal_name.h"
 #include "window/widgets/text_of.h"
 
 #include <QPainter>

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "panel/panel_controls.h"
 #include "shell/box_desk.h"
 #include "shell/exercise_conduct.h"
-#include "shell/panel_controls.h"
 #include "window/dials/instrument_view.h"
 #include "window/widgets/picture_store.h"
 

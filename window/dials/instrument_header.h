@@ -1,9 +1,9 @@
 #pragma once
 
+#include "panel/instrument_legend.h"
+#include "panel/instrument_positions.h"
 #include "shell/box_desk.h"
 #include "shell/exercise_conduct.h"
-#include "shell/instrument_legend.h"
-#include "shell/instrument_positions.h"
 #include "window/widgets/form_binding.h"
 
 #include <QWidget>

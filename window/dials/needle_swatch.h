@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/instrument_legend.h"
+#include "panel/instrument_legend.h"
 
 #include <QColor>
 #include <QPointF>

@@ -4,7 +4,7 @@
 #include "core/number_text.h"
 #include "core/rounding.h"
 #include "instruments/needle_role.h"
-#include "shell/signal_name.h"
+#include "panel/signal_name.h"
 #include "shell/text_format.h"
 
 #include <algorithm>

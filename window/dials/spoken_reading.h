@@ -3,7 +3,7 @@
 #include "instruments/digit_readout.h"
 #include "instruments/dme_control_face.h"
 #include "instruments/user_control_1.h"
-#include "shell/needle_sources.h"
+#include "panel/needle_sources.h"
 #include "strings/string_table.h"
 
 #include <optional>

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "panel/instrument_positions.h"
+#include "panel/panel_controls.h"
 #include "shell/box_desk.h"
 #include "shell/exercise_conduct.h"
-#include "shell/instrument_positions.h"
-#include "shell/panel_controls.h"
 #include "window/dials/spoken_reading.h"
 #include "window/frame/window_layout.h"
 #include "window/widgets/form_binding.h"

@@ -1,9 +1,9 @@
-#include "shell/panel_coupling.h"
+#include "panel/panel_coupling.h"
 
 #include "core/angle.h"
 #include "core/rounding.h"
 #include "core/sailing.h"
-#include "shell/needle_sources.h"
+#include "panel/needle_sources.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,9 +1,9 @@
-#include "shell/instrument_feed.h"
+#include "panel/instrument_feed.h"
 
 #include "core/angle.h"
 #include "core/rounding.h"
-#include "shell/needle_sources.h"
-#include "shell/signal_name.h"
+#include "panel/needle_sources.h"
+#include "panel/signal_name.h"
 
 namespace tarnel {
 

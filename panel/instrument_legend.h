@@ -1,8 +1,8 @@
 #pragma once
 
+#include "exercises/question_cover.h"
 #include "instruments/needle_role.h"
-#include "shell/needle_sources.h"
-#include "shell/question_cover.h"
+#include "panel/needle_sources.h"
 #include "strings/string_table.h"
 
 #include <string>

@@ -1,4 +1,4 @@
-#include "shell/question_cover.h"
+#include "exercises/question_cover.h"
 
 #include "exercises/exercise_catalogue.h"
 

@@ -1,4 +1,4 @@
-#include "shell/stopwatch_desk.h"
+#include "panel/stopwatch_desk.h"
 
 #include "core/number_text.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "engine/user_control_2.h"
-#include "shell/panel_controls.h"
+#include "panel/panel_controls.h"
 
 #include <array>
 #include <cstdint>

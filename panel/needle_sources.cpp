@@ -1,4 +1,4 @@
-#include "shell/needle_sources.h"
+#include "panel/needle_sources.h"
 
 #include <array>
 

@@ -7,7 +7,7 @@
 #include "instruments/radio_face.h"
 #include "instruments/stopwatch_face.h"
 #include "instruments/user_control_1.h"
-#include "shell/instrument_position.h"
+#include "panel/instrument_position.h"
 
 #include <vector>
 

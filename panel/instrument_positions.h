@@ -1,8 +1,8 @@
 #pragma once
 
 #include "engine/user_control_2.h"
-#include "shell/instrument_feed.h"
-#include "shell/panel_controls.h"
+#include "panel/instrument_feed.h"
+#include "panel/panel_controls.h"
 #include "strings/string_table.h"
 
 #include <cstdint>

@@ -2,7 +2,7 @@
 
 #include "engine/user_control_2.h"
 #include "instruments/radio_face.h"
-#include "shell/instrument_position.h"
+#include "panel/instrument_position.h"
 #include "strings/string_table.h"
 
 #include <cstdint>

@@ -1,8 +1,8 @@
-#include "shell/instrument_positions.h"
+#include "panel/instrument_positions.h"
 
 #include "core/number_text.h"
 #include "core/rounding.h"
-#include "shell/signal_name.h"
+#include "panel/signal_name.h"
 
 namespace tarnel {
 

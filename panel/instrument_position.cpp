@@ -1,4 +1,4 @@
-#include "shell/instrument_position.h"
+#include "panel/instrument_position.h"
 
 #include "core/angle.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/instrument_feed.h"
+#include "panel/instrument_feed.h"
 
 #include <optional>
 
