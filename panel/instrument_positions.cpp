@@ -201,9 +201,9 @@ void InstrumentPositions::followLocalizer() {
     locCourse = toInt16(sim.c_LocCrs1);
 }
 
-void InstrumentPositions::echoChannelButtons() {
-    const auto echo = [this](CommandButton& button, const InstrumentPosition& position) {
-        button.setVisible(showsCourse(position) && panel.instruments.visible());
+void InstrumentPositions::echoChannelButtons(bool covered) {
+    const auto echo = [covered](CommandButton& button, const InstrumentPosition& position) {
+        button.setVisible(showsCourse(position) && !covered);
         button.setCaption(holdsAnObs(position) ? Text::channelObs : Text::channelNav);
     };
     echo(panel.inst1ChannelButton, panel.inst1);

@@ -30,7 +30,7 @@ class InstrumentPositions {
     /// The localizer's course that the needles use until the next call.
     void followLocalizer();
     /// An instrument without a course has no such button; under a cover there is none either.
-    void echoChannelButtons();
+    void echoChannelButtons(bool covered);
     void feed();
 
     [[nodiscard]] FeedSources feedSources();

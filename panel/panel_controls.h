@@ -1,7 +1,6 @@
 #pragma once
 
 #include "controls/form_controls.h"
-#include "controls/form_frame.h"
 #include "instruments/ap_control_face.h"
 #include "instruments/dme_control_face.h"
 #include "instruments/radio_face.h"
@@ -53,7 +52,6 @@ struct PanelControls {
     CheckBox inst3RadialBox{panelState, "Check1", Text::showRadial, Text::showRadialTip};
     CheckBox inst2OverlayBox{panelState, "Check12", Text::rmiPointer, Text::rmiPointerTip};
     CheckBox inst3OverlayBox{panelState, "Check10", Text::rmiPointer, Text::rmiPointerTip};
-    FormFrame instruments{panelState, "UserControl13"}; ///< both positions
     CommandButton stopwatchStartButton{panelState, "StopwatchStart", Text::stopwatchStart,
                                        Text::stopwatchStartTip};
     CommandButton stopwatchResetButton{panelState, "StopwatchReset", Text::stopwatchReset,

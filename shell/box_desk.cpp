@@ -12,7 +12,7 @@ template <class Shown>
 auto BoxDesk::whileUp(Shown shown) {
     beforeBox();
     const bool wasUp = std::exchange(boxUp, true);
-    const auto answer = shown();
+    auto answer = shown();
     boxUp = wasUp;
     return answer;
 }

@@ -67,8 +67,8 @@ void CommentStrip::blinkMark(bool resting) {
     if (++blinkCounter <= ticksPerBlink)
         return;
     blinkCounter = 0;
-    if (resting)
-        panel.mark.setVisible(!panel.mark.visible());
+    markShown = resting && !markShown;
+    panel.mark.setVisible(markShown);
 }
 
 } // namespace tarnel

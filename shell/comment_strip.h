@@ -33,6 +33,7 @@ class CommentStrip {
     UserControl2& sim;
     CommentPanel& panel;
     BoxDesk& boxes;
+    bool markShown = true;
     std::int16_t blinkCounter = 0;
 };
 

@@ -108,12 +108,11 @@ void ExerciseConduct::hide() {
 }
 
 void ExerciseConduct::coverReadings() {
-    const QuestionCover covered = cover();
-    stage.panel.instruments.setVisible(!covered.instruments);
+    const bool covered = cover().figures;
     for (DigitReadout* digits :
          {&stage.panel.APControlFace1.headingDigits, &stage.panel.DMEControlFace1.distance,
           &stage.panel.DMEControlFace1.speed})
-        digits->setCovered(covered.figures);
+        digits->setCovered(covered);
 }
 
 /// The flight begins at the first sample, with the settings that were recorded there; the next tick

@@ -31,7 +31,7 @@ void Form1::tick() {
 /// What the strip, the buttons and the status bar tell of the state.
 void Form1::showState() {
     windDesk.show();
-    positions.echoChannelButtons();
+    positions.echoChannelButtons(exercise.cover().instruments);
     showComment();
     comments.follow();
     stopwatch.show();

@@ -129,7 +129,7 @@ TEST_P(ExerciseFlow, IsAskedShownAndLeft) {
         expectHoldingFramed();
     expectHidden();
     EXPECT_EQ(form.UserControl11.c_AirplaneEN, type == 10 ? 1 : 0);
-    EXPECT_EQ(form.instruments.visible(), type != 10);
+    EXPECT_EQ(form.exercise.cover().instruments, type == 10);
     for (CommandButton* item : form.exerciseMenu.items())
         EXPECT_FALSE(item->enabled()) << item->name();
     EXPECT_FALSE(form.fileMenu.loadSession.enabled());
@@ -137,7 +137,7 @@ TEST_P(ExerciseFlow, IsAskedShownAndLeft) {
     click(panel().solutionButton);
     EXPECT_FALSE(form.exercise.questionOpen());
     EXPECT_TRUE(form.replay.runs() && form.exercise.solutionShown());
-    EXPECT_TRUE(form.instruments.visible() && form.backButton.visible());
+    EXPECT_TRUE(!form.exercise.cover().instruments && form.backButton.visible());
     EXPECT_EQ(form.UserControl11.c_AirplaneEN, 1);
     EXPECT_EQ(form.UserControl11.c_SpeedVectorEN, type == 8 ? 1 : 0);
     couple(1);
@@ -265,7 +265,7 @@ std::string shellOf(Form1& form) {
     text += flag(form.inst2.type) + flag(form.inst3.type) + flag(form.inst2Large.chosen()) +
             flag(form.inst3Large.chosen()) + flag(sim.c_AirplaneEN.get()) +
             flag(sim.c_TraceEN.get()) + flag(sim.c_SpeedVectorEN.get()) +
-            flag(form.instruments.visible()) + flag(form.startButton.enabled()) +
+            flag(!form.exercise.cover().instruments) + flag(form.startButton.enabled()) +
             flag(form.backButton.visible()) + flag(form.replay.runs());
     for (CommandButton* item : form.exerciseMenu.items())
         text += flag(item->enabled());
@@ -309,7 +309,7 @@ TEST_F(ExerciseShell, AMissingSessionIsToldAndTheQuestionCanBePassed) {
     EXPECT_TRUE(world.boxes.empty()); // told in the question's own place
     EXPECT_THAT(panel().notice.text(), testing::HasSubstr("qdm01.ts"));
     EXPECT_EQ(form.UserControl11.c_FlyEN, 0); // no other flight in its place
-    EXPECT_FALSE(form.instruments.visible());
+    EXPECT_TRUE(form.exercise.cover().instruments);
     EXPECT_EQ(form.exercise.cover().reason, Text::instrumentWithoutFlight);
     EXPECT_FALSE(panel().solutionButton.visible());
     EXPECT_FALSE(panel().flyButton.visible());

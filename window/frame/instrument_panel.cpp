@@ -42,7 +42,7 @@ void InstrumentPanel::makeInstruments(FormBinding& binding, PictureStore& pictur
         binding.bind(controls[i].links.channelButton, *channelLamps[i]);
         plates[i] = new CoverPlate(model.boxes.texts, this);
     }
-    binding.follow([this] { coverInstruments(); });
+    coverInstruments();
 }
 
 SpokenStations InstrumentPanel::stationsOf(const InstrumentPosition& position) const {
@@ -93,6 +93,9 @@ void InstrumentPanel::layOutChannelLamp(std::size_t position, const QRect& bezel
 /// Under a plate nothing is to be reached by keyboard either.
 void InstrumentPanel::coverInstruments() {
     const QuestionCover cover = model.exercise.cover();
+    if (cover == shownCover)
+        return;
+    shownCover = cover;
     for (std::size_t i = 0; i < plates.size(); ++i) {
         plates[i]->setReason(textOf(model.boxes.texts, cover.reason));
         plates[i]->setVisible(cover.instruments);
@@ -124,6 +127,7 @@ void InstrumentPanel::showChannelLamps() {
 }
 
 void InstrumentPanel::refresh() {
+    coverInstruments();
     showChannelLamps();
     for (InstrumentHeader* header : headers)
         header->refresh();

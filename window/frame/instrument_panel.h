@@ -13,6 +13,7 @@
 #include <QWidget>
 
 #include <array>
+#include <optional>
 
 namespace tarnel {
 
@@ -63,6 +64,7 @@ class InstrumentPanel : public QWidget {
     std::array<InstrumentView*, 2> instruments{};
     std::array<ChannelLamp*, 2> channelLamps{};
     std::array<CoverPlate*, 2> plates{};
+    std::optional<QuestionCover> shownCover;
     NavModule* nav1 = nullptr;
     NavModule* nav2 = nullptr;
     NavModule* adf = nullptr;
