@@ -69,8 +69,8 @@ ExerciseStage Form1::exerciseStage() {
 /// What one desk lets the others know.
 void Form1::connectDesks() {
     boxes.pause = [this] {
-        replay.stop();
-        flight.stop();
+        StopReplay();
+        StopFly();
     };
     boxes.beforeBox = [this] {
         letGo();
@@ -89,7 +89,7 @@ void Form1::connectDesks() {
 }
 
 void Form1::connectSimulation() {
-    UserControl11.placedByHand = [this] { replay.stop(); };
+    UserControl11.placedByHand = [this] { StopReplay(); };
     UserControl11.practicePanelSet = [this](std::int16_t panel) { practice.showPanel(panel); };
     UserControl11.headingDrawn = [this](std::int16_t heading) { coupling.setHeadingBug(heading); };
 }
