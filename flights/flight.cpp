@@ -102,6 +102,15 @@ void ScriptedFlight::apply(const FlightSettings& settings) {
         writeComment(*settings.comment);
     if (settings.commentEnds)
         endComment();
+    if (settings.stopwatch)
+        press(*settings.stopwatch);
+}
+
+void ScriptedFlight::press(StopwatchPress button) {
+    if (button == StopwatchPress::reset)
+        trainer.stopwatchResetButton.click();
+    else
+        trainer.stopwatchStartButton.click();
 }
 
 void ScriptedFlight::writeComment(const std::string& text) {
@@ -130,15 +139,23 @@ void ScriptedFlight::couple() {
 
 void ScriptedFlight::fly(double until, const std::function<void()>& afterTick) {
     const int lastTick = ticksUntil(std::min(flightPlan.seconds, until));
-    trainer.startButton.click();
-    couple();
+    start();
     afterTick();
     while (tick() < lastTick) {
-        ++world.tick;
-        trainer.simulationTimer();
-        couple();
+        step();
         afterTick();
     }
+}
+
+void ScriptedFlight::start() {
+    trainer.startButton.click();
+    couple();
+}
+
+void ScriptedFlight::step() {
+    ++world.tick;
+    trainer.simulationTimer();
+    couple();
 }
 
 } // namespace tarnel

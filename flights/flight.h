@@ -45,6 +45,12 @@ class ScriptedFlight {
     /// A box that stops the flight does not stop the ticks: they go on with the clock at rest.
     void fly(double until, const std::function<void()>& afterTick);
 
+    // The same by single steps, for one who flies by what he sees.
+    void start(); ///< to be called once
+    void step();  ///< one simulation tick, a third of a second, and the couplings behind it
+    /// Does what a pilot does at this moment.
+    void apply(const FlightSettings& settings);
+
     [[nodiscard]] int tick() const { return world.tick; }
     [[nodiscard]] const FlightPlan& plan() const { return flightPlan; }
     [[nodiscard]] const std::vector<WrittenBox>& boxes() const { return world.boxes; }
@@ -55,7 +61,7 @@ class ScriptedFlight {
     void checkChart() const;
     void prepare();
     void prepareInstrument(const InstrumentPlan& instrument, UserControl_1& control);
-    void apply(const FlightSettings& settings);
+    void press(StopwatchPress button);
     void writeComment(const std::string& text);
     void endComment();
     void takeEvents();

@@ -31,19 +31,23 @@ constexpr Range<std::int64_t> adfCard{1, 2};
 constexpr std::size_t commentLength = 500; ///< characters
 } // namespace plan_limits
 
+/// What a hand does to the stopwatch.
+enum class StopwatchPress { startOrStop, reset };
+
 /// What the pilot sets at one moment. What is empty stays as it is.
 struct FlightSettings {
-    std::optional<std::int16_t> heading; ///< of the heading bug, degrees
-    std::optional<std::int16_t> tas;     ///< knots
-    std::optional<std::int16_t> nav1;    ///< slot 0 VOR 1, 1 VOR 2, 2 localizer
-    std::optional<std::int16_t> nav2;
-    std::optional<std::int16_t> adf; ///< slot 0 NDB 1, 1 NDB 2
-    std::optional<std::int16_t> dme;
-    std::optional<std::int16_t> obs2; ///< course of the left instrument, degrees
-    std::optional<std::int16_t> obs3; ///< course of the right one
-    std::optional<Wind> wind;
-    std::optional<std::string> comment; ///< begins here
+    std::optional<std::int16_t> heading = {}; ///< of the heading bug, degrees
+    std::optional<std::int16_t> tas = {};     ///< knots
+    std::optional<std::int16_t> nav1 = {};    ///< slot 0 VOR 1, 1 VOR 2, 2 localizer
+    std::optional<std::int16_t> nav2 = {};
+    std::optional<std::int16_t> adf = {}; ///< slot 0 NDB 1, 1 NDB 2
+    std::optional<std::int16_t> dme = {};
+    std::optional<std::int16_t> obs2 = {}; ///< course of the left instrument, degrees
+    std::optional<std::int16_t> obs3 = {}; ///< course of the right one
+    std::optional<Wind> wind = {};
+    std::optional<std::string> comment = {}; ///< begins here
     bool commentEnds = false;
+    std::optional<StopwatchPress> stopwatch = {};
 };
 
 struct FlightEvent {
@@ -53,9 +57,9 @@ struct FlightEvent {
 
 /// How one of the two instruments is set up. What is empty stays as the trainer starts.
 struct InstrumentPlan {
-    std::optional<std::int16_t> type; ///< a value of `Display`
-    std::optional<std::int16_t> receiver;
-    std::optional<std::int16_t> adfCard;
+    std::optional<std::int16_t> type = {}; ///< a value of `Display`
+    std::optional<std::int16_t> receiver = {};
+    std::optional<std::int16_t> adfCard = {};
 };
 
 /// A flight that is written down: where and how it starts, and what the pilot does when.

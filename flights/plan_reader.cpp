@@ -29,19 +29,6 @@ std::optional<std::int64_t> wholeNumber(std::string_view text) {
     return value;
 }
 
-/// "direction/speed".
-std::optional<Wind> windFrom(std::string_view text) {
-    const auto slash = text.find('/');
-    if (slash == std::string_view::npos)
-        return std::nullopt;
-    const auto direction = wholeNumber(text.substr(0, slash));
-    const auto speed = wholeNumber(text.substr(slash + 1));
-    if (!direction || !plan_limits::direction.contains(*direction) || !speed ||
-        !plan_limits::windSpeed.contains(*speed))
-        return std::nullopt;
-    return Wind{static_cast<double>(*direction), static_cast<std::int16_t>(*speed)};
-}
-
 void readAircraft(PlanTable table, FlightPlan& plan) {
     const auto latitude = table.number("latitude", plan_limits::latitude);
     const auto longitude = table.number("longitude", plan_limits::longitude);
@@ -160,6 +147,18 @@ FlightPlan readRoot(PlanTable root, const std::string& file) {
 }
 
 } // namespace
+
+std::optional<Wind> windFrom(std::string_view text) {
+    const auto slash = text.find('/');
+    if (slash == std::string_view::npos)
+        return std::nullopt;
+    const auto direction = wholeNumber(text.substr(0, slash));
+    const auto speed = wholeNumber(text.substr(slash + 1));
+    if (!direction || !plan_limits::direction.contains(*direction) || !speed ||
+        !plan_limits::windSpeed.contains(*speed))
+        return std::nullopt;
+    return Wind{static_cast<double>(*direction), static_cast<std::int16_t>(*speed)};
+}
 
 FlightPlan readPlan(std::string_view text, const std::string& file) {
     checkPlanBounds(text, file);

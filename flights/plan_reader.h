@@ -2,6 +2,7 @@
 
 #include "flights/flight_plan.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -13,5 +14,8 @@ namespace tarnel {
 
 /// Reads the plan at `file`. Throws PlanError also if it can't be read.
 [[nodiscard]] FlightPlan readPlanFile(const std::string& file);
+
+/// "direction/speed" within the limits of plans, such as "270/15"; nothing for another text.
+[[nodiscard]] std::optional<Wind> windFrom(std::string_view text);
 
 } // namespace tarnel

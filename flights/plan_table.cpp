@@ -157,6 +157,10 @@ std::vector<PlanTable> PlanTable::parts(std::string_view key) {
     return found;
 }
 
+int PlanTable::line() const {
+    return Source::lineOf(*source->table);
+}
+
 int PlanTable::lineOf(std::string_view key) const {
     const toml::node* node = source->table->get(key);
     return node ? Source::lineOf(*node) : 0;

@@ -37,6 +37,8 @@ class PlanTable {
     /// All tables of the array under a key.
     std::vector<PlanTable> parts(std::string_view key);
 
+    /// The line where the table begins, from 1.
+    [[nodiscard]] int line() const;
     /// The line of a key's value; 0 if the table lacks the key.
     [[nodiscard]] int lineOf(std::string_view key) const;
 

@@ -1,0 +1,87 @@
+#include "authoring/manoeuvres.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace tarnel {
+
+namespace {
+
+constexpr double feetPerMile = 6076.12;
+constexpr double legOfArc = 10; ///< degrees of radial to one heading
+
+/// The flight along an arc.
+class ArcFlight {
+  public:
+    ArcFlight(Pilot& flying, const Arc& flown) : pilot(flying), arc(flown) {}
+
+    void join();
+    void keep(const CourseLine& final);
+
+    double firstHeading = 0;
+
+  private:
+    [[nodiscard]] double hand() const { return arc.clockwise ? 1 : -1; }
+    [[nodiscard]] FromStation place() const { return pilot.from(arc.station); }
+    /// NM that a DME reads more than the arc's.
+    [[nodiscard]] double tooFar(const FromStation& at) const;
+    /// At right angles to a radial, against the wind.
+    [[nodiscard]] double tangent(double radial) const {
+        return pilot.headingOn(circle(radial + 90 * hand()));
+    }
+
+    Pilot& pilot;
+    const Arc& arc;
+};
+
+double ArcFlight::tooFar(const FromStation& at) const {
+    return std::hypot(at.distance, pilot.altitude() / feetPerMile) - arc.distance;
+}
+
+void ArcFlight::join() {
+    // On the radial the heading to be joined with does not change until the turn.
+    firstHeading = tangent(place().radial);
+    const double side = tooFar(place());
+    if (std::abs(turnBetween(pilot.now().heading, firstHeading)) > 5)
+        pilot.flyUntil([&] {
+            const double after = tooFar(pilot.afterTurn(arc.station, firstHeading, Turn::shorter));
+            return std::signbit(after) != std::signbit(side);
+        });
+    pilot.turnTo(firstHeading);
+}
+
+void ArcFlight::keep(const CourseLine& final) {
+    double legEnds = place().radial + hand() * legOfArc / 2;
+    const double side = pilot.offCourse(final);
+    const double onFinal = pilot.headingOn(final.course);
+    pilot.flyUntil([&] {
+        const FromStation here = place();
+        const FromStation after = pilot.afterTurn(arc.station, onFinal, Turn::shorter);
+        if (std::signbit(after.crossTrack(final.course)) != std::signbit(side) &&
+            std::abs(turnBetween(here.radial, final.course + (arc.inbound ? 180 : 0))) < 45)
+            return true;
+        if (hand() * turnBetween(legEnds, here.radial) >= 0) {
+            constexpr double perMile = 60; ///< degrees of correction
+            const double inwards = std::clamp(tooFar(here) * perMile, -20.0, 20.0);
+            legEnds = here.radial + hand() * legOfArc;
+            pilot.turnTo(tangent(here.radial + hand() * legOfArc / 2) + hand() * inwards);
+        } else {
+            pilot.step();
+        }
+        return false;
+    });
+}
+
+} // namespace
+
+FlownArc fly(Pilot& pilot, const Arc& arc) {
+    ArcFlight flight(pilot, arc);
+    flight.join();
+    const CourseLine final{arc.station, arc.final};
+    flight.keep(final);
+    const double lead = pilot.from(arc.station).radial;
+    pilot.turnTo(pilot.headingOn(arc.final));
+    return {flight.firstHeading, lead};
+}
+
+} // namespace tarnel

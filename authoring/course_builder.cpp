@@ -1,0 +1,71 @@
+#include "authoring/course_builder.h"
+
+#include "authoring/course_check.h"
+#include "authoring/session_scale.h"
+#include "exercises/study_file.h"
+#include "flights/plan_error.h"
+#include "persistence/session_file.h"
+
+namespace tarnel {
+
+namespace {
+
+/// The name of a question's session but for its end: its kind and its number from 1 on.
+std::string sessionStem(const CourseSource& source, std::size_t index) {
+    const std::string number = std::to_string(index + 1);
+    return std::string(source.kind->word) + (number.size() < 2 ? "0" : "") + number;
+}
+
+FlownSituation flySituation(const CourseSource& source, const Situation& situation,
+                            const std::string& applicationFolder) {
+    FlightPlan plan = source.questions->start(situation, source.chart);
+    plan.file = source.file;
+    plan.chartLine = situation.line;
+    ScriptedFlight flight(std::move(plan), englishTable(), applicationFolder);
+    Pilot pilot(flight, source.chart);
+    try {
+        source.questions->solve(pilot, situation);
+    } catch (const LostPilot& lost) {
+        throw PlanError(source.file, situation.line, lost.what());
+    }
+    return {situation, source.chart, pilot.rows(), pilot.said(),
+            flight.form().UserControl11.sessionBytes()};
+}
+
+/// The flight with its comments in a language, at the scale that shows it best.
+std::string sessionIn(const FlownSituation& flown, Language language) {
+    SessionFile session = readSession(flown.session);
+    for (std::size_t i = 0; i < flown.said.size(); ++i)
+        session.comments.at(i) = flown.said[i].text.in(language);
+    session.mapScaleTwips = sessionScale(flown.rows);
+    return writeSession(session, std::nullopt);
+}
+
+} // namespace
+
+BuiltCourse buildCourse(const CourseSource& source, const std::string& applicationFolder) {
+    BuiltCourse built;
+    std::string study[std::size(bothLanguages)];
+    for (std::size_t i = 0; i < source.situations.size(); ++i) {
+        const FlownSituation flown = flySituation(source, source.situations[i], applicationFolder);
+        checkSituation(source, flown, built.findings);
+        for (const Language language : bothLanguages) {
+            const std::string session = filePrefix(language) + sessionStem(source, i) + ".ts";
+            StudyRecord record = source.questions->ask(flown, language);
+            record[StudyColumn::sessionName] = session;
+            study[static_cast<std::size_t>(language)] +=
+                writeStudyRecord(record, static_cast<int>(source.kind->type));
+            built.files.push_back({"sessions/" + session, sessionIn(flown, language)});
+        }
+    }
+    for (const Language language : bothLanguages) {
+        const bool german = language == Language::german;
+        const std::string name =
+            studyFileNames(*exerciseOf(static_cast<int>(source.kind->type)), german).front();
+        built.files.push_back({"study/" + name, study[static_cast<std::size_t>(language)]});
+    }
+    checkCourse(source, built.findings);
+    return built;
+}
+
+} // namespace tarnel

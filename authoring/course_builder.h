@@ -1,0 +1,27 @@
+#pragma once
+
+#include "authoring/course_source.h"
+#include "authoring/findings.h"
+
+#include <string>
+#include <vector>
+
+namespace tarnel {
+
+/// A file of a course, its path relative to the course's folder, such as "sessions/hsi01.ts".
+struct BuiltFile {
+    std::string path;
+    std::string bytes;
+};
+
+struct BuiltCourse {
+    std::vector<BuiltFile> files; ///< none if a finding must not stand
+    Findings findings;            ///< in the order of their lines
+};
+
+/// Flies every situation, asks its questions in both languages, and proves the answers.
+/// `applicationFolder` holds the trainer's data.
+[[nodiscard]] BuiltCourse buildCourse(const CourseSource& source,
+                                      const std::string& applicationFolder);
+
+} // namespace tarnel

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace tarnel {
+
+/// Something in a course that a student must not meet.
+struct Finding {
+    int line = 0; ///< of the source; 0 stands for the whole
+    std::string text;
+    bool mayStand = false; ///< told, and built all the same
+};
+
+using Findings = std::vector<Finding>;
+
+} // namespace tarnel

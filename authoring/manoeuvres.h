@@ -1,0 +1,58 @@
+#pragma once
+
+#include "authoring/pilot.h"
+
+#include <optional>
+#include <string>
+
+namespace tarnel {
+
+/// Onto a course line by a cut of `angle` degrees from the side where the aircraft is.
+struct Intercept {
+    CourseLine line;
+    double angle = 30;
+};
+/// Flies to the turn's end, not along the line.
+void fly(Pilot& pilot, const Intercept& intercept);
+
+struct Holding {
+    Slot fix = Slot::vor1;
+    double inbound = 0; ///< degrees true
+    Turn turns = Turn::right;
+    double minutes = 1; ///< of the inbound leg
+    int patterns = 2;
+    /// Of the first outbound leg by the stopwatch, seconds; without it, and later, as long as makes
+    /// the inbound leg last its minutes.
+    std::optional<double> firstOutbound = {};
+};
+
+/// The answer that belongs to a heading at the fix.
+struct HoldingAnswer {
+    std::string entry; ///< "direct", "parallel" or "offset"
+    double firstHeading = 0;
+    std::string firstTurn; ///< "left", "right" or "maintain"
+};
+[[nodiscard]] HoldingAnswer answerOf(const Holding& holding, double heading);
+
+/// Flies the present heading to the fix, enters, and flies the patterns; the last one ends over the
+/// fix. Tells each step, and uses the stopwatch. On the inbound course there is no entry: the first
+/// pattern begins over the fix.
+void fly(Pilot& pilot, const Holding& holding);
+
+struct Arc {
+    Slot station = Slot::vor1;
+    double distance = 0; ///< NM, as the DME reads them
+    bool clockwise = true;
+    double final = 0;    ///< the course that it is left on, degrees
+    bool inbound = true; ///< towards the station
+};
+
+/// What is to be remembered of an arc.
+struct FlownArc {
+    double firstHeading = 0;
+    double leadRadial = 0; ///< where the turn onto the final course began
+};
+/// Joins the arc, keeps it, and turns onto the final course.
+FlownArc fly(Pilot& pilot, const Arc& arc);
+
+} // namespace tarnel

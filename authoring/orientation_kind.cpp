@@ -1,0 +1,103 @@
+#include "authoring/question_kind.h"
+#include "authoring/wording.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace tarnel {
+
+namespace {
+
+using enum StudyColumn;
+
+/// What the lists of this exercise offer.
+constexpr int offered[] = {30,  45,  60,  90,  120, 135, 150, 180,
+                           210, 225, 240, 270, 300, 315, 330, 360};
+
+/// Three digits, with 360 for north.
+std::string asOffered(double degrees) {
+    const std::string digits = threeDigits(degrees);
+    return digits == "000" ? "360" : digits;
+}
+
+/// `OrientationKind`: bearings read from the chart alone.
+class OrientationKind : public QuestionKind {
+  public:
+    void read(PlanTable& table, const AuthoredChart& chart, Situation& situation) const override {
+        situation.station = readStation(table, "station", chart, isVorOrNdb);
+        situation.at = {readDirection(table, "radial"), readDistance(table, "distance")};
+        situation.other = readStation(table, "other", chart, isVorOrNdb);
+        situation.heading = readDirection(table, "heading");
+        table.need("third");
+        const auto third = table.text(
+            "third",
+            [](const std::string& text) { return text == "heading" || text == "relative"; },
+            R"("heading" or "relative")");
+        situation.asksHeading = third == "heading";
+    }
+    [[nodiscard]] FlightPlan start(const Situation& situation,
+                                   const AuthoredChart& chart) const override {
+        FlightPlan plan =
+            planFrom(placeOn(chart.position(situation.station), situation.at), situation, chart);
+        plan.start.nav1 = plan.start.dme = std::int16_t{0};
+        plan.start.nav2 = std::int16_t{1};
+        plan.inst2 = {.type = displayOf("VOR"), .receiver = std::int16_t{2}};
+        plan.inst3 = {.type = displayOf("HSI"), .receiver = std::int16_t{1}};
+        const auto radial = [&](Slot slot) {
+            const FromStation seen = fromStation(
+                chart.position(slot), placeOn(chart.position(situation.station), situation.at));
+            return static_cast<std::int16_t>(wholeDegrees(seen.radial));
+        };
+        plan.start.obs2 = static_cast<std::int16_t>((radial(Slot::vor2) + 180) % 360);
+        plan.start.obs3 = radial(Slot::vor1);
+        return plan;
+    }
+    void solve(Pilot& pilot, const Situation& situation) const override {
+        pilot.wait(situation.flown);
+    }
+    [[nodiscard]] StudyRecord ask(const FlownSituation& flown, Language language) const override;
+    void check(const FlownSituation& flown, Findings& findings) const override;
+};
+
+StudyRecord OrientationKind::ask(const FlownSituation& flown, Language language) const {
+    const Situation& situation = flown.situation;
+    const auto name = [&](Slot slot) { return same(flown.chart.identifier(slot)); };
+    const double radial = flown.from(situation.station, flown.asked()).radial;
+    const double qdm = flown.from(situation.other, flown.asked()).radial + 180;
+    const auto nearest = [](double degrees) { return std::round(degrees / 15) * 15; };
+    StudyRecord record;
+    record[qa] = worded(isNdb(situation.station) ? Phrase::askQdr : Phrase::askRadial,
+                        {name(situation.station)})
+                     .in(language);
+    record[qb] = worded(Phrase::askQdm, {name(situation.other)}).in(language);
+    record[qc] = worded(situation.asksHeading ? Phrase::askHeading : Phrase::askRelative,
+                        {name(situation.station)})
+                     .in(language);
+    record[ans1] = asOffered(nearest(radial));
+    record[ans2] = asOffered(nearest(qdm));
+    record[ans3] = asOffered(
+        nearest(situation.asksHeading ? situation.heading : radial + 180 - situation.heading));
+    return record;
+}
+
+void OrientationKind::check(const FlownSituation& flown, Findings& findings) const {
+    const Situation& situation = flown.situation;
+    const double radial = flown.from(situation.station, flown.asked()).radial;
+    const double qdm = flown.from(situation.other, flown.asked()).radial + 180;
+    const double third =
+        situation.asksHeading ? situation.heading : radial + 180 - situation.heading;
+    for (const double direction : {radial, qdm, third}) {
+        const auto near = [&](int offer) { return std::abs(turnBetween(direction, offer)) <= 2.5; };
+        if (std::none_of(std::begin(offered), std::end(offered), near))
+            findings.push_back({situation.line, "the answer " + threeDigits(direction) +
+                                                    " is not among the sixteen that are offered"});
+    }
+}
+
+} // namespace
+
+std::unique_ptr<QuestionKind> makeOrientationKind() {
+    return std::make_unique<OrientationKind>();
+}
+
+} // namespace tarnel

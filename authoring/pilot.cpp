@@ -1,0 +1,181 @@
+#include "authoring/pilot.h"
+
+#include "core/number_text.h"
+
+#include <cmath>
+#include <numbers>
+
+namespace tarnel {
+
+namespace {
+
+constexpr double degree = std::numbers::pi / 180;
+constexpr double secondsPerHour = 3600;
+constexpr double longestFlight = 7000; ///< seconds; well below what a recording holds
+/// Farther off a course line than this the needle shows it, NM.
+constexpr double onTheLine = 0.04;
+
+/// The turn in degrees, positive to the right, up to 360.
+double signedTurn(double from, double to, Turn turn) {
+    const double shorter = turnBetween(from, to);
+    if (turn == Turn::right)
+        return shorter < 0 ? shorter + 360 : shorter;
+    if (turn == Turn::left)
+        return shorter > 0 ? shorter - 360 : shorter;
+    return shorter;
+}
+
+} // namespace
+
+Pilot::Pilot(ScriptedFlight& flown, const AuthoredChart& over) : flight(flown), chart(over) {
+    flight.start();
+    flownRows.push_back(presentRow(flight));
+}
+
+double Pilot::altitude() const {
+    return flight.form().UserControl11.c_Altitude;
+}
+
+FromStation Pilot::from(Slot station) const {
+    return fromStation(chart.position(station), {now().latitude, now().longitude});
+}
+
+double Pilot::offCourse(const CourseLine& line) const {
+    return from(line.station).crossTrack(line.course);
+}
+
+WindTriangle Pilot::triangle(double course) const {
+    const WindTriangle wind =
+        windTriangle({now().windDirection, now().windSpeed}, course, now().tas);
+    if (std::isnan(wind.correction) || wind.groundSpeed <= 0)
+        throw LostPilot("a wind in which course " + threeDigits(course) + " can be flown");
+    return wind;
+}
+
+double Pilot::headingOn(double course) const {
+    return wholeDegrees(course + triangle(course).correction);
+}
+
+FromStation Pilot::afterTurn(Slot station, double heading, Turn turn) const {
+    const FromStation place = from(station);
+    double east = place.distance * std::sin(place.radial * degree);
+    double north = place.distance * std::cos(place.radial * degree);
+    const double change = signedTurn(now().heading, heading, turn);
+    const int ticks = static_cast<int>(std::abs(std::round(change)));
+    const double perTick = now().tas * simTimeStep / secondsPerHour;
+    const double windPerTick = now().windSpeed * simTimeStep / secondsPerHour;
+    for (int i = 0; i < ticks; ++i) {
+        const double angle = (now().heading + (change > 0 ? i + 1 : -i - 1)) * degree;
+        east += perTick * std::sin(angle) - windPerTick * std::sin(now().windDirection * degree);
+        north += perTick * std::cos(angle) - windPerTick * std::cos(now().windDirection * degree);
+    }
+    return {circle(std::atan2(east, north) / degree), std::hypot(east, north)};
+}
+
+void Pilot::say(const LocalText& text) {
+    flight.apply({.comment = text.german});
+    comments.push_back({flownRows.size() - 1, text});
+}
+
+void Pilot::restartStopwatch() {
+    if (stopwatchRuns)
+        flight.apply({.stopwatch = StopwatchPress::startOrStop});
+    flight.apply({.stopwatch = StopwatchPress::reset});
+    flight.apply({.stopwatch = StopwatchPress::startOrStop});
+    stopwatchRuns = true;
+}
+
+void Pilot::step() {
+    if (seconds() > longestFlight)
+        throw LostPilot("a flight of at most " + numberText(longestFlight) + " seconds");
+    if (flight.stopped())
+        throw LostPilot("a flight within 80 NM of its VORs and localizer");
+    flight.step();
+    flownRows.push_back(presentRow(flight));
+}
+
+void Pilot::flyUntil(const std::function<bool()>& reached, double patience) {
+    const double begun = seconds();
+    while (!reached()) {
+        if (seconds() - begun > patience)
+            throw LostPilot("a manoeuvre that comes to its end");
+        step();
+    }
+}
+
+void Pilot::wait(double time) {
+    const double end = seconds() + time;
+    flyUntil([&] { return seconds() >= end - simTimeStep / 2; }, time + 1);
+}
+
+void Pilot::setHeading(double heading) {
+    flight.apply({.heading = static_cast<std::int16_t>(wholeDegrees(heading))});
+}
+
+void Pilot::turnTo(double heading, Turn turn) {
+    // The autopilot goes the shorter way, so a longer one is led by the bug.
+    constexpr double surelyShorter = 150;
+    double left = signedTurn(now().heading, wholeDegrees(heading), turn);
+    flyUntil([&] {
+        if (std::abs(left) > surelyShorter)
+            setHeading(now().heading + std::copysign(surelyShorter, left));
+        else
+            setHeading(heading);
+        step();
+        const double next = turnBetween(now().heading, wholeDegrees(heading));
+        left = std::abs(left) > surelyShorter
+                   ? signedTurn(now().heading, wholeDegrees(heading), turn)
+                   : next;
+        return std::abs(next) < 0.5 && std::abs(left) < surelyShorter && now().turnRate == 0;
+    });
+}
+
+void Pilot::track(const CourseLine& line, const std::function<bool()>& reached) {
+    constexpr double perMile = 60; ///< degrees of correction
+    constexpr double most = 20;
+    constexpr double betweenLooks = 10; ///< seconds
+    double nextLook = seconds();
+    flyUntil([&] {
+        if (reached())
+            return true;
+        if (seconds() >= nextLook) {
+            const double error = offCourse(line);
+            const double back =
+                std::abs(error) < onTheLine ? 0 : std::clamp(-error * perMile, -most, most);
+            setHeading(headingOn(line.course) + std::round(back));
+            nextLook = seconds() + betweenLooks;
+        }
+        step();
+        return false;
+    });
+}
+
+bool Pilot::rollsOutOn(const CourseLine& line, double startedOn) const {
+    const double miss =
+        afterTurn(line.station, headingOn(line.course), Turn::shorter).crossTrack(line.course);
+    return std::signbit(miss) != std::signbit(startedOn) || std::abs(miss) < 0.005;
+}
+
+void Pilot::establishFrom(const CourseLine& line, const std::function<void(double lead)>& leads) {
+    const double side = offCourse(line);
+    flyUntil([&] { return rollsOutOn(line, side); });
+    leads(std::abs(std::remainder(from(line.station).radial - line.course, 180)));
+    turnTo(headingOn(line.course));
+}
+
+void Pilot::establish(const CourseLine& line, Turn turn, double cut) {
+    const double onCourse = headingOn(line.course);
+    const double miss = afterTurn(line.station, onCourse, turn).crossTrack(line.course);
+    if (std::abs(miss) > onTheLine) {
+        turnTo(line.course - std::copysign(cut, miss), turn);
+        establishFrom(line, [](double) {});
+    } else {
+        turnTo(onCourse, turn);
+    }
+}
+
+void Pilot::flyOver(Slot station) {
+    flyUntil([&] { return std::cos((from(station).radial + 180 - now().track) * degree) <= 0; });
+}
+
+} // namespace tarnel

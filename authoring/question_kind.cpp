@@ -1,0 +1,96 @@
+#include "authoring/question_kind.h"
+
+#include "flights/plan_error.h"
+
+namespace tarnel {
+
+namespace {
+
+constexpr CourseKind kinds[] = {
+    {ExerciseType::hsiPosition, "hsi", makeHsiKind},
+    {ExerciseType::standardVorPosition, "stdvor", makeVorKind},
+    {ExerciseType::hsiHolding, "hsihld", makeHsiHoldingKind},
+    {ExerciseType::dgHolding, "dghld", makeDgHoldingKind},
+    {ExerciseType::adfPosition, "adfpos", makeAdfKind},
+    {ExerciseType::qdm, "qdm", makeQdmKind},
+    {ExerciseType::qdr, "qdr", makeQdrKind},
+    {ExerciseType::wind, "wind", makeWindKind},
+    {ExerciseType::dmeArc, "dmearc", makeArcKind},
+    {ExerciseType::orientation, "orientation", makeOrientationKind},
+};
+
+} // namespace
+
+std::span<const CourseKind> courseKinds() {
+    return kinds;
+}
+
+const CourseKind* courseKind(std::string_view word) {
+    for (const CourseKind& kind : kinds)
+        if (kind.word == word)
+            return &kind;
+    return nullptr;
+}
+
+Slot readStation(PlanTable& table, std::string_view key, const AuthoredChart& chart,
+                 bool (*fits)(Slot)) {
+    std::string names;
+    for (std::size_t i = 0; i < slotCount; ++i)
+        if (fits(static_cast<Slot>(i)))
+            names += (names.empty() ? "" : ", ") + chart.identifiers()[i];
+    table.need(key);
+    const auto name = table.text(
+        key,
+        [&](const std::string& text) {
+            const auto slot = chart.slotOf(text);
+            return slot && fits(*slot);
+        },
+        "one of " + names);
+    return *chart.slotOf(*name);
+}
+
+bool isVor(Slot slot) {
+    return slot == Slot::vor1 || slot == Slot::vor2;
+}
+
+bool isNdb(Slot slot) {
+    return slot == Slot::ndb1 || slot == Slot::ndb2;
+}
+
+bool isVorOrNdb(Slot slot) {
+    return slot != Slot::localizer;
+}
+
+double readDirection(PlanTable& table, std::string_view key) {
+    table.need(key);
+    return *table.whole(key, plan_limits::direction) % 360;
+}
+
+double readDistance(PlanTable& table, std::string_view key) {
+    constexpr Range<double> miles{0.5, 60};
+    table.need(key);
+    return *table.number(key, miles);
+}
+
+Turn readTurns(PlanTable& table) {
+    table.need("turns");
+    const auto turns = table.text(
+        "turns", [](const std::string& text) { return text == "left" || text == "right"; },
+        R"("left" or "right")");
+    return turns == "left" ? Turn::left : Turn::right;
+}
+
+FlightPlan planFrom(const GeoPosition& place, const Situation& situation,
+                    const AuthoredChart& chart) {
+    FlightPlan plan;
+    plan.chart = chart.path;
+    plan.seconds = plan_limits::seconds.highest;
+    plan.position = secondBefore(place, situation);
+    plan.start.heading = static_cast<std::int16_t>(situation.heading);
+    plan.start.tas = situation.tas;
+    if (situation.wind.speed > 0)
+        plan.start.wind = situation.wind;
+    return plan;
+}
+
+} // namespace tarnel

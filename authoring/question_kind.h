@@ -1,0 +1,82 @@
+#pragma once
+
+#include "authoring/findings.h"
+#include "authoring/situation.h"
+#include "exercises/exercise_catalogue.h"
+#include "exercises/study_record.h"
+#include "flights/plan_table.h"
+
+#include <memory>
+#include <span>
+#include <string_view>
+
+namespace tarnel {
+
+/// `QuestionKind`: how the questions of an exercise are placed, flown, answered and proved.
+class QuestionKind {
+  public:
+    QuestionKind() = default;
+    QuestionKind(const QuestionKind&) = delete;
+    QuestionKind& operator=(const QuestionKind&) = delete;
+    virtual ~QuestionKind() = default;
+
+    /// Reads what is to be said of a situation beside wind and speed.
+    virtual void read(PlanTable& table, const AuthoredChart& chart, Situation& situation) const = 0;
+    /// The radios and dials, and where the aircraft starts.
+    [[nodiscard]] virtual FlightPlan start(const Situation& situation,
+                                           const AuthoredChart& chart) const = 0;
+    virtual void solve(Pilot& pilot, const Situation& situation) const = 0;
+    /// The record but for the name of its session.
+    [[nodiscard]] virtual StudyRecord ask(const FlownSituation& flown, Language language) const = 0;
+    /// What is wrong with this kind of question, beside what is wrong with any.
+    virtual void check(const FlownSituation& flown, Findings& findings) const = 0;
+};
+
+/// An exercise that courses are written for.
+struct CourseKind {
+    ExerciseType type;
+    std::string_view word; ///< in sources, and before the numbers of its sessions
+    std::unique_ptr<QuestionKind> (*make)();
+};
+
+[[nodiscard]] std::span<const CourseKind> courseKinds();
+/// Null for any other word.
+[[nodiscard]] const CourseKind* courseKind(std::string_view word);
+
+// What several kinds have in common.
+
+/// Reads "station", one of those on the chart that `fits`.
+[[nodiscard]] Slot readStation(PlanTable& table, std::string_view key, const AuthoredChart& chart,
+                               bool (*fits)(Slot));
+[[nodiscard]] bool isVor(Slot slot);
+[[nodiscard]] bool isNdb(Slot slot);
+[[nodiscard]] bool isVorOrNdb(Slot slot);
+/// Reads a needed direction, 0 to 360 degrees.
+[[nodiscard]] double readDirection(PlanTable& table, std::string_view key);
+/// Reads a needed distance, 0.5 to 60 NM.
+[[nodiscard]] double readDistance(PlanTable& table, std::string_view key);
+
+/// Reads the needed "turns" of a holding.
+[[nodiscard]] Turn readTurns(PlanTable& table);
+
+/// A flight plan that begins a second before `place`.
+[[nodiscard]] FlightPlan planFrom(const GeoPosition& place, const Situation& situation,
+                                  const AuthoredChart& chart);
+
+/// Degrees that count as no movement of a needle, and as one that is seen.
+constexpr double steadyNeedle = 0.5;
+constexpr double seenNeedle = 2;
+
+// The makers of the kinds.
+std::unique_ptr<QuestionKind> makeHsiKind();
+std::unique_ptr<QuestionKind> makeVorKind();
+std::unique_ptr<QuestionKind> makeHsiHoldingKind();
+std::unique_ptr<QuestionKind> makeDgHoldingKind();
+std::unique_ptr<QuestionKind> makeAdfKind();
+std::unique_ptr<QuestionKind> makeQdmKind();
+std::unique_ptr<QuestionKind> makeQdrKind();
+std::unique_ptr<QuestionKind> makeWindKind();
+std::unique_ptr<QuestionKind> makeArcKind();
+std::unique_ptr<QuestionKind> makeOrientationKind();
+
+} // namespace tarnel

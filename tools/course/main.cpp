@@ -1,0 +1,107 @@
+#include "authoring/course_builder.h"
+#include "core/run_time_error.h"
+#include "flights/plan_bounds.h"
+#include "flights/plan_error.h"
+#include "persistence/file_bytes.h"
+#include "persistence/save_file.h"
+#include "shell/application_folder.h"
+#include "strings/cause_text.h"
+#include "tools/course/options.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <iostream>
+
+namespace {
+
+using namespace tarnel;
+
+enum ExitStatus { done = 0, courseIsWrong = 1, usageIsWrong = 2, outputFailed = 3 };
+
+constexpr auto usage =
+    "Usage: tarnel-course build SOURCE... [--out FOLDER]\n"
+    "       tarnel-course check SOURCE...\n"
+    "Makes exercises of courses: flies each situation, words its questions in German and English,\n"
+    "and proves the answers.\n"
+    "\n"
+    "  build         write the study files and sessions\n"
+    "  check         only tell what is wrong\n"
+    "  --out FOLDER  where to; it gets the folders study, sessions and maps\n"
+    "  --help        this text\n";
+
+std::string readSource(const std::string& file) {
+    try {
+        return readFileBytes(file, largestPlan);
+    } catch (const RunTimeError& error) {
+        throw PlanError(file, 0,
+                        "a course that can be read: " +
+                            std::string(causeText(englishTable(), error.cause())));
+    }
+}
+
+/// Tells what was found. False if any of it must not stand.
+bool tell(const CourseSource& source, const Findings& findings) {
+    bool good = true;
+    for (const Finding& finding : findings) {
+        good = good && finding.mayStand;
+        std::cerr << source.file;
+        if (finding.line > 0)
+            std::cerr << ':' << finding.line;
+        std::cerr << ": " << (finding.mayStand ? "note: " : "") << finding.text << '\n';
+    }
+    return good;
+}
+
+/// Writes what has changed, so that what has not stays as old as it is.
+void write(const BuiltCourse& course, const std::filesystem::path& folder) {
+    for (const BuiltFile& file : course.files) {
+        const std::filesystem::path path = folder / file.path;
+        std::filesystem::create_directories(path.parent_path());
+        constexpr std::size_t more = std::size_t{8} << 20;
+        if (!std::filesystem::exists(path) || readFileBytes(path.string(), more) != file.bytes)
+            saveFileBytes(path.string(), file.bytes);
+    }
+}
+
+int run(const CourseOptions& options) {
+    const std::string data = applicationFolder();
+    const ChartShelf charts({options.out + "/maps", data + "/default/maps", data});
+    int status = done;
+    for (const std::string& file : options.sources) {
+        try {
+            const CourseSource source = readCourse(readSource(file), file, charts);
+            const BuiltCourse course = buildCourse(source, data);
+            if (!tell(source, course.findings))
+                status = courseIsWrong;
+            else if (options.command == CourseCommand::build)
+                write(course, options.out);
+        } catch (const PlanError& error) {
+            std::cerr << error.what() << '\n';
+            status = courseIsWrong;
+        }
+    }
+    return status;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    makeFileSizeLimitAnError();
+    try {
+        const CourseOptions options = readCourseOptions({argv + 1, argv + argc});
+        if (options.command == CourseCommand::help) {
+            std::cout << usage;
+            return done;
+        }
+        return run(options);
+    } catch (const UsageError& error) {
+        std::cerr << "tarnel-course: " << error.what() << '\n' << usage;
+        return usageIsWrong;
+    } catch (const RunTimeError& error) {
+        std::cerr << "tarnel-course: " << causeText(englishTable(), error.cause()) << '\n';
+        return outputFailed;
+    } catch (const std::filesystem::filesystem_error& error) {
+        std::cerr << "tarnel-course: " << error.what() << '\n';
+        return outputFailed;
+    }
+}
