@@ -6,8 +6,22 @@
 
 namespace tarnel {
 
-/// Twips per NM at which the chart shows a flight, as large as it can be: whatever is flown lies
-/// within four fifths of the paper around the middle of the flight, 125 to 1000.
+/// A part of the chart; degrees.
+struct Extent {
+    double south = 0;
+    double north = 0;
+    double west = 0;
+    double east = 0;
+};
+
+/// What holds all places, one at least.
+[[nodiscard]] Extent extentOf(const std::vector<GeoPosition>& places);
+
+/// Twips per NM at which the chart shows an extent, as large as it can be within four fifths of the
+/// paper; 125 to 1000.
+[[nodiscard]] std::int16_t scaleOf(const Extent& extent);
+
+/// Twips per NM at which the chart shows a whole flight.
 [[nodiscard]] std::int16_t sessionScale(const std::vector<FlightRow>& rows);
 
 } // namespace tarnel

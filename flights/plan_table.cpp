@@ -157,6 +157,11 @@ std::vector<PlanTable> PlanTable::parts(std::string_view key) {
     return found;
 }
 
+bool PlanTable::hasTables(std::string_view key) const {
+    const toml::node* node = source->table->get(key);
+    return node && node->is_array() && (node->as_array()->empty() || node->is_array_of_tables());
+}
+
 int PlanTable::line() const {
     return Source::lineOf(*source->table);
 }

@@ -36,6 +36,8 @@ class PlanTable {
     PlanTable part(std::string_view key);
     /// All tables of the array under a key.
     std::vector<PlanTable> parts(std::string_view key);
+    /// Whether there is an array of tables under a key, or an empty array.
+    [[nodiscard]] bool hasTables(std::string_view key) const;
 
     /// The line where the table begins, from 1.
     [[nodiscard]] int line() const;

@@ -37,12 +37,17 @@ void readAll(LineSource& lines, ChartFile& chart) {
     readPositions(lines, chart);
 }
 
-void writePositions(LineWriter& lines, const ChartFile& chart) {
-    const GeoPosition aircraft = chart.aircraft.value_or(GeoPosition{});
-    const SplitPosition split = toSplit(aircraft);
+double withMinutesOfLatitude(const GeoPosition& place) {
+    const SplitPosition split = toSplit(place);
     const SplitAngle mixed{split.longitude.degrees, split.latitude.minutes};
+    return std::clamp(toPlain(mixed), -longitudeRule.limit, longitudeRule.limit);
+}
+
+void writePositions(LineWriter& lines, const ChartFile& chart, AircraftLongitude longitude) {
+    const GeoPosition aircraft = chart.aircraft.value_or(GeoPosition{});
     lines.numberLine(aircraft.latitude);
-    lines.numberLine(std::clamp(toPlain(mixed), -longitudeRule.limit, longitudeRule.limit));
+    lines.numberLine(longitude == AircraftLongitude::asItIs ? aircraft.longitude
+                                                            : withMinutesOfLatitude(aircraft));
     lines.line("0");
     for (const ChartStation& station : chart.stations) {
         const GeoPosition place = station.position.value_or(GeoPosition{});
@@ -64,13 +69,14 @@ ChartFile readChart(std::string bytes) {
     return chart;
 }
 
-std::string writeChart(const ChartFile& chart, std::optional<int> key) {
+std::string writeChart(const ChartFile& chart, std::optional<int> key,
+                       AircraftLongitude longitude) {
     constexpr std::size_t usualBytes = 1024;
     LineWriter lines(key, "***** !DO NOT EDIT! *** Tarnel - .map file         ***", usualBytes);
     writeStations(lines, chart);
     lines.line(":mc:,1");
     writeMapScale(lines, chart);
-    writePositions(lines, chart);
+    writePositions(lines, chart, longitude);
     lines.numberLine(toInt16(chart.locCourse.value_or(0)));
     return std::move(lines).finish();
 }

@@ -21,13 +21,17 @@ struct ChartFile : StationBlock {
 /// line run on. Never throws on bad content: what stood before the first wrong line is kept.
 [[nodiscard]] ChartFile readChart(std::string bytes);
 
+/// How the longitude of the aircraft is written. Earlier installations write it with the minutes of
+/// the latitude.
+enum class AircraftLongitude { asEarlier, asItIs };
+
 /// The bytes of a `.map` file, enciphered if there is a `key` (1 to 99). What `chart` does not give
 /// is written as 0 or as an empty text; a missing map scale is left out. Map centre and heading are
 /// always written as 1 and 0.
 ///
-/// Earlier installations write the longitude of the aircraft with the minutes of its latitude, and
-/// so does this. All other positions read back to the same bits. Throws the overflow error when the
-/// aircraft's degrees leave 16 bits.
-[[nodiscard]] std::string writeChart(const ChartFile& chart, std::optional<int> key);
+/// All positions but the aircraft's longitude `asEarlier` read back to the same bits. Throws the
+/// overflow error when the aircraft's degrees leave 16 bits.
+[[nodiscard]] std::string writeChart(const ChartFile& chart, std::optional<int> key,
+                                     AircraftLongitude longitude = AircraftLongitude::asEarlier);
 
 } // namespace tarnel

@@ -1,3 +1,4 @@
+#include "authoring/chart_source.h"
 #include "authoring/course_builder.h"
 #include "core/run_time_error.h"
 #include "flights/plan_bounds.h"
@@ -11,6 +12,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <iostream>
+#include <optional>
 
 namespace {
 
@@ -22,7 +24,7 @@ constexpr auto usage =
     "Usage: tarnel-course build SOURCE... [--out FOLDER]\n"
     "       tarnel-course check SOURCE...\n"
     "Makes exercises of courses: flies each situation, words its questions in German and English,\n"
-    "and proves the answers.\n"
+    "and proves the answers. A source of charts makes these; name it before those that use them.\n"
     "\n"
     "  build         write the study files and sessions\n"
     "  check         only tell what is wrong\n"
@@ -53,8 +55,8 @@ bool tell(const CourseSource& source, const Findings& findings) {
 }
 
 /// Writes what has changed, so that what has not stays as old as it is.
-void write(const BuiltCourse& course, const std::filesystem::path& folder) {
-    for (const BuiltFile& file : course.files) {
+void write(const std::vector<BuiltFile>& files, const std::filesystem::path& folder) {
+    for (const BuiltFile& file : files) {
         const std::filesystem::path path = folder / file.path;
         std::filesystem::create_directories(path.parent_path());
         constexpr std::size_t more = std::size_t{8} << 20;
@@ -63,18 +65,30 @@ void write(const BuiltCourse& course, const std::filesystem::path& folder) {
     }
 }
 
+/// Makes what a source is about. Nothing if it must not stand.
+std::optional<std::vector<BuiltFile>> make(const std::string& file, const ChartShelf& charts,
+                                           const std::string& data) {
+    const std::string text = readSource(file);
+    if (isChartSource(text, file))
+        return buildCharts(text, file);
+    const CourseSource source = readCourse(text, file, charts);
+    BuiltCourse course = buildCourse(source, data);
+    if (!tell(source, course.findings))
+        return std::nullopt;
+    return std::move(course.files);
+}
+
 int run(const CourseOptions& options) {
     const std::string data = applicationFolder();
     const ChartShelf charts({options.out + "/maps", data + "/default/maps", data});
     int status = done;
     for (const std::string& file : options.sources) {
         try {
-            const CourseSource source = readCourse(readSource(file), file, charts);
-            const BuiltCourse course = buildCourse(source, data);
-            if (!tell(source, course.findings))
+            const auto files = make(file, charts, data);
+            if (!files)
                 status = courseIsWrong;
             else if (options.command == CourseCommand::build)
-                write(course, options.out);
+                write(*files, options.out);
         } catch (const PlanError& error) {
             std::cerr << error.what() << '\n';
             status = courseIsWrong;
