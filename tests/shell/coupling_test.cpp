@@ -242,17 +242,6 @@ TEST_F(Strip, LockTakesTheKnobsAndDialsButNotTheAutopilot) {
     EXPECT_EQ(form.NAVControlFace1.c_SetFreq, 1);
 }
 
-TEST_F(Strip, EachRateHasItsOwnPace) {
-    for (const auto& [rate, milliseconds] :
-         std::initializer_list<std::pair<OptionButton*, int>>{{&form.rateHalf, 666},
-                                                              {&form.rateReal, 333},
-                                                              {&form.rateDouble, 166},
-                                                              {&form.rateQuadruple, 83}}) {
-        rate->click();
-        EXPECT_EQ(sim().c_TimerSIMrate, milliseconds);
-    }
-}
-
 TEST_F(Panel, OneInstrumentHoldsTheObsOfAVor) {
     const auto holder = [&] {
         couple(1);

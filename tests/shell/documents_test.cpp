@@ -1,4 +1,3 @@
-#include "shell/documents.h"
 #include "shell/trainer_fixture.h"
 #include "support/sample_session.h"
 
@@ -43,17 +42,6 @@ class DocumentsTest : public testing::Test {
     ReadersWorld world;
     Form1 form{englishTable(), world, withChart(folder)};
 };
-
-TEST_F(DocumentsTest, EveryChapterHasItsPages) {
-    int items = 0;
-    for (const BookChapter& chapter : bookChapters())
-        items += static_cast<int>(chapter.last) - static_cast<int>(chapter.first) + 1;
-    EXPECT_EQ(items, abbreviationsPage);
-    const int beforeIndicator = 17 + 3 + 2;
-    EXPECT_EQ(form.texts.bookPage(beforeIndicator), 30);
-    EXPECT_EQ(form.texts.bookPage(abbreviationsPage), 250);
-    EXPECT_EQ(form.texts.bookPage(bookIndexPage), 251);
-}
 
 TEST_F(DocumentsTest, TheBookOpensInTheLanguageAndItsAbsenceLeavesTheFlightAlone) {
     form.startButton.click();

@@ -34,12 +34,8 @@ class ExerciseStudent : public Student {
     /// Opens the window and starts an exercise whose questions stand in "flight.ts".
     void begin(const std::string& item, const StringTable& texts = englishTable(),
                QSize size = {1280, 800}) {
-        window.reset();
-        dressApplication(texts, QString::fromStdString(folder.string()));
-        form = std::make_unique<Form1>(texts, world, folder.string());
-        window = std::make_unique<MainWindow>(*form);
-        window->resize(size);
-        window->show();
+        applicationFolder = folder.string();
+        open(texts, size);
         window->activateWindow();
         settle();
         recordFlight();

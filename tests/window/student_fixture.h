@@ -27,6 +27,19 @@ struct NotedWorld : OutsideWorld {
         boxes.push_back(text);
         behind();
     }
+    std::string told; ///< which document was opened at which page, or which file was asked for
+    bool openDocument(const std::string& path, int page) override {
+        told = path.substr(path.rfind('/') + 1) + ":" + std::to_string(page);
+        return true;
+    }
+    std::optional<std::string> chooseFile(const FileQuestion& question) override {
+        told = (question.saves ? "save:" : "load:") + question.extension;
+        return {};
+    }
+    bool ask(const std::string& title, const std::string&) override {
+        told = title;
+        return true;
+    }
     std::int64_t secondsNow() override { return ++seconds; }
     std::int64_t seconds = 0;
 };
@@ -35,9 +48,9 @@ struct NotedWorld : OutsideWorld {
 class Student : public testing::Test {
   protected:
     void open(const StringTable& texts = englishTable(), QSize size = {1280, 800}) {
-        dressApplication(texts, QStringLiteral(TARNEL_APPLICATION_FOLDER));
+        dressApplication(texts, QString::fromStdString(applicationFolder));
         window.reset(); // it shows the form to its end
-        form = std::make_unique<Form1>(texts, world, TARNEL_APPLICATION_FOLDER);
+        form = std::make_unique<Form1>(texts, world, applicationFolder);
         window = std::make_unique<MainWindow>(*form);
         window->resize(size);
         window->show();
@@ -91,6 +104,7 @@ class Student : public testing::Test {
         settle();
     }
 
+    std::string applicationFolder = TARNEL_APPLICATION_FOLDER;
     NotedWorld world;
     std::unique_ptr<Form1> form;
     std::unique_ptr<MainWindow> window;
