@@ -3,7 +3,6 @@
 #include "authoring/course_check.h"
 #include "authoring/session_scale.h"
 #include "exercises/study_file.h"
-#include "flights/plan_error.h"
 #include "persistence/session_file.h"
 
 namespace tarnel {
@@ -23,11 +22,7 @@ FlownSituation flySituation(const CourseSource& source, const Situation& situati
     plan.chartLine = situation.line;
     ScriptedFlight flight(std::move(plan), englishTable(), applicationFolder);
     Pilot pilot(flight, source.chart);
-    try {
-        source.questions->solve(pilot, situation);
-    } catch (const LostPilot& lost) {
-        throw PlanError(source.file, situation.line, lost.what());
-    }
+    source.questions->solve(pilot, situation);
     return {situation, source.chart, pilot.rows(), pilot.said(),
             flight.form().UserControl11.sessionBytes()};
 }
@@ -45,26 +40,33 @@ std::string sessionIn(const FlownSituation& flown, Language language) {
 
 BuiltCourse buildCourse(const CourseSource& source, const std::string& applicationFolder) {
     BuiltCourse built;
+    CourseCheck check(source, built.findings);
+    const auto type = static_cast<int>(source.kind->type);
     std::string study[std::size(bothLanguages)];
     for (std::size_t i = 0; i < source.situations.size(); ++i) {
-        const FlownSituation flown = flySituation(source, source.situations[i], applicationFolder);
-        checkSituation(source, flown, built.findings);
-        for (const Language language : bothLanguages) {
-            const std::string session = filePrefix(language) + sessionStem(source, i) + ".ts";
-            StudyRecord record = source.questions->ask(flown, language);
-            record[StudyColumn::sessionName] = session;
-            study[static_cast<std::size_t>(language)] +=
-                writeStudyRecord(record, static_cast<int>(source.kind->type));
-            built.files.push_back({"sessions/" + session, sessionIn(flown, language)});
+        const Situation& situation = source.situations[i];
+        try {
+            const FlownSituation flown = flySituation(source, situation, applicationFolder);
+            const BuiltQuestion question = questionOf(source, flown);
+            check.add(question);
+            for (const Language language : bothLanguages) {
+                const std::string session = filePrefix(language) + sessionStem(source, i) + ".ts";
+                StudyRecord record = question.in(language);
+                record[StudyColumn::sessionName] = session;
+                study[static_cast<std::size_t>(language)] += writeStudyRecord(record, type);
+                built.files.push_back({"sessions/" + session, sessionIn(flown, language)});
+            }
+        } catch (const LostPilot& lost) {
+            built.findings.push_back(
+                {situation.line, "the solution needs " + std::string(lost.what())});
         }
     }
     for (const Language language : bothLanguages) {
         const bool german = language == Language::german;
-        const std::string name =
-            studyFileNames(*exerciseOf(static_cast<int>(source.kind->type)), german).front();
+        const std::string name = studyFileNames(*exerciseOf(type), german).front();
         built.files.push_back({"study/" + name, study[static_cast<std::size_t>(language)]});
     }
-    checkCourse(source, built.findings);
+    check.finish();
     return built;
 }
 

@@ -1,14 +1,31 @@
 #pragma once
 
-#include "authoring/course_source.h"
+#include "authoring/built_question.h"
 #include "authoring/findings.h"
 
 namespace tarnel {
 
-/// Proves what holds for the questions of every exercise: answers, readings, comments.
-void checkSituation(const CourseSource& source, const FlownSituation& flown, Findings& findings);
+/// `CourseCheck`: proves the questions of a course, one after the other, and in the end their
+/// number.
+class CourseCheck {
+  public:
+    CourseCheck(const CourseSource& source, Findings& findings) : course(source), found(findings) {}
 
-/// Proves the number of questions.
-void checkCourse(const CourseSource& source, Findings& findings);
+    /// Proves what holds for the questions of every exercise, and what holds for this one: answers,
+    /// readings, the solution, comments.
+    void add(const BuiltQuestion& question);
+    void finish();
+
+  private:
+    struct Asked {
+        int line = 0;
+        StudyRecord record;
+        Sample picture;
+    };
+
+    const CourseSource& course;
+    Findings& found;
+    std::vector<Asked> asked;
+};
 
 } // namespace tarnel

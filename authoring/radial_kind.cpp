@@ -62,15 +62,6 @@ StudyRecord RadialKind::askPlace(const FlownSituation& flown, Language language)
 }
 
 void RadialKind::check(const FlownSituation& flown, Findings& findings) const {
-    const double first = std::abs(needle(flown, flown.asked()));
-    if (first > fullScale - 1)
-        findings.push_back({flown.situation.line, "the needle stands at its end, so the radial "
-                                                  "can't be read; choose a nearer course"});
-    const double radial = flown.from(flown.situation.station, flown.asked()).radial;
-    const double abeam = std::abs(turnBetween(flown.situation.course, radial));
-    if (std::abs(abeam - 90) < 10)
-        findings.push_back({flown.situation.line, "the course is abeam of the station, so TO and "
-                                                  "FROM can't be told"});
     const double move = std::abs(needleMove(flown));
     if (move > steadyNeedle && move < seenNeedle)
         findings.push_back({flown.situation.line, "the needle moves too little to be seen and too "
@@ -82,7 +73,6 @@ class HsiKind : public RadialKind {
     [[nodiscard]] FlightPlan start(const Situation& situation,
                                    const AuthoredChart& chart) const override;
     [[nodiscard]] StudyRecord ask(const FlownSituation& flown, Language language) const override;
-    void check(const FlownSituation& flown, Findings& findings) const override;
 
   private:
     [[nodiscard]] static std::string barMoves(const FlownSituation& flown,
@@ -124,12 +114,6 @@ StudyRecord HsiKind::ask(const FlownSituation& flown, Language language) const {
     record[qc] = worded(Phrase::askHsiBar).in(language);
     record[ans3] = barMoves(flown, tableOf(language));
     return record;
-}
-
-void HsiKind::check(const FlownSituation& flown, Findings& findings) const {
-    RadialKind::check(flown, findings);
-    if (askPlace(flown, Language::german)[ans1] == "355")
-        findings.push_back({flown.situation.line, "radial 355 can't be picked in this exercise"});
 }
 
 class VorKind : public RadialKind {
