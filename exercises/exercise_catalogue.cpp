@@ -43,6 +43,9 @@ Made dmeArc(const StringTable& texts, QuestionDraw& draw) {
 
 using enum PanelId;
 
+/// With fewer the marks that the order of the questions leaves do not keep the draw to its offers.
+constexpr int questionsForOffers = 8;
+
 // Orientation counts as HSI position does.
 constexpr ExerciseKind catalogue[] = {
     {.type = ExerciseType::hsiPosition,
@@ -70,6 +73,7 @@ constexpr ExerciseKind catalogue[] = {
      .format = StudyFormat::twoPrompts,
      .title = Text::titleHsiHolding,
      .statisticStem = "hsihld",
+     .leastQuestions = questionsForOffers,
      .fliesHolding = true,
      .solvedByRadial = true,
      .make = holding<5>},
@@ -79,6 +83,7 @@ constexpr ExerciseKind catalogue[] = {
      .format = StudyFormat::twoPrompts,
      .title = Text::titleDgHolding,
      .statisticStem = "dghld",
+     .leastQuestions = questionsForOffers,
      .fliesHolding = true,
      .make = holding<6>},
     {.type = ExerciseType::adfPosition,
@@ -95,6 +100,7 @@ constexpr ExerciseKind catalogue[] = {
      .format = StudyFormat::intercept,
      .title = Text::titleQdm,
      .statisticStem = "qdm",
+     .leastQuestions = questionsForOffers,
      .make = intercept<Bearing::qdm>},
     {.type = ExerciseType::qdr,
      .panel = frame20,
@@ -102,6 +108,7 @@ constexpr ExerciseKind catalogue[] = {
      .format = StudyFormat::intercept,
      .title = Text::titleQdr,
      .statisticStem = "qdr",
+     .leastQuestions = questionsForOffers,
      .make = intercept<Bearing::qdr>},
     {.type = ExerciseType::wind,
      .panel = frame29,
@@ -118,6 +125,7 @@ constexpr ExerciseKind catalogue[] = {
      .format = StudyFormat::twoPrompts,
      .title = Text::titleDmeArc,
      .statisticStem = "dmearc",
+     .leastQuestions = questionsForOffers,
      .solvedByRadial = true,
      .make = dmeArc},
     {.type = ExerciseType::orientation,

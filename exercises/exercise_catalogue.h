@@ -49,6 +49,7 @@ struct ExerciseKind {
     bool studyFileForAll = false; ///< the German file serves where the other is missing
     Text title;
     std::string_view statisticStem;
+    int leastQuestions = 1;                          ///< as many as its draw of offers needs
     ShowResult whenSolved = ShowResult::replayArmed; ///< once all is right
     ShowResult onSolution = ShowResult::replayArmed; ///< when the solution is asked for
     bool startsAtRandom = false;

@@ -1,6 +1,6 @@
 #include "exercises/qa_form.h"
 
-#include "exercises/val_str.h"
+#include "exercises/study_remark.h"
 
 #include <algorithm>
 
@@ -60,22 +60,22 @@ FormControl* QAform::find(std::string_view name) {
     return nullptr;
 }
 
-std::string QAform::inApplicationFolder(std::string_view path) const {
-    std::string folder = c_MainAppPath;
-    if (!folder.ends_with('\\') && !folder.ends_with('/'))
-        folder += '\\';
-    return folder.append(path);
-}
-
 void QAform::New_c_QAtype() {
     if (const ExerciseKind* kind = exerciseOf(c_QAtype))
-        start(*kind);
+        start(*kind, shippedCourse(c_MainAppPath));
     else if (c_QAtype != static_cast<std::int16_t>(ExerciseType::closed))
         DisplayQuestion();
 }
 
-void QAform::start(const ExerciseKind& kind) {
+void QAform::open(const Course& from, ExerciseType type) {
+    c_QAtype.publish(static_cast<std::int16_t>(type));
+    if (const ExerciseKind* kind = exerciseOf(c_QAtype))
+        start(*kind, from);
+}
+
+void QAform::start(const ExerciseKind& kind, const Course& from) {
     endFlight();
+    course = from;
     exercise = kind.make(texts, draw);
     for (const auto& other : panels)
         other->frame.setVisible(false);
@@ -92,7 +92,7 @@ void QAform::start(const ExerciseKind& kind) {
 }
 
 void QAform::loadStudyFileOf(const ExerciseKind& kind) {
-    for (const std::string& name : studyFileNames(kind, texts.isGerman())) {
+    for (const std::string& name : course.studyFiles(kind, texts.isGerman())) {
         LoadStudyFile(name);
         if (study.end != StudyEnd::unreadable)
             return;
@@ -100,30 +100,11 @@ void QAform::loadStudyFileOf(const ExerciseKind& kind) {
 }
 
 void QAform::LoadStudyFile(const std::string& name) {
-    const auto bytes = readFile(inApplicationFolder("default\\study\\" + name));
+    const auto bytes = readFile(course.studyFolder + name);
     study = bytes ? readStudyFile(*bytes, c_QAtype) : StudyFile{{}, StudyEnd::unreadable, 0, 0};
     lastQuestion = static_cast<std::int16_t>(study.records.size()) - 1;
     questionIndex = lastQuestion;
-    remark = studyRemark(name);
-}
-
-std::string QAform::studyRemark(const std::string& name) const {
-    const auto about = [&](Text what) { return std::string(texts[what]) + name; };
-    const std::string place = " (" + std::string(texts[Text::studyQuestion]) + Str(study.record) +
-                              ", " + std::string(texts[Text::studyLine]) + Str(study.line) + ")";
-    switch (study.end) {
-    case StudyEnd::unreadable:
-        return about(Text::studyUnreadable);
-    case StudyEnd::insideRecord:
-        return about(Text::studyEndsInQuestion) + place;
-    case StudyEnd::lineTooLong:
-        return about(Text::studyLineTooLong) + place;
-    case StudyEnd::tooManyRecords:
-        return about(Text::studyTooLong) + place;
-    case StudyEnd::complete:
-        break;
-    }
-    return study.records.empty() ? about(Text::studyWithoutQuestions) : std::string();
+    remark = studyRemark(study, name, texts);
 }
 
 void QAform::DisplayQuestion() {
@@ -145,7 +126,7 @@ void QAform::DisplayQuestion() {
 void QAform::poseQuestion(const ExerciseKind& kind, ExercisePanel& shown) {
     stepQuestion(shown.randomBox.value() == 1);
     shown.setPlace({questionIndex + 1, lastQuestion + 1}, texts[Text::of]);
-    shown.statistic.setText(statisticLine(statistics.of(kind.statisticStem), texts));
+    shown.statistic.setText(statisticLine(statistics.of(course.statisticStem(kind)), texts));
     exercise->take(currentRecord());
     shown.ask(*exercise);
     requestSession();
@@ -162,8 +143,7 @@ void QAform::stepQuestion(bool atRandom) {
 }
 
 void QAform::requestSession() {
-    c_QASessionFileName.publish(
-        inApplicationFolder("default\\sessions\\" + currentRecord()[StudyColumn::sessionName]));
+    c_QASessionFileName.publish(course.sessionFolder + currentRecord()[StudyColumn::sessionName]);
 }
 
 void QAform::judge(ExercisePanel& panel, int row, int option) {
@@ -260,7 +240,7 @@ void QAform::countAnswer(const ExerciseKind& kind) {
     if (std::ranges::all_of(answerGiven, [](std::int16_t flag) { return flag == 0; }))
         return;
     const bool right = allRight();
-    statistics.count(kind.statisticStem, questionIndex, lastQuestion, right);
+    statistics.count(course.statisticStem(kind), questionIndex, lastQuestion, right);
     if (!right)
         --questionIndex;
 }
@@ -285,7 +265,7 @@ void QAform::cancel() {
 
 void QAform::LoadPowerTip() {
     if (showPowerTips)
-        showPowerTips(inApplicationFolder("pwr.rtf"));
+        showPowerTips(withSeparator(c_MainAppPath) + "pwr.rtf");
 }
 
 } // namespace tarnel

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/property.h"
+#include "exercises/course.h"
 #include "exercises/exercise_catalogue.h"
 #include "exercises/exercise_panel.h"
 #include "exercises/question_draw.h"
@@ -34,12 +35,14 @@ class QAform {
     Statistics statistics;
 
     PropertyBag properties;
-    /// An `ExerciseType`: setting it to 1 to 10 starts that exercise.
+    /// An `ExerciseType`: setting it to 1 to 10 starts that exercise of the shipped
+    /// course.
     Property<std::int16_t> c_QAtype{properties, "c_QAtype", 1, [this] { New_c_QAtype(); }};
     /// The session to be loaded next; whoever loads it clears the request.
     Property<std::string> c_QASessionFileName{properties, "c_QASessionFileName"};
-    /// The folder of the study files and sessions.
-    Property<std::string> c_MainAppPath{properties, "c_MainAppPath"};
+    /// The folder of the shipped course.
+    Property<std::string> c_MainAppPath{
+        properties, "c_MainAppPath", {}, [this] { course = shippedCourse(c_MainAppPath); }};
     /// A `ShowResult`, cleared by whoever carries it out.
     Property<std::int16_t> c_showResult{properties, "c_showResult"};
     /// Above 0 while the student flies the question: the panel's code. Negated when the flight has
@@ -52,6 +55,8 @@ class QAform {
     /// Above 0: the distance of track marks that the student's flight asks for, cleared when taken.
     Property<std::int16_t> c_TrackDelta{properties, "c_TrackDelta"};
 
+    /// Starts an exercise of that course.
+    void open(const Course& from, ExerciseType type);
     /// Shows the next question of the running exercise.
     void DisplayQuestion();
     /// Reads the study file of that name for the current type. What can't be read is told in the
@@ -74,16 +79,14 @@ class QAform {
 
   private:
     [[nodiscard]] const ExerciseKind* running() const;
-    [[nodiscard]] std::string inApplicationFolder(std::string_view path) const;
 
     void New_c_QAtype();
     void New_c_QAFly();
     void fold(bool small);
     void connect(ExercisePanel& panel);
 
-    void start(const ExerciseKind& kind);
+    void start(const ExerciseKind& kind, const Course& from);
     void loadStudyFileOf(const ExerciseKind& kind);
-    [[nodiscard]] std::string studyRemark(const std::string& name) const;
     void poseQuestion(const ExerciseKind& kind, ExercisePanel& shown);
     void stepQuestion(bool atRandom);
     void requestSession();
@@ -108,6 +111,7 @@ class QAform {
     std::array<std::unique_ptr<ExercisePanel>, panelCount> panels;
 
     std::unique_ptr<Exercise> exercise; ///< null before the first start
+    Course course;                      ///< of the exercise that was started last
     StudyFile study;
     std::string remark; ///< what is wrong with the study file
     std::int16_t lastQuestion = -1;

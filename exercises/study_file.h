@@ -32,6 +32,9 @@ enum class StudyFormat { threePrompts, twoPrompts, bearings, intercept, wind };
 /// As many questions as a study file may have.
 constexpr int maxStudyRecords = 301;
 
+/// As many bytes may it have.
+constexpr std::size_t largestStudyFile = std::size_t{1} << 20;
+
 /// As many characters may a line have, its tag included.
 constexpr std::size_t longestStudyLine = 4000;
 

@@ -18,7 +18,9 @@ ExerciseConduct::ExerciseConduct(QAform& exercises, const ExerciseStage& trainer
     stage.strip.backButton.onClick = [this] { endFlight(); };
     ExerciseMenu& menu = stage.strip.exerciseMenu;
     for (std::size_t i = 0; i < exerciseItems().size(); ++i)
-        menu.exercises[i]->onClick = [this, i] { start(exerciseItems()[i]); };
+        menu.exercises[i]->onClick = [this, i] {
+            start(exerciseItems()[i], shippedCourse(form.c_MainAppPath));
+        };
     menu.resetStatistics.onClick = [this] {
         if (stage.boxes.confirm(Text::resetStatistics, Text::resetStatisticsQuestion))
             form.statistics.reset();
@@ -45,7 +47,7 @@ void ExerciseConduct::switchFaces() {
     stage.coupling.switchFaces(!asksForPosition(form.c_QAtype));
 }
 
-void ExerciseConduct::start(const ExerciseItem& item) {
+void ExerciseConduct::start(const ExerciseItem& item, const Course& course) {
     stage.replay.stop();
     stage.flight.stop();
     stage.strip.stationPage.edit.set(0);
@@ -65,7 +67,7 @@ void ExerciseConduct::start(const ExerciseItem& item) {
     else if (item.size == ExerciseItem::Size::small)
         stage.panel.inst2Small.choose();
     form.c_smallFrame = false;
-    form.c_QAtype = static_cast<std::int16_t>(item.type);
+    form.open(course, item.type);
     switchFaces();
     hide();
     changed();

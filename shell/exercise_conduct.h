@@ -35,6 +35,9 @@ class ExerciseConduct {
   public:
     ExerciseConduct(QAform& exercises, const ExerciseStage& trainerStage);
 
+    /// Starts an exercise of that course.
+    void start(const ExerciseItem& item, const Course& course);
+
     [[nodiscard]] bool runs() const { return question != Question::none; }
     /// While a question stands open: its answer must not be found by other means.
     [[nodiscard]] bool questionOpen() const { return question == Question::open; }
@@ -58,7 +61,6 @@ class ExerciseConduct {
   private:
     enum class Question { none, open, flown, solved };
 
-    void start(const ExerciseItem& item);
     void leave();
     void endFlight();
     void rememberTrainer();

@@ -7,6 +7,7 @@ namespace tarnel {
 ExerciseMenu::ExerciseMenu(FormState& form)
     : introduction1(form, "intro1", Text::introduction1),
       introduction2(form, "intro2", Text::introduction2),
+      ownCourses(form, "mnuOwnCourses", Text::ownCourses),
       resetStatistics(form, "resstats", Text::resetStatistics) {
     for (const ExerciseItem& item : exerciseItems())
         exercises.push_back(std::make_unique<CommandButton>(form, item.name, item.text));
@@ -21,7 +22,7 @@ ExerciseMenu::ExerciseMenu(FormState& form)
 }
 
 std::vector<CommandButton*> ExerciseMenu::items() {
-    std::vector<CommandButton*> all{&introduction1, &introduction2, &resetStatistics};
+    std::vector<CommandButton*> all{&introduction1, &introduction2, &ownCourses, &resetStatistics};
     for (const auto& item : exercises)
         all.push_back(item.get());
     for (std::size_t i = 0; i < practiceCount; ++i) {

@@ -23,6 +23,7 @@ struct ExerciseMenu {
     Practice vorPractice;
     CommandButton introduction1;
     CommandButton introduction2;
+    CommandButton ownCourses; ///< the sub menu of the courses that the user has
     CommandButton resetStatistics;
 
     [[nodiscard]] std::vector<CommandButton*> items();

@@ -1,57 +1,11 @@
 #include "core/number_text.h"
 #include "shell/file_desk.h"
-#include "shell/text_format.h"
+#include "shell/problem_text.h"
 #include "strings/cause_text.h"
 
 namespace tarnel {
 
 namespace {
-
-Text expectedName(FileField field) {
-    switch (field) {
-    case FileField::key:
-        return Text::expectedKey;
-    case FileField::identifier:
-        return Text::expectedIdentifier;
-    case FileField::frequency:
-        return Text::expectedFrequency;
-    case FileField::stationState:
-        return Text::expectedStationState;
-    case FileField::ndbState:
-        return Text::expectedNdbState;
-    case FileField::mapCentre:
-        return Text::expectedNumber;
-    case FileField::mapScale:
-        return Text::expectedMapScale;
-    case FileField::latitude:
-        return Text::expectedLatitude;
-    case FileField::longitude:
-        return Text::expectedLongitude;
-    case FileField::heading:
-        return Text::expectedHeading;
-    case FileField::localizerCourse:
-        return Text::expectedLocalizerCourse;
-    case FileField::wholeNumber:
-        return Text::expectedWholeNumber;
-    case FileField::degrees:
-        return Text::expectedDegrees;
-    case FileField::airspeed:
-        return Text::expectedAirspeed;
-    case FileField::windSpeed:
-        return Text::expectedWindSpeed;
-    case FileField::commentIndex:
-        return Text::expectedCommentIndex;
-    case FileField::sampleEnd:
-        return Text::expectedSampleEnd;
-    case FileField::comment:
-        return Text::expectedComment;
-    case FileField::noFurtherComment:
-        return Text::expectedNoFurtherComment;
-    case FileField::noFurtherSample:
-        break;
-    }
-    return Text::expectedNoFurtherSample;
-}
 
 /// How a box names the procedure that failed.
 const char* procedureOf(FileRequest request) {
@@ -75,16 +29,6 @@ std::string fileError(const StringTable& texts, FileRequest request, int number,
     return procedureOf(request) + std::string(texts[Text::errorNumber]) +
            numberText(std::int64_t{number}) + std::string(texts[Text::errorGenerated]) + source +
            "\n" + description;
-}
-
-std::string problemText(const StringTable& texts, const FileProblem& problem) {
-    if (problem.endOfFile && problem.line == 1)
-        return std::string(texts[Text::fileEmpty]);
-    const std::string line = numberText(std::int64_t{problem.line});
-    const std::string ends =
-        problem.endOfFile ? filledIn(texts[Text::fileEndsBefore], {line}) + "\n" : std::string();
-    const std::string expected(texts[expectedName(problem.expected)]);
-    return ends + filledIn(texts[Text::lineExpected], {line, expected});
 }
 
 } // namespace

@@ -8,8 +8,6 @@ namespace tarnel {
 
 namespace {
 
-constexpr std::size_t largestStudyFile = 1 << 20;
-
 std::optional<std::string> readStudy(const std::string& path) {
     try {
         return readFileBytes(path, largestStudyFile);

@@ -9,6 +9,7 @@
 #include "shell/box_desk.h"
 #include "shell/chart_display.h"
 #include "shell/comment_strip.h"
+#include "shell/course_desk.h"
 #include "shell/document_desk.h"
 #include "shell/exercise_conduct.h"
 #include "shell/file_desk.h"
@@ -88,6 +89,7 @@ class Form1 : public TrainerControls, public PanelControls {
     FlightDesk flightDesk;
     PracticeDesk practice{UserControl11, *this, flightDesk.keeper, texts};
     ExerciseConduct exercise{QAform1, exerciseStage()};
+    CourseDesk courses{boxes, exercise, exerciseMenu.ownCourses};
     DocumentDesk documents;
 
   private:

@@ -3,6 +3,7 @@
 #include "persistence/file_path.h"
 #include "persistence/save_file.h"
 #include "persistence/scratch_folder.h"
+#include "persistence/user_data.h"
 #include "shell/application_folder.h"
 #include "window/frame/flight_guard.h"
 #include "window/frame/main_window.h"
@@ -16,7 +17,6 @@
 #include <QApplication>
 #include <QMessageBox>
 #include <QScreen>
-#include <QStandardPaths>
 #include <QTextStream>
 #include <QTimer>
 
@@ -46,10 +46,6 @@ void openOnScreen(MainWindow& window) {
 void nameApplication() {
     QApplication::setApplicationName(QStringLiteral("tarnel"));
     QApplication::setDesktopFileName(QStringLiteral("tarnel"));
-}
-
-QString userDataFolder() {
-    return QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
 }
 
 /// Ends a second start. The exit status.
@@ -92,7 +88,8 @@ int runApplication(int argc, char** argv, const StringTable& texts) {
     installPanelAccessibility();
     QtOutsideWorld outside;
     Form1 form(texts, outside, folder);
-    const ScratchFolder scratch(userDataFolder().toStdString());
+    form.courses.setFolder(userCourses());
+    const ScratchFolder scratch(userDataFolder());
     if (!scratch.path().empty())
         form.UserControl11.c_ScratchPath = scratch.path();
     MainWindow window(form);
@@ -113,7 +110,8 @@ int runApplication(int argc, char** argv, const StringTable& texts) {
     window.startTimers();
     std::optional<FlightGuard> guard;
     QTimer::singleShot(0, &window, [&] {
-        guard.emplace(form.flightDesk.keeper, userDataFolder() + QStringLiteral("/flights"));
+        guard.emplace(form.flightDesk.keeper,
+                      QString::fromStdString(userDataFolder() + "/flights"));
         openIn(file);
     });
     return QApplication::exec();

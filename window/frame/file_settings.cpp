@@ -123,8 +123,12 @@ void FileSettings::makeChanges(std::chrono::milliseconds patience) {
     for (const Edit& edit : pending)
         edit(*this);
     editing = false;
-    if (applications != kept)
-        saveFileBytes(path, writeSettings(applications));
+    if (applications == kept)
+        return;
+    const std::string text = writeSettings(applications);
+    if (text.size() > largestSettings)
+        throw RunTimeError(Cause::fileTooLarge); // it could not be read again
+    saveFileBytes(path, text);
 }
 
 std::string userSettingsFile() {

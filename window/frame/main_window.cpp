@@ -77,6 +77,7 @@ void MainWindow::makeMenus() {
                 .history = form.UserControl11.history,
                 .display = form.display,
                 .flights = form.flightDesk,
+                .courses = form.courses,
                 .documents = form.documents,
                 .boxes = form.boxes,
                 .pressKey = [this](char letter) { form.pressKey(letter); },

@@ -1,6 +1,7 @@
 #include "window/frame/menu_tree.h"
 
 #include "shell/documents.h"
+#include "window/frame/course_menu.h"
 #include "window/frame/flight_signs.h"
 
 #include <QAction>
@@ -173,6 +174,9 @@ void MenuBuilder::buildExercises() {
                      items.adfPractice);
     followItems(*practice);
     exerciseItemsOf(*exercises, ExerciseItem::Group::alone);
+    QMenu* courses = menu(*exercises, "mnuOwnCourses", Text::ownCourses);
+    binding.bind(items.ownCourses, *courses->menuAction());
+    fillWithCourses(*courses, model.courses, model.boxes);
     exercises->addSeparator();
     bound(*exercises, items.resetStatistics);
     followItems(*exercises);

@@ -2,6 +2,7 @@
 
 #include "shell/box_desk.h"
 #include "shell/chart_display.h"
+#include "shell/course_desk.h"
 #include "shell/document_desk.h"
 #include "shell/flight_desk.h"
 #include "shell/trainer_controls.h"
@@ -20,6 +21,7 @@ struct MenuModel {
     const HandHistory& history;
     ChartDisplay& display;
     FlightDesk& flights;
+    CourseDesk& courses;
     DocumentDesk& documents;
     BoxDesk& boxes;
     std::function<void(char)> pressKey;
