@@ -5,6 +5,7 @@
 #include "flights/plan_error.h"
 #include "persistence/file_bytes.h"
 #include "persistence/save_file.h"
+#include "persistence/user_data.h"
 #include "shell/application_folder.h"
 #include "strings/cause_text.h"
 #include "tools/course/options.h"
@@ -28,7 +29,9 @@ constexpr auto usage =
     "\n"
     "  build         write the study files and sessions\n"
     "  check         only tell what is wrong\n"
-    "  --out FOLDER  where to; it gets the folders study, sessions and maps\n"
+    "  --out FOLDER  where to; it gets the folders study, sessions and maps. Without it the\n"
+    "                course is in the trainer's menu from then on (Exercises, Own courses), by\n"
+    "                the name of the folder in which SOURCE lies\n"
     "  --help        this text\n";
 
 std::string readSource(const std::string& file) {
@@ -39,6 +42,19 @@ std::string readSource(const std::string& file) {
                         "a course that can be read: " +
                             std::string(causeText(englishTable(), error.cause())));
     }
+}
+
+/// The folder of the course that is made of a source: without one that is given, among the user's
+/// own courses, by the name of the source's folder.
+std::string courseFolder(const CourseOptions& options, const std::string& source) {
+    if (!options.out.empty())
+        return options.out;
+    const std::filesystem::path folder = std::filesystem::weakly_canonical(source).parent_path();
+    const std::string name = folder.filename().string();
+    if (options.command == CourseCommand::build && (name.empty() || name.starts_with('.')))
+        throw UsageError("a course can't have the name of the folder " + folder.string() +
+                         "; give --out");
+    return userCourses() + "/" + name;
 }
 
 /// Tells what was found. False if any of it must not stand.
@@ -80,15 +96,16 @@ std::optional<std::vector<BuiltFile>> make(const std::string& file, const ChartS
 
 int run(const CourseOptions& options) {
     const std::string data = applicationFolder();
-    const ChartShelf charts({options.out + "/maps", data + "/default/maps", data});
     int status = done;
     for (const std::string& file : options.sources) {
         try {
+            const std::string out = courseFolder(options, file);
+            const ChartShelf charts({out + "/maps", data + "/default/maps", data});
             const auto files = make(file, charts, data);
             if (!files)
                 status = courseIsWrong;
             else if (options.command == CourseCommand::build)
-                write(*files, options.out);
+                write(*files, out);
         } catch (const PlanError& error) {
             std::cerr << error.what() << '\n';
             status = courseIsWrong;

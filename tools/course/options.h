@@ -18,7 +18,7 @@ enum class CourseCommand { help, build, check };
 struct CourseOptions {
     CourseCommand command = CourseCommand::help;
     std::vector<std::string> sources;
-    std::string out; ///< the folder of the course; empty for the user's own
+    std::string out; ///< the folder of the course; empty: one among the user's own
 };
 
 /// Throws UsageError.
