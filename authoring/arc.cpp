@@ -1,4 +1,5 @@
 #include "authoring/manoeuvres.h"
+#include "authoring/wording.h"
 
 #include <algorithm>
 #include <cmath>
@@ -7,7 +8,6 @@ namespace tarnel {
 
 namespace {
 
-constexpr double feetPerMile = 6076.12;
 constexpr double legOfArc = 10; ///< degrees of radial to one heading
 
 /// The flight along an arc.
@@ -23,7 +23,7 @@ class ArcFlight {
   private:
     [[nodiscard]] double hand() const { return arc.clockwise ? 1 : -1; }
     [[nodiscard]] FromStation place() const { return pilot.from(arc.station); }
-    /// NM that a DME reads more than the arc's.
+    /// NM that the DME reads more than the arc's.
     [[nodiscard]] double tooFar(const FromStation& at) const;
     /// At right angles to a radial, against the wind.
     [[nodiscard]] double tangent(double radial) const {
@@ -39,15 +39,25 @@ double ArcFlight::tooFar(const FromStation& at) const {
 }
 
 void ArcFlight::join() {
-    // On the radial the heading to be joined with does not change until the turn.
-    firstHeading = tangent(place().radial);
+    const double radial = wholeDegrees(place().radial);
+    const double still = circle(radial + 90 * hand());
+    firstHeading = tangent(radial);
+    const LocalText sign = same(arc.clockwise ? "+" : "-");
+    const LocalText heading = same(threeDigits(firstHeading));
+    pilot.say(worded(still == firstHeading ? Phrase::arcPlan : Phrase::arcPlanInWind,
+                     {same(threeDigits(radial)), sign, same(threeDigits(still)), heading}));
     const double side = tooFar(place());
-    if (std::abs(turnBetween(pilot.now().heading, firstHeading)) > 5)
-        pilot.flyUntil([&] {
-            const double after = tooFar(pilot.afterTurn(arc.station, firstHeading, Turn::shorter));
-            return std::signbit(after) != std::signbit(side);
-        });
+    pilot.flyUntil([&] {
+        const double after = tooFar(pilot.afterTurn(arc.station, firstHeading, Turn::shorter));
+        return std::signbit(after) != std::signbit(side);
+    });
+    const bool toTheRight = turnBetween(pilot.now().heading, firstHeading) > 0;
+    pilot.say(worded(Phrase::arcTurn,
+                     {tenths(pilot.dme(arc.station)),
+                      tenths(std::abs(pilot.dme(arc.station) - arc.distance)),
+                      worded(toTheRight ? Phrase::rightTurn : Phrase::leftTurn), heading}));
     pilot.turnTo(firstHeading);
+    pilot.say(worded(Phrase::arcKept, {tenths(arc.distance)}));
 }
 
 void ArcFlight::keep(const CourseLine& final) {
@@ -80,7 +90,14 @@ FlownArc fly(Pilot& pilot, const Arc& arc) {
     const CourseLine final{arc.station, arc.final};
     flight.keep(final);
     const double lead = pilot.from(arc.station).radial;
+    const double finalRadial = circle(arc.final + (arc.inbound ? 180 : 0));
+    const LocalText course = same(threeDigits(arc.final));
+    pilot.say(
+        worded(Phrase::arcLead, {same(threeDigits(lead)),
+                                 number(std::abs(turnBetween(wholeDegrees(lead), finalRadial))),
+                                 same(threeDigits(finalRadial)), course}));
     pilot.turnTo(pilot.headingOn(arc.final));
+    pilot.say(worded(Phrase::arcFinal, {course, same(threeDigits(pilot.headingOn(arc.final)))}));
     return {flight.firstHeading, lead};
 }
 

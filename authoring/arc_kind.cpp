@@ -1,5 +1,6 @@
 #include "authoring/manoeuvres.h"
 #include "authoring/question_kind.h"
+#include "authoring/table_values.h"
 #include "authoring/wording.h"
 
 #include <cmath>
@@ -44,12 +45,7 @@ void ArcKind::read(PlanTable& table, const AuthoredChart& chart, Situation& situ
     situation.at = {readDirection(table, "radial"), readDistance(table, "distance")};
     situation.arc = readDistance(table, "arc");
     situation.final = readDirection(table, "final");
-    table.need("sense");
-    const auto sense = table.text(
-        "sense",
-        [](const std::string& text) { return text == "clockwise" || text == "counterclockwise"; },
-        R"("clockwise" or "counterclockwise")");
-    situation.clockwise = sense == "clockwise";
+    situation.clockwise = readSense(table);
     // Outbound inside the arc, inbound outside it.
     const bool outbound = situation.at.distance < situation.arc;
     situation.heading = circle(situation.at.radial + (outbound ? 0 : 180));

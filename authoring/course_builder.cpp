@@ -27,12 +27,13 @@ FlownSituation flySituation(const CourseSource& source, const Situation& situati
             flight.form().UserControl11.sessionBytes()};
 }
 
-/// The flight with its comments in a language, at the scale that shows it best.
-std::string sessionIn(const FlownSituation& flown, Language language) {
-    SessionFile session = readSession(flown.session);
-    for (std::size_t i = 0; i < flown.said.size(); ++i)
-        session.comments.at(i) = flown.said[i].text.in(language);
-    session.mapScaleTwips = sessionScale(flown.rows);
+/// A flight with its comments in a language, at the scale that shows it best.
+std::string sessionIn(const std::string& flown, const std::vector<FlightRow>& rows,
+                      const std::vector<SaidComment>& said, Language language) {
+    SessionFile session = readSession(flown);
+    for (std::size_t i = 0; i < said.size(); ++i)
+        session.comments.at(i) = said[i].text.in(language);
+    session.mapScaleTwips = sessionScale(rows);
     return writeSession(session, std::nullopt);
 }
 
@@ -54,7 +55,8 @@ BuiltCourse buildCourse(const CourseSource& source, const std::string& applicati
                 StudyRecord record = question.in(language);
                 record[StudyColumn::sessionName] = session;
                 study[static_cast<std::size_t>(language)] += writeStudyRecord(record, type);
-                built.files.push_back({"sessions/" + session, sessionIn(flown, language)});
+                built.files.push_back({"sessions/" + session,
+                                       sessionIn(flown.session, flown.rows, flown.said, language)});
             }
         } catch (const LostPilot& lost) {
             built.findings.push_back(
@@ -67,6 +69,25 @@ BuiltCourse buildCourse(const CourseSource& source, const std::string& applicati
         built.files.push_back({"study/" + name, study[static_cast<std::size_t>(language)]});
     }
     check.finish();
+    return built;
+}
+
+BuiltCourse buildFlight(const Route& route, const std::string& applicationFolder) {
+    BuiltCourse built;
+    ScriptedFlight flight(route.start, englishTable(), applicationFolder);
+    Pilot pilot(flight, route.chart);
+    for (const RouteLeg& leg : route.legs) {
+        try {
+            flyLeg(pilot, leg);
+        } catch (const LostPilot& lost) {
+            built.findings.push_back({leg.line, "the flight needs " + std::string(lost.what())});
+            return built;
+        }
+    }
+    const std::string session = flight.form().UserControl11.sessionBytes();
+    for (const Language language : bothLanguages)
+        built.files.push_back({"sessions/" + filePrefix(language) + route.name + ".ts",
+                               sessionIn(session, pilot.rows(), pilot.said(), language)});
     return built;
 }
 

@@ -2,6 +2,7 @@
 
 #include "authoring/course_source.h"
 #include "authoring/findings.h"
+#include "authoring/route.h"
 
 #include <string>
 #include <vector>
@@ -18,6 +19,9 @@ struct BuiltCourse {
     std::vector<BuiltFile> files; ///< none if a finding must not stand
     Findings findings;            ///< in the order of their lines
 };
+
+/// Flies a written flight, and proves what is said in it.
+[[nodiscard]] BuiltCourse buildFlight(const Route& route, const std::string& applicationFolder);
 
 /// Flies every situation, asks its questions in both languages, and proves the answers.
 /// `applicationFolder` holds the trainer's data.

@@ -3,6 +3,7 @@
 #include "exercises/holding_answer.h"
 
 #include <cmath>
+#include <numbers>
 
 namespace tarnel {
 
@@ -10,7 +11,8 @@ namespace {
 
 using enum Phrase;
 
-constexpr double entryLeg = 60;           ///< seconds
+constexpr double entryLeg = 60; ///< seconds
+constexpr double afterTheLastWord = 8;
 constexpr double beforeTheFirstWord = 12; ///< seconds, so that nothing is told beside a question
 
 LocalText course(double degrees) {
@@ -41,14 +43,19 @@ class HoldingFlight {
     void arrive();
     void enter();
     void circuit(bool joins);
+    void end();
 
   private:
     [[nodiscard]] double outbound() const { return circle(holding.inbound + 180); }
     [[nodiscard]] double correctedOutbound() const;
     /// Seconds from where a turn to the inbound course, begun now, would end.
     [[nodiscard]] double inboundAfterTurn() const;
+    void tellArrival(double heading);
+    void tellAbeam();
+    void tellInbound();
+    void tellFix();
     void flyEntryLeg(double heading, Turn turn, Turn back);
-    void flyOutbound(bool joins);
+    void flyOutbound(bool enters);
     void flyInbound();
 
     Pilot& pilot;
@@ -67,58 +74,85 @@ double HoldingFlight::correctedOutbound() const {
 double HoldingFlight::inboundAfterTurn() const {
     const FromStation end =
         pilot.afterTurn(holding.fix, pilot.headingOn(holding.inbound), holding.turns);
-    return -end.alongTrack(holding.inbound) / pilot.triangle(holding.inbound).groundSpeed * 3600;
+    // What is still off the course then is flown off at a slant of about 30 degrees.
+    const double slant = std::abs(end.crossTrack(holding.inbound)) * std::numbers::sqrt3;
+    return (-end.alongTrack(holding.inbound) - slant) /
+           pilot.triangle(holding.inbound).groundSpeed * 3600;
 }
 
 void HoldingFlight::arrive() {
     const double heading = pilot.now().heading;
     answer = answerOf(holding, heading);
+    const double begun = pilot.seconds();
+    const double words = pilot.seconds() + beforeTheFirstWord;
+    const auto over = [&] { return pilot.isOver(holding.fix); };
+    pilot.flyUntil([&] { return over() || pilot.seconds() >= words; });
+    if (!over())
+        tellArrival(heading);
+    pilot.flyUntil(over);
+    inboundTime = pilot.seconds() - begun;
+}
+
+void HoldingFlight::tellArrival(double heading) {
     const double angle = turnBetween(holding.inbound, heading);
-    pilot.wait(beforeTheFirstWord);
-    pilot.say(worded(holdSector, {course(heading), course(holding.inbound), number(std::abs(angle)),
-                                  side(angle), worded(entryPhrase(answer.entry))}));
-    pilot.flyOver(holding.fix);
+    if (!holding.established)
+        return pilot.say(
+            worded(holdSector, {course(heading), course(holding.inbound), number(std::abs(angle)),
+                                side(angle), worded(entryPhrase(answer.entry))}));
+    const WindTriangle wind = pilot.triangle(holding.inbound);
+    pilot.say(worded(
+        holdTriangle,
+        {same(threeDigits(pilot.now().windDirection) + "/" + std::to_string(pilot.now().windSpeed)),
+         course(holding.inbound), tenths(std::abs(wind.head)), tenths(std::abs(wind.fromRight)),
+         tenths(std::abs(wind.correction)), course(heading)}));
 }
 
 void HoldingFlight::enter() {
     if (answer.entry == "direct")
         return;
     const Turn turn = answer.firstTurn == "left" ? Turn::left : Turn::right;
-    pilot.say(worded(holdEntry, {fix, worded(entryPhrase(answer.entry)), turnTowards(turn),
-                                 course(answer.firstHeading)}));
+    const LocalText entry = worded(entryPhrase(answer.entry));
+    const LocalText heading = course(answer.firstHeading);
+    pilot.say(answer.firstTurn == "maintain"
+                  ? worded(holdEntryStraight, {fix, entry, heading})
+                  : worded(holdEntry, {fix, entry, turnTowards(turn), heading}));
     flyEntryLeg(answer.firstHeading, turn,
                 answer.entry == "offset" ? holding.turns : opposite(holding.turns));
 }
 
 void HoldingFlight::flyEntryLeg(double heading, Turn turn, Turn back) {
-    if (turnBetween(pilot.now().heading, heading) != 0)
-        pilot.turnTo(heading, turn);
+    pilot.turnTo(heading, turn);
     pilot.restartStopwatch();
+    const double begun = pilot.seconds();
     pilot.say(worded(holdOnEntryLeg, {course(heading)}));
-    pilot.wait(entryLeg);
-    pilot.say(worded(holdEntryReturn, {turnTowards(back), course(holding.inbound), fix}));
-    pilot.establish(inbound, back, 45);
+    pilot.turnTo(pilot.headingOn(heading)); // only now against the wind, as the answer is without
+    pilot.flyUntil([&] {
+        return pilot.seconds() - begun >= entryLeg && pilot.cutBefore(inbound, back).has_value();
+    });
+    pilot.say(worded(holdEntryReturn, {minutesAndSeconds(pilot.seconds() - begun),
+                                       turnTowards(back), course(holding.inbound), fix}));
+    pilot.establish(inbound, back);
     flyInbound();
 }
 
 void HoldingFlight::circuit(bool joins) {
-    if (joins && answer.entry == "direct")
+    const bool enters = joins && answer.entry == "direct" && !holding.established;
+    if (enters)
         pilot.say(worded(holdEntry,
                          {fix, worded(direct), turnTowards(holding.turns), course(outbound())}));
     else
-        pilot.say(worded(holdFix, {fix, minutesAndSeconds(inboundTime), turnTowards(holding.turns),
-                                   course(correctedOutbound())}));
-    flyOutbound(joins && answer.entry == "direct");
-    pilot.establish(inbound, holding.turns, std::abs(pilot.offCourse(inbound)) > 0.9 ? 30 : 45);
+        tellFix();
+    flyOutbound(enters);
+    pilot.establish(inbound, holding.turns);
     flyInbound();
 }
 
-void HoldingFlight::flyOutbound(bool joins) {
-    pilot.turnTo(joins ? outbound() : correctedOutbound(), holding.turns);
+void HoldingFlight::flyOutbound(bool enters) {
+    pilot.turnTo(enters ? outbound() : correctedOutbound(), holding.turns);
     pilot.flyUntil([&] { return pilot.from(holding.fix).alongTrack(holding.inbound) <= 0; });
     pilot.restartStopwatch();
     const double begun = pilot.seconds();
-    pilot.say(worded(holdAbeam, {fix, course(correctedOutbound())}));
+    tellAbeam();
     pilot.turnTo(correctedOutbound());
     const bool byTheClock = holding.firstOutbound && outboundLegs == 0;
     pilot.flyUntil([&] {
@@ -133,10 +167,47 @@ void HoldingFlight::flyOutbound(bool joins) {
 void HoldingFlight::flyInbound() {
     const double begun = pilot.seconds();
     pilot.restartStopwatch();
-    pilot.say(
-        worded(holdInbound, {course(holding.inbound), course(pilot.headingOn(holding.inbound))}));
+    tellInbound();
     pilot.track(inbound, [&] { return pilot.from(holding.fix).alongTrack(holding.inbound) >= 0; });
     inboundTime = pilot.seconds() - begun;
+}
+
+/// Where the time outbound begins, and the heading against the wind.
+void HoldingFlight::tellAbeam() {
+    const double into = turnBetween(outbound(), correctedOutbound());
+    if (into == 0)
+        pilot.say(worded(holdAbeam, {fix, course(outbound())}));
+    else
+        pilot.say(worded(holdAbeamInWind, {fix, course(outbound()), same(into < 0 ? "-" : "+"),
+                                           number(std::abs(into)), course(correctedOutbound())}));
+}
+
+void HoldingFlight::tellInbound() {
+    const double heading = pilot.headingOn(holding.inbound);
+    const double into = turnBetween(holding.inbound, heading);
+    if (into == 0)
+        pilot.say(worded(holdInbound, {course(holding.inbound)}));
+    else
+        pilot.say(worded(holdInboundInWind, {course(holding.inbound), course(heading),
+                                             number(std::abs(into)), side(into)}));
+}
+
+/// The fix, how long the inbound leg took, and what follows from that.
+void HoldingFlight::tellFix() {
+    constexpr double rightEnough = 3; ///< seconds
+    const double late = inboundTime - holding.minutes * 60;
+    const LocalText time = minutesAndSeconds(inboundTime);
+    const LocalText heading = course(correctedOutbound());
+    if (!holding.firstOutbound || outboundLegs != 1 || std::abs(late) <= rightEnough)
+        pilot.say(worded(holdFix, {fix, time, turnTowards(holding.turns), heading}));
+    else
+        pilot.say(worded(late > 0 ? holdFixLate : holdFixEarly,
+                         {fix, time, number(std::abs(late)), turnTowards(holding.turns), heading}));
+}
+
+void HoldingFlight::end() {
+    pilot.say(worded(holdDone, {fix, minutesAndSeconds(inboundTime)}));
+    pilot.wait(afterTheLastWord);
 }
 
 } // namespace
@@ -161,6 +232,7 @@ void fly(Pilot& pilot, const Holding& holding) {
     flight.enter();
     for (int pattern = 0; pattern < holding.patterns; ++pattern)
         flight.circuit(pattern == 0);
+    flight.end();
 }
 
 } // namespace tarnel

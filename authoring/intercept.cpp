@@ -5,9 +5,18 @@
 namespace tarnel {
 
 void fly(Pilot& pilot, const Intercept& intercept) {
-    const double side = pilot.offCourse(intercept.line);
-    pilot.turnTo(intercept.line.course - std::copysign(intercept.angle, side));
-    pilot.establishFrom(intercept.line, [](double) {});
+    const CourseLine& line = intercept.line;
+    const double side = pilot.offCourse(line);
+    const FromStation place = pilot.from(line.station);
+    const double heading = intercept.beyond
+                               ? place.radial + 180 - std::copysign(*intercept.beyond, side)
+                               : line.course - std::copysign(intercept.angle, side);
+    pilot.turnTo(circle(heading));
+    const bool inbound = place.alongTrack(line.course) < 0;
+    pilot.establishFrom(line, [&](double) {
+        if (inbound && pilot.from(line.station).alongTrack(line.course) > 0)
+            throw LostPilot("an intercept that meets the course before the station");
+    });
 }
 
 } // namespace tarnel

@@ -7,12 +7,14 @@
 
 namespace tarnel {
 
-/// Onto a course line by a cut of `angle` degrees from the side where the aircraft is.
+/// Onto a course line from the side where the aircraft is: by a cut of `angle` degrees, or on a
+/// heading that lies so many degrees `beyond` the actual QDM.
 struct Intercept {
     CourseLine line;
     double angle = 30;
+    std::optional<double> beyond = {};
 };
-/// Flies to the turn's end, not along the line.
+/// Flies to the turn's end, not along the line. Throws LostPilot if the station comes first.
 void fly(Pilot& pilot, const Intercept& intercept);
 
 struct Holding {
@@ -21,6 +23,7 @@ struct Holding {
     Turn turns = Turn::right;
     double minutes = 1; ///< of the inbound leg
     int patterns = 2;
+    bool established = false; ///< on the inbound course already
     /// Of the first outbound leg by the stopwatch, seconds; without it, and later, as long as makes
     /// the inbound leg last its minutes.
     std::optional<double> firstOutbound = {};
@@ -35,8 +38,7 @@ struct HoldingAnswer {
 [[nodiscard]] HoldingAnswer answerOf(const Holding& holding, double heading);
 
 /// Flies the present heading to the fix, enters, and flies the patterns; the last one ends over the
-/// fix. Tells each step, and uses the stopwatch. On the inbound course there is no entry: the first
-/// pattern begins over the fix.
+/// fix. Tells each step, and uses the stopwatch.
 void fly(Pilot& pilot, const Holding& holding);
 
 struct Arc {

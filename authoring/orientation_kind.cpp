@@ -1,4 +1,5 @@
 #include "authoring/question_kind.h"
+#include "authoring/table_values.h"
 #include "authoring/wording.h"
 
 #include <algorithm>
@@ -29,11 +30,7 @@ class OrientationKind : public QuestionKind {
         situation.other = readStation(table, "other", chart, isVorOrNdb);
         situation.heading = readDirection(table, "heading");
         table.need("third");
-        const auto third = table.text(
-            "third",
-            [](const std::string& text) { return text == "heading" || text == "relative"; },
-            R"("heading" or "relative")");
-        situation.asksHeading = third == "heading";
+        situation.asksHeading = readWord(table, "third", {"heading", "relative"}) == "heading";
     }
     [[nodiscard]] FlightPlan start(const Situation& situation,
                                    const AuthoredChart& chart) const override {

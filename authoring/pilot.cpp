@@ -2,6 +2,7 @@
 
 #include "core/number_text.h"
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 
@@ -12,6 +13,8 @@ namespace {
 constexpr double degree = std::numbers::pi / 180;
 constexpr double secondsPerHour = 3600;
 constexpr double longestFlight = 7000; ///< seconds; well below what a recording holds
+/// As much is flown off on the course, without a cut, NM.
+constexpr double nearTheLine = 0.15;
 /// Farther off a course line than this the needle shows it, NM.
 constexpr double onTheLine = 0.04;
 
@@ -72,6 +75,10 @@ FromStation Pilot::afterTurn(Slot station, double heading, Turn turn) const {
     return {circle(std::atan2(east, north) / degree), std::hypot(east, north)};
 }
 
+double Pilot::dme(Slot station) const {
+    return std::hypot(from(station).distance, altitude() / feetPerMile);
+}
+
 void Pilot::say(const LocalText& text) {
     flight.apply({.comment = text.german});
     comments.push_back({flownRows.size() - 1, text});
@@ -83,6 +90,7 @@ void Pilot::restartStopwatch() {
     flight.apply({.stopwatch = StopwatchPress::reset});
     flight.apply({.stopwatch = StopwatchPress::startOrStop});
     stopwatchRuns = true;
+    stopwatchSince = seconds();
 }
 
 void Pilot::step() {
@@ -150,32 +158,50 @@ void Pilot::track(const CourseLine& line, const std::function<bool()>& reached) 
     });
 }
 
-bool Pilot::rollsOutOn(const CourseLine& line, double startedOn) const {
-    const double miss =
-        afterTurn(line.station, headingOn(line.course), Turn::shorter).crossTrack(line.course);
-    return std::signbit(miss) != std::signbit(startedOn) || std::abs(miss) < 0.005;
+double Pilot::missOf(const CourseLine& line, Turn turn) const {
+    return afterTurn(line.station, headingOn(line.course), turn).crossTrack(line.course);
+}
+
+std::optional<double> Pilot::cutBefore(const CourseLine& line, Turn turn) const {
+    constexpr double wanted = 1.5; ///< NM to be flown on the course, and for the turn onto it
+    const double miss = missOf(line, turn);
+    for (const double cut : {30.0, 45.0, 60.0}) {
+        const double heading = circle(line.course - std::copysign(cut, miss));
+        const FromStation end = afterTurn(line.station, heading, turn);
+        const double needed = std::abs(end.crossTrack(line.course)) / std::tan(cut * degree);
+        if (end.alongTrack(line.course) + needed < -wanted)
+            return cut;
+    }
+    return std::nullopt;
 }
 
 void Pilot::establishFrom(const CourseLine& line, const std::function<void(double lead)>& leads) {
-    const double side = offCourse(line);
-    flyUntil([&] { return rollsOutOn(line, side); });
+    const double first = missOf(line, Turn::shorter);
+    flyUntil([&] {
+        const double miss = missOf(line, Turn::shorter);
+        return std::signbit(miss) != std::signbit(first) || std::abs(miss) < 0.005;
+    });
     leads(std::abs(std::remainder(from(line.station).radial - line.course, 180)));
     turnTo(headingOn(line.course));
 }
 
-void Pilot::establish(const CourseLine& line, Turn turn, double cut) {
-    const double onCourse = headingOn(line.course);
-    const double miss = afterTurn(line.station, onCourse, turn).crossTrack(line.course);
-    if (std::abs(miss) > onTheLine) {
-        turnTo(line.course - std::copysign(cut, miss), turn);
-        establishFrom(line, [](double) {});
-    } else {
-        turnTo(onCourse, turn);
+void Pilot::establish(const CourseLine& line, Turn turn) {
+    for (int attempt = 0; attempt < 4; ++attempt, turn = Turn::shorter) {
+        const double miss = missOf(line, turn);
+        if (std::abs(miss) < nearTheLine)
+            break;
+        turnTo(line.course - std::copysign(cutBefore(line, turn).value_or(60), miss), turn);
+        if (std::signbit(missOf(line, Turn::shorter)) == std::signbit(miss)) {
+            establishFrom(line, [](double) {});
+            return;
+        }
+        // The turn itself has led across: from the other side, then.
     }
+    turnTo(headingOn(line.course), turn);
 }
 
-void Pilot::flyOver(Slot station) {
-    flyUntil([&] { return std::cos((from(station).radial + 180 - now().track) * degree) <= 0; });
+bool Pilot::isOver(Slot station) const {
+    return std::cos((from(station).radial + 180 - now().track) * degree) <= 0;
 }
 
 } // namespace tarnel

@@ -9,6 +9,7 @@
 
 #include <cstddef>
 #include <functional>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -34,6 +35,8 @@ struct SaidComment {
     LocalText text;
 };
 
+constexpr double feetPerMile = 6076.12;
+
 /// A manoeuvre that does not come to its end.
 class LostPilot : public std::runtime_error {
   public:
@@ -52,7 +55,18 @@ class Pilot {
     [[nodiscard]] double seconds() const { return now().seconds; }
     [[nodiscard]] double altitude() const; ///< feet
     [[nodiscard]] FromStation from(Slot station) const;
+    [[nodiscard]] std::optional<Slot> slotOf(const std::string& name) const {
+        return chart.slotOf(name);
+    }
+    /// Slant range in NM.
+    [[nodiscard]] double dme(Slot station) const;
+    /// Seconds.
+    [[nodiscard]] double stopwatch() const {
+        return stopwatchRuns ? seconds() - stopwatchSince : 0;
+    }
     [[nodiscard]] const std::string& name(Slot station) const { return chart.identifier(station); }
+    /// Whether the station lies abeam or behind.
+    [[nodiscard]] bool isOver(Slot station) const;
     /// NM to the right of a course line.
     [[nodiscard]] double offCourse(const CourseLine& line) const;
     /// On a course in the present wind. Throws LostPilot if the wind is too strong for it.
@@ -62,6 +76,10 @@ class Pilot {
     /// Where the aircraft is once it has turned to `heading` from now on, at three degrees a
     /// second.
     [[nodiscard]] FromStation afterTurn(Slot station, double heading, Turn turn) const;
+
+    /// The smallest usual cut by which a turn begun now meets a course line well before its
+    /// station; nothing if none does.
+    [[nodiscard]] std::optional<double> cutBefore(const CourseLine& line, Turn turn) const;
 
     void set(const FlightSettings& settings) { flight.apply(settings); }
     /// Comments from now on, until the next comment.
@@ -78,16 +96,16 @@ class Pilot {
     /// Flies on until the turn onto a course line has to begin, calls `leads` with the degrees that
     /// the bearing still has to change, and turns.
     void establishFrom(const CourseLine& line, const std::function<void(double lead)>& leads);
-    /// Turns onto a course line: at once if that leads onto it, else by a cut of so many degrees.
-    void establish(const CourseLine& line, Turn turn, double cut);
-    /// Present heading until the station lies abeam or behind.
-    void flyOver(Slot station);
+    /// Turns onto a course line towards its station: at once if that leads onto it, else by the
+    /// smallest usual cut that meets it well before the station.
+    void establish(const CourseLine& line, Turn turn);
 
     [[nodiscard]] const std::vector<FlightRow>& rows() const { return flownRows; }
     [[nodiscard]] const std::vector<SaidComment>& said() const { return comments; }
 
   private:
-    [[nodiscard]] bool rollsOutOn(const CourseLine& line, double startedOn) const;
+    /// NM right of the line where a turn onto its course, begun now, would end.
+    [[nodiscard]] double missOf(const CourseLine& line, Turn turn) const;
     void setHeading(double heading);
 
     ScriptedFlight& flight;
@@ -95,6 +113,7 @@ class Pilot {
     std::vector<FlightRow> flownRows;
     std::vector<SaidComment> comments;
     bool stopwatchRuns = false;
+    double stopwatchSince = 0; ///< seconds of the flight
 };
 
 } // namespace tarnel

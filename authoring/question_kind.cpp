@@ -1,6 +1,6 @@
 #include "authoring/question_kind.h"
 
-#include "flights/plan_error.h"
+#include "authoring/table_values.h"
 
 namespace tarnel {
 
@@ -74,10 +74,7 @@ double readDistance(PlanTable& table, std::string_view key) {
 
 Turn readTurns(PlanTable& table) {
     table.need("turns");
-    const auto turns = table.text(
-        "turns", [](const std::string& text) { return text == "left" || text == "right"; },
-        R"("left" or "right")");
-    return turns == "left" ? Turn::left : Turn::right;
+    return readWord(table, "turns", {"left", "right"}) == "left" ? Turn::left : Turn::right;
 }
 
 FlightPlan planFrom(const GeoPosition& place, const Situation& situation,

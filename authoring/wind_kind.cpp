@@ -21,6 +21,7 @@ Holding holdingOf(const Situation& situation, double outbound) {
     return {.fix = situation.station,
             .inbound = situation.inbound,
             .turns = situation.turns,
+            .established = true,
             .firstOutbound = outbound};
 }
 

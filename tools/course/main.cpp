@@ -1,5 +1,4 @@
-#include "authoring/chart_source.h"
-#include "authoring/course_builder.h"
+#include "authoring/source_file.h"
 #include "core/run_time_error.h"
 #include "flights/plan_bounds.h"
 #include "flights/plan_error.h"
@@ -13,7 +12,6 @@
 #include <algorithm>
 #include <filesystem>
 #include <iostream>
-#include <optional>
 
 namespace {
 
@@ -58,11 +56,11 @@ std::string courseFolder(const CourseOptions& options, const std::string& source
 }
 
 /// Tells what was found. False if any of it must not stand.
-bool tell(const CourseSource& source, const Findings& findings) {
+bool tell(const std::string& source, const Findings& findings) {
     bool good = true;
     for (const Finding& finding : findings) {
         good = good && finding.mayStand;
-        std::cerr << source.file;
+        std::cerr << source;
         if (finding.line > 0)
             std::cerr << ':' << finding.line;
         std::cerr << ": " << (finding.mayStand ? "note: " : "") << finding.text << '\n';
@@ -81,19 +79,6 @@ void write(const std::vector<BuiltFile>& files, const std::filesystem::path& fol
     }
 }
 
-/// Makes what a source is about. Nothing if it must not stand.
-std::optional<std::vector<BuiltFile>> make(const std::string& file, const ChartShelf& charts,
-                                           const std::string& data) {
-    const std::string text = readSource(file);
-    if (isChartSource(text, file))
-        return buildCharts(text, file);
-    const CourseSource source = readCourse(text, file, charts);
-    BuiltCourse course = buildCourse(source, data);
-    if (!tell(source, course.findings))
-        return std::nullopt;
-    return std::move(course.files);
-}
-
 int run(const CourseOptions& options) {
     const std::string data = applicationFolder();
     int status = done;
@@ -101,11 +86,11 @@ int run(const CourseOptions& options) {
         try {
             const std::string out = courseFolder(options, file);
             const ChartShelf charts({out + "/maps", data + "/default/maps", data});
-            const auto files = make(file, charts, data);
-            if (!files)
+            const BuiltCourse course = buildSource(readSource(file), file, charts, data);
+            if (!tell(file, course.findings))
                 status = courseIsWrong;
             else if (options.command == CourseCommand::build)
-                write(*files, out);
+                write(course.files, out);
         } catch (const PlanError& error) {
             std::cerr << error.what() << '\n';
             status = courseIsWrong;
