@@ -1,5 +1,6 @@
 #include "authoring/course_builder.h"
 
+#include "authoring/comment_check.h"
 #include "authoring/course_check.h"
 #include "authoring/session_scale.h"
 #include "exercises/study_file.h"
@@ -76,15 +77,19 @@ BuiltCourse buildFlight(const Route& route, const std::string& applicationFolder
     BuiltCourse built;
     ScriptedFlight flight(route.start, englishTable(), applicationFolder);
     Pilot pilot(flight, route.chart);
+    std::vector<int> lines; // of the comments
     for (const RouteLeg& leg : route.legs) {
         try {
             flyLeg(pilot, leg);
+            lines.resize(pilot.said().size(), leg.line);
         } catch (const LostPilot& lost) {
             built.findings.push_back({leg.line, "the flight needs " + std::string(lost.what())});
             return built;
         }
     }
     const std::string session = flight.form().UserControl11.sessionBytes();
+    const std::vector<Sample> samples = readSession(session).samples;
+    checkComments({route.chart, pilot.rows(), samples, pilot.said()}, lines, built.findings);
     for (const Language language : bothLanguages)
         built.files.push_back({"sessions/" + filePrefix(language) + route.name + ".ts",
                                sessionIn(session, pilot.rows(), pilot.said(), language)});

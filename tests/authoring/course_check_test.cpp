@@ -130,7 +130,7 @@ const std::vector<Wrong>& wrongOnes() {
          turnAndFly},
         {"comes back over the fix 1 times, and not 2", "hsihld", "",
          [](Pilot& pilot, const Situation& situation) {
-             pilot.flyOver(situation.station);
+             pilot.flyUntil([&] { return pilot.isOver(situation.station); });
              pilot.wait(30);
              pilot.turnTo(300);
          }},
