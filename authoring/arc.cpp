@@ -97,7 +97,6 @@ FlownArc fly(Pilot& pilot, const Arc& arc) {
                                  number(std::abs(turnBetween(wholeDegrees(lead), finalRadial))),
                                  same(threeDigits(finalRadial)), course}));
     pilot.turnTo(pilot.headingOn(arc.final));
-    pilot.say(worded(Phrase::arcFinal, {course, same(threeDigits(pilot.headingOn(arc.final)))}));
     return {flight.firstHeading, lead};
 }
 

@@ -67,6 +67,8 @@ FlightPlan ArcKind::start(const Situation& situation, const AuthoredChart& chart
 void ArcKind::solve(Pilot& pilot, const Situation& situation) const {
     pilot.wait(15);
     fly(pilot, arcOf(situation));
+    pilot.say(worded(Phrase::arcFinal, {same(threeDigits(situation.final)),
+                                        same(threeDigits(pilot.headingOn(situation.final)))}));
     const double end = pilot.seconds() + tracked;
     pilot.track({situation.station, situation.final}, [&] { return pilot.seconds() >= end; });
 }
