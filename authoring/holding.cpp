@@ -68,7 +68,7 @@ class HoldingFlight {
 };
 
 double HoldingFlight::correctedOutbound() const {
-    return wholeDegrees(outbound() - 3 * pilot.triangle(holding.inbound).correction);
+    return wholeDegrees(outbound() - 3 * std::round(pilot.triangle(holding.inbound).correction));
 }
 
 double HoldingFlight::inboundAfterTurn() const {
@@ -178,8 +178,9 @@ void HoldingFlight::tellAbeam() {
     if (into == 0)
         pilot.say(worded(holdAbeam, {fix, course(outbound())}));
     else
-        pilot.say(worded(holdAbeamInWind, {fix, course(outbound()), same(into < 0 ? "-" : "+"),
-                                           number(std::abs(into)), course(correctedOutbound())}));
+        pilot.say(
+            worded(holdAbeamInWind, {fix, course(outbound()), same(into < 0 ? "-" : "+"),
+                                     number(std::abs(into) / 3), course(correctedOutbound())}));
 }
 
 void HoldingFlight::tellInbound() {
@@ -232,7 +233,8 @@ void fly(Pilot& pilot, const Holding& holding) {
     flight.enter();
     for (int pattern = 0; pattern < holding.patterns; ++pattern)
         flight.circuit(pattern == 0);
-    flight.end();
+    if (holding.patterns > 0)
+        flight.end();
 }
 
 } // namespace tarnel

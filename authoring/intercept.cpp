@@ -4,7 +4,7 @@
 
 namespace tarnel {
 
-void fly(Pilot& pilot, const Intercept& intercept) {
+void fly(Pilot& pilot, const Intercept& intercept, const std::function<void(double lead)>& turns) {
     const CourseLine& line = intercept.line;
     const double side = pilot.offCourse(line);
     const FromStation place = pilot.from(line.station);
@@ -13,9 +13,10 @@ void fly(Pilot& pilot, const Intercept& intercept) {
                                : line.course - std::copysign(intercept.angle, side);
     pilot.turnTo(circle(heading));
     const bool inbound = place.alongTrack(line.course) < 0;
-    pilot.establishFrom(line, [&](double) {
+    pilot.establishFrom(line, [&](double lead) {
         if (inbound && pilot.from(line.station).alongTrack(line.course) > 0)
             throw LostPilot("an intercept that meets the course before the station");
+        turns(lead);
     });
 }
 

@@ -2,6 +2,7 @@
 
 #include "authoring/pilot.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -14,15 +15,17 @@ struct Intercept {
     double angle = 30;
     std::optional<double> beyond = {};
 };
-/// Flies to the turn's end, not along the line. Throws LostPilot if the station comes first.
-void fly(Pilot& pilot, const Intercept& intercept);
+/// Flies to the turn's end, not along the line. `turns` is called where the turn onto the line
+/// begins, with the degrees that the bearing still has to change. Throws LostPilot if the station
+/// comes first.
+void fly(Pilot& pilot, const Intercept& intercept, const std::function<void(double lead)>& turns);
 
 struct Holding {
     Slot fix = Slot::vor1;
     double inbound = 0; ///< degrees true
     Turn turns = Turn::right;
-    double minutes = 1; ///< of the inbound leg
-    int patterns = 2;
+    double minutes = 1;       ///< of the inbound leg
+    int patterns = 2;         ///< 0: the entry, and inbound to the fix
     bool established = false; ///< on the inbound course already
     /// Of the first outbound leg by the stopwatch, seconds; without it, and later, as long as makes
     /// the inbound leg last its minutes.
@@ -37,7 +40,7 @@ struct HoldingAnswer {
 };
 [[nodiscard]] HoldingAnswer answerOf(const Holding& holding, double heading);
 
-/// Flies the present heading to the fix, enters, and flies the patterns; the last one ends over the
+/// Flies the present heading to the fix, enters, and flies the patterns; all of it ends over the
 /// fix. Tells each step, and uses the stopwatch.
 void fly(Pilot& pilot, const Holding& holding);
 

@@ -31,6 +31,11 @@ struct TrackAlong {
 struct FlyOver {
     Slot station = Slot::vor1;
 };
+/// The nose to a station at every moment, whatever the wind does, until over it or as near as that.
+struct HomeTo {
+    Slot station = Slot::vor1;
+    std::optional<double> distance = {}; ///< NM over the ground
+};
 /// On a heading until a station's radial is reached.
 struct ToRadial {
     Slot station = Slot::vor1;
@@ -38,13 +43,15 @@ struct ToRadial {
 };
 
 using Manoeuvre =
-    std::variant<Straight, TurnTo, TrackAlong, FlyOver, ToRadial, Intercept, Holding, Arc>;
+    std::variant<Straight, TurnTo, TrackAlong, FlyOver, HomeTo, ToRadial, Intercept, Holding, Arc>;
 
 /// A part of a written flight: what is said and set at its beginning, and what is flown then.
 struct RouteLeg {
     int line = 0; ///< of the source
     LocalText comment;
+    LocalText turnComment; ///< where an intercept turns onto its line
     FlightSettings settings;
+    bool restartsStopwatch = false;
     Manoeuvre manoeuvre;
 };
 
@@ -62,7 +69,8 @@ struct Route {
                               const ChartShelf& charts);
 
 /// Flies a leg: says, sets, flies. In the comment "{heading}", "{clock}", "{radial:MUN}",
-/// "{qdm:MUN}" and "{dme:MUN}" become what is read at that moment.
+/// "{qdm:MUN}", "{relative:MUN}", "{dme:MUN}" and "{distance:MUN}", which is over the ground,
+/// become what is read at that moment, and "{lead}" the degrees to an intercepted line.
 void flyLeg(Pilot& pilot, const RouteLeg& leg);
 
 } // namespace tarnel

@@ -97,7 +97,7 @@ Manoeuvre LegReader::hold(PlanTable& table) const {
                 .inbound = readDirection(table, "inbound"),
                 .turns = readTurns(table)};
     leg.minutes = table.number("minutes", {0.5, 3}).value_or(leg.minutes);
-    leg.patterns = table.whole("patterns", {1, 5}).value_or(2);
+    leg.patterns = table.whole("patterns", {0, 5}).value_or(2);
     return leg;
 }
 
@@ -113,10 +113,10 @@ Manoeuvre LegReader::arc(PlanTable& table) const {
 
 Manoeuvre LegReader::manoeuvre(PlanTable& table) const {
     table.need("fly");
-    const std::string word =
-        readWord(table, "fly",
-                 {"straight", "turn", "over", "radial", "track", "intercept", "hold", "arc"})
-            .value();
+    const std::string word = readWord(table, "fly",
+                                      {"straight", "turn", "over", "home", "radial", "track",
+                                       "intercept", "hold", "arc"})
+                                 .value();
     if (word == "straight") {
         table.need("seconds");
         return Straight{*table.number("seconds", legSeconds)};
@@ -125,6 +125,8 @@ Manoeuvre LegReader::manoeuvre(PlanTable& table) const {
         return turn(table);
     if (word == "over")
         return FlyOver{anyStation(table)};
+    if (word == "home")
+        return HomeTo{anyStation(table), table.number("distance", {0.5, 60})};
     if (word == "radial")
         return ToRadial{anyStation(table), readDirection(table, "radial")};
     if (word == "track")
@@ -139,7 +141,10 @@ RouteLeg LegReader::read(PlanTable table) const {
     leg.line = table.line();
     leg.comment = readBothLanguages(table);
     leg.settings = settings(table);
+    leg.restartsStopwatch = table.truth("stopwatch").value_or(false);
     leg.manoeuvre = manoeuvre(table);
+    if (std::holds_alternative<Intercept>(leg.manoeuvre))
+        leg.turnComment = readBothLanguages(table, "de_turn", "en_turn");
     table.refuseOtherKeys();
     return leg;
 }

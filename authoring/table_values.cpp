@@ -23,13 +23,14 @@ std::optional<std::string> readWord(PlanTable& table, std::string_view key,
         expected);
 }
 
-LocalText readBothLanguages(PlanTable& table) {
+LocalText readBothLanguages(PlanTable& table, std::string_view germanKey,
+                            std::string_view englishKey) {
     const auto oneLine = [](const std::string& text) {
         return !text.empty() && text.find_first_of("\r\n") == std::string::npos;
     };
-    const auto german = table.text("de", oneLine, "one line of text");
-    const auto english = table.text("en", oneLine, "one line of text");
-    table.needBothOrNone("de", "en");
+    const auto german = table.text(germanKey, oneLine, "one line of text");
+    const auto english = table.text(englishKey, oneLine, "one line of text");
+    table.needBothOrNone(germanKey, englishKey);
     return {german.value_or(""), english.value_or("")};
 }
 

@@ -17,8 +17,9 @@ namespace tarnel {
 [[nodiscard]] std::optional<std::string> readWord(PlanTable& table, std::string_view key,
                                                   std::initializer_list<const char*> words);
 
-/// "de" and "en": both or none, each on one line.
-[[nodiscard]] LocalText readBothLanguages(PlanTable& table);
+/// Under two keys, both or none, each on one line.
+[[nodiscard]] LocalText readBothLanguages(PlanTable& table, std::string_view german = "de",
+                                          std::string_view english = "en");
 
 /// "wind", as "270/15".
 [[nodiscard]] std::optional<Wind> readWind(PlanTable& table);
