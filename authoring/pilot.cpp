@@ -176,10 +176,10 @@ std::optional<double> Pilot::cutBefore(const CourseLine& line, Turn turn) const 
 }
 
 void Pilot::establishFrom(const CourseLine& line, const std::function<void(double lead)>& leads) {
-    const double first = missOf(line, Turn::shorter);
+    const double side = offCourse(line);
     flyUntil([&] {
         const double miss = missOf(line, Turn::shorter);
-        return std::signbit(miss) != std::signbit(first) || std::abs(miss) < 0.005;
+        return std::signbit(miss) != std::signbit(side) || std::abs(miss) < 0.005;
     });
     leads(std::abs(std::remainder(from(line.station).radial - line.course, 180)));
     turnTo(headingOn(line.course));

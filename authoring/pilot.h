@@ -93,8 +93,8 @@ class Pilot {
     void turnTo(double heading, Turn turn = Turn::shorter);
     /// On a course line, correcting what is left of an error, until `reached`.
     void track(const CourseLine& line, const std::function<bool()>& reached);
-    /// Flies on until the turn onto a course line has to begin, calls `leads` with the degrees that
-    /// the bearing still has to change, and turns.
+    /// Flies on until the turn onto a course line has to begin, if it hasn't already, calls `leads`
+    /// with the degrees that the bearing still has to change, and turns.
     void establishFrom(const CourseLine& line, const std::function<void(double lead)>& leads);
     /// Turns onto a course line towards its station: at once if that leads onto it, else by the
     /// smallest usual cut that meets it well before the station.
