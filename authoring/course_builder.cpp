@@ -28,13 +28,14 @@ FlownSituation flySituation(const CourseSource& source, const Situation& situati
             flight.form().UserControl11.sessionBytes()};
 }
 
-/// A flight with its comments in a language, at the scale that shows it best.
-std::string sessionIn(const std::string& flown, const std::vector<FlightRow>& rows,
+/// A flight with its comments in a language.
+std::string sessionIn(const std::string& flown, const SessionView& view,
                       const std::vector<SaidComment>& said, Language language) {
     SessionFile session = readSession(flown);
     for (std::size_t i = 0; i < said.size(); ++i)
         session.comments.at(i) = said[i].text.in(language);
-    session.mapScaleTwips = sessionScale(rows);
+    session.mapScaleTwips = view.scale;
+    session.mapCenterSelect = view.centre;
     return writeSession(session, std::nullopt);
 }
 
@@ -56,8 +57,9 @@ BuiltCourse buildCourse(const CourseSource& source, const std::string& applicati
                 StudyRecord record = question.in(language);
                 record[StudyColumn::sessionName] = session;
                 study[static_cast<std::size_t>(language)] += writeStudyRecord(record, type);
-                built.files.push_back({"sessions/" + session,
-                                       sessionIn(flown.session, flown.rows, flown.said, language)});
+                built.files.push_back(
+                    {"sessions/" + session,
+                     sessionIn(flown.session, {sessionScale(flown.rows)}, flown.said, language)});
             }
         } catch (const LostPilot& lost) {
             built.findings.push_back(
@@ -90,9 +92,10 @@ BuiltCourse buildFlight(const Route& route, const std::string& applicationFolder
     const std::string session = flight.form().UserControl11.sessionBytes();
     const std::vector<Sample> samples = readSession(session).samples;
     checkComments({route.chart, pilot.rows(), samples, pilot.said()}, lines, built.findings);
+    const SessionView view = sessionView(pilot.rows(), route.chart);
     for (const Language language : bothLanguages)
         built.files.push_back({"sessions/" + filePrefix(language) + route.name + ".ts",
-                               sessionIn(session, pilot.rows(), pilot.said(), language)});
+                               sessionIn(session, view, pilot.said(), language)});
     return built;
 }
 

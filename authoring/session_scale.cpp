@@ -36,4 +36,24 @@ std::int16_t sessionScale(const std::vector<FlightRow>& rows) {
     return scaleOf(extentOf(flown));
 }
 
+SessionView sessionView(const std::vector<FlightRow>& rows, const AuthoredChart& chart) {
+    constexpr std::int16_t aircraft = 1;
+    const auto scaleAbout = [&](const GeoPosition& centre) {
+        std::vector<GeoPosition> both; // the flight, and the flight mirrored at the centre
+        for (const FlightRow& row : rows) {
+            both.push_back({row.latitude, row.longitude});
+            both.push_back(
+                {2 * centre.latitude - row.latitude, 2 * centre.longitude - row.longitude});
+        }
+        return scaleOf(extentOf(both));
+    };
+    SessionView best{scaleAbout({rows.back().latitude, rows.back().longitude}), aircraft};
+    for (std::size_t i = 0; i < slotCount; ++i) {
+        const std::int16_t scale = scaleAbout(chart.position(static_cast<Slot>(i)));
+        if (scale > best.scale)
+            best = {scale, static_cast<std::int16_t>(aircraft + 1 + i)};
+    }
+    return best;
+}
+
 } // namespace tarnel

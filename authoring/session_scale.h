@@ -1,5 +1,6 @@
 #pragma once
 
+#include "authoring/authored_chart.h"
 #include "authoring/situation.h"
 
 #include <cstdint>
@@ -23,5 +24,15 @@ struct Extent {
 
 /// Twips per NM at which the chart shows a whole flight.
 [[nodiscard]] std::int16_t sessionScale(const std::vector<FlightRow>& rows);
+
+/// How the chart of a session lies.
+struct SessionView {
+    std::int16_t scale = 0;  ///< twips per NM
+    std::int16_t centre = 1; ///< `c_MAPCenterSelect`: the aircraft, or from 2 on a station
+};
+
+/// Shows a whole flight about the station, or about where it ends, that lets it be the largest.
+[[nodiscard]] SessionView sessionView(const std::vector<FlightRow>& rows,
+                                      const AuthoredChart& chart);
 
 } // namespace tarnel

@@ -1,0 +1,35 @@
+#include "authoring/course_builder.h"
+#include "authoring/route.h"
+#include "persistence/session_file.h"
+
+#include <gmock/gmock.h>
+
+namespace tarnel {
+namespace {
+
+constexpr const char* flightInWind = R"(flight = "x"
+chart = "default"
+start = { station = "MNE", radial = 250, distance = 4, heading = 70, wind = "340/30", adf = "MNE", left = { type = "ADF" }, right = { type = "DG" } }
+leg = [
+  { fly = "home", station = "MNE", de = "hin", en = "there" },
+  { fly = "straight", seconds = 60, stopwatch = true, de = "{heading}", en = "{heading}" },
+  { fly = "intercept", station = "MNE", course = 85, angle = 45, de = "a", en = "a", de_turn = "{clock}: {lead}, {relative:MNE}", en_turn = "{clock}: {lead}, {relative:MNE}" },
+  { fly = "straight", seconds = 9, de = "{distance:MNE}", en = "{distance:MNE}" },
+])";
+
+TEST(Route, HomesInWindAndTellsWhereItTurns) {
+    const BuiltCourse built = buildFlight(
+        readRoute(flightInWind, "x.toml", ChartShelf({TARNEL_DATA_FOLDER})), TARNEL_DATA_FOLDER);
+    EXPECT_THAT(built.findings, testing::IsEmpty());
+    ASSERT_EQ(built.files.size(), 2U);
+    const SessionFile session = readSession(built.files.back().bytes);
+    EXPECT_EQ(session.mapCenterSelect, 5); // where it begins and ends lies to both sides of MNE
+    // Homing turns into the wind from 340; a course held straight would have led there on 070.
+    EXPECT_THAT(session.comments,
+                testing::ElementsAre("there", testing::MatchesRegex("0[0-3][0-9]"), "a",
+                                     testing::MatchesRegex("[01]:[0-9]+: [1-9][0-9]*, [0-9]+"),
+                                     testing::MatchesRegex("[0-9.]+")));
+}
+
+} // namespace
+} // namespace tarnel
