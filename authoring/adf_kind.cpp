@@ -1,4 +1,5 @@
 #include "authoring/question_kind.h"
+#include "authoring/wording.h"
 #include "strings/string_table.h"
 
 #include <algorithm>
@@ -52,9 +53,7 @@ class AdfKind : public QuestionKind {
         plan.start.obs3 = std::int16_t{0};
         return plan;
     }
-    void solve(Pilot& pilot, const Situation& situation) const override {
-        pilot.wait(situation.flown);
-    }
+    void solve(Pilot& pilot, const Situation& situation) const override;
     [[nodiscard]] StudyRecord ask(const FlownSituation& flown, Language language) const override;
     void check(const FlownSituation& flown, Findings& findings) const override;
 
@@ -66,6 +65,35 @@ class AdfKind : public QuestionKind {
         return turnBetween(radial(flown, flown.asked()), radial(flown, flown.rows.back()));
     }
 };
+
+/// How QDM and QDR at the start follow from heading and needle.
+LocalText reading(double heading, double qdm) {
+    const int shown = wholeDegrees(qdm);
+    return worded(Phrase::readBearing, {direction(heading), direction(shown - heading),
+                                        direction(shown), direction(shown + 180)});
+}
+
+/// How the bearing has gone since the start, and why.
+LocalText movement(double heading, double before, double after) {
+    const double change = turnBetween(before, after);
+    const bool ahead = std::abs(turnBetween(heading, before)) < 90;
+    if (std::abs(change) < steadyNeedle)
+        return worded(
+            Phrase::bearingStands,
+            {direction(before), worded(ahead ? Phrase::towardsStation : Phrase::awayFromStation)});
+    return worded(Phrase::bearingMoves, {direction(before), direction(after),
+                                         worded(change > 0 ? Phrase::right : Phrase::left),
+                                         worded(change > 0 ? Phrase::larger : Phrase::smaller)});
+}
+
+void AdfKind::solve(Pilot& pilot, const Situation& situation) const {
+    const auto qdm = [&] { return circle(pilot.from(situation.station).radial + 180); };
+    pilot.wait(FlownSituation::askedTick * simTimeStep);
+    const double asked = qdm();
+    flyStraightOn(pilot, situation,
+                  {[&] { return reading(situation.heading, asked); },
+                   [&] { return movement(situation.heading, asked, qdm()); }});
+}
 
 StudyRecord AdfKind::ask(const FlownSituation& flown, Language language) const {
     const double qdr = radial(flown, flown.asked());

@@ -13,9 +13,9 @@ constexpr std::size_t largestChart = std::size_t{1} << 16;
 
 } // namespace
 
-std::optional<Slot> AuthoredChart::slotOf(const std::string& name) const {
+std::optional<Slot> AuthoredChart::slotOf(const std::string& name, bool (*fits)(Slot)) const {
     for (std::size_t i = 0; i < slotCount; ++i)
-        if (file.stations[i].identifier == name)
+        if (file.stations[i].identifier == name && fits(static_cast<Slot>(i)))
             return static_cast<Slot>(i);
     return std::nullopt;
 }

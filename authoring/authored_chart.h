@@ -14,8 +14,9 @@ struct AuthoredChart {
     std::string path;
     ChartFile file;
 
-    /// The slot of the station with an identifier.
-    [[nodiscard]] std::optional<Slot> slotOf(const std::string& identifier) const;
+    /// The first slot that `fits` of a station with an identifier: a VOR and a beacon may share it.
+    [[nodiscard]] std::optional<Slot> slotOf(
+        const std::string& identifier, bool (*fits)(Slot) = [](Slot) { return true; }) const;
     [[nodiscard]] const std::string& identifier(Slot slot) const;
     [[nodiscard]] GeoPosition position(Slot slot) const;
     [[nodiscard]] std::vector<std::string> identifiers() const;

@@ -18,13 +18,13 @@ std::string sessionStem(const CourseSource& source, std::size_t index) {
 
 FlownSituation flySituation(const CourseSource& source, const Situation& situation,
                             const std::string& applicationFolder) {
-    FlightPlan plan = source.questions->start(situation, source.chart);
+    FlightPlan plan = source.questions->start(situation, source.chartOf(situation));
     plan.file = source.file;
     plan.chartLine = situation.line;
     ScriptedFlight flight(std::move(plan), englishTable(), applicationFolder);
-    Pilot pilot(flight, source.chart);
+    Pilot pilot(flight, source.chartOf(situation));
     source.questions->solve(pilot, situation);
-    return {situation, source.chart, pilot.rows(), pilot.said(),
+    return {situation, source.chartOf(situation), pilot.rows(), pilot.said(),
             flight.form().UserControl11.sessionBytes()};
 }
 

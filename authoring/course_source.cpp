@@ -19,10 +19,12 @@ void readAnswers(PlanTable table, Situation& situation) {
     table.refuseOtherKeys();
 }
 
-Situation readSituation(PlanTable table, const CourseSource& course) {
+Situation readSituation(PlanTable table, const CourseSource& course, const ChartShelf& charts) {
     Situation situation;
     situation.line = table.line();
-    course.questions->read(table, course.chart, situation);
+    if (table.lineOf("chart") > 0)
+        situation.chart = std::make_shared<AuthoredChart>(readChartOf(table, course.file, charts));
+    course.questions->read(table, course.chartOf(situation), situation);
     situation.tas = table.whole("tas", plan_limits::airSpeed).value_or(situation.tas);
     situation.flown = table.number("flown", straightOn).value_or(situation.flown);
     situation.wind = readWind(table).value_or(situation.wind);
@@ -49,7 +51,7 @@ CourseSource readCourse(std::string_view text, const std::string& file, const Ch
     course.questions = course.kind->make();
     course.chart = readChartOf(root, file, charts);
     for (const PlanTable& table : root.parts("situation"))
-        course.situations.push_back(readSituation(table, course));
+        course.situations.push_back(readSituation(table, course, charts));
     root.refuseOtherKeys();
     return course;
 }

@@ -16,8 +16,12 @@ struct CourseSource {
     std::string file;
     const CourseKind* kind = nullptr;
     std::unique_ptr<QuestionKind> questions;
-    AuthoredChart chart;
+    AuthoredChart chart; ///< of situations that name none
     std::vector<Situation> situations;
+
+    [[nodiscard]] const AuthoredChart& chartOf(const Situation& situation) const {
+        return situation.chart ? *situation.chart : chart;
+    }
 };
 
 /// Reads the TOML text of a course. `file` names it in messages, and charts are looked for beside

@@ -36,25 +36,50 @@ class OrientationKind : public QuestionKind {
                                    const AuthoredChart& chart) const override {
         FlightPlan plan =
             planFrom(placeOn(chart.position(situation.station), situation.at), situation, chart);
+        // No course that would tell a bearing is set before the question has been asked.
         plan.start.nav1 = plan.start.dme = std::int16_t{0};
         plan.start.nav2 = std::int16_t{1};
         plan.inst2 = {.type = displayOf("VOR"), .receiver = std::int16_t{2}};
         plan.inst3 = {.type = displayOf("HSI"), .receiver = std::int16_t{1}};
-        const auto radial = [&](Slot slot) {
-            const FromStation seen = fromStation(
-                chart.position(slot), placeOn(chart.position(situation.station), situation.at));
-            return static_cast<std::int16_t>(wholeDegrees(seen.radial));
-        };
-        plan.start.obs2 = static_cast<std::int16_t>((radial(Slot::vor2) + 180) % 360);
-        plan.start.obs3 = radial(Slot::vor1);
+        plan.start.obs2 = plan.start.obs3 = std::int16_t{0};
         return plan;
     }
-    void solve(Pilot& pilot, const Situation& situation) const override {
-        pilot.wait(situation.flown);
-    }
+    void solve(Pilot& pilot, const Situation& situation) const override;
     [[nodiscard]] StudyRecord ask(const FlownSituation& flown, Language language) const override;
     void check(const FlownSituation& flown, Findings& findings) const override;
 };
+
+/// How the third answer comes about.
+LocalText lastWord(const Situation& situation, const Pilot& pilot, double qdm) {
+    if (situation.asksHeading)
+        return worded(Phrase::noseHeading, {direction(situation.heading)});
+    return worded(Phrase::relativeBearing,
+                  {same(pilot.name(situation.station)), direction(qdm),
+                   direction(situation.heading), direction(qdm - situation.heading)});
+}
+
+void OrientationKind::solve(Pilot& pilot, const Situation& situation) const {
+    const auto seen = [&](Slot station) {
+        return std::round(pilot.from(station).radial / 5) * 5; // as exactly as a chart is read
+    };
+    pilot.wait(FlownSituation::askedTick * simTimeStep);
+    const double radial = seen(situation.station);
+    const double qdm = seen(situation.other) + 180;
+    const auto radialOf = [&](Slot vor) {
+        return static_cast<std::int16_t>(wholeDegrees(pilot.from(vor).radial));
+    };
+    const auto tellRadial = [&] {
+        pilot.set({.obs2 = radialOf(Slot::vor2), .obs3 = radialOf(Slot::vor1)});
+        return worded(Phrase::lineFromStation,
+                      {same(pilot.name(situation.station)), direction(radial),
+                       worded(isNdb(situation.station) ? Phrase::theQdr : Phrase::theRadial)});
+    };
+    const auto tellQdm = [&] {
+        return worded(Phrase::lineToStation, {same(pilot.name(situation.other)), direction(qdm)});
+    };
+    flyStraightOn(pilot, situation,
+                  {tellRadial, tellQdm, [&] { return lastWord(situation, pilot, radial + 180); }});
+}
 
 StudyRecord OrientationKind::ask(const FlownSituation& flown, Language language) const {
     const Situation& situation = flown.situation;

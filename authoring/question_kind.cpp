@@ -1,6 +1,7 @@
 #include "authoring/question_kind.h"
 
 #include "authoring/table_values.h"
+#include "authoring/wording.h"
 
 namespace tarnel {
 
@@ -40,13 +41,9 @@ Slot readStation(PlanTable& table, std::string_view key, const AuthoredChart& ch
             names += (names.empty() ? "" : ", ") + chart.identifiers()[i];
     table.need(key);
     const auto name = table.text(
-        key,
-        [&](const std::string& text) {
-            const auto slot = chart.slotOf(text);
-            return slot && fits(*slot);
-        },
+        key, [&](const std::string& text) { return chart.slotOf(text, fits).has_value(); },
         "one of " + names);
-    return *chart.slotOf(*name);
+    return *chart.slotOf(*name, fits);
 }
 
 bool isVor(Slot slot) {
@@ -75,6 +72,25 @@ double readDistance(PlanTable& table, std::string_view key) {
 Turn readTurns(PlanTable& table) {
     table.need("turns");
     return readWord(table, "turns", {"left", "right"}) == "left" ? Turn::left : Turn::right;
+}
+
+LocalText direction(double degrees) {
+    return same(threeDigits(degrees));
+}
+
+void flyStraightOn(Pilot& pilot, const Situation& situation,
+                   const std::vector<std::function<LocalText()>>& words) {
+    constexpr double firstWord = 12; // seconds, so that nothing is told beside a question
+    constexpr double lastWord = 10;  // before the end
+    const double apart =
+        (situation.flown - firstWord - lastWord) / static_cast<double>(words.size() - 1);
+    double next = firstWord;
+    for (const auto& word : words) {
+        pilot.wait(next - pilot.seconds());
+        pilot.say(word());
+        next += apart;
+    }
+    pilot.wait(situation.flown - pilot.seconds());
 }
 
 FlightPlan planFrom(const GeoPosition& place, const Situation& situation,

@@ -6,9 +6,11 @@
 #include "exercises/study_record.h"
 #include "flights/plan_table.h"
 
+#include <functional>
 #include <memory>
 #include <span>
 #include <string_view>
+#include <vector>
 
 namespace tarnel {
 
@@ -62,6 +64,15 @@ struct CourseKind {
 /// A flight plan that begins a second before `place`.
 [[nodiscard]] FlightPlan planFrom(const GeoPosition& place, const Situation& situation,
                                   const AuthoredChart& chart);
+
+/// Three digits, alike in both languages.
+[[nodiscard]] LocalText direction(double degrees);
+
+/// Flies on for the rest of the situation's time and tells at least two things: the first one when
+/// the question has been looked at for a while, the last one near the end. Each is worded when its
+/// time has come.
+void flyStraightOn(Pilot& pilot, const Situation& situation,
+                   const std::vector<std::function<LocalText()>>& words);
 
 /// Degrees that count as no movement of a needle, and as one that is seen.
 constexpr double steadyNeedle = 0.5;

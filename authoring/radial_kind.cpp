@@ -26,12 +26,14 @@ class RadialKind : public QuestionKind {
         situation.heading = readDirection(table, "heading");
         situation.course = readDirection(table, "course");
     }
-    void solve(Pilot& pilot, const Situation& situation) const override {
-        pilot.wait(situation.flown);
-    }
+    void solve(Pilot& pilot, const Situation& situation) const override;
     void check(const FlownSituation& flown, Findings& findings) const override;
 
   protected:
+    /// A change of the radial, and that the needle moves by it, to the right if `move` is positive.
+    [[nodiscard]] virtual LocalText moved(const Situation& situation, const LocalText& before,
+                                          const LocalText& after, double move) const;
+    [[nodiscard]] LocalText movement(const Situation& situation, double before, double after) const;
     /// What both ask.
     [[nodiscard]] static StudyRecord askPlace(const FlownSituation& flown, Language language);
     /// How far right of the middle the needle stands, seen along the course, as far as it goes.
@@ -40,6 +42,53 @@ class RadialKind : public QuestionKind {
         return needle(flown, flown.rows.back()) - needle(flown, flown.asked());
     }
 };
+
+LocalText side(double toTheRight) {
+    return worded(toTheRight < 0 ? Phrase::left : Phrase::right);
+}
+
+/// How the radial at the start follows from the needle.
+LocalText reading(double courseSet, double radial) {
+    const LocalText course = direction(courseSet);
+    const double fromCourse = turnBetween(courseSet, radial);
+    const bool from = std::abs(fromCourse) < 90;
+    const double off =
+        std::round(from ? -fromCourse : turnBetween(courseSet, radial + 180)); // to the right
+    if (off == 0)
+        return from ? worded(Phrase::readCentredFrom, {course})
+                    : worded(Phrase::readCentredTo, {course, direction(radial)});
+    const LocalText sign = same((off > 0) == from ? "-" : "+");
+    if (from)
+        return worded(Phrase::readFrom,
+                      {course, number(std::abs(off)), side(off), sign, direction(radial)});
+    return worded(Phrase::readTo, {course, number(std::abs(off)), side(off), sign,
+                                   direction(radial + 180), direction(radial)});
+}
+
+LocalText RadialKind::moved(const Situation&, const LocalText& before, const LocalText& after,
+                            double move) const {
+    return worded(Phrase::needleMoves, {before, after, side(move)});
+}
+
+/// Where the needle has gone since the start, and why.
+LocalText RadialKind::movement(const Situation& situation, double before, double after) const {
+    const double change = turnBetween(before, after);
+    if (std::abs(change) < steadyNeedle)
+        return worded(Phrase::needleStands, {direction(before)});
+    const bool from = std::abs(turnBetween(situation.course, before)) < 90;
+    return moved(situation, direction(before), direction(after), from ? -change : change);
+}
+
+void RadialKind::solve(Pilot& pilot, const Situation& situation) const {
+    pilot.wait(FlownSituation::askedTick * simTimeStep);
+    const double asked = pilot.from(situation.station).radial;
+    flyStraightOn(pilot, situation,
+                  {[&] { return reading(situation.course, asked); },
+                   [&] {
+                       const double now = pilot.from(situation.station).radial;
+                       return movement(situation, asked, now);
+                   }});
+}
 
 double RadialKind::needle(const FlownSituation& flown, const FlightRow& row) {
     const Situation& situation = flown.situation;
@@ -68,13 +117,26 @@ void RadialKind::check(const FlownSituation& flown, Findings& findings) const {
                                                   "much to stand still"});
 }
 
+/// A direction in which the bar of an HSI moves on its face.
+struct FaceWay {
+    double direction; ///< degrees from the top
+    Text text;        ///< in the exercise's list
+    Phrase phrase;
+};
+
 class HsiKind : public RadialKind {
   public:
     [[nodiscard]] FlightPlan start(const Situation& situation,
                                    const AuthoredChart& chart) const override;
     [[nodiscard]] StudyRecord ask(const FlownSituation& flown, Language language) const override;
 
+  protected:
+    [[nodiscard]] LocalText moved(const Situation& situation, const LocalText& before,
+                                  const LocalText& after, double move) const override;
+
   private:
+    /// The bar lies square to the course, so it moves one way, or two if the course slants.
+    [[nodiscard]] static std::vector<FaceWay> barWays(const Situation& situation, double move);
     [[nodiscard]] static std::string barMoves(const FlownSituation& flown,
                                               const StringTable& texts);
 };
@@ -91,22 +153,37 @@ FlightPlan HsiKind::start(const Situation& situation, const AuthoredChart& chart
     return plan;
 }
 
-/// The directions on the face of the HSI in which the bar moves, which lies square to the course:
-/// one, or two if it slants.
+std::vector<FaceWay> HsiKind::barWays(const Situation& situation, double move) {
+    constexpr FaceWay all[] = {{0, Text::moveForward, Phrase::forward},
+                               {180, Text::moveBackward, Phrase::backward},
+                               {270, Text::moveLeft, Phrase::toTheLeft},
+                               {90, Text::moveRight, Phrase::toTheRight}};
+    const double toTheRight = situation.course - situation.heading + 90;
+    const double angle = move > 0 ? toTheRight : toTheRight + 180;
+    constexpr double aside = 67.5; // halfway between a slanting movement and a square one
+    std::vector<FaceWay> ways;
+    for (const FaceWay& way : all)
+        if (std::abs(turnBetween(way.direction, angle)) < aside)
+            ways.push_back(way);
+    return ways;
+}
+
 std::string HsiKind::barMoves(const FlownSituation& flown, const StringTable& texts) {
     const double move = needleMove(flown);
     if (std::abs(move) < steadyNeedle)
         return std::string(texts[Text::moveNone]);
-    const double toTheRight = flown.situation.course - flown.situation.heading + 90;
-    const double angle = move > 0 ? toTheRight : toTheRight + 180;
-    constexpr double aside = 67.5; // halfway between a slanting movement and a square one
-    std::vector<std::string> moves;
-    for (const auto& [direction, text] :
-         {std::pair(0, Text::moveForward), std::pair(180, Text::moveBackward),
-          std::pair(270, Text::moveLeft), std::pair(90, Text::moveRight)})
-        if (std::abs(turnBetween(direction, angle)) < aside)
-            moves.emplace_back(texts[text]);
-    return moves.size() == 1 ? moves.front() : "+" + moves[0] + "+" + moves[1] + "+";
+    const std::vector<FaceWay> ways = barWays(flown.situation, move);
+    const std::string first(texts[ways.front().text]);
+    return ways.size() == 1 ? first : "+" + first + "+" + std::string(texts[ways[1].text]) + "+";
+}
+
+LocalText HsiKind::moved(const Situation& situation, const LocalText& before,
+                         const LocalText& after, double move) const {
+    const std::vector<FaceWay> ways = barWays(situation, move);
+    const LocalText first = worded(ways.front().phrase);
+    const LocalText all =
+        ways.size() == 1 ? first : worded(Phrase::bothWays, {first, worded(ways[1].phrase)});
+    return worded(Phrase::barMoves, {before, after, side(move), all});
 }
 
 StudyRecord HsiKind::ask(const FlownSituation& flown, Language language) const {

@@ -9,6 +9,7 @@
 #include <array>
 #include <cstdint>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -17,7 +18,8 @@ namespace tarnel {
 
 /// A situation as a teacher writes it. What an exercise does not ask for keeps its value here.
 struct Situation {
-    int line = 0; ///< of the source
+    int line = 0;                               ///< of the source
+    std::shared_ptr<const AuthoredChart> chart; ///< null for that of its course
     Slot station = Slot::vor1;
     FromStation at;     ///< of `station`
     double heading = 0; ///< degrees true

@@ -1,3 +1,4 @@
+#include "authoring/chart_source.h"
 #include "authoring/source_file.h"
 #include "core/run_time_error.h"
 #include "flights/plan_bounds.h"
@@ -23,7 +24,7 @@ constexpr auto usage =
     "Usage: tarnel-course build SOURCE... [--out FOLDER]\n"
     "       tarnel-course check SOURCE...\n"
     "Makes exercises of courses: flies each situation, words its questions in German and English,\n"
-    "and proves the answers. A source of charts makes these; name it before those that use them.\n"
+    "and proves the answers. A source of charts makes these.\n"
     "\n"
     "  build         write the study files and sessions\n"
     "  check         only tell what is wrong\n"
@@ -79,10 +80,22 @@ void write(const std::vector<BuiltFile>& files, const std::filesystem::path& fol
     }
 }
 
+/// Courses name charts, so these are made first. A source that can't be read is told in its turn.
+std::vector<std::string> chartsFirst(std::vector<std::string> files) {
+    std::stable_partition(files.begin(), files.end(), [](const std::string& file) {
+        try {
+            return isChartSource(readSource(file), file);
+        } catch (const PlanError&) {
+            return false;
+        }
+    });
+    return files;
+}
+
 int run(const CourseOptions& options) {
     const std::string data = applicationFolder();
     int status = done;
-    for (const std::string& file : options.sources) {
+    for (const std::string& file : chartsFirst(options.sources)) {
         try {
             const std::string out = courseFolder(options, file);
             const ChartShelf charts({out + "/maps", data + "/default/maps", data});
