@@ -9,6 +9,8 @@
 #include "shell/application_folder.h"
 #include "strings/cause_text.h"
 #include "tools/course/options.h"
+#include "tools/course/print_command.h"
+#include "tools/output/output_file.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -23,11 +25,14 @@ enum ExitStatus { done = 0, courseIsWrong = 1, usageIsWrong = 2, outputFailed = 
 constexpr auto usage =
     "Usage: tarnel-course build SOURCE... [--out FOLDER]\n"
     "       tarnel-course check SOURCE...\n"
+    "       tarnel-course print SOURCE [--out FILE] [--language de|en]\n"
     "Makes exercises of courses: flies each situation, words its questions in German and English,\n"
     "and proves the answers. A source of charts makes these.\n"
     "\n"
     "  build         write the study files and sessions\n"
     "  check         only tell what is wrong\n"
+    "  print         write the questions as a PDF, a page each, with the solutions at the end;\n"
+    "                English, and beside the source unless told otherwise\n"
     "  --out FOLDER  where to; it gets the folders study, sessions and maps. Without it the\n"
     "                course is in the trainer's menu from then on (Exercises, Own courses), by\n"
     "                the name of the folder in which SOURCE lies\n"
@@ -92,6 +97,17 @@ std::vector<std::string> chartsFirst(std::vector<std::string> files) {
     return files;
 }
 
+int print(const CourseOptions& options) {
+    const std::string data = applicationFolder();
+    const std::string& file = options.sources.front();
+    const ChartShelf charts({courseFolder(options, file) + "/maps", data + "/default/maps", data});
+    const CourseSource source = readCourse(readSource(file), file, charts);
+    const std::string beside = std::filesystem::path(file).replace_extension(".pdf").string();
+    printCourse(source, options.german ? Language::german : Language::english, data,
+                options.out.empty() ? beside : options.out);
+    return done;
+}
+
 int run(const CourseOptions& options) {
     const std::string data = applicationFolder();
     int status = done;
@@ -122,10 +138,16 @@ int main(int argc, char** argv) {
             std::cout << usage;
             return done;
         }
-        return run(options);
+        return options.command == CourseCommand::print ? print(options) : run(options);
     } catch (const UsageError& error) {
         std::cerr << "tarnel-course: " << error.what() << '\n' << usage;
         return usageIsWrong;
+    } catch (const PlanError& error) {
+        std::cerr << error.what() << '\n';
+        return courseIsWrong;
+    } catch (const OutputError& error) {
+        std::cerr << "tarnel-course: " << error.what() << '\n';
+        return outputFailed;
     } catch (const RunTimeError& error) {
         std::cerr << "tarnel-course: " << causeText(englishTable(), error.cause()) << '\n';
         return outputFailed;

@@ -12,13 +12,15 @@ class UsageError : public std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-enum class CourseCommand { help, build, check };
+enum class CourseCommand { help, build, check, print };
 
 /// What is to be done with which sources.
 struct CourseOptions {
     CourseCommand command = CourseCommand::help;
     std::vector<std::string> sources;
-    std::string out; ///< the folder of the course; empty: one among the user's own
+    /// The file of a print, or the folder of a course; empty for a name of its own.
+    std::string out;
+    bool german = false; ///< the language of a print
 };
 
 /// Throws UsageError.
