@@ -74,6 +74,8 @@ void addCourses(QMenu& menu, CourseDesk& courses, BoxDesk& boxes) {
 } // namespace
 
 void fillWithCourses(QMenu& menu, CourseDesk& courses, BoxDesk& boxes) {
+    // However many there are, all can be reached.
+    menu.setStyleSheet(QStringLiteral("QMenu { menu-scrollable: 1; }"));
     QObject::connect(&menu, &QMenu::aboutToShow, &menu, [&] { addCourses(menu, courses, boxes); });
 }
 
