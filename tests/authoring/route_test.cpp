@@ -31,5 +31,19 @@ TEST(Route, HomesInWindAndTellsWhereItTurns) {
                                      testing::MatchesRegex("[0-9.]+")));
 }
 
+TEST(Route, TurnsAtOnceWhereTheTurnIsOverdue) {
+    const BuiltCourse built = buildFlight(readRoute(R"(flight = "x"
+chart = "default"
+start = { station = "MUN", radial = 179, distance = 8, heading = 330 }
+leg = [
+  { fly = "straight", seconds = 4, stopwatch = true, de = "a", en = "a" },
+  { fly = "intercept", station = "MUN", course = 360, de_turn = "{clock}", en_turn = "{clock}" },
+])",
+                                                    "x.toml", ChartShelf({TARNEL_DATA_FOLDER})),
+                                          TARNEL_DATA_FOLDER);
+    EXPECT_THAT(readSession(built.files.back().bytes).comments,
+                testing::ElementsAre("a", testing::MatchesRegex("0:0[4-6]")));
+}
+
 } // namespace
 } // namespace tarnel
