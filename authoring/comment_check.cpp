@@ -4,6 +4,7 @@
 #include "authoring/wording.h"
 
 #include <algorithm>
+#include <cctype>
 #include <cmath>
 #include <functional>
 #include <utility>
@@ -30,6 +31,17 @@ constexpr double tolerance(ClaimKind kind) {
 double apart(const Claim& claim, double value) {
     const bool direction = claim.kind != ClaimKind::distance && claim.kind != ClaimKind::time;
     return std::abs(direction ? turnBetween(claim.value, value) : value - claim.value);
+}
+
+/// Whether a text holds a word: an identifier may be a letter that other words have as well.
+bool names(const std::string& text, const std::string& word) {
+    const auto letter = [&](std::size_t at) {
+        return at < text.size() && std::isalnum(static_cast<unsigned char>(text[at]));
+    };
+    for (std::size_t at = 0; (at = text.find(word, at)) != std::string::npos; ++at)
+        if (!letter(at - 1) && !letter(at + word.size()))
+            return true;
+    return false;
 }
 
 /// One comment over the samples that show it.
@@ -75,7 +87,7 @@ std::vector<Slot> ShownComment::stationsMeant() const {
     for (std::size_t i = 0; i < slotCount; ++i) {
         const auto slot = static_cast<Slot>(i);
         all.push_back(slot);
-        if (comment.text.english.find(flight.chart.identifier(slot)) != std::string::npos)
+        if (names(comment.text.english, flight.chart.identifier(slot)))
             named.push_back(slot);
     }
     if (!named.empty())

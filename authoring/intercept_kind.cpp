@@ -87,11 +87,13 @@ void InterceptKind::solve(Pilot& pilot, const Situation& situation) const {
     const LocalText wanted = same(threeDigits(situation.required));
     const LocalText word = same(inbound ? "QDM" : "QDR");
     const double heading = firstHeading(rounded, situation);
+    const double base = inbound ? rounded : situation.required;
+    const LocalText sign = same(turnBetween(base, heading) < 0 ? "-" : "+");
     pilot.wait(lookFirst);
     if (turnBetween(rounded, situation.required) != 0) {
         pilot.say(worded(inbound ? Phrase::interceptIn : Phrase::interceptOut,
                          {word, same(threeDigits(rounded)), wanted, number(situation.cut),
-                          same(threeDigits(heading))}));
+                          same(threeDigits(heading)), sign}));
         pilot.turnTo(heading);
         pilot.establishFrom(line, [&](double lead) {
             pilot.say(worded(Phrase::interceptLead, {word, wanted, number(lead)}));
