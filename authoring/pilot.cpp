@@ -63,14 +63,24 @@ FromStation Pilot::afterTurn(Slot station, double heading, Turn turn) const {
     const FromStation place = from(station);
     double east = place.distance * std::sin(place.radial * degree);
     double north = place.distance * std::cos(place.radial * degree);
-    const double change = signedTurn(now().heading, heading, turn);
-    const int ticks = static_cast<int>(std::abs(std::round(change)));
     const double perTick = now().tas * simTimeStep / secondsPerHour;
     const double windPerTick = now().windSpeed * simTimeStep / secondsPerHour;
-    for (int i = 0; i < ticks; ++i) {
-        const double angle = (now().heading + (change > 0 ? i + 1 : -i - 1)) * degree;
-        east += perTick * std::sin(angle) - windPerTick * std::sin(now().windDirection * degree);
-        north += perTick * std::cos(angle) - windPerTick * std::cos(now().windDirection * degree);
+    double flown = now().heading;
+    const auto fly = [&] {
+        east += perTick * std::sin(flown * degree) -
+                windPerTick * std::sin(now().windDirection * degree);
+        north += perTick * std::cos(flown * degree) -
+                 windPerTick * std::cos(now().windDirection * degree);
+    };
+    // The autopilot begins a tick late and takes the last five degrees at one degree a second.
+    const double change = signedTurn(now().heading, heading, turn);
+    double left = std::abs(change);
+    fly();
+    while (left > 0.01) {
+        const double turned = std::min(left, (left > 5 ? 3 : 1) * simTimeStep);
+        flown += std::copysign(turned, change);
+        left -= turned;
+        fly();
     }
     return {circle(std::atan2(east, north) / degree), std::hypot(east, north)};
 }

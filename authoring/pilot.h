@@ -73,8 +73,7 @@ class Pilot {
     [[nodiscard]] WindTriangle triangle(double course) const;
     /// The whole degrees that hold a course in the present wind.
     [[nodiscard]] double headingOn(double course) const;
-    /// Where the aircraft is once it has turned to `heading` from now on, at three degrees a
-    /// second.
+    /// Where the aircraft is once `turnTo` has turned it to `heading` from now on.
     [[nodiscard]] FromStation afterTurn(Slot station, double heading, Turn turn) const;
 
     /// The smallest usual cut by which a turn begun now meets a course line well before its

@@ -1,6 +1,7 @@
 #include "authoring/manoeuvres.h"
 #include "authoring/question_kind.h"
 #include "authoring/wording.h"
+#include "exercises/heading_offers.h"
 
 #include <cmath>
 
@@ -76,7 +77,7 @@ StudyRecord WindKind::ask(const FlownSituation& flown, Language language) const 
     };
     const int seconds = static_cast<int>(outboundTime(situation));
     StudyRecord record;
-    record[qa] = threeDigits(situation.wind.direction);
+    record[qa] = headingCaption(situation.wind.direction);
     record[qb] = std::to_string(situation.wind.speed);
     record[ans3] = written(wind.fromRight);
     record[ans4] = side(wind.fromRight);

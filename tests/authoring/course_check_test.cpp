@@ -162,6 +162,8 @@ const std::vector<Wrong>& wrongOnes() {
         {"has other numbers in German", "hsi", "", saying({"Noch 6", "5 more"})},
         {"says \"at 8.5 NM\", and the flight shows 9.6", "hsi", "",
          saying({"Bei 8,5 NM", "It is at 8.5 NM"})},
+        {"says \"Radial 230\"", "hsi", "", saying(same("Radial 230, DME 9.6: 5 before 235."))},
+        {"says \"DME 9.2\"", "hsi", "", saying({"DME 9,2: noch 0,2", "DME 9.2, 0.2 to go"})},
         {"says \"on radial 230\"", "hsi", "", saying(same("Now on radial 230."))},
         {"says \"auf QDM 030\"", "hsi", "", saying({"Jetzt auf QDM 030.", "At bearing 030."})},
         {"says \"after one minute\"", "hsi", "", saying(same("It is so after one minute."))},
