@@ -18,7 +18,7 @@ struct Passage {
     double offCourse = 0;  ///< NM
     double offTrack = 0;   ///< degrees
     double onCourse = 0;   ///< seconds established before it
-    double legSeconds = 0; ///< since the turn towards the inbound course ended
+    double legSeconds = 0; ///< since the turn onto the inbound course ended
 };
 
 /// The flight of a holding as its rows tell it.
@@ -62,7 +62,7 @@ std::size_t HoldingCheck::arrival() const {
 Passage HoldingCheck::passage(std::size_t tick) const {
     constexpr double onLine = 0.15;    // NM
     constexpr double established = 10; // degrees
-    constexpr double largeTurn = 90;   // degrees; those behind it keep to the course
+    constexpr double ontoCourse = 25;  // degrees of a turn; corrections on it are smaller
     Passage passed{tick, std::abs(from(tick).crossTrack(inbound())),
                    std::abs(turnBetween(flown.rows[tick].track, inbound()))};
     std::size_t begun = tick;
@@ -71,7 +71,7 @@ Passage HoldingCheck::passage(std::size_t tick) const {
         --begun;
     passed.onCourse = static_cast<double>(tick - begun) / ticksPerSecond;
     for (const FlownTurn& turn : turns)
-        if (turn.end <= tick && std::abs(turn.degrees) >= largeTurn)
+        if (turn.end <= tick && std::abs(turn.degrees) >= ontoCourse)
             passed.legSeconds = static_cast<double>(tick - turn.end) / ticksPerSecond;
     return passed;
 }
