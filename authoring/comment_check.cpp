@@ -33,13 +33,13 @@ double apart(const Claim& claim, double value) {
     return std::abs(direction ? turnBetween(claim.value, value) : value - claim.value);
 }
 
-/// Whether a text holds a word: an identifier may be a letter that other words have as well.
-bool names(const std::string& text, const std::string& word) {
-    const auto letter = [&](std::size_t at) {
-        return at < text.size() && std::isalnum(static_cast<unsigned char>(text[at]));
+/// Whether a text has an identifier, perhaps of one letter, as a word.
+bool names(const std::string& text, const std::string& identifier) {
+    const auto isPart = [&](std::size_t at) {
+        return at < text.size() && std::isalnum(static_cast<unsigned char>(text[at])) != 0;
     };
-    for (std::size_t at = 0; (at = text.find(word, at)) != std::string::npos; ++at)
-        if (!letter(at - 1) && !letter(at + word.size()))
+    for (std::size_t at = 0; (at = text.find(identifier, at)) != std::string::npos; ++at)
+        if (!isPart(at - 1) && !isPart(at + identifier.size()))
             return true;
     return false;
 }

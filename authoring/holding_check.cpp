@@ -110,6 +110,9 @@ void HoldingCheck::entry() const {
             wrong("the answer is \"maintain\", and the flight turns over the fix");
         return;
     }
+    if (std::abs(turnBetween(flown.asked().heading, answer.firstHeading)) < 1)
+        return wrong("the answer's first turn is " + answer.firstTurn + ", and its heading " +
+                     threeDigits(answer.firstHeading) + " is flown already; choose another");
     // A turn may go on to the heading outbound against the wind.
     const FlownTurn& first = turns.front();
     const double way = first.degrees;

@@ -134,6 +134,8 @@ const std::vector<Wrong>& wrongOnes() {
              pilot.wait(30);
              pilot.turnTo(300);
          }},
+        {"heading 120 is flown already", "dghld",
+         R"(station = "MNW", distance = 3, heading = 120, inbound = 300, turns = "left")"},
         {"the flight misses the fix by 0.7 NM", "dghld", "", turnAndFly},
         {"the arc is left by 4.4 NM", "dmearc", "",
          [](Pilot& pilot, const Situation&) {
@@ -218,8 +220,9 @@ TEST(CourseCheck, FindsWhatIsWrongAndNothingElse) {
     for (const auto& [exercise, situation] : right)
         EXPECT_THAT(told({"", exercise}), testing::IsEmpty()) << exercise;
     // A wrong sentence is found; the same as it should be is not.
-    for (const char* comment : {"Now on radial 235.", "Bei 9,6 NM", "15 s: 250 + 180 = 070",
-                                "Fly heading 075 for one minute.", "0:15 on QDM 055"})
+    for (const char* comment :
+         {"Now on radial 235.", "Bei 9,6 NM", "15 s: 250 + 180 = 070",
+          "Fly heading 075 for one minute.", "0:15 on QDM 055", "MAHR tells: on QDM 055"})
         EXPECT_THAT(told({"", "hsi", "", saying(same(comment))}), testing::IsEmpty()) << comment;
 }
 

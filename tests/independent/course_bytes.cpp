@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <fstream>
 #include <map>
+#include <regex>
 #include <stdexcept>
 
 namespace independent {
@@ -36,7 +37,7 @@ double numberOf(const std::string& line) {
 
 std::size_t Session::named(const std::string& text) const {
     for (std::size_t slot = 0; slot < names.size(); ++slot)
-        if (text.find(names[slot]) != std::string::npos)
+        if (std::regex_search(text, std::regex("\\b" + names[slot] + "\\b")))
             return slot;
     throw std::runtime_error("no station in " + text);
 }
