@@ -9,8 +9,8 @@ namespace tarnel {
 
 /// What a comment can say of the moment at which it stands.
 enum class ClaimKind {
-    distance, ///< "at 9.5 NM", "bei 9,5 NM", "DME 9.5" in front: NM, as a DME reads them
-    radial,   ///< "on radial 215", "auf QDR 215", "Radial 215" in front: degrees
+    distance, ///< "at 9.5 NM", "bei 9,5 NM", "DME 9.5:" in front: NM, as a DME reads them
+    radial,   ///< "on radial 215", "auf QDR 215", "Radial 215," in front: degrees
     bearing,  ///< "on QDM 035", "auf QDM 035": degrees
     time,     ///< "1:05", "after one minute", "nach 30 s": seconds
     heading,  ///< "heading 225", "HDG 225", "Steuerkurs 225": degrees, now or as the next one
