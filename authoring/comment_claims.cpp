@@ -22,7 +22,7 @@ struct Wording {
 
 constexpr Wording wordings[] = {
     {ClaimKind::distance, R"(\b(?:at|bei) )" NUMBER R"( ?NM\b)", 1},
-    {ClaimKind::distance, R"(^DME )" NUMBER "(?=[,:])", 1},
+    {ClaimKind::distance, R"(^DME )" NUMBER "(?=[,:]? )", 1},
     {ClaimKind::radial, R"(^radial (\d{3})(?=[,:]))", 1},
     {ClaimKind::radial, R"(\b(?:on|auf) (?:radial|QDR) (\d{3})\b)", 1},
     {ClaimKind::bearing, R"(\b(?:on|auf) QDM (\d{3})\b)", 1},
