@@ -33,7 +33,8 @@ TEST_F(ChartLoadingTest, ChartReplacesEverything) {
     EXPECT_EQ(station(Slot::vor2).name.get(), "BRK");
     EXPECT_EQ(station(Slot::localizer).frequency.get(), "108.70");
     EXPECT_EQ(station(Slot::vor2).enabled, off);
-    EXPECT_EQ(station(Slot::vor2).dmeEnabled, on);
+    EXPECT_EQ(station(Slot::localizer).dmeEnabled, off);
+    EXPECT_TRUE(inSlot(sim.stations, Slot::vor1).buttonDown);
     EXPECT_EQ(inSlot(sim.picture.symbols, Slot::vor2).image, SymbolImage::dmeOnly);
     EXPECT_EQ(inSlot(sim.picture.symbols, Slot::vor1).name.caption, "ALB\n112.30");
     EXPECT_EQ(sim.c_LocCrs1, 83);
@@ -60,7 +61,7 @@ TEST_F(ChartLoadingTest, RecordingStartsOver) {
     sim.c_SessionFileName = "old";
     sim.c_replayInstLock = 1;
     loadLines(31);
-    EXPECT_EQ(sim.c_TraceBufferMax, 1);
+    EXPECT_EQ(sim.recording.sampleIndex(), 1);
     EXPECT_EQ(sim.c_SessionFileName.get(), "new");
     EXPECT_EQ(sim.c_replayInstLock, 0);
     EXPECT_FALSE(sim.hasCommentMarks());

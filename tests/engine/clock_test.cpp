@@ -53,17 +53,6 @@ TEST_F(RecorderTest, FreshStartRecordsFromSampleOne) {
     EXPECT_EQ(sim.c_TraceBufferMax, 2);
 }
 
-TEST_F(RecorderTest, ParkedAircraftOverwritesItsSample) {
-    start(120);
-    tick(11);
-    sim.c_TAS = 0;
-    const auto index = sim.c_TraceBufferMax.get();
-    sim.turnAircraft(77);
-    tick(8);
-    EXPECT_EQ(sim.c_TraceBufferMax, index);
-    EXPECT_EQ(sim.recording.at(index).traceHeading, 77);
-}
-
 TEST_F(RecorderTest, SampleHoldsTheState) {
     sim.wind = {222.5, 17};
     sim.c_LocCrs1 = 83;
@@ -97,13 +86,14 @@ TEST_F(RecorderTest, FullBufferWarnsAndStartsOver) {
     messages.sampleIndex = [this] { return sim.recording.sampleIndex(); };
     start(120);
     sim.Turn_Rate = 3; // stay on the chart
+    sim.c_SessionFileName = "mine";
     tick(3 + 4 * (5980 - 2));
     const std::vector<std::pair<int, BufferWarning>> expected = {{5900, BufferWarning::almostFull},
                                                                  {1, BufferWarning::full}};
     EXPECT_EQ(messages.warnings, expected);
     EXPECT_EQ(told(sim.c_TraceBufferMax, sim.clock.flightHours + sim.clock.flightMinutes,
-                   sim.recording.at(5979).traceTAS),
-              "1 0 120");
+                   sim.recording.at(5979).traceTAS, sim.c_SessionFileName),
+              "1 0 120 ");
 }
 
 } // namespace

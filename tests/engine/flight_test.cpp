@@ -54,19 +54,6 @@ TEST_F(FlightTest, HeadingGoesRoundTheCompass) {
     }
 }
 
-TEST_F(FlightTest, RateOneCircleCloses) {
-    start(120, 45);
-    sim.Turn_Rate = 3;
-    tick(180);
-    // 120 knots at 3 degrees a second: 4 miles round, and the chord lies across the start heading.
-    const CourseDistance across = CourseAndDistance({49, 11}, place());
-    EXPECT_NEAR(across.distance, 4 / 3.14159265, 0.001);
-    EXPECT_NEAR(across.course, 135.5, 0.1); // the turn goes before the leg: half a tick ahead
-    tick(180);
-    EXPECT_LT(milesBetween({49, 11}, place()), 0.001);
-    EXPECT_NEAR(sim.c_HDG, 45, 0.00001);
-}
-
 TEST_F(FlightTest, PassingOverAVorFlipsTheRadial) {
     sim.c_Altitude = 6000;
     start(120);

@@ -1,5 +1,6 @@
 #include "core/rounding.h"
 #include "engine/simulation_fixture.h"
+#include "support/told.h"
 
 #include <gmock/gmock.h>
 
@@ -76,7 +77,10 @@ TEST_F(ReplayTest, ResumesAtAnySampleAndKeepsWhatWasBefore) {
     EXPECT_EQ(sim.recording.at(6000).traceFlightMinutes, 0);
     EXPECT_EQ(sim.recording.at(40).traceComment, noComment);
     EXPECT_EQ(sim.recording.at(20), kept);
-    EXPECT_EQ(sim.clock.flightSeconds, kept.traceFlightSeconds);
+    const FlightClock& clock = sim.clock;
+    EXPECT_EQ(tarnel::told(clock.flightMinutes, static_cast<int>(clock.flightSeconds),
+                           clock.stopwatchMinutes, static_cast<int>(clock.stopwatchSeconds)),
+              "0 24 0 24");
     EXPECT_FALSE(sim.inReplay());
     const GeoPosition resumed = place();
     for (const int samples : {21, 22}) { // cut once: a stop and a start go on
@@ -220,19 +224,42 @@ TEST_F(ReplayTest, TheTraceIsThatOfTheWholeFlightAndHidesWithTheAircraft) {
     EXPECT_EQ(sim.picture.trace.all().size(), 10U);
 }
 
-TEST_F(ReplayTest, ANewSessionIsEmptyAndInSight) {
+TEST_F(ReplayTest, WhatEndsAFlightLeavesNothingOfIt) {
+    sim.newSessionName = "new";
+    for (const auto& end : std::initializer_list<std::function<void()>>{
+             [this] { sim.c_NewSession = 1; }, [this] { sim.dropRecording(); },
+             [this] {
+                 sim.placeAircraft(ChartPoint{1000, 1000});
+             }}) {
+        fly(20);
+        sim.startComment("text");
+        sim.stopComment();
+        sim.reference.append({49, 11});
+        sim.c_SessionFileName = "old";
+        sim.c_TraceEN = 1;
+        sim.c_RepeatValue = 9;
+        end();
+        EXPECT_TRUE(sim.picture.trace.all().empty());
+        EXPECT_TRUE(sim.reference.empty());
+        sim.c_TAS = 120;
+        sim.c_TimerEN = 1;
+        tick(4);
+        EXPECT_EQ(tarnel::told(sim.c_TraceBufferMax, sim.recording.sampleIndex(), sim.c_ApSeconds2,
+                               sim.c_SessionFileName, sim.hasCommentMarks()),
+                  "1 1 1 new 0");
+        sim.c_TimerEN = 0;
+    }
+    sim.dropRecording();
+    EXPECT_EQ(tarnel::told(sim.c_TraceBufferMax, sim.c_FlyEN), "0 0");
+}
+
+TEST_F(ReplayTest, ANewSessionIsInSight) {
     fly(30);
-    sim.startComment("text");
-    sim.reference.append({49, 11});
     const GeoPosition station1 = toPlain(sim.stations[0].position);
     sim.c_RepeatValue = 9;
     sim.c_NewSession = 1;
     const GeoPosition first = place();
-    EXPECT_EQ(sim.c_TraceBufferMax, 1);
-    EXPECT_EQ(sim.c_RepeatValue, 1);
-    EXPECT_EQ(sim.c_HDG + sim.c_ApSeconds2, 0);
-    EXPECT_EQ(sim.c_wind.get() + sim.comments.text(0), "0/0");
-    EXPECT_TRUE(sim.reference.empty());
+    EXPECT_EQ(tarnel::told(sim.c_RepeatValue, sim.c_HDG, sim.c_wind), "1 0 0/0");
     EXPECT_EQ(toPlain(sim.stations[0].position), station1);
     EXPECT_EQ(sim.recording.at(1).traceLat, first.latitude);
     EXPECT_EQ(sim.recording.at(1).traceLon, first.longitude);
@@ -243,29 +270,6 @@ TEST_F(ReplayTest, ANewSessionIsEmptyAndInSight) {
     EXPECT_NEAR(sim.aircraft.place.wide.y, 6310, 15); // near the lower edge
     for (const Station& station : sim.stations)
         EXPECT_LT(station.place.wide.y, 5500);
-    sim.c_TimerEN = 1;
-    tick(8);
-    EXPECT_EQ(sim.c_TraceBufferMax, 2);
-}
-
-TEST_F(ReplayTest, BeyondTheWarningItStartsOverOnceMore) {
-    fly(3);
-    sim.recording.setNewest(5995); // as a loaded session of 6,000 samples resumed there
-    sim.c_TimerEN = 1;
-    tick(8);
-    EXPECT_EQ(messages.warnings.size(), 1U);
-    EXPECT_LT(sim.c_TraceBufferMax, 4);
-}
-
-TEST_F(ReplayTest, CoursesStayOnTheEarthUnderATurnedChart) {
-    fly(40);
-    sim.c_MAPnorthUP = 0;
-    sim.c_RepeatValue = 2;
-    const double course = sim.c_HDG + sim.c_obsI3;
-    sim.c_RepeatValue = 30;
-    sim.c_RepeatValue = 12;
-    EXPECT_NEAR(sim.c_HDG + sim.c_obsI3, course, 1e-9);
-    EXPECT_NEAR(sim.recording.at(30).traceObsI3, course, 1e-9);
 }
 
 class ReferenceTest : public SimulationTest {};

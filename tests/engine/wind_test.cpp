@@ -1,4 +1,5 @@
 #include "engine/simulation_fixture.h"
+#include "support/told.h"
 
 #include <set>
 
@@ -83,8 +84,10 @@ TEST_F(WindTest, OfARecordingIsTheOneToComeBackToAndByChanceStaysUntold) {
 TEST_F(WindTest, IsDrawnTheWayItBlows) {
     draw({3000, 3000}, {4000, 3000}); // to the right: from the west
     EXPECT_EQ(sim.c_wind.get(), "270/20");
-    EXPECT_TRUE(sim.picture.windLine.line.visible);
-    EXPECT_EQ(sim.picture.windLine.direction.caption, "270");
+    const WindLine& tool = sim.picture.windLine;
+    EXPECT_EQ(told(tool.line.visible, tool.direction.caption, tool.direction.visible,
+                   tool.speed.caption, tool.speed.visible, tool.line.to.x),
+              "1 270 1 20 1 4000");
     sim.mouse.move({3000, 3099});
     EXPECT_EQ(sim.c_wind.get(), "0/0"); // 99 twips are less than a step
     sim.mouse.move({3000, 4250});

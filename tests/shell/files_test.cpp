@@ -36,8 +36,8 @@ TEST_F(FilesTest, ASessionComesBackAsItWasAndRestsOnItsLastSample) {
     load("flight.ts");
     EXPECT_EQ(told(sim().c_TraceBufferMax, form->replayPage.bar), told(samples, samples));
     EXPECT_EQ(told(form->replayPage.lock, form->inst2.type, sim().c_wind, sim().c_TraceEN,
-                   form->commentPanel.comment),
-              "1 3 240/15 1 Größe"); // the next tick pushes the panel
+                   sim().c_FlyEN, form->commentPanel.comment),
+              "1 3 240/15 1 1 Größe"); // the next tick pushes the panel
     EXPECT_EQ(sim().recording.at(10), tenth);
     EXPECT_EQ(sim().aircraft.place.point, (ChartPoint{3405, 3405}));
     EXPECT_TRUE(sim().referenceReading.known);
@@ -49,7 +49,9 @@ TEST_F(FilesTest, ASessionComesBackAsItWasAndRestsOnItsLastSample) {
     saveAs("secret.ts");
     EXPECT_THAT(bytes("secret.ts"), testing::StartsWith("*****"));
     form->fileMenu.encipher.click();
+    form->stationPage.edit.set(1);
     load("secret.ts");
+    EXPECT_EQ(told(sim().reference.size(), sim().c_mapedit), told(samples, 0));
     saveAs("flight.ts");
     EXPECT_EQ(bytes("flight.ts"), saved);
     const GeoPosition end = sim().aircraft.published();
@@ -79,10 +81,13 @@ TEST_F(FilesTest, SavingAsksBeforeItOverwritesWhatItDidNotName) {
     sim().loadByName(folder.path + "/mine.ts"); // as an exercise does
     couple();
     EXPECT_EQ(form->replayPage.bar.value(), 1);
-    load("mine.ts");
-    form->fileMenu.newSession.click();
-    form->fileMenu.saveSession.click();
-    expectAsked(2);
+    for (const char* file : {"mine.ts", "default.map"}) {
+        load("mine.ts");
+        file == std::string("mine.ts") ? form->fileMenu.newSession.click()
+                                       : form->files.openFile(folder.path + "/default.map");
+        form->fileMenu.saveSession.click();
+        expectAsked(2);
+    }
     world.chosen.reset(); // the user changes his mind
     form->fileMenu.saveChart.click();
     form->fileMenu.loadOldSession.click();
@@ -263,9 +268,10 @@ TEST_F(FilesTest, AChartComesBackWithTheStationsAsTheyWereMoved) {
         form->fileMenu.loadChart.click();
     }
     couple();
-    EXPECT_EQ(told(sim().slot(Slot::vor1).name, sim().slot(Slot::vor1).dmeEnabled == off,
+    const StationProperties& slot = sim().slot(Slot::vor1);
+    EXPECT_EQ(told(slot.name, slot.frequency, slot.enabled == off, slot.dmeEnabled == off,
                    sim().stations[0].labelOffsetY),
-              "KES 1 135");
+              "KES 113.60 0 1 135");
     EXPECT_NEAR(toPlain(sim().stations[0].position).latitude, moved.latitude, 1e-9);
     EXPECT_EQ(world.boxes.size(), 1U);
     form->startButton.click(); // a flight puts the editing away
