@@ -1,6 +1,7 @@
 #include "core/run_time_error.h"
 #include "persistence/file_bytes.h"
 #include "persistence/save_file.h"
+#include "support/own_device.h"
 #include "support/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -225,8 +226,9 @@ TEST_F(SaveFileTest, AFullDiskIsToldAndLeavesTheFile) {
 }
 
 TEST_F(SaveFileTest, RefusesWhatIsNoFileToWriteOrMayNotBeWritten) {
+    const std::string full = deviceAt(folder + "/full", Device::full);
     for (const auto& [name, error] :
-         {std::pair(folder, 75), {"/dev/full", 75}, {folder + "/none/flight.ts", 76}, {"", 76}})
+         {std::pair(folder, 75), {full, 75}, {folder + "/none/flight.ts", 76}, {"", 76}})
         EXPECT_EQ(errorOf([&, file = name] { saveFileBytes(file, after); }), error) << name;
     saveFileBytes(path, before);
     fs::permissions(path, fs::perms(0444));

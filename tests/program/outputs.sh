@@ -37,8 +37,12 @@ for option in --csv --session --picture; do
     expect 3 "a limit on files, $option" "$folder/out.png" limited "$fly" "$plan" $option \
         "$folder/out.png"
 done
-expect 0 "a pipe" "$plan" "$fly" "$plan" --csv /dev/null
-expect 3 "a full device" "$plan" "$fly" "$plan" --csv /dev/full
+# Devices of its own, so that a fault can't replace the machine's; only root can do either.
+null=$folder/null full=$folder/full
+mknod "$null" c 1 3 2>/dev/null || null=/dev/null
+mknod "$full" c 1 7 2>/dev/null || full=/dev/full
+expect 0 "a device" "$plan" "$fly" "$plan" --csv "$null"
+expect 3 "a full device" "$plan" "$fly" "$plan" --csv "$full"
 for pause in 0.02 0.1 0.3; do
     "$fly" "$plan" --csv "$folder/out.png" 2>/dev/null &
     sleep $pause

@@ -1,5 +1,6 @@
 #include "exercises/statistics.h"
 #include "persistence/lock_file.h"
+#include "support/own_device.h"
 #include "window/frame/file_settings.h"
 
 #include <QElapsedTimer>
@@ -105,14 +106,16 @@ TEST_F(FileSettingsTest, WhatCanNotBeReadOrReplacedDelaysNothingAndIsToldOnce) {
         Cause cause;
     };
     std::optional<LockFile> held;
-    const auto link = [&](const char* target) {
-        return [this, target] { std::filesystem::create_symlink(target, path); };
+    const auto link = [&](Device kind) {
+        return [this, kind] {
+            std::filesystem::create_symlink(deviceAt(path + "device", kind), path);
+        };
     };
     const Case cases[] = {
         {"pipe", [&] { ASSERT_EQ(mkfifo(path.c_str(), 0600), 0); }, Cause::notAFile},
         {"folder", [&] { std::filesystem::create_directory(path); }, Cause::notAFile},
-        {"device", link("/dev/null"), Cause::notAFile},
-        {"endless", link("/dev/zero"), Cause::notAFile},
+        {"device", link(Device::null), Cause::notAFile},
+        {"endless", link(Device::zero), Cause::notAFile},
         {"large", [&] { write(std::string(largestSettings + 1, '\n')); }, Cause::fileTooLarge},
         {"full", [&] { write("[a]\nb\\c=" + std::string(largestSettings - 20, 'x')); },
          Cause::fileTooLarge},
