@@ -6,17 +6,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-struct ReadersWorld : NotedWorld {
-    bool hasReader = true;
-    bool answer = false;
-    std::vector<std::string> opened;
-    bool openDocument(const std::string& path, int page) override {
-        opened.push_back(fs::path(path).filename().string() + " " + std::to_string(page));
-        return hasReader;
-    }
-    bool ask(const std::string&, const std::string&) override { return answer; }
-};
-
 class DocumentsTest : public testing::Test {
   protected:
     static std::string withChart(const ApplicationFolder& folder) {
@@ -39,7 +28,7 @@ class DocumentsTest : public testing::Test {
     std::string shownSession() { return form.UserControl11.c_SessionFileName; }
 
     ApplicationFolder folder;
-    ReadersWorld world;
+    NotedWorld world;
     Form1 form{englishTable(), world, withChart(folder)};
 };
 
@@ -102,6 +91,7 @@ TEST_F(DocumentsTest, FilesFromOutsideOpenAsTheirNamesSayAndOnlyAtRest) {
 TEST_F(DocumentsTest, StatisticsAreDeletedOnlyOnAYes) {
     const auto counted = [this] { return world.settings().value("qxr1", "stats", "hsi_bad", "0"); };
     world.settings().setValue("qxr1", "stats", "hsi_bad", "7");
+    world.answer = false;
     form.exerciseMenu.resetStatistics.click();
     EXPECT_EQ(counted(), "7");
     world.answer = true;

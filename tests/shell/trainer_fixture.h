@@ -3,6 +3,7 @@
 #include "persistence/file_bytes.h"
 #include "shell/form_1.h"
 #include "strings/string_table.h"
+#include "support/noted_world.h"
 #include "support/temporary_folder.h"
 #include "support/told.h"
 
@@ -15,20 +16,6 @@
 #include <vector>
 
 namespace tarnel {
-
-/// An outside world that writes its boxes down.
-struct NotedWorld : OutsideWorld {
-    std::vector<std::string> boxes;
-    std::vector<std::string> asked;
-    bool answer = true; ///< to each question
-    void messageBox(BoxKind, const std::string& title, const std::string& text) override {
-        boxes.push_back(title + ": " + text);
-    }
-    bool ask(const std::string&, const std::string& text) override {
-        asked.push_back(text);
-        return answer;
-    }
-};
 
 /// A folder of its own, for a default chart.
 struct ApplicationFolder : TemporaryFolder {
@@ -79,18 +66,6 @@ struct Trainer {
 /// A test with such a trainer.
 class TrainerTest : public testing::Test, protected Trainer {};
 
-/// A world whose user picks the files that he is told to.
-struct PickingWorld : NotedWorld {
-    std::optional<std::string> chooseFile(const FileQuestion& question) override {
-        questions.push_back(question);
-        return chosen;
-    }
-    std::int64_t secondsNow() override { return ++seconds; }
-    std::int64_t seconds = 1767225600;
-    std::vector<FileQuestion> questions;
-    std::optional<std::string> chosen;
-};
-
 /// A trainer in a folder of its own, at rest.
 class TrainerWithFiles : public testing::Test {
   protected:
@@ -127,7 +102,7 @@ class TrainerWithFiles : public testing::Test {
     UserControl2& sim() { return form->UserControl11; }
 
     ApplicationFolder folder;
-    PickingWorld world;
+    NotedWorld world;
     std::unique_ptr<Form1> form;
 };
 

@@ -41,8 +41,7 @@ class HandStudent : public Student {
         fly(20);
         form->startButton.click();
         settle();
-        world.boxes.clear();
-        world.told.clear();
+        world = {};
     }
     /// What a hand may change, by name.
     State state() {
@@ -62,7 +61,11 @@ class HandStudent : public Student {
                   {"centre", told(toPlain(form->UserControl11.view.mapCenter).latitude)},
                   {"open", told(window->isVisible())},
                   {"box", world.boxes.empty() ? "" : world.boxes.back()},
-                  {"told", world.told}};
+                  {"opened", world.opened.empty() ? "" : world.opened.back()},
+                  {"asked", world.asked.empty() ? "" : world.asked.back()}};
+        if (!world.questions.empty())
+            all["file"] =
+                (world.questions.back().saves ? "save" : "load") + world.questions.back().extension;
         for (const PropertyBase* property : form->UserControl11.properties.all())
             all[std::string(property->name())] = property->text();
         return all;
@@ -86,7 +89,7 @@ class HandStudent : public Student {
             const std::string name = effect.substr(0, sign);
             std::string now = state().at(name);
             std::erase(now, ' ');
-            EXPECT_NE(state().at(name), before.at(name)) << name;
+            EXPECT_NE(state().at(name), before[name]) << name;
             EXPECT_THAT(now, testing::HasSubstr(effect.substr(sign + 1))) << name;
             used.insert(row.substr(row.rfind('/') + 1));
         }
@@ -187,18 +190,19 @@ TEST_F(HandStudent, EveryControlReachesTheModel) {
 
 TEST_F(HandStudent, EveryItemOfTheMenusDoesWhatItIsNamedFor) {
     std::string rows =
-        "mnuNewSession c_TraceBufferMax=1 mnuLoadSession told=load:ts "
-        "mnuLoadOLDSession told=load:ts mnuSaveSession told=save:ts mnuSaveSessionAs told=save:ts "
-        "mnuloadchart told=load:map mnuSaveChart told=save:map mnuSaveChartAs told=save:map "
+        "mnuNewSession c_TraceBufferMax=1 mnuLoadSession file=loadts "
+        "mnuLoadOLDSession file=loadts mnuSaveSession file=savets mnuSaveSessionAs file=savets "
+        "mnuloadchart file=loadmap mnuSaveChart file=savemap mnuSaveChartAs file=savemap "
         "fencrypt c_doEncrypt=-1 mnuExit open=0 placed/mnuUndo latitude=48.3011 "
         "placed/mnuUndo/mnuRedo latitude=48.36 editChart c_mapedit=1 adfpos exercise=5 "
         "qdm exercise=6 qdr exercise=7 hsipos2 exercise=1 mnuAltitude large=01 hldhsi exercise=3 "
         "dmearcs exercise=9 stdvor exercise=2 wind exercise=8 hlddg exercise=4 "
-        "qdnorient exercise=10 resstats told=Statistics "
+        "qdnorient exercise=10 resstats asked=exercises "
         "intro1 c_SessionFileName=e-introduction1.ts intro2 c_SessionFileName=e-introduction2.ts "
-        "bookStart told=buch_en.pdf:0 pdf31 told=buch_en.pdf:30 "
-        "bookAbbreviations told=buch_en.pdf:250 bookIndex told=buch_en.pdf:251 "
-        "hilfeindex told=help_en.html:0 userguide told=guide_en.pdf:0 webqxr told=tarnel_en.html:0 "
+        "bookStart opened=buch_en.pdf0 pdf31 opened=buch_en.pdf30 "
+        "bookAbbreviations opened=buch_en.pdf250 bookIndex opened=buch_en.pdf251 "
+        "hilfeindex opened=help_en.html0 userguide opened=guide_en.pdf0 webqxr "
+        "opened=tarnel_en.html0 "
         "eddk box=eddk eddl box=eddl eddr box=eddr edds box=edds edma box=edma lime box=lime "
         "lkkv box=lkkv lkpr box=lkpr lowg box=lowg "
         "test box=Tarnel headingUp c_MAPnorthUP=0 headingUp/northUp c_MAPnorthUP=1 "
@@ -220,7 +224,7 @@ TEST_F(HandStudent, EveryItemOfTheMenusDoesWhatItIsNamedFor) {
         const std::string name = item->objectName().toStdString();
         if (name.starts_with("pdf")) {
             item->trigger();
-            const int opened = std::stoi(world.told.substr(world.told.find(':') + 1));
+            const int opened = std::stoi(world.opened.back().substr(world.opened.back().find(' ')));
             EXPECT_TRUE(name.starts_with("pdf0") || opened >= page) << name;
             page = name.starts_with("pdf0") ? 0 : opened;
         } else

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "strings/string_table.h"
+#include "support/noted_world.h"
 #include "window/frame/main_window.h"
 #include "window/widgets/dressing.h"
 
@@ -19,30 +20,6 @@
 #include <vector>
 
 namespace tarnel {
-
-struct NotedWorld : OutsideWorld {
-    std::vector<std::string> boxes;
-    std::function<void()> behind = [] {}; ///< looks at what stands behind a box
-    void messageBox(BoxKind, const std::string&, const std::string& text) override {
-        boxes.push_back(text);
-        behind();
-    }
-    std::string told; ///< which document was opened at which page, or which file was asked for
-    bool openDocument(const std::string& path, int page) override {
-        told = path.substr(path.rfind('/') + 1) + ":" + std::to_string(page);
-        return true;
-    }
-    std::optional<std::string> chooseFile(const FileQuestion& question) override {
-        told = (question.saves ? "save:" : "load:") + question.extension;
-        return {};
-    }
-    bool ask(const std::string& title, const std::string&) override {
-        told = title;
-        return true;
-    }
-    std::int64_t secondsNow() override { return ++seconds; }
-    std::int64_t seconds = 0;
-};
 
 /// The window as a student has it, with the time run by hand.
 class Student : public testing::Test {
