@@ -11,13 +11,21 @@
 
 namespace tarnel {
 
-/// Counts the changes of a form's controls, so that a window knows when to look at them again.
+/// Counts the changes of a form's controls, so that a window knows when to look at them again. A
+/// part of a form counts its own, and the form counts them too.
 class FormState {
   public:
+    explicit FormState(FormState* wholeForm = nullptr) : whole(wholeForm) {}
+
     [[nodiscard]] std::uint64_t revision() const { return changes; }
-    void touch() { ++changes; }
+    void touch() {
+        ++changes;
+        if (whole)
+            whole->touch();
+    }
 
   private:
+    FormState* whole;
     std::uint64_t changes = 0;
 };
 

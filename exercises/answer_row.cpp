@@ -3,7 +3,7 @@
 namespace tarnel {
 
 AnswerRow::AnswerRow(FormState& form, const RowWidgets& widgets)
-    : prompt(form, widgets.prompt), answer(form, widgets.answer) {
+    : prompt(form, widgets.prompt), answer(form, widgets.answer), changes(form) {
     for (const EntryWidgets& entry : widgets.entries) {
         entries.push_back(std::make_unique<Entry>(form, entry));
         entries.back()->field.onChange = [this] { enableOptions(true); };
@@ -46,27 +46,35 @@ void AnswerRow::ask(const std::string& promptText, const std::vector<std::string
 }
 
 void AnswerRow::begin(RowState next) {
-    stage = next;
+    enter(next);
     judged = Verdict::notYet;
     ownAnswer.clear();
 }
 
+/// What a row shows follows from its state, so each new one counts as a change of the form.
+void AnswerRow::enter(RowState next) {
+    if (stage == next)
+        return;
+    stage = next;
+    changes.touch();
+}
+
 void AnswerRow::judge(bool right, const std::string& given, const std::string& answerText) {
-    stage = RowState::judged;
+    enter(RowState::judged);
     judged = right ? Verdict::right : Verdict::wrong;
     ownAnswer = given;
     showAnswer(answerText, right ? rightColours : wrongColours);
 }
 
 void AnswerRow::shut() {
-    stage = RowState::shut;
+    enter(RowState::shut);
     for (const auto& entry : entries)
         entry->field.setEnabled(false);
     enableOptions(false);
 }
 
 void AnswerRow::reveal(const std::string& solution) {
-    stage = RowState::revealed;
+    enter(RowState::revealed);
     showAnswer(solution, solutionColours);
 }
 

@@ -77,8 +77,10 @@ class AnswerRow {
     void setAnswerable(bool answerable);
     void enableOptions(bool enabled);
     void begin(RowState next);
+    void enter(RowState next);
     void showAnswer(const std::string& text, const LabelColours& colours);
 
+    FormState& changes;
     OptionGroup group;
     RowState stage = RowState::notAsked;
     Verdict judged = Verdict::notYet;

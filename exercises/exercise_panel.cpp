@@ -6,21 +6,22 @@
 namespace tarnel {
 
 ExercisePanel::ExercisePanel(FormState& form, const PanelWidgets& widgets)
-    : flyCode(widgets.flyCode),
-      frame(form, widgets.frame),
-      statisticBox(form, widgets.statisticBox, Text::statistics),
-      statistic(form, widgets.statistic),
-      notice(form, widgets.notice),
-      task(form, widgets.task),
-      known(form, widgets.known),
-      rule(form, widgets.rule),
-      nextButton(form, widgets.next, Text::nextQuestion),
-      solutionButton(form, widgets.solution, Text::showSolution),
-      flyButton(form, widgets.fly, Text::flyYourself),
-      cancelButton(form, widgets.cancel, Text::cancel),
-      randomBox(form, widgets.random, Text::randomOrder) {
+    : state(&form),
+      flyCode(widgets.flyCode),
+      frame(state, widgets.frame),
+      statisticBox(state, widgets.statisticBox, Text::statistics),
+      statistic(state, widgets.statistic),
+      notice(state, widgets.notice),
+      task(state, widgets.task),
+      known(state, widgets.known),
+      rule(state, widgets.rule),
+      nextButton(state, widgets.next, Text::nextQuestion),
+      solutionButton(state, widgets.solution, Text::showSolution),
+      flyButton(state, widgets.fly, Text::flyYourself),
+      cancelButton(state, widgets.cancel, Text::cancel),
+      randomBox(state, widgets.random, Text::randomOrder) {
     for (const RowWidgets& row : widgets.rows)
-        rows.push_back(std::make_unique<AnswerRow>(form, row));
+        rows.push_back(std::make_unique<AnswerRow>(state, row));
     frame.setVisible(false);
     frame.setHeight(panelHeight);
     task.setColours(restingColours);
@@ -68,6 +69,7 @@ void ExercisePanel::reveal(const Exercise& exercise) {
 }
 
 void ExercisePanel::clear() {
+    questions.note();
     for (TextPanel* text : std::initializer_list<TextPanel*>{&task, &known, &rule})
         text->setText({});
     statistic.setText({});

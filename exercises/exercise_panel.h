@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/form_frame.h"
+#include "core/change_count.h"
 #include "exercises/answer_row.h"
 #include "exercises/exercise.h"
 
@@ -39,12 +40,15 @@ class ExercisePanel {
 
     [[nodiscard]] const std::string& title() const { return name; }
     [[nodiscard]] QuestionPlace place() const { return shownPlace; }
+    /// A number that each question put up, or taken away, has for itself.
+    [[nodiscard]] std::uint64_t question() const { return questions.value(); }
     [[nodiscard]] bool folded() const { return small; }
     /// Whether the panel folds to its small height when the student watches or flies.
     [[nodiscard]] bool folds() const { return flyCode != 0; }
     /// All widgets, in the order of the keyboard.
     [[nodiscard]] std::vector<FormControl*> controls();
 
+    FormState state;            ///< of all that follows, rows included
     const std::int16_t flyCode; ///< `c_QAFly` while the panel's question is flown; 0 never
     FormFrame frame;
     FormFrame statisticBox;
@@ -65,6 +69,7 @@ class ExercisePanel {
 
     std::string name;
     QuestionPlace shownPlace;
+    ChangeCount questions;
     bool small = false;
 };
 

@@ -1,9 +1,12 @@
 #include "window/student_fixture.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QLineEdit>
 #include <QSet>
 #include <QSpinBox>
+
+#include <algorithm>
 
 namespace tarnel {
 namespace {
@@ -61,17 +64,39 @@ TEST_F(KeyStudent, ReachesEveryControlOfThePagesByTab) {
         find("Command6").setFocus();
         QSet<QWidget*> reached;
         for (int i = 0; i < 120; ++i) {
-            reached.insert(QApplication::focusWidget());
+            if (auto* focus = QApplication::focusWidget())
+                reached.insert(focus);
             press(Qt::Key_Tab);
         }
         auto* strip = find("Command6").parentWidget();
         for (auto* button : strip->findChildren<QAbstractButton*>()) {
             if (!button->isVisible() || !button->isEnabled())
                 continue;
-            EXPECT_TRUE(reached.contains(button)) << qPrintable(button->objectName());
+            const auto sameGroup = [button](QWidget* widget) {
+                return widget == button ||
+                       (button->autoExclusive() && widget->parent() == button->parent());
+            };
+            EXPECT_TRUE(std::ranges::any_of(reached, sameGroup)) // arrows go on in a group
+                << qPrintable(button->objectName());
             EXPECT_FALSE(button->accessibleName().isEmpty() && button->text().isEmpty())
                 << qPrintable(button->objectName());
         }
+    }
+}
+
+// An option button's arrows choose, and it is one to a screen reader too.
+TEST_F(KeyStudent, ArrowsTakeTheChoiceOfAGroupAlong) {
+    openInFront();
+    find("Option5").setFocus();
+    form->rateReal.click();
+    for (const auto& [key, rate] :
+         {std::pair(Qt::Key_Right, &form->rateDouble), {Qt::Key_Left, &form->rateReal}}) {
+        settle();
+        press(key);
+        EXPECT_TRUE(rate->chosen());
+        auto* focus = qobject_cast<QAbstractButton*>(QApplication::focusWidget());
+        ASSERT_TRUE(focus && focus->isChecked());
+        EXPECT_EQ(QAccessible::queryAccessibleInterface(focus)->role(), QAccessible::RadioButton);
     }
 }
 

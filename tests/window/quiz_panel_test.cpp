@@ -6,6 +6,7 @@
 #include "window/widgets/cover_plate.h"
 #include "window/widgets/quiz_list.h"
 
+#include <QAccessible>
 #include <QWheelEvent>
 
 namespace tarnel {
@@ -91,6 +92,16 @@ TEST_F(QuizPanelTest, TheWheelAndTheMouseOverAListAnswerNothing) {
         settle();
         play(index == 0 ? "Text12>" : "Text12>055");
     }
+}
+
+// There is one attempt, so going through the options gives no answer.
+TEST_F(QuizPanelTest, ArrowsOnlyGoThroughTheOptions) {
+    begin("hldhsi");
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&inQuiz("Option11"))->role(),
+              QAccessible::RadioButton);
+    play("focus>Option11; key Right; key Right; focus>Option13; Label8>; key Tab; focus>Option1; "
+         "key Left; Label9>; key Right; key Space; focus>Option6; Label8>");
+    EXPECT_NE(shown("Label9"), "");
 }
 
 // Digits answer the row with the keyboard, or the first open one from anywhere in the window.

@@ -56,7 +56,7 @@ void ScaleChoice::refresh() {
         return;
     shown = scale;
     for (std::size_t i = 0; i < count; ++i)
-        segments[i]->setChecked(MapView::offeredScales[i] == scale);
+        showChosen(*segments[i], MapView::offeredScales[i] == scale);
 }
 
 } // namespace tarnel

@@ -46,8 +46,8 @@ void ViewSwitch::refresh() {
     if (up == shownNorthUp)
         return;
     shownNorthUp = up;
-    northUp->setChecked(up);
-    headingUp->setChecked(!up);
+    showChosen(*northUp, up);
+    showChosen(*headingUp, !up);
 }
 
 } // namespace tarnel

@@ -2,20 +2,20 @@
 
 #include "look/look.h"
 
+#include <QGridLayout>
 #include <QLabel>
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOption>
 
 #include <array>
-#include <cmath>
 
 namespace tarnel {
 
 namespace {
 
-/// The share of the width that each panel takes.
-constexpr std::array<double, 7> shares = {.185, .135, .135, .135, .15, .145, .115};
+/// How much of the width each panel takes, in thousandths.
+constexpr std::array<int, 7> shares = {185, 135, 135, 135, 150, 145, 115};
 constexpr int noticeMilliseconds = 8000;
 
 } // namespace
@@ -27,14 +27,23 @@ StatusPanels::StatusPanels(TrainerControls& form, TextPanel& flightNotice, FormB
     const std::array<TextPanel*, 7> order = {
         &form.sessionPanel, &form.windPanel, &form.hidePanel,      &form.tracePanel,
         &form.vectorsPanel, &form.modePanel, &form.flightTimePanel};
+    auto* row = new QGridLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(0);
     for (TextPanel* panel : order) {
         auto* label = new QLabel(this);
+        label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
         binding.bind(*panel, *label);
+        const int column = static_cast<int>(panels.size());
+        row->addWidget(label, 0, column);
+        row->setColumnStretch(column, shares[panels.size()]);
         panels.push_back(label);
     }
     panels.back()->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    notice = new QLabel(this);
+    auto* notice = new QLabel(this); // lies over them for a moment
+    notice->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
     binding.bind(flightNotice, *notice);
+    row->addWidget(notice, 0, 0, 1, static_cast<int>(panels.size()));
     noticeEnd.setSingleShot(true);
     connect(&noticeEnd, &QTimer::timeout, this,
             [&flightNotice] { flightNotice.setVisible(false); });
@@ -42,17 +51,6 @@ StatusPanels::StatusPanels(TrainerControls& form, TextPanel& flightNotice, FormB
         if (flightNotice.visible() && !noticeEnd.isActive())
             noticeEnd.start(noticeMilliseconds);
     });
-}
-
-void StatusPanels::resizeEvent(QResizeEvent*) {
-    double left = 0;
-    for (std::size_t i = 0; i < panels.size(); ++i) {
-        const double panelWidth = shares[i] * width();
-        panels[i]->setGeometry(static_cast<int>(std::lround(left)), 0,
-                               static_cast<int>(std::lround(panelWidth)), height());
-        left += panelWidth;
-    }
-    notice->setGeometry(rect());
 }
 
 void StatusPanels::paintEvent(QPaintEvent*) {

@@ -22,11 +22,9 @@ class StatusPanels : public QWidget {
 
   protected:
     void paintEvent(QPaintEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
 
   private:
     std::vector<QLabel*> panels;
-    QLabel* notice; ///< lies over them for a moment
     QTimer noticeEnd;
 };
 

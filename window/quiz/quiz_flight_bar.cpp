@@ -2,24 +2,21 @@
 
 #include "look/look.h"
 #include "window/widgets/icons.h"
-#include "window/widgets/quiz_measures.h"
 #include "window/widgets/replay_bar.h"
 #include "window/widgets/segment_row.h"
+#include "window/widgets/wrap_layout.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QToolButton>
-#include <QVBoxLayout>
-
-#include <algorithm>
 
 namespace tarnel {
 
 namespace {
 
 constexpr int rowGap = 8;
-constexpr int roomForSpeeds = 500; ///< px at text scale 1, so that the replay's bar stays long
+constexpr int shortestBar = 80; ///< px
 
 /// Keeps the place of `widget` while it is hidden, so that its neighbours stay where they are.
 void keepPlace(QWidget& widget) {
@@ -32,34 +29,28 @@ void keepPlace(QWidget& widget) {
 
 QuizFlightBar::QuizFlightBar(const QuizModel& quizModel, FormBinding& binding, QWidget* parent)
     : QWidget(parent), model(quizModel) {
-    auto* rows = new QVBoxLayout(this);
-    rows->setContentsMargins(0, 0, 0, 0);
-    rows->setSpacing(rowGap);
-    rows->addLayout(flightRow = makeFlightRow(binding));
-    rows->addLayout(replayRow = makeReplayRow(binding));
-    binding.follow([this] { follow(); });
-}
-
-QBoxLayout* QuizFlightBar::makeFlightRow(FormBinding& binding) {
-    auto* row = new QHBoxLayout;
-    row->setSpacing(look::gap);
+    auto* parts = new WrapLayout(WrapLayout::Manner::flowing, look::gap, rowGap);
+    setLayout(parts);
     startButton = new QPushButton(this);
     startButton->setProperty("primary", true);
     binding.bind(model.controls.startButton, *startButton);
-    row->addWidget(startButton);
+    parts->addWidget(startButton);
     speeds = segmentRow(binding,
                         {&model.controls.rateHalf, &model.controls.rateReal,
                          &model.controls.rateDouble, &model.controls.rateQuadruple},
                         this);
-    row->addWidget(speeds, 1);
-    return row;
+    speeds->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    parts->addWidget(speeds);
+    parts->addLayout(makeReplayRow(binding));
+    binding.follow([this] { follow(); });
 }
 
-QBoxLayout* QuizFlightBar::makeReplayRow(FormBinding& binding) {
+QLayout* QuizFlightBar::makeReplayRow(FormBinding& binding) {
     auto* row = new QHBoxLayout;
     addSign(*row, binding, model.controls.replayPage.play, Sign::play);
     addSign(*row, binding, model.controls.replayPage.stop, Sign::stop);
     auto* bar = new ReplayBar(this);
+    bar->setMinimumWidth(shortestBar);
     keepPlace(*bar);
     binding.bind(model.controls.replayPage.bar, *bar);
     row->addWidget(bar, 1);
@@ -92,31 +83,12 @@ void QuizFlightBar::follow() {
     clock->setVisible(model.controls.replayPage.bar.visible());
 }
 
-int QuizFlightBar::heightIn(int width) {
-    const bool starts = model.exercise.studentFlies();
-    placeSpeeds(starts || width < roomForSpeeds * quiz::scaleOf(*this));
-    const QWidget& first = starts ? *static_cast<QWidget*>(startButton) : *speeds;
-    return briefHeight() + (speedsBesideStart ? rowGap + first.sizeHint().height() : 0);
-}
-
-/// Said by its tallest parts: a layout that is hidden does not notice what has become empty.
-int QuizFlightBar::briefHeight() const {
-    return std::max(backButton->sizeHint().height(), speeds->sizeHint().height());
-}
-
 void QuizFlightBar::setBrief(bool brief) {
     speeds->setVisible(!brief);
 }
 
-void QuizFlightBar::placeSpeeds(bool besideStart) {
-    if (besideStart == speedsBesideStart)
-        return;
-    speedsBesideStart = besideStart;
-    (besideStart ? replayRow : flightRow)->removeWidget(speeds);
-    if (besideStart)
-        flightRow->addWidget(speeds, 1);
-    else
-        replayRow->insertWidget(replayRow->indexOf(backButton), speeds);
+int QuizFlightBar::sparedHeight() const {
+    return speeds->isHidden() ? rowGap + speeds->sizeHint().height() : 0;
 }
 
 QWidget* QuizFlightBar::firstControl() const {

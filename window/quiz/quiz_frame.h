@@ -5,11 +5,15 @@
 
 #include <QWidget>
 
+#include <optional>
 #include <vector>
 
 class QCheckBox;
+class QGridLayout;
+class QHBoxLayout;
 class QLabel;
 class QPushButton;
+class QVBoxLayout;
 
 namespace tarnel {
 
@@ -30,16 +34,16 @@ class QuizFrame : public QWidget {
     [[nodiscard]] bool folded() const { return asked.folded(); }
     /// Whether every sub-question has got its answer.
     [[nodiscard]] bool answered() const;
-    /// All texts of the question, without the answers.
-    [[nodiscard]] QString question() const;
 
     /// Shows `bar` while there is a flight to fly or to watch.
     void host(QuizFlightBar* bar);
     /// The height that all of it takes at a width.
     [[nodiscard]] int wantedHeight(int width) const;
-    /// Takes up what has changed, and lays out anew if it takes other room. True if it does.
-    /// `flies` and `watches` tell what there is of a flight.
+    /// Takes up what has changed. True if it may want other room now. `flies` and `watches` tell
+    /// what there is of a flight.
     bool follow(bool flies, bool watches);
+    /// In a height too low for all of it the speeds of a replay give way.
+    void spareRoom();
 
     [[nodiscard]] const std::vector<QuizRow*>& rows() const { return questions; }
     /// The row of a widget, or else the first open one; null if none is open.
@@ -53,32 +57,28 @@ class QuizFrame : public QWidget {
     void paintEvent(QPaintEvent* event) override;
 
   private:
+    /// What the widgets were last made for.
+    struct Shown {
+        std::uint64_t revision = 0;
+        bool flown = false;   ///< the student's own flight is up
+        bool watched = false; ///< a solution can be watched
+        bool operator==(const Shown&) const = default;
+    };
+
     QLabel* label(const char* kind = nullptr);
     QPushButton* button(CommandButton& control, FormBinding& binding);
-    void makeHeader(FormBinding& binding);
-    void makeRows(FormBinding& binding);
-    void makeButtons(FormBinding& binding);
-    [[nodiscard]] QString content() const;
-    void followTitle();
+    [[nodiscard]] QVBoxLayout* makeHeader(FormBinding& binding);
+    void addTexts(QVBoxLayout& column);
+    [[nodiscard]] QWidget* makeRows(FormBinding& binding);
+    [[nodiscard]] QHBoxLayout* makeButtons(FormBinding& binding);
+    [[nodiscard]] QString question() const;
+    void followTexts();
     void followFlight();
-    [[nodiscard]] bool hasBar() const { return flightBar && (flown || watched); }
     void setNextPrimary(bool primary);
-
-    /// Places everything in a card of `size`, or only measures. The height that is needed.
-    int arrange(QSize size, bool place) const;
-    [[nodiscard]] int watchedHeight(int frameWidth) const;
-    int arrangeHeader(int top, int width, bool place, bool counts) const;
-    int arrangeTexts(int top, int width, bool place) const;
-    int arrangeRows(int top, int width, int bottom, bool place) const;
-    void placeButtons(int top, int width) const;
-    [[nodiscard]] int promptWidth(int width) const;
-    [[nodiscard]] int headerWidth(bool counts) const;
-    [[nodiscard]] int buttonsWidth() const;
-    [[nodiscard]] int buttonHeight() const;
-    [[nodiscard]] bool boxBesideButtons(int width) const;
-    [[nodiscard]] int scaled(int pixels) const;
+    [[nodiscard]] int watchedHeight(int frameWidth, int heightOfAll) const;
 
     ExercisePanel& asked;
+    const StringTable& texts;
     QLabel* title = nullptr;
     QLabel* place = nullptr; ///< which question of how many
     QLabel* statistic = nullptr;
@@ -86,18 +86,17 @@ class QuizFrame : public QWidget {
     QLabel* task = nullptr;
     QLabel* known = nullptr;
     QLabel* rule = nullptr;
+    QWidget* questionArea = nullptr;
+    QGridLayout* grid = nullptr;
     std::vector<QuizRow*> questions;
+    QVBoxLayout* barPlace = nullptr;
     QPushButton* next = nullptr;
     QPushButton* solution = nullptr;
     QPushButton* fly = nullptr;
     QPushButton* cancel = nullptr;
     QCheckBox* random = nullptr;
     QuizFlightBar* flightBar = nullptr;
-    const StringTable& texts;
-    bool flown = false;   ///< the student's own flight is up
-    bool watched = false; ///< a solution can be watched
-    QString shownContent;
-    mutable int headerLine = 0; ///< where the line below the header stands
+    std::optional<Shown> shown;
 };
 
 } // namespace tarnel

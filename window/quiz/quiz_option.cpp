@@ -1,9 +1,13 @@
 #include "window/quiz/quiz_option.h"
 
 #include "look/look.h"
+#include "window/quiz/two_lines.h"
 #include "window/widgets/quiz_measures.h"
 
-#include <QPainter>
+#include <QStyleOptionButton>
+#include <QStylePainter>
+
+#include <algorithm>
 
 namespace tarnel {
 
@@ -18,8 +22,9 @@ constexpr int sparedPadding = 6; ///< where room is short
 } // namespace
 
 QuizOption::QuizOption(int number, QWidget* parent)
-    : QPushButton(parent), digit(QString::number(number)) {
+    : ChoiceButton(2 * padding, parent), digit(QString::number(number)) {
     setProperty("choice", true);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 
 QFont QuizOption::smallFont(double share) const {
@@ -49,15 +54,17 @@ int QuizOption::tightWidth() const {
 
 int QuizOption::brokenWidth() const {
     ensurePolished();
-    const QFontMetrics metrics(smallFont(brokenShare));
-    const QStringList words = shownText().split(QLatin1Char(' '));
-    int narrowest = tightWidth();
-    for (qsizetype i = 1; i < words.size(); ++i) {
-        const int first = metrics.horizontalAdvance(words.first(i).join(QLatin1Char(' ')));
-        const int second = metrics.horizontalAdvance(words.sliced(i).join(QLatin1Char(' ')));
-        narrowest = qMin(narrowest, digitPart() + qMax(first, second) + 1);
-    }
-    return narrowest;
+    const int broken =
+        quiz::twoLineWidth(QFontMetrics(smallFont(brokenShare)), shownText()) + digitPart() + 1;
+    return std::min(tightWidth(), broken);
+}
+
+QSize QuizOption::sizeHint() const {
+    return {lineWidth(), QPushButton::sizeHint().height()};
+}
+
+QSize QuizOption::minimumSizeHint() const {
+    return {brokenWidth(), sizeHint().height()};
 }
 
 /// Digit and text stand in the middle as one.
@@ -78,18 +85,11 @@ void QuizOption::paintText(QPainter& painter) const {
                      shownText());
 }
 
-void QuizOption::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const bool active = isEnabled() && (underMouse() || hasFocus());
-    const double edge = hasFocus() ? 2 : 1;
-    painter.setPen(QPen(active ? look::accent : isEnabled() ? look::line : look::hairline, edge));
-    painter.setBrush(!isEnabled() ? look::card
-                     : isDown()   ? look::hairline
-                     : hasFocus() ? look::onPaper(look::accent, 0.08)
-                                  : look::paper);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(edge / 2, edge / 2, -edge / 2, -edge / 2),
-                            look::controlRadius, look::controlRadius);
+void QuizOption::paintEvent(QPaintEvent* /*event*/) {
+    QStylePainter painter(this);
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    painter.drawControl(QStyle::CE_PushButtonBevel, option);
     paintText(painter);
 }
 

@@ -1,11 +1,11 @@
 #pragma once
 
-#include <QPushButton>
+#include "window/widgets/choice_button.h"
 
 namespace tarnel {
 
 /// `QuizOption`: an answer to choose, with the digit of the keyboard that chooses it.
-class QuizOption : public QPushButton {
+class QuizOption : public ChoiceButton {
     Q_OBJECT
 
   public:
@@ -18,6 +18,8 @@ class QuizOption : public QPushButton {
     [[nodiscard]] int tightWidth() const;
     /// The least width: in two lines if the text can be broken.
     [[nodiscard]] int brokenWidth() const;
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
 
   protected:
     void paintEvent(QPaintEvent* event) override;

@@ -10,6 +10,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QStackedLayout>
 
 #include <algorithm>
 
@@ -28,6 +29,7 @@ void announce(QWidget& widget) {
 QuizPanel::QuizPanel(const QuizModel& quizModel, FormBinding& links, QWidget* parent)
     : QWidget(parent), model(quizModel), binding(links) {
     setObjectName(QStringLiteral("QAform1"));
+    pages = new QStackedLayout(this);
     flightBar = new QuizFlightBar(model, binding, this);
     flightBar->hide();
     hide();
@@ -43,8 +45,7 @@ QuizFrame* QuizPanel::runningFrame() {
     if (found != frames.end())
         return *found;
     frames.push_back(new QuizFrame(*panel, model.texts, binding, this));
-    frames.back()->hide();
-    frames.back()->setGeometry(rect());
+    pages->addWidget(frames.back());
     return frames.back();
 }
 
@@ -60,8 +61,10 @@ void QuizPanel::refresh() {
     const bool changed =
         active->follow(model.exercise.studentFlies(), model.exercise.solutionShown());
     followQuestion();
-    if (changed || tallestWidth != width() || shownHeight == 0)
+    if (changed || tallestWidth != width() || shownHeight == 0) {
         measure();
+        active->spareRoom();
+    }
 }
 
 /// Keeps the height that the tallest question of the exercise wants.
@@ -78,12 +81,12 @@ void QuizPanel::show(QuizFrame* frame) {
     active = frame;
     shownHeight = tallest = 0;
     wasOpen.clear();
-    question.clear();
+    question = 0;
     setVisible(frame != nullptr);
-    for (QuizFrame* each : frames)
-        each->setVisible(each == frame);
-    if (frame)
-        frame->host(flightBar);
+    if (!frame)
+        return;
+    pages->setCurrentWidget(frame);
+    frame->host(flightBar);
 }
 
 int QuizPanel::wantedHeight(int width) const {
@@ -93,25 +96,14 @@ int QuizPanel::wantedHeight(int width) const {
     return active->folded() || width != tallestWidth ? height : std::max(height, tallest);
 }
 
-/// A question is another if its texts are, or if a row is open again. The first answer has the
-/// keyboard then; after an answer the next open row has it.
+/// Of a new question the first answer has the keyboard; after an answer the next open row has it.
 void QuizPanel::followQuestion() {
-    std::vector<bool> isOpen;
-    const QuizRow* closed = nullptr;
-    bool opened = false;
-    for (const QuizRow* row : active->rows()) {
-        const std::size_t at = isOpen.size();
-        const bool before = at < wasOpen.size() && wasOpen[at];
-        isOpen.push_back(row->open());
-        opened = opened || (row->open() && !before);
-        if (before && !row->open() && row->asked())
-            closed = row;
-    }
+    const std::uint64_t asked = active->panel().question();
+    const bool isNew = question != asked;
     const bool unfolded = folded && !active->folded();
     const bool folds = !folded && active->folded();
-    const bool isNew = opened || question != active->question();
-    wasOpen = std::move(isOpen);
-    question = active->question();
+    const QuizRow* closed = rowJustClosed();
+    question = asked;
     folded = active->folded();
     if (isNew)
         announce(*active);
@@ -123,6 +115,19 @@ void QuizPanel::followQuestion() {
         focusFlight();
     else if (isNew || unfolded || closed)
         focusAnswer(isNew ? nullptr : closed);
+}
+
+/// The last of the rows that were open before; null if none was closed.
+const QuizRow* QuizPanel::rowJustClosed() {
+    const QuizRow* closed = nullptr;
+    wasOpen.resize(active->rows().size());
+    for (std::size_t i = 0; i < wasOpen.size(); ++i) {
+        const QuizRow* row = active->rows()[i];
+        if (wasOpen[i] && !row->open() && row->asked())
+            closed = row;
+        wasOpen[i] = row->open();
+    }
+    return closed;
 }
 
 void QuizPanel::focusAnswer(const QuizRow* after) {
@@ -170,11 +175,6 @@ bool QuizPanel::enter() {
 void QuizPanel::keyPressEvent(QKeyEvent* event) {
     if (!takeKey(*event))
         QWidget::keyPressEvent(event);
-}
-
-void QuizPanel::resizeEvent(QResizeEvent*) {
-    for (QuizFrame* frame : frames)
-        frame->setGeometry(rect());
 }
 
 } // namespace tarnel

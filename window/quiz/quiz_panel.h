@@ -7,6 +7,8 @@
 
 #include <vector>
 
+class QStackedLayout;
+
 namespace tarnel {
 
 class QuizFlightBar;
@@ -36,7 +38,6 @@ class QuizPanel : public QWidget {
     bool takeKey(const QKeyEvent& event);
 
   protected:
-    void resizeEvent(QResizeEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
@@ -44,6 +45,7 @@ class QuizPanel : public QWidget {
     void show(QuizFrame* frame);
     void measure();
     void followQuestion();
+    const QuizRow* rowJustClosed();
     void focusAnswer(const QuizRow* after);
     void focusFlight();
     bool enter();
@@ -51,6 +53,7 @@ class QuizPanel : public QWidget {
     QuizModel model;
     FormBinding& binding;
     std::vector<QuizFrame*> frames;
+    QStackedLayout* pages = nullptr;
     QuizFlightBar* flightBar = nullptr;
     QuizFrame* active = nullptr;
     std::uint64_t shown = 0;
@@ -59,7 +62,7 @@ class QuizPanel : public QWidget {
     int tallestWidth = 0;
     bool folded = false;
     bool flightAwaitsFocus = false;
-    QString question;
+    std::uint64_t question = 0;
     std::vector<bool> wasOpen; ///< by row
 };
 

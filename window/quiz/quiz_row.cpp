@@ -1,13 +1,15 @@
 #include "window/quiz/quiz_row.h"
 
 #include "window/quiz/quiz_option.h"
+#include "window/quiz/quiz_prompt.h"
 #include "window/quiz/quiz_verdict.h"
 #include "window/widgets/quiz_list.h"
 #include "window/widgets/quiz_measures.h"
 
+#include <QButtonGroup>
+#include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QStyle>
 
 #include <algorithm>
 
@@ -15,75 +17,117 @@ namespace tarnel {
 
 namespace {
 
-// In pixels at text scale 1.
-constexpr int numberWidth = 18;
-constexpr int columnGap = 10;
-constexpr int fieldWidth = 52;
-constexpr int unitWidth = 26;
-constexpr int unitGap = 4;
-constexpr int widestChoice = 120;
-
 QString plain(const std::string& text) {
     return QString::fromStdString(text);
+}
+
+void setRetained(QWidget& widget, bool retained) {
+    QSizePolicy policy = widget.sizePolicy();
+    policy.setRetainSizeWhenHidden(retained);
+    widget.setSizePolicy(policy);
 }
 
 } // namespace
 
 QuizRow::QuizRow(int number, AnswerRow& row, const StringTable& table, FormBinding& binding,
-                 QWidget* parent)
-    : QWidget(parent), answerRow(row), texts(table) {
-    numberLabel = new QLabel(QString::number(number), this);
+                 QGridLayout& grid)
+    : QObject(grid.parentWidget()), answerRow(row), texts(table) {
+    QWidget& frame = *grid.parentWidget();
+    numberLabel = new QLabel(QString::number(number), &frame);
     numberLabel->setProperty("secondary", true);
-    prompt = new QLabel(this);
-    prompt->setWordWrap(true);
-    prompt->setTextFormat(Qt::PlainText);
+    prompt = new QuizPrompt(&frame);
     prompt->setObjectName(nameOf(row.prompt));
-    makeEntries(binding);
-    makeOptions(binding);
-    makeList(binding);
-    verdict = new QuizVerdict(this);
-    verdict->setObjectName(nameOf(row.answer));
-    own = new QuizVerdict(this);
-    own->setObjectName(QStringLiteral("Own_") + nameOf(row.answer));
+    const int line = number - 1;
+    grid.addWidget(numberLabel, line, 0);
+    grid.addWidget(prompt, line, 1);
+    grid.addLayout(makeAnswers(binding, frame), line, 2);
+    grid.addLayout(makeVerdicts(frame), line, 2);
 }
 
-void QuizRow::makeEntries(FormBinding& binding) {
+QHBoxLayout* QuizRow::makeAnswers(FormBinding& binding, QWidget& frame) {
+    makeEntries(binding, frame);
+    makeOptions(binding, frame);
+    makeList(binding, frame);
+    auto* line = new QHBoxLayout;
+    line->setSpacing(quiz::answerGap);
+    for (QWidget* widget : answers)
+        line->addWidget(widget);
+    if (list)
+        line->addStretch();
+    return line;
+}
+
+void QuizRow::makeEntries(FormBinding& binding, QWidget& frame) {
     for (const auto& entry : answerRow.entries) {
-        auto* field = new QLineEdit(this);
+        auto* field = new QLineEdit(&frame);
         field->setProperty("quiz", true);
         field->setAlignment(Qt::AlignRight);
         binding.bind(entry->field, *field);
         fields.push_back(field);
-        auto* unit = new QLabel(this);
+        auto* unit = new QLabel(&frame);
         unit->setProperty("secondary", true);
+        unit->setProperty("unit", true);
         unit->setObjectName(nameOf(entry->unit));
         if (entry->unit.caption())
             unit->setText(textOf(texts, *entry->unit.caption()));
         binding.follow([&shown = entry->unit, unit] { unit->setVisible(shown.visible()); });
         units.push_back(unit);
+        answers.insert(answers.end(), {field, unit});
     }
 }
 
-void QuizRow::makeOptions(FormBinding& binding) {
+/// There is one attempt, so arrow keys only go from option to option: none is ever the chosen one
+/// while the row can be answered.
+void QuizRow::makeOptions(FormBinding& binding, QWidget& frame) {
+    auto* group = new QButtonGroup(this);
     int digit = 0;
     for (const auto& option : answerRow.options) {
-        options.push_back(new QuizOption(++digit, this));
-        binding.bind(*option, *options.back());
+        auto* button = new QuizOption(++digit, &frame);
+        binding.bind(*option, *button);
+        group->addButton(button);
+        options.push_back(button);
+        answers.push_back(button);
     }
 }
 
-void QuizRow::makeList(FormBinding& binding) {
+void QuizRow::makeList(FormBinding& binding, QWidget& frame) {
     if (!answerRow.list)
         return;
-    list = new QuizList(this);
+    list = new QuizList(&frame);
+    list->leaveRoomBehind(textOf(texts, Text::answerRight));
     binding.bind(*answerRow.list, *list);
+    answers.push_back(list);
 }
 
-void QuizRow::follow() {
+/// The student's own answer has the room that the verdict leaves it.
+QHBoxLayout* QuizRow::makeVerdicts(QWidget& frame) {
+    verdict = new QuizVerdict(&frame);
+    verdict->setObjectName(nameOf(answerRow.answer));
+    own = new QuizVerdict(&frame);
+    own->setObjectName(QStringLiteral("Own_") + nameOf(answerRow.answer));
+    auto* line = new QHBoxLayout;
+    line->setSpacing(quiz::answerGap);
+    line->addWidget(verdict);
+    line->addWidget(own, 1);
+    line->addStretch();
+    return line;
+}
+
+bool QuizRow::has(const QWidget* widget) const {
+    return std::ranges::find(answers, widget) != answers.end();
+}
+
+/// A row keeps the room of its answers once it has its verdict, so that no other row moves.
+void QuizRow::follow(bool compact) {
     // A lone question mark would look lost in a line of its own.
-    prompt->setText(promptText().replace(QStringLiteral(" ?"), QStringLiteral("\u00A0?")));
-    prompt->setProperty("shut", answerRow.state() == RowState::shut);
-    prompt->style()->polish(prompt);
+    prompt->tell(promptText().replace(QStringLiteral(" ?"), QStringLiteral("\u00A0?")),
+                 answerRow.state() == RowState::shut);
+    for (QWidget* part : {static_cast<QWidget*>(numberLabel), static_cast<QWidget*>(prompt)})
+        part->setVisible(asked());
+    for (QWidget* answer : answers)
+        setRetained(*answer, asked() && !compact);
+    verdict->setCompact(compact);
+    own->setCompact(compact);
     tellVerdict();
     tellOwnAnswer();
     nameAnswers();
@@ -125,12 +169,6 @@ QString QuizRow::givenText() const {
     return given.isEmpty() ? QStringLiteral("\u2013") : given;
 }
 
-void QuizRow::setCompact(bool small) {
-    compact = small;
-    verdict->setCompact(small);
-    own->setCompact(small);
-}
-
 /// Each answer is told with its question.
 void QuizRow::nameAnswers() {
     const QString asked = promptText();
@@ -141,23 +179,6 @@ void QuizRow::nameAnswers() {
                                       plain(answerRow.options[i]->text()));
     if (list)
         list->setAccessibleName(asked);
-}
-
-QString QuizRow::content() const {
-    if (!asked())
-        return {};
-    QStringList parts{promptText()};
-    parts << QString::number(static_cast<int>(answerRow.state()));
-    if (!open()) {
-        parts << plain(answerRow.answer.text()) << plain(answerRow.given());
-        return parts.join(QLatin1Char('\n'));
-    }
-    for (const auto& option : answerRow.options)
-        parts << plain(option->text());
-    if (list)
-        for (const std::string& entry : answerRow.list->entries())
-            parts << plain(entry);
-    return parts.join(QLatin1Char('\n'));
 }
 
 QString QuizRow::promptText() const {
@@ -193,140 +214,10 @@ void QuizRow::goOnFrom(QWidget* field) {
         options.front()->setFocus(Qt::TabFocusReason);
 }
 
-int QuizRow::scaled(int pixels) const {
-    return qRound(pixels * quiz::scaleOf(*this));
-}
-
-int QuizRow::promptWidth() const {
-    prompt->ensurePolished();
-    return prompt->fontMetrics().horizontalAdvance(prompt->text()) + scaled(numberWidth + 2);
-}
-
-int QuizRow::entriesWidth() const {
-    const int each = scaled(fieldWidth) + scaled(unitGap) + scaled(unitWidth);
-    return each * static_cast<int>(fields.size());
-}
-
-int QuizRow::widestOption() const {
-    int widest = 0;
-    for (const QuizOption* option : options)
-        widest = std::max(widest, option->tightWidth());
-    return widest;
-}
-
-/// Its entries have room there too once they are told to be right.
-int QuizRow::listWidth() const {
-    int width = list->sizeHint().width();
-    const QString right = textOf(texts, Text::answerRight);
-    for (int i = 1; i < list->count(); ++i)
-        width = std::max(width, verdict->widthFor(list->itemText(i), right));
-    return width;
-}
-
-/// Of the verdict and, where it stands beside, the student's own answer.
-int QuizRow::verdictsWidth() const {
-    const int beside = own->isHidden() ? 0 : own->sizeHint().width() + scaled(quiz::answerGap);
-    return verdict->sizeHint().width() + beside;
-}
-
-/// Of what the row is answered with, each option as wide as `optionWidth` says.
-int QuizRow::widgetsWidth(int (QuizOption::*optionWidth)() const) const {
-    if (list)
-        return listWidth();
-    int width = entriesWidth();
-    for (const QuizOption* option : options)
-        width += (option->*optionWidth)();
-    return width + scaled(quiz::answerGap) * static_cast<int>(options.size() - 1);
-}
-
-/// A row keeps the room of its answers once it has its verdict, so that no other row moves.
-int QuizRow::roomFor(int widgets) const {
-    const int verdicts = open() ? 0 : verdictsWidth();
-    return compact ? verdicts : std::max(widgets, verdicts);
-}
-
-int QuizRow::answersWidth() const {
-    return roomFor(widgetsWidth(&QuizOption::lineWidth));
-}
-
-int QuizRow::brokenAnswersWidth() const {
-    return roomFor(widgetsWidth(&QuizOption::brokenWidth));
-}
-
-/// A prompt keeps its part of the row beside the longest verdicts.
-int QuizRow::promptPart(int width, int wanted) const {
-    const int least = compact ? qRound(quiz::leastPromptShare * width) : 0;
-    return std::min(wanted, std::max(least, width - brokenAnswersWidth() - scaled(columnGap)));
-}
-
-int QuizRow::rowHeight() const {
-    return scaled(compact ? quiz::compactHeight : quiz::answerHeight);
-}
-
-int QuizRow::heightFor(int width, int wanted) const {
-    const int forText = promptPart(width, wanted) - scaled(numberWidth);
-    return std::max(rowHeight(), prompt->heightForWidth(forText));
-}
-
 /// Verdicts leave half of the row.
 int QuizRow::compactHeightFor(int width) const {
-    const int forText = width / 2 - scaled(numberWidth);
-    return std::max(scaled(quiz::compactHeight), prompt->heightForWidth(forText));
-}
-
-void QuizRow::layOut(const QRect& place, int wanted) {
-    setGeometry(place);
-    const int number = scaled(numberWidth);
-    const int forPrompt = promptPart(width(), wanted);
-    numberLabel->setGeometry(0, 0, number, height());
-    prompt->setGeometry(number, 0, forPrompt - number, height());
-    const int left = forPrompt + scaled(columnGap);
-    layOutAnswers(left, width() - left);
-    int x = left;
-    for (QuizVerdict* each : {verdict, own}) {
-        const QSize wish = each->sizeHint();
-        each->setGeometry(x, (height() - wish.height()) / 2,
-                          std::min(wish.width(), std::max(0, width() - x)), wish.height());
-        x = each->geometry().right() + 1 + scaled(quiz::answerGap);
-    }
-}
-
-void QuizRow::layOutAnswers(int left, int width) {
-    const int tall = scaled(quiz::answerHeight);
-    const int top = (height() - tall) / 2;
-    if (list)
-        list->setGeometry(left, top, std::min(listWidth(), width), tall);
-    int x = left;
-    for (std::size_t i = 0; i < fields.size(); ++i) {
-        fields[i]->setGeometry(x, top, scaled(fieldWidth), tall);
-        x += scaled(fieldWidth) + scaled(unitGap);
-        units[i]->setGeometry(x, top, scaled(unitWidth), tall);
-        x += scaled(unitWidth);
-    }
-    layOutOptions(x, left + width - x);
-}
-
-/// All options have the same width if that can be; else each has what it needs, in two lines if
-/// one line is too long for all, and its share of what is left.
-void QuizRow::layOutOptions(int left, int width) {
-    if (options.empty())
-        return;
-    const int count = static_cast<int>(options.size());
-    const int gap = scaled(quiz::answerGap);
-    const int widest = widestOption();
-    const int each =
-        std::min((width - gap * (count - 1)) / count, std::max(scaled(widestChoice), widest));
-    const int lineRoom = widgetsWidth(&QuizOption::lineWidth) - entriesWidth();
-    const bool inLine = lineRoom <= width;
-    const int needed = inLine ? lineRoom : widgetsWidth(&QuizOption::brokenWidth) - entriesWidth();
-    const int share = std::clamp((width - needed) / count, 0, gap);
-    const int tall = scaled(quiz::answerHeight);
-    for (QuizOption* option : options) {
-        const int wanted = (inLine ? option->lineWidth() : option->brokenWidth()) + share;
-        const int wide = each >= widest ? each : wanted;
-        option->setGeometry(left, (height() - tall) / 2, wide, tall);
-        left += wide + gap;
-    }
+    const int least = qRound(quiz::compactHeight * quiz::scaleOf(*prompt));
+    return std::max(least, prompt->heightForWidth(width / 2));
 }
 
 } // namespace tarnel

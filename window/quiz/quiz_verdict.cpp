@@ -5,6 +5,8 @@
 
 #include <QPainter>
 
+#include <algorithm>
+
 namespace tarnel {
 
 namespace {
@@ -19,6 +21,7 @@ constexpr double wordShare = 0.85; ///< of the answer's height
 
 QuizVerdict::QuizVerdict(QWidget* parent) : QLabel(parent) {
     setTextFormat(Qt::PlainText);
+    setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
 }
 
 void QuizVerdict::tell(Kind told, const QString& answer, const QString& behind) {
@@ -75,6 +78,11 @@ int QuizVerdict::widthFor(const QString& answer, const QString& besides) const {
 QSize QuizVerdict::sizeHint() const {
     const int height = compact ? quiz::compactHeight : quiz::answerHeight;
     return {widthFor(text(), word), qRound(height * quiz::scaleOf(*this))};
+}
+
+QSize QuizVerdict::minimumSizeHint() const {
+    return {std::min(sizeHint().width(), widthFor(QStringLiteral("000\u2026"), {})),
+            sizeHint().height()};
 }
 
 void QuizVerdict::paintSign(QPainter& painter, const QRectF& place) const {

@@ -25,14 +25,16 @@ class QuizVerdict : public QLabel {
     void tell(Kind kind, const QString& answer, const QString& word);
     void setCompact(bool compact);
 
-    /// The width that an answer and a word take.
-    [[nodiscard]] int widthFor(const QString& answer, const QString& word) const;
     [[nodiscard]] QSize sizeHint() const override;
+    /// With room for a few letters of the answer.
+    [[nodiscard]] QSize minimumSizeHint() const override;
 
   protected:
     void paintEvent(QPaintEvent* event) override;
 
   private:
+    /// The width that an answer and a word take.
+    [[nodiscard]] int widthFor(const QString& answer, const QString& word) const;
     [[nodiscard]] QColor colour() const;
     [[nodiscard]] QFont answerFont() const;
     [[nodiscard]] QFont wordFont() const;

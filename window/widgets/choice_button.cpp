@@ -2,6 +2,7 @@
 
 #include "look/look.h"
 
+#include <QButtonGroup>
 #include <QFontInfo>
 #include <QFontMetrics>
 
@@ -10,6 +11,7 @@ namespace tarnel {
 ChoiceButton::ChoiceButton(int padding, QWidget* parent)
     : QPushButton(parent), paddingAtScale1(padding) {
     setCheckable(true);
+    setAutoExclusive(true);
 }
 
 QSize ChoiceButton::sizeHint() const {
@@ -19,6 +21,17 @@ QSize ChoiceButton::sizeHint() const {
     const int width = QFontMetrics(bold).horizontalAdvance(text()) +
                       static_cast<int>(std::lround(paddingAtScale1 * scale));
     return {width, QPushButton::sizeHint().height()};
+}
+
+void showChosen(QAbstractButton& button, bool chosen) {
+    QButtonGroup* group = button.group();
+    const auto setExclusive = [&](bool exclusive) {
+        group ? group->setExclusive(exclusive) : button.setAutoExclusive(exclusive);
+    };
+    const bool exclusive = group ? group->exclusive() : button.autoExclusive();
+    setExclusive(exclusive && chosen);
+    button.setChecked(chosen);
+    setExclusive(exclusive);
 }
 
 } // namespace tarnel

@@ -1,5 +1,6 @@
 #include "window/widgets/form_binding.h"
 
+#include "window/widgets/choice_button.h"
 #include "window/widgets/quiz_list.h"
 #include "window/widgets/replay_bar.h"
 
@@ -128,12 +129,12 @@ void FormBinding::bindOption(OptionButton& control, QAbstractButton& button,
     button.setCheckable(true);
     connect(&button, &QAbstractButton::clicked, this, [this, &control, &button] {
         guarded([&control] { control.click(); });
-        button.setChecked(control.chosen());
+        showChosen(button, control.chosen());
     });
     follow([this, &control, &button, caption = std::move(caption)] {
         showCommon(control, button);
         button.setText(caption());
-        button.setChecked(control.chosen());
+        showChosen(button, control.chosen());
     });
 }
 

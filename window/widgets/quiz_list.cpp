@@ -40,12 +40,20 @@ void QuizList::setEntries(const QStringList& entries) {
     updateGeometry();
 }
 
+void QuizList::leaveRoomBehind(const QString& word) {
+    wordBehind = word;
+}
+
 QSize QuizList::sizeHint() const {
+    const double scale = quiz::scaleOf(*this);
+    const int aroundEntry = qRound((3 * inset + arrowWidth) * scale);
+    const int aroundTold =
+        qRound(quiz::verdictMargins * scale) + fontMetrics().horizontalAdvance(wordBehind);
     int widest = 0;
     for (int i = 0; i < count(); ++i)
-        widest = qMax(widest, fontMetrics().horizontalAdvance(itemText(i)));
-    const double scale = quiz::scaleOf(*this);
-    return {widest + qRound((3 * inset + arrowWidth) * scale), qRound(quiz::answerHeight * scale)};
+        widest = qMax(widest, fontMetrics().horizontalAdvance(itemText(i)) +
+                                  (i > 0 ? qMax(aroundEntry, aroundTold) : aroundEntry));
+    return {widest, qRound(quiz::answerHeight * scale)};
 }
 
 void QuizList::confirm() {

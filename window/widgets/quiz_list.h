@@ -20,6 +20,9 @@ class QuizList : public QComboBox {
 
     /// Shows these entries, if they are others than before.
     void setEntries(const QStringList& entries);
+    /// Takes room for a sign before each entry and this word behind it: it may be told so, in the
+    /// list's place.
+    void leaveRoomBehind(const QString& word);
     /// Types a character: goes to the first entry that starts with what was typed in quick
     /// succession. A digit that starts none counts the entries.
     void type(const QString& character);
@@ -38,6 +41,7 @@ class QuizList : public QComboBox {
     void confirm();
 
     QStringList shown;
+    QString wordBehind;
     QString typed;
     QElapsedTimer sinceTyped;
 };

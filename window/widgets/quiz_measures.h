@@ -9,12 +9,11 @@
 namespace tarnel::quiz {
 
 inline constexpr int answerHeight = 30;
-inline constexpr int answerGap = 5;      ///< between the answers of a row
-inline constexpr int rowGap = 4;         ///< between rows
-inline constexpr int compactHeight = 22; ///< of a row that can't be answered, beside a replay
+inline constexpr int answerGap = 5;       ///< between the answers of a row
+inline constexpr int verdictMargins = 48; ///< of a verdict, what is neither answer nor word
+inline constexpr int rowGap = 3;          ///< between rows
+inline constexpr int compactHeight = 22;  ///< of a row that can't be answered, beside a replay
 inline constexpr int compactGap = 3;
-/// Of a row's width, for the prompt beside verdicts: long ones leave out their word then.
-inline constexpr double leastPromptShare = 0.35;
 
 /// The text scale of a widget that the style sheet has dressed.
 inline double scaleOf(const QWidget& widget) {

@@ -124,7 +124,11 @@ QLabel[notice="true"] { color: $wrong; }
 QLabel[shut="true"] { color: $unit; }
 QPushButton[quiz="true"] { min-height: {26}px; max-height: {26}px; min-width: {56}px; }
 QPushButton[choice="true"] { min-height: {28}px; max-height: {28}px; font-size: {13}px; }
-QLineEdit[quiz="true"] { min-height: {28}px; max-height: {28}px; font-size: {13}px; }
+QPushButton[choice="true"]:focus { background: $focusTint; }
+QLineEdit[quiz="true"] { min-height: {28}px; max-height: {28}px; min-width: {38}px;
+  max-width: {38}px; font-size: {13}px; }
+QLabel[unit="true"] { min-width: {22}px; }
+QFrame[hairline="true"] { background: $hairline; border: none; min-height: 1px; max-height: 1px; }
 QComboBox[quiz="true"] QAbstractItemView { background: $paper; color: $ink; border: 1px solid $line;
   selection-background-color: $accent; selection-color: white; outline: none; }
 
@@ -146,6 +150,7 @@ const QHash<QString, QColor>& colours() {
         {QStringLiteral("secondaryInk"), look::secondaryInk},
         {QStringLiteral("accent"), look::accent},
         {QStringLiteral("tint"), look::onPaper(look::accent, 0.15)},
+        {QStringLiteral("focusTint"), look::onPaper(look::accent, 0.08)},
         {QStringLiteral("accentDeep"), look::accent.darker(130)},
         {QStringLiteral("accentLight"), look::accent.lighter(115)},
         {QStringLiteral("first"), look::fromSurface(chartColour::first)},

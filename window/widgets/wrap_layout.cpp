@@ -13,6 +13,11 @@ void WrapLayout::addItem(QLayoutItem* item) {
     items.emplace_back(item);
 }
 
+void WrapLayout::addLayout(QLayout* layout) {
+    addChildLayout(layout);
+    addItem(layout);
+}
+
 QLayoutItem* WrapLayout::itemAt(int index) const {
     return index >= 0 && index < count() ? items[static_cast<std::size_t>(index)].get() : nullptr;
 }
@@ -27,6 +32,8 @@ QLayoutItem* WrapLayout::takeAt(int index) {
 }
 
 int WrapLayout::columnWidth(int width) const {
+    if (manner == Manner::flowing)
+        return 0;
     int widest = 1;
     for (const auto& item : items)
         if (!item->isEmpty())
@@ -35,31 +42,47 @@ int WrapLayout::columnWidth(int width) const {
     return (width - (columns - 1) * across) / columns;
 }
 
-int WrapLayout::layOut(const QRect& area, bool place) const {
-    const int column = manner == Manner::inColumns ? columnWidth(area.width()) : 0;
-    int x = area.x();
-    int y = area.y();
-    int line = 0;
+std::vector<WrapLayout::Line> WrapLayout::lines(int width) const {
+    const int column = columnWidth(width);
+    std::vector<Line> all;
     for (const auto& item : items) {
         if (item->isEmpty())
             continue;
         const QSize wanted = item->sizeHint();
-        const QSize size(column > 0 ? column : wanted.width(), wanted.height());
-        if (x > area.x() && x + size.width() > area.x() + area.width()) {
-            x = area.x();
-            y += line + down;
-            line = 0;
-        }
-        if (place)
-            item->setGeometry({QPoint(x, y), size});
-        x += size.width() + across;
-        line = std::max(line, size.height());
+        const int wide = column > 0 ? column : wanted.width();
+        if (all.empty() || all.back().width + across + wide > width)
+            all.emplace_back();
+        else
+            all.back().width += across;
+        all.back().items.push_back(item.get());
+        all.back().width += wide;
+        all.back().height = std::max(all.back().height, wanted.height());
     }
-    return y + line - area.y();
+    return all;
+}
+
+void WrapLayout::place(const Line& line, const QRect& area, int column) const {
+    const auto grows = [](const QLayoutItem* item) {
+        return item->expandingDirections().testFlag(Qt::Horizontal);
+    };
+    const auto last = std::find_if(line.items.rbegin(), line.items.rend(), grows);
+    int x = area.x();
+    for (QLayoutItem* item : line.items) {
+        const QSize wanted = item->sizeHint();
+        int wide = column > 0 ? column : wanted.width();
+        if (column == 0 && last != line.items.rend() && item == *last)
+            wide += area.width() - line.width;
+        item->setGeometry(
+            {x, area.y() + (line.height - wanted.height()) / 2, wide, wanted.height()});
+        x += wide + across;
+    }
 }
 
 int WrapLayout::heightForWidth(int width) const {
-    return layOut({0, 0, width, 0}, false);
+    int height = -down;
+    for (const Line& line : lines(width))
+        height += line.height + down;
+    return std::max(0, height);
 }
 
 QSize WrapLayout::minimumSize() const {
@@ -81,7 +104,12 @@ QSize WrapLayout::sizeHint() const {
 
 void WrapLayout::setGeometry(const QRect& area) {
     QLayout::setGeometry(area);
-    layOut(area, true);
+    const int column = columnWidth(area.width());
+    int y = area.y();
+    for (const Line& line : lines(area.width())) {
+        place(line, {area.x(), y, area.width(), line.height}, column);
+        y += line.height + down;
+    }
 }
 
 } // namespace tarnel

@@ -7,8 +7,9 @@
 
 namespace tarnel {
 
-/// `WrapLayout`: lays widgets in lines from left to right, as many to a line as fit. In columns,
-/// all have the width of the widest, so that they stand below each other.
+/// `WrapLayout`: lays its items in lines from left to right, as many to a line as fit. In columns,
+/// all have the width of the widest, so that they stand below each other; in a flow, the last item
+/// of a line that wants to grow takes what is left of it.
 class WrapLayout : public QLayout {
   public:
     enum class Manner { flowing, inColumns };
@@ -16,6 +17,7 @@ class WrapLayout : public QLayout {
     explicit WrapLayout(Manner manner, int gapAcross, int gapDown);
 
     void addItem(QLayoutItem* item) override;
+    void addLayout(QLayout* layout);
     [[nodiscard]] int count() const override { return static_cast<int>(items.size()); }
     [[nodiscard]] QLayoutItem* itemAt(int index) const override;
     QLayoutItem* takeAt(int index) override;
@@ -26,9 +28,16 @@ class WrapLayout : public QLayout {
     void setGeometry(const QRect& area) override;
 
   private:
-    /// Gives each item its place in `area`, or only measures. The height that is needed.
-    int layOut(const QRect& area, bool place) const;
-    /// The width of a column in an area so wide.
+    /// What stands side by side.
+    struct Line {
+        std::vector<QLayoutItem*> items;
+        int width = 0;
+        int height = 0;
+    };
+
+    [[nodiscard]] std::vector<Line> lines(int width) const;
+    void place(const Line& line, const QRect& area, int column) const;
+    /// The width of a column in an area so wide; 0 in a flow.
     [[nodiscard]] int columnWidth(int width) const;
 
     Manner manner;
