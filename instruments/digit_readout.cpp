@@ -9,21 +9,33 @@ namespace tarnel {
 
 namespace {
 
-std::int16_t digitPicture(char character) {
-    if (character >= '0' && character <= '9')
-        return static_cast<std::int16_t>(character - 47);
-    return character == '-' ? DigitReadout::dashPicture : DigitReadout::blankPicture;
+/// Of a digit, "-" or " ".
+std::int16_t pictureOf(char character) {
+    if (character == '-')
+        return DigitReadout::dashPicture;
+    return character == ' ' ? DigitReadout::blankPicture
+                            : static_cast<std::int16_t>(character - 47);
 }
 
 } // namespace
 
 DigitReadout::DigitReadout(DrawingSurface& owner, std::span<const std::size_t> places)
-    : surface(owner), characters(places), shown(places.size(), blankPicture), dark(shown) {}
+    : surface(owner),
+      characters(places),
+      written(places.size(), ' '),
+      shown(places.size(), blankPicture),
+      dark(shown) {}
+
+void DigitReadout::put(std::size_t place, char character) {
+    const bool seen = (character >= '0' && character <= '9') || character == '-';
+    written[place] = seen ? character : ' ';
+    surface.set(shown[place], pictureOf(written[place]));
+}
 
 void DigitReadout::show(std::string_view text) {
     for (std::size_t i = 0; i < shown.size(); ++i) {
         const std::size_t place = characters[i];
-        surface.set(shown[i], place < text.size() ? digitPicture(text[place]) : blankPicture);
+        put(i, place < text.size() ? text[place] : ' ');
     }
 }
 
@@ -31,9 +43,9 @@ void DigitReadout::showNumber(double value) {
     show(zeroPadded(toInt32(std::floor(value)), 3));
 }
 
-void DigitReadout::fill(std::int16_t picture) {
-    for (std::int16_t& digit : shown)
-        surface.set(digit, picture);
+void DigitReadout::fill(char character) {
+    for (std::size_t i = 0; i < shown.size(); ++i)
+        put(i, character);
 }
 
 } // namespace tarnel

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <span>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -25,22 +26,31 @@ class DigitReadout {
     /// Shows a number of 0 or more without its decimals, with leading zeros to three digits. Of a
     /// longer one the first digits are seen. Throws the overflow error outside the 32-bit range.
     void showNumber(double value);
-    void showDashes() { fill(dashPicture); }
-    void blank() { fill(blankPicture); }
+    void showDashes() { fill('-'); }
+    void blank() { fill(' '); }
     /// A covered readout looks dark, whatever is shown on it.
     void setCovered(bool cover) { surface.set(covered, cover); }
     [[nodiscard]] bool isCovered() const { return covered; }
 
-    /// What is seen.
+    /// What is seen: the pictures, and the text that they show, a digit, "-" or " " for each.
     [[nodiscard]] const std::vector<std::int16_t>& pictures() const {
         return covered ? dark : shown;
     }
+    [[nodiscard]] std::string text() const {
+        return covered ? std::string(written.size(), ' ') : written;
+    }
+    [[nodiscard]] bool isDark() const { return text().find_first_not_of(' ') == std::string::npos; }
+    [[nodiscard]] bool showsDashes() const {
+        return text().find_first_not_of('-') == std::string::npos;
+    }
 
   private:
-    void fill(std::int16_t picture);
+    void put(std::size_t place, char character);
+    void fill(char character);
 
     DrawingSurface& surface;
     std::span<const std::size_t> characters;
+    std::string written; ///< what `shown` shows
     std::vector<std::int16_t> shown;
     std::vector<std::int16_t> dark;
     bool covered = false;

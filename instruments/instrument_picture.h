@@ -2,6 +2,7 @@
 
 #include "core/drawing_surface.h"
 #include "core/instrument_kind.h"
+#include "instruments/needle_role.h"
 
 #include <array>
 #include <cstddef>
@@ -27,6 +28,8 @@ struct InstrumentPicture {
     DrawingSurface surface;
     double size = 3855; ///< width and height
     InstrumentKind kind = InstrumentKind::adf;
+    NeedleRole secondNeedle = NeedleRole::none; ///< of `Line7to12`; none while it is put away
+    bool flagged = false;                       ///< a deviation can't be read: its flag is out
 
     Picture Image1;  ///< the background
     KnobArea Image2; ///< heading bug knob

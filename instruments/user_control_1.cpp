@@ -135,6 +135,7 @@ void UserControl_1::VOR(double course, double courseX, double heading, double ra
 void UserControl_1::showFlag(const NeedleReading& needle, bool localizer) {
     DrawingSurface& surface = picture.surface;
     const bool abeam = needle.sector == Sector::abeam;
+    surface.set(picture.flagged, abeam);
     surface.set<std::string>(picture.Label2_4.caption, abeam ? "/////" : "");
     surface.show(picture.Text1, abeam && is(InstrumentKind::hsi));
     for (Line& side : picture.Line15)
@@ -147,11 +148,14 @@ void UserControl_1::showFlag(const NeedleReading& needle, bool localizer) {
 
 void UserControl_1::updateSecondNeedle() {
     const bool onHsi = is(InstrumentKind::hsi);
-    if (!onHsi && !is(InstrumentKind::rmi))
+    const bool overlay = onHsi && c_RMIoverlayEN == 1;
+    const bool shown = overlay || is(InstrumentKind::rmi);
+    picture.surface.set(picture.secondNeedle,
+                        shown ? secondNeedleOf(picture.kind) : NeedleRole::none);
+    if (!onHsi && !shown)
         return;
     picture.surface.set(picture.Label2_3.caption, c_LabelText4.get());
 
-    const bool overlay = onHsi && c_RMIoverlayEN == 1;
     const std::int16_t radial = toInt16(adf2radial);
     const std::int16_t needle2 = onHsi ? toInt16(radial - 180 + c_HDG) : radial;
     for (std::size_t i = 0; i < picture.Line7to12.size(); ++i) {

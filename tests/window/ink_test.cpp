@@ -15,6 +15,7 @@
 #include <cmath>
 #include <functional>
 #include <map>
+#include <span>
 
 namespace tarnel {
 namespace {
@@ -44,6 +45,19 @@ double inkAlong(const QImage& image, const QLineF& line, const QColor& colour) {
     return found / (steps + 1.0);
 }
 
+/// A dial. What a needle is decides how it is painted, so the model's colours are put out of order.
+QImage paintedDial(InstrumentPicture picture) {
+    for (const std::span<Line> lines :
+         {std::span<Line>(picture.Line1), std::span<Line>(picture.Line3to6),
+          std::span<Line>(picture.Line7to12), std::span(&picture.Line13, 1),
+          std::span<Line>(picture.Line15), std::span<Line>(picture.Line16)})
+        for (Line& line : lines)
+            line.colour = 0x345678;
+    PictureStore pictures("no such folder");
+    return painted(
+        [&](QPainter& painter) { InstrumentPainter(pictures).paint(painter, picture, side); });
+}
+
 // Heading and course north, so that bar and triangle stand upright on either dial.
 TEST(DialInk, BarAndTriangleStandWhereTheNeedleIs) {
     struct Case {
@@ -52,8 +66,6 @@ TEST(DialInk, BarAndTriangleStandWhereTheNeedleIs) {
         double bar;   ///< of the half, to the right
         int triangle; ///< 1 up, -1 down, 0 none
     };
-    PictureStore pictures("no such folder");
-    InstrumentPainter dial(pictures);
     for (const Case& c : {Case{InstrumentKind::vor, 5, 0, -0.19, 0},
                           {InstrumentKind::vor, 181, -6, 0.19, 0},
                           {InstrumentKind::hsi, 355, 0, 0.18, -1},
@@ -62,8 +74,7 @@ TEST(DialInk, BarAndTriangleStandWhereTheNeedleIs) {
         SCOPED_TRACE(testing::Message() << static_cast<int>(c.kind) << " on " << c.radial);
         PanelInstrument instrument(c.kind);
         instrument.feed(c.radial, 0, 0, 0, c.locEn);
-        const QImage image = painted(
-            [&](QPainter& painter) { dial.paint(painter, instrument.picture, image.width()); });
+        const QImage image = paintedDial(instrument.picture);
         const auto upright = [](double x, double from, double to) {
             return QLineF(side / 2.0 * (1 + x), side / 2.0 * (1 - from), side / 2.0 * (1 + x),
                           side / 2.0 * (1 - to));
@@ -79,22 +90,39 @@ TEST(DialInk, BarAndTriangleStandWhereTheNeedleIs) {
 }
 
 TEST(DialInk, ASecondNeedleEndsInItsHead) {
-    PictureStore pictures("no such folder");
-    InstrumentPainter dial(pictures);
     PanelInstrument rmi(InstrumentKind::rmi);
     rmi.adfradial = 90; // out of its way
     rmi.adf2radial = 0;
     rmi.angle = 0;
-    const QImage image =
-        painted([&](QPainter& painter) { dial.paint(painter, rmi.picture, side); });
+    const QImage image = paintedDial(rmi.picture);
+    const auto scale = QTransform::fromScale(side / 2.0, side / 2.0);
     for (const double x : {-0.03, 0.03})
-        EXPECT_GT(
-            inkAlong(
-                image,
-                QTransform::fromScale(side / 2.0, side / 2.0).map(QLineF(1 + x, 0.57, 1 + x, 0.5)),
-                look::needleTwo),
-            0.8)
+        EXPECT_GT(inkAlong(image, scale.map(QLineF(1 + x, 0.57, 1 + x, 0.5)), look::needleTwo), 0.8)
             << x;
+}
+
+// A flag where no deviation can be read, and the needle over an HSI that is put away.
+TEST(DialInk, WhatComesAndGoesIsThereWhileItIsOut) {
+    const auto inkOf = [](const UserControl_1& dial, const QColor& colour) {
+        const QImage image = paintedDial(dial.picture);
+        int count = 0;
+        for (int y = 0; y < side; ++y)
+            for (int x = 0; x < side; ++x)
+                count += image.pixelColor(x, y) == colour;
+        return count;
+    };
+    for (const InstrumentKind kind : {InstrumentKind::vor, InstrumentKind::hsi}) {
+        PanelInstrument instrument(kind);
+        for (const double radial : {30.0, 90.0, 150.0})
+            for (const bool overlay : {false, true}) {
+                instrument.c_RMIoverlayEN = overlay;
+                instrument.feed(radial, 0, 0, 0);
+                EXPECT_EQ(inkOf(instrument, look::flagRed) > 100, radial == 90) << radial;
+                EXPECT_EQ(inkOf(instrument, look::overlayNeedle) > 100,
+                          overlay && kind == InstrumentKind::hsi)
+                    << radial;
+            }
+    }
 }
 
 /// Notes what is written, and by how much it is turned.

@@ -9,7 +9,6 @@
 #include <QPainter>
 
 #include <set>
-#include <span>
 
 namespace tarnel {
 
@@ -55,34 +54,6 @@ TEST_F(Student, FindsEachNeedleOfTheLegendOnTheDial) {
         }
     }
     EXPECT_EQ(signs.size(), 5U);
-}
-
-// What a needle is decides how it is painted, not the colour that the model gives its lines.
-TEST_F(Student, SeesNeedlesByWhatTheyAre) {
-    PictureStore pictures("no such folder");
-    InstrumentPainter paint(pictures);
-    for (const int kind : {adf, rmi, vor, hsi, dg}) {
-        UserControl_1 instrument;
-        instrument.Display = static_cast<std::int16_t>(kind);
-        instrument.c_RMIoverlayEN = 1;
-        const auto painted = [&] {
-            QImage image(344, 344, QImage::Format_RGB32);
-            image.fill(Qt::black);
-            QPainter painter(&image);
-            paint.paint(painter, instrument.picture, image.width());
-            return image;
-        };
-        const QImage before = painted();
-        InstrumentPicture& picture = instrument.picture;
-        for (const std::span<Line> lines :
-             {std::span<Line>(picture.Line1), std::span<Line>(picture.Line3to6),
-              std::span<Line>(picture.Line7to12), std::span(&picture.Line13, 1),
-              std::span<Line>(picture.Line15), std::span<Line>(picture.Line16),
-              std::span<Line>(picture.Line17to23)})
-            for (Line& line : lines)
-                line.colour = 0x345678;
-        EXPECT_EQ(painted(), before) << kind;
-    }
 }
 
 // Needles pass below the numerals.

@@ -3,8 +3,8 @@
 #include "chart/chart_picture.h"
 #include "look/look.h"
 #include "window/widgets/text_of.h"
-#include "window/widgets/tick_box.h"
 
+#include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QGridLayout>
@@ -88,7 +88,7 @@ void StationDialog::makeTexts(QFormLayout& rows) {
 
 void StationDialog::makeSwitches(QFormLayout& rows) {
     const auto add = [&](const char* object, Text caption, bool ticked) {
-        auto* box = new TickBox(text(caption), this);
+        auto* box = new QCheckBox(text(caption), this);
         box->setObjectName(QString::fromLatin1(object));
         box->setChecked(ticked);
         rows.addRow(QString(), box);

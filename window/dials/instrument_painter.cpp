@@ -142,19 +142,20 @@ void paintDots(const Scene& scene) {
 }
 
 void paintSecondNeedle(const Scene& scene) {
+    const NeedleRole role = scene.picture.secondNeedle;
+    if (role == NeedleRole::none)
+        return;
     const auto& lines = scene.picture.Line7to12;
     const NeedleShapes& shapes = scene.shapes;
-    const QColor colour = needleColour(secondNeedleOf(scene.picture.kind));
-    if (lines[4].visible)
-        drawRaised(scene, {{shapes.bar(lines[4])}, {}}, colour);
-    if (lines.front().visible) {
+    const QColor colour = needleColour(role);
+    drawRaised(scene, {{shapes.bar(lines[4])}, {}}, colour);
+    if (role == NeedleRole::second) {
         drawEdge(scene.painter, {{shapes.secondBody()}, {}}, shapes.bar(lines.front()).width);
         drawBar(scene.painter, shapes.secondBody(), look::dialTop);
         for (const NeedleBar& bar : shapes.secondBars().bars)
             drawBar(scene.painter, bar, colour);
     }
-    if (lines[2].visible)
-        drawRaised(scene, shapes.secondHead(), colour);
+    drawRaised(scene, shapes.secondHead(), colour);
 }
 
 bool hasCourseArrow(const InstrumentPicture& picture) {
@@ -214,12 +215,13 @@ void paintFlags(const Scene& scene) {
     const InstrumentPicture& picture = scene.picture;
     if (picture.Label2_3.visible)
         paintNeedleName(scene.painter, picture.Label2_3,
-                        picture.Line7to12[4].visible ? needleColour(secondNeedleOf(picture.kind))
-                                                     : look::unit,
+                        picture.secondNeedle == NeedleRole::none
+                            ? look::unit
+                            : needleColour(picture.secondNeedle),
                         scene.scale);
-    if (picture.Label2_4.visible && !picture.Label2_4.caption.empty())
+    if (picture.flagged && picture.kind == InstrumentKind::vor)
         paintBarberFlag(scene.painter, picture.Label2_4, scene.scale);
-    if (picture.Text1.visible)
+    if (picture.flagged && picture.kind == InstrumentKind::hsi)
         paintWordFlag(scene.painter, picture.Text1, scene.scale);
 }
 

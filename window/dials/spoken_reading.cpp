@@ -7,7 +7,6 @@
 #include "panel/signal_name.h"
 #include "shell/text_format.h"
 
-#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -139,22 +138,14 @@ Text spokenKind(std::int16_t display) {
 
 std::string spokenDigits(const DigitReadout& digits, std::size_t pointAfter,
                          const StringTable& texts) {
-    const auto& pictures = digits.pictures();
-    const auto all = [&pictures](std::int16_t picture) {
-        return std::all_of(pictures.begin(), pictures.end(),
-                           [picture](std::int16_t shown) { return shown == picture; });
-    };
-    if (all(DigitReadout::blankPicture))
+    if (digits.isDark())
         return std::string(texts[Text::spokenSwitchedOff]);
-    if (all(DigitReadout::dashPicture))
+    if (digits.showsDashes())
         return std::string(texts[Text::spokenNoSignal]);
-    std::string words;
-    for (std::size_t i = 0; i < pictures.size(); ++i) {
-        if (i == pointAfter && i > 0)
-            words += '.';
-        if (pictures[i] < DigitReadout::dashPicture)
-            words += static_cast<char>('0' + pictures[i] - 1);
-    }
+    std::string words = digits.text();
+    if (pointAfter > 0)
+        words.insert(pointAfter, ".");
+    std::erase_if(words, [](char c) { return c == ' ' || c == '-'; });
     return words;
 }
 
@@ -164,11 +155,10 @@ std::string spokenDme(const DMEControlFace& face, const std::optional<SpokenStat
     Sentence sentence(texts);
     const std::string distance =
         spokenDigits(face.distance, face.wholeMiles() ? 0 : pointAfter, texts);
-    const bool dark = face.distance.pictures().front() == DigitReadout::blankPicture;
-    const bool received = dark || addStation(sentence, station);
+    const bool received = face.distance.isDark() || addStation(sentence, station);
     if (!received)
         sentence.add(Text::spokenNoSignal);
-    else if (face.distance.pictures().front() >= DigitReadout::dashPicture)
+    else if (face.distance.isDark() || face.distance.showsDashes())
         sentence.addWords(distance);
     else
         sentence.addWords(filledIn(texts[Text::spokenDmeDistance],

@@ -4,9 +4,9 @@
 #include "window/quiz/quiz_flight_bar.h"
 #include "window/quiz/quiz_row.h"
 #include "window/widgets/quiz_measures.h"
-#include "window/widgets/tick_box.h"
 #include "window/widgets/wrap_layout.h"
 
+#include <QCheckBox>
 #include <QFrame>
 #include <QGridLayout>
 #include <QLabel>
@@ -70,7 +70,7 @@ QVBoxLayout* QuizFrame::makeHeader(FormBinding& binding) {
     place = label("secondary");
     statistic = label("secondary");
     binding.bind(asked.statistic, *statistic);
-    random = new TickBox(this);
+    random = new QCheckBox(this);
     binding.bind(asked.randomBox, *random);
     auto* name = new QHBoxLayout;
     name->setSpacing(titleGap);

@@ -1,7 +1,6 @@
 #include "window/strip/strip_page.h"
 
-#include "window/widgets/tick_box.h"
-
+#include <QCheckBox>
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -38,7 +37,7 @@ void StripPage::finish() {
 }
 
 void StripPage::addBox(QLayout& layout, CheckBox& control) {
-    auto* box = new TickBox(this);
+    auto* box = new QCheckBox(this);
     binding.bind(control, *box);
     layout.addWidget(box);
 }

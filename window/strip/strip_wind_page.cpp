@@ -3,7 +3,6 @@
 #include "window/chart/vector_box.h"
 #include "window/strip/wind_entry.h"
 #include "window/widgets/segment_row.h"
-#include "window/widgets/tick_box.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

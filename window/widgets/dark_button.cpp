@@ -2,20 +2,15 @@
 
 #include "look/panel_look.h"
 
-#include <QEvent>
 #include <QFontMetricsF>
-#include <QPainter>
+#include <QStyleOptionButton>
+#include <QStylePainter>
 
 namespace tarnel {
 
-namespace {
-
-constexpr double rounding = 4;
-
-} // namespace
-
 DarkButton::DarkButton(const QString& word, QWidget* parent) : QAbstractButton(parent) {
     setText(word);
+    setProperty("dark", true);
     setFocusPolicy(Qt::StrongFocus);
 }
 
@@ -37,41 +32,13 @@ QSize DarkButton::sizeHint() const {
 }
 
 void DarkButton::paintEvent(QPaintEvent* /*event*/) {
-    constexpr double light = 0.09;
-    constexpr double rim = 0.22;
-    const QRectF key = rect().toRectF().adjusted(1, 1, -1, -1);
-    const double round = rounding * scale;
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    if (!isEnabled())
-        painter.setOpacity(look::dimmedOpacity);
-    const QColor upper = isDown() ? look::keyBottom : look::keyTop;
-    const QColor lower = isDown() ? look::bezelBottom : look::keyBottom;
-    painter.setPen(QPen(look::panelRing, 1));
-    painter.setBrush(look::downward(key.top(), key.bottom(), upper, lower));
-    painter.drawRoundedRect(key, round, round);
-    if (underMouse() && isEnabled() && !isDown()) {
-        painter.setBrush(look::faded(Qt::white, light));
-        painter.drawRoundedRect(key, round, round);
-    }
-    painter.setPen(QPen(look::faded(Qt::white, isDown() ? rim / 3 : rim), 1));
-    painter.drawLine(key.topLeft() + QPointF(round, 1), key.topRight() + QPointF(-round, 1));
-    painter.setBrush(Qt::NoBrush);
-    if (hasFocus()) {
-        painter.setPen(QPen(look::panelFocus, 2));
-        painter.drawRoundedRect(key, round, round);
-    }
+    QStylePainter painter(this);
+    QStyleOptionButton option;
+    option.initFrom(this);
+    option.state.setFlag(QStyle::State_Sunken, isDown());
+    option.text = text();
     painter.setFont(wordFont());
-    painter.setPen(look::caption);
-    painter.drawText(key.translated(0, isDown() ? 1 : 0), Qt::AlignCenter, text());
-}
-
-void DarkButton::enterEvent(QEnterEvent* /*event*/) {
-    update();
-}
-
-void DarkButton::leaveEvent(QEvent* /*event*/) {
-    update();
+    painter.drawControl(QStyle::CE_PushButton, option);
 }
 
 } // namespace tarnel

@@ -11,14 +11,12 @@ class DarkButton : public QAbstractButton {
   public:
     explicit DarkButton(const QString& text, QWidget* parent = nullptr);
 
-    /// Of its type and its rounding.
+    /// Of its type.
     void setScale(double scale);
     [[nodiscard]] QSize sizeHint() const override;
 
   protected:
     void paintEvent(QPaintEvent* event) override;
-    void enterEvent(QEnterEvent* event) override;
-    void leaveEvent(QEvent* event) override;
 
   private:
     [[nodiscard]] QFont wordFont() const;

@@ -12,9 +12,6 @@ class DarkList : public QComboBox {
     using QComboBox::QComboBox;
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
-
-  protected:
-    void paintEvent(QPaintEvent* event) override;
 };
 
 } // namespace tarnel

@@ -1,19 +1,19 @@
 #include "window/widgets/dressing.h"
 
 #include "look/look.h"
+#include "window/widgets/control_style.h"
 #include "window/widgets/text_of.h"
 
 #include <QApplication>
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QPalette>
-#include <QStyleFactory>
 #include <QTranslator>
 
 namespace tarnel {
 
 void dressApplication(const StringTable& texts, const QString& applicationFolder) {
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new ControlStyle);
     QApplication::setFont(look::font(look::bodyType));
     QPalette palette = QApplication::palette();
     palette.setColor(QPalette::Highlight, look::accent);

@@ -4,7 +4,7 @@
 #include "window/widgets/quiz_measures.h"
 
 #include <QKeyEvent>
-#include <QPainter>
+#include <QStyleOption>
 
 namespace tarnel {
 
@@ -141,28 +141,11 @@ void QuizList::wheelEvent(QWheelEvent* event) {
     event->ignore();
 }
 
-void QuizList::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    if (!isEnabled())
-        painter.setOpacity(look::disabledOpacity);
-    const double scale = quiz::scaleOf(*this);
-    const double edge = hasFocus() ? 2 : 1;
-    painter.setPen(
-        QPen(hasFocus() || (underMouse() && isEnabled()) ? look::accent : look::line, edge));
-    painter.setBrush(hasFocus() ? look::onPaper(look::accent, 0.08) : look::paper);
-    const QRectF area = QRectF(rect()).adjusted(edge / 2, edge / 2, -edge / 2, -edge / 2);
-    painter.drawRoundedRect(area, look::controlRadius, look::controlRadius);
-    painter.setPen(currentIndex() > 0 ? look::ink : look::secondaryInk);
-    painter.drawText(area.adjusted(inset * scale, 0, 0, 0), Qt::AlignVCenter | Qt::AlignLeft,
-                     currentText());
-    const double half = arrowWidth * scale / 2;
-    const QPointF middle(area.right() - inset * scale - half, area.center().y());
-    painter.setPen(
-        QPen(look::secondaryInk, 1.6 * scale, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.drawPolyline(QPolygonF{middle + QPointF(-half, -half / 2),
-                                   middle + QPointF(0, half / 2),
-                                   middle + QPointF(half, -half / 2)});
+/// What only asks to select is no answer.
+void QuizList::initStyleOption(QStyleOptionComboBox* option) const {
+    QComboBox::initStyleOption(option);
+    option->palette.setColor(QPalette::ButtonText,
+                             currentIndex() > 0 ? look::ink : look::secondaryInk);
 }
 
 } // namespace tarnel

@@ -31,7 +31,7 @@ class QuizList : public QComboBox {
 
   protected:
     bool event(QEvent* event) override;
-    void paintEvent(QPaintEvent* event) override;
+    void initStyleOption(QStyleOptionComboBox* option) const override;
     void keyPressEvent(QKeyEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
 
