@@ -1,20 +1,24 @@
 #include "engine/simulation_fixture.h"
 #include "instruments/instrument_fixture.h"
 #include "look/panel_look.h"
+#include "panel/instrument_legend.h"
 #include "strings/string_table.h"
 #include "window/chart/chart_overlays.h"
 #include "window/chart/chart_painter.h"
+#include "window/dials/instrument_header.h"
 #include "window/dials/instrument_painter.h"
+#include "window/dials/needle_swatch.h"
+#include "window/student_fixture.h"
 
 #include <QImage>
 #include <QPaintDevice>
 #include <QPaintEngine>
 #include <QPainter>
-#include <gmock/gmock.h>
 
 #include <cmath>
 #include <functional>
 #include <map>
+#include <set>
 #include <span>
 
 namespace tarnel {
@@ -43,6 +47,15 @@ double inkAlong(const QImage& image, const QLineF& line, const QColor& colour) {
                  120;
     }
     return found / (steps + 1.0);
+}
+
+/// How many pixels of an area have a colour exactly.
+int inkOf(const QColor& colour, const QImage& image, const QRect& area) {
+    int count = 0;
+    for (int y = area.top(); y <= area.bottom(); ++y)
+        for (int x = area.left(); x <= area.right(); ++x)
+            count += image.pixelColor(x, y) == colour;
+    return count;
 }
 
 /// A dial. What a needle is decides how it is painted, so the model's colours are put out of order.
@@ -103,26 +116,70 @@ TEST(DialInk, ASecondNeedleEndsInItsHead) {
 
 // A flag where no deviation can be read, and the needle over an HSI that is put away.
 TEST(DialInk, WhatComesAndGoesIsThereWhileItIsOut) {
-    const auto inkOf = [](const UserControl_1& dial, const QColor& colour) {
-        const QImage image = paintedDial(dial.picture);
-        int count = 0;
-        for (int y = 0; y < side; ++y)
-            for (int x = 0; x < side; ++x)
-                count += image.pixelColor(x, y) == colour;
-        return count;
-    };
     for (const InstrumentKind kind : {InstrumentKind::vor, InstrumentKind::hsi}) {
         PanelInstrument instrument(kind);
         for (const double radial : {30.0, 90.0, 150.0})
             for (const bool overlay : {false, true}) {
                 instrument.c_RMIoverlayEN = overlay;
                 instrument.feed(radial, 0, 0, 0);
-                EXPECT_EQ(inkOf(instrument, look::flagRed) > 100, radial == 90) << radial;
-                EXPECT_EQ(inkOf(instrument, look::overlayNeedle) > 100,
+                const QImage image = paintedDial(instrument.picture);
+                EXPECT_EQ(inkOf(look::flagRed, image, image.rect()) > 100, radial == 90) << radial;
+                EXPECT_EQ(inkOf(look::overlayNeedle, image, image.rect()) > 100,
                           overlay && kind == InstrumentKind::hsi)
                     << radial;
             }
     }
+}
+
+TEST(DialInk, NeedlesPassBelowTheNumerals) {
+    for (const InstrumentKind kind : {InstrumentKind::rmi, InstrumentKind::hsi}) {
+        PanelInstrument instrument(kind);
+        const auto inkOfEast = [&](double degrees) {
+            instrument.adfradial = instrument.adf2radial = instrument.c_OBS = degrees;
+            instrument.c_OBS_x = degrees;
+            const double scale = side / instrument.picture.size;
+            const Area box = numeralBox(instrument.picture.Label1[3]);
+            const QRectF area(box.left * scale, box.top * scale, box.width * scale,
+                              box.height * scale);
+            return inkOf(look::ticks, paintedDial(instrument.picture), area.toRect());
+        };
+        const int free = inkOfEast(30);
+        EXPECT_GT(free, 20);
+        EXPECT_GT(inkOfEast(90), 0.95 * free) << static_cast<int>(kind);
+    }
+}
+
+// The legend above a dial has each needle in the colour that it has on the dial, and no two needles
+// have the same sign.
+TEST_F(Student, FindsEachNeedleOfTheLegendOnTheDial) {
+    open(englishTable(), {1024, 768}); // where the legend has least room
+    auto* header = window->findChild<InstrumentHeader*>();
+    form->inst2OverlayBox.click();
+    std::set<QByteArray> signs;
+    for (const int kind : {adf, rmi, vor, hsi}) {
+        form->inst2TypeList.pick(kind - 1);
+        settle();
+        const QImage dial = find<QWidget>("UserControl13_0").grab().toImage();
+        const QImage legend = header->grab().toImage();
+        const auto parts =
+            instrumentLegend(form->texts, form->inst2, form->positions.feedSources(), {});
+        EXPECT_EQ(parts.size(), kind == hsi ? 3 : kind == adf ? 1 : 2);
+        for (const LegendPart& part : parts) {
+            EXPECT_GT(inkOf(needleColour(part.needle), dial, dial.rect()), 40) << part.text;
+            const bool room = part.needle != NeedleRole::overlay;
+            EXPECT_EQ(inkOf(needleColour(part.needle), legend, legend.rect()) > 2, room)
+                << part.text;
+            QImage sign(24, 24, QImage::Format_RGB32);
+            sign.fill(Qt::black);
+            QPainter painter(&sign);
+            paintSwatch(painter, part.needle, {12, 12});
+            painter.end();
+            if (part.needle != NeedleRole::none)
+                signs.insert(QByteArray(reinterpret_cast<const char*>(sign.constBits()),
+                                        static_cast<int>(sign.sizeInBytes())));
+        }
+    }
+    EXPECT_EQ(signs.size(), 5U);
 }
 
 /// Notes what is written, and by how much it is turned.
