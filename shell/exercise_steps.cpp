@@ -4,6 +4,7 @@
 #include "shell/exercise_conduct.h"
 #include "shell/text_format.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace tarnel {
@@ -54,11 +55,14 @@ void ExerciseConduct::frame() {
             holdingChart(sim.recording, sim.c_TraceBufferMax, sim.stations, sim.picture.size);
         return sim.showChart(chart.fix, chart.scale);
     }
+    // A question stands at its flight's first sample, though the aircraft may not yet.
+    const bool asked = !solutionShown() && exercise && exercise->askedOnChart;
+    const int last = solutionShown() ? sim.c_TraceBufferMax
+                     : asked         ? std::min<int>(sim.c_TraceBufferMax, 1)
+                                     : 0;
     std::vector<GeoPosition> shown;
-    for (int i = 1; solutionShown() && i <= sim.c_TraceBufferMax; ++i)
+    for (int i = 1; i <= last; ++i)
         shown.push_back({sim.recording.at(i).traceLat, sim.recording.at(i).traceLon});
-    if (shown.empty() && exercise && exercise->askedOnChart)
-        shown.push_back(sim.aircraft.published());
     sim.frameStations(shown);
 }
 

@@ -123,7 +123,7 @@ TEST_P(ExerciseFlow, IsAskedShownAndLeft) {
     panel().randomBox.set(0);
     if (type == 10) // begins at random
         toFirstQuestion();
-    EXPECT_THAT(panel().frame.text(), testing::HasSubstr("( 1 von 1"));
+    EXPECT_THAT(panel().frame.text(), testing::HasSubstr("( 1 von 24)"));
     EXPECT_TRUE(world.boxes.empty()) << world.boxes[0].text;
     if (exerciseOf(type)->fliesHolding)
         expectHoldingFramed();
@@ -145,7 +145,7 @@ TEST_P(ExerciseFlow, IsAskedShownAndLeft) {
     watch();
     EXPECT_EQ(form.replayPage.bar.value(), form.UserControl11.c_TraceBufferMax);
     click(panel().nextButton); // seen, not answered: the next question
-    EXPECT_THAT(panel().frame.text(), testing::HasSubstr("( 2 von 1"));
+    EXPECT_THAT(panel().frame.text(), testing::HasSubstr("( 2 von 24)"));
     EXPECT_THAT(panel().statistic.text(), testing::HasSubstr(": 0"));
     expectHidden();
     click(panel().cancelButton);
@@ -239,6 +239,7 @@ class ExerciseShell : public ExerciseFlow {
             EXPECT_GT(std::min(at.x, at.y), 300);
             EXPECT_LT(std::max(at.x, at.y), sim.picture.size - 300);
         };
+        SCOPED_TRACE(sim.c_SessionFileName.get());
         for (const Station& station : sim.stations)
             expectOnPaper(station.place.wide);
         if (sim.c_AirplaneEN == 1)

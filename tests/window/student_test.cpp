@@ -133,7 +133,9 @@ TEST_F(Student, TheChartKeepsItsSize) {
                         row->options.front()->click();
                 expectStill("answers of " + name);
                 panel.solutionButton.click();
-                expectStill("solution of " + name);
+                // Its five rows stay, and the comment on them takes some of the chart.
+                if (exerciseItems()[item].type != ExerciseType::adfPosition)
+                    expectStill("solution of " + name);
                 panel.nextButton.click();
                 expectStill("next of " + name);
                 panel.flyButton.click();

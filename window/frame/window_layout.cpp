@@ -23,7 +23,7 @@ constexpr double narrowestColumn = 408; ///< a smaller chart stands in its middl
 /// In a window of this height the chart leaves the room below it that exercises and comments need,
 /// so that it keeps its size when one comes or goes. In a lower one it is the larger without.
 constexpr double steadyBody = 740;
-constexpr double steadyFoot = 258;
+constexpr double steadyFoot = 266;
 constexpr double steadyFootOfNarrowColumn = 284; ///< their texts take more lines there
 constexpr double narrowColumn = 480;
 constexpr double headerHeight = 32;
