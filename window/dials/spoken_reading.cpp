@@ -144,7 +144,7 @@ std::string spokenDigits(const DigitReadout& digits, std::size_t pointAfter,
         return std::string(texts[Text::spokenNoSignal]);
     std::string words = digits.text();
     if (pointAfter > 0)
-        words.insert(pointAfter, ".");
+        words.insert(pointAfter, 1, '.');
     std::erase_if(words, [](char c) { return c == ' ' || c == '-'; });
     return words;
 }
