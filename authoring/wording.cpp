@@ -30,12 +30,21 @@ std::string filled(std::string_view text, std::initializer_list<LocalText> value
     return result;
 }
 
+/// One of something takes no plural: "1 degrees" becomes "1 degree".
+std::string withSingulars(std::string english) {
+    constexpr std::string_view plural = "1 degrees";
+    for (std::size_t at = 0; (at = english.find(plural, at)) != std::string::npos; ++at)
+        if (at == 0 || english[at - 1] == ' ')
+            english.erase(at + plural.size() - 1, 1);
+    return english;
+}
+
 } // namespace
 
 LocalText worded(Phrase phrase, std::initializer_list<LocalText> values) {
     const PhraseRow& row = phrases[static_cast<std::size_t>(phrase)];
     return {filled(row.german, values, Language::german),
-            filled(row.english, values, Language::english)};
+            withSingulars(filled(row.english, values, Language::english))};
 }
 
 LocalText same(const std::string& text) {
