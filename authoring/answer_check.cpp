@@ -109,8 +109,9 @@ void checkTexts(const BuiltQuestion& question, Findings& findings) {
                                                : "an English text is missing for \"" + left) +
                                  "\""));
         else if ((isNumber(left) || isNumber(right)) && left != right)
-            findings.push_back(question.finding("the answer is \"" + left + "\" in German and \"" +
-                                                right + "\" in English"));
+            findings.push_back(question.finding(
+                std::string("the answer is \"").append(left).append("\" in German and \"") + right +
+                "\" in English"));
     }
 }
 

@@ -31,6 +31,7 @@ std::int16_t scaleOf(const Extent& extent) {
 
 std::int16_t sessionScale(const std::vector<FlightRow>& rows) {
     std::vector<GeoPosition> flown;
+    flown.reserve(rows.size());
     for (const FlightRow& row : rows)
         flown.push_back({row.latitude, row.longitude});
     return scaleOf(extentOf(flown));

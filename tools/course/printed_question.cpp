@@ -53,6 +53,7 @@ void showAircraft(ScriptedFlight& flight, bool shown) {
 
 std::vector<GeoPosition> placesOf(const std::vector<FlightRow>& rows) {
     std::vector<GeoPosition> places;
+    places.reserve(rows.size());
     for (const FlightRow& row : rows)
         places.push_back({row.latitude, row.longitude});
     return places;
@@ -147,6 +148,7 @@ std::vector<PrintedQuestion> printedQuestions(const CourseSource& source, Langua
                                               const std::string& applicationFolder) {
     Printing printing(source, language, applicationFolder);
     std::vector<PrintedQuestion> questions;
+    questions.reserve(source.situations.size());
     for (const Situation& situation : source.situations)
         questions.push_back(printing.take(situation));
     return questions;
