@@ -45,6 +45,7 @@ std::vector<std::string> sorted(std::vector<std::string> names, bool german) {
     QCollator order(german ? QLocale::German : QLocale::English);
     order.setNumericMode(true);
     std::vector<std::pair<QCollatorSortKey, std::string>> keyed;
+    keyed.reserve(names.size());
     for (std::string& name : names)
         keyed.emplace_back(order.sortKey(QString::fromStdString(name)), std::move(name));
     std::ranges::sort(keyed, [](const auto& a, const auto& b) {

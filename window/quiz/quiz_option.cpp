@@ -60,7 +60,7 @@ int QuizOption::brokenWidth() const {
 }
 
 QSize QuizOption::sizeHint() const {
-    return {lineWidth(), QPushButton::sizeHint().height()};
+    return {lineWidth(), ChoiceButton::sizeHint().height()};
 }
 
 QSize QuizOption::minimumSizeHint() const {
