@@ -18,8 +18,6 @@ class ArcFlight {
     void join();
     void keep(const CourseLine& final);
 
-    double firstHeading = 0;
-
   private:
     [[nodiscard]] double hand() const { return arc.clockwise ? 1 : -1; }
     [[nodiscard]] FromStation place() const { return pilot.from(arc.station); }
@@ -41,7 +39,7 @@ double ArcFlight::tooFar(const FromStation& at) const {
 void ArcFlight::join() {
     const double radial = wholeDegrees(place().radial);
     const double still = circle(radial + 90 * hand());
-    firstHeading = tangent(radial);
+    const double firstHeading = tangent(radial);
     const LocalText sign = same(arc.clockwise ? "+" : "-");
     const LocalText heading = same(threeDigits(firstHeading));
     pilot.say(worded(still == firstHeading ? Phrase::arcPlan : Phrase::arcPlanInWind,
@@ -84,7 +82,7 @@ void ArcFlight::keep(const CourseLine& final) {
 
 } // namespace
 
-FlownArc fly(Pilot& pilot, const Arc& arc) {
+void fly(Pilot& pilot, const Arc& arc) {
     ArcFlight flight(pilot, arc);
     flight.join();
     const CourseLine final{arc.station, arc.final};
@@ -97,7 +95,6 @@ FlownArc fly(Pilot& pilot, const Arc& arc) {
                                  number(std::abs(turnBetween(wholeDegrees(lead), finalRadial))),
                                  same(threeDigits(finalRadial)), course}));
     pilot.turnTo(pilot.headingOn(arc.final));
-    return {flight.firstHeading, lead};
 }
 
 } // namespace tarnel

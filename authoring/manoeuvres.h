@@ -52,12 +52,7 @@ struct Arc {
     bool inbound = true; ///< towards the station
 };
 
-/// What is to be remembered of an arc.
-struct FlownArc {
-    double firstHeading = 0;
-    double leadRadial = 0; ///< where the turn onto the final course began
-};
 /// Joins the arc, keeps it, and turns onto the final course.
-FlownArc fly(Pilot& pilot, const Arc& arc);
+void fly(Pilot& pilot, const Arc& arc);
 
 } // namespace tarnel
