@@ -1,0 +1,107 @@
+#pragma once
+
+#include "core/geo_position.h"
+#include "debrief/limits.h"
+#include "debrief/task.h"
+
+#include <optional>
+#include <span>
+#include <vector>
+
+namespace tarnel {
+
+/// Samples of a flight, counted from 0; both belong to it.
+struct SampleSpan {
+    int first = 0;
+    int last = 0;
+    bool operator==(const SampleSpan&) const = default;
+};
+
+/// What a finding tells; one row each in `findings.def`.
+enum class FindingKind {
+#define FINDING(name, unit, limit) name,
+#include "debrief/findings.def"
+};
+
+enum class FindingUnit {
+    degrees,
+    nauticalMiles,
+    seconds,
+    dots,
+    percent,
+    knots,
+    count,
+    entry,
+    words
+};
+
+/// How a holding is entered, as the value of a finding whose unit is `entry`.
+enum class HoldingEntry { direct, parallel, offset };
+
+enum class Verdict {
+    right,
+    wrong,
+    open, ///< told, but nothing that is right or wrong
+};
+
+/// One thing that can be said of a flight.
+struct Finding {
+    FindingKind kind{};
+    double value = 0;                ///< in the unit of its kind
+    std::optional<double> expected;  ///< that the value should have
+    std::optional<double> tolerance; ///< about `expected`, or alone the greatest value allowed
+    Verdict verdict = Verdict::open;
+    double weight = 0; ///< how bad it is: 1 at the limit, more beyond; worst first
+    SampleSpan samples;
+    int turn = 0; ///< which of several: the circuit of a holding, the fix's crossing; from 1
+};
+
+/// A part of the flight as the task divides it.
+enum class PhaseKind { approach, join, track, entry, turn, outbound, inbound, arc, final };
+struct Phase {
+    PhaseKind kind{};
+    SampleSpan samples;
+    std::optional<double> seconds; ///< where the time of the leg counts, from where it is timed
+    Verdict verdict = Verdict::open;
+};
+
+/// What is plotted over time. A value is missing where it means nothing.
+enum class SeriesKind { needle, offLine, offArc, offReference, heading, distance, speed };
+struct Series {
+    SeriesKind kind{};
+    FindingUnit unit{};
+    std::vector<std::optional<float>> values; ///< one a sample
+    /// Where it is judged, between which limits.
+    struct Band {
+        SampleSpan samples;
+        double low = 0;
+        double high = 0;
+    };
+    std::vector<Band> bands;
+};
+
+/// A line of the task on the chart.
+enum class TaskLineKind { line, racetrack, arc, reference };
+struct TaskLine {
+    TaskLineKind kind{};
+    std::vector<GeoPosition> points;
+};
+
+/// What a flight was like, beside what it should have been.
+struct Debrief {
+    std::vector<Finding> findings; ///< worst first, then by time
+    std::vector<Phase> phases;     ///< in the order of flight, without gaps
+    std::vector<Series> series;    ///< at most three, what matters most first
+    std::vector<TaskLine> lines;
+    std::vector<bool> outside; ///< one a sample: some limit is not kept there
+};
+
+/// Judges `flight` (element 0 is sample 1) against `task`. Every flight has a debrief: one without
+/// samples has no findings.
+[[nodiscard]] Debrief judge(std::span<const Sample> flight, const Task& task,
+                            Strictness strictness);
+
+/// The flown seconds between two samples.
+constexpr double secondsPerSample = 4.0 / 3;
+
+} // namespace tarnel
