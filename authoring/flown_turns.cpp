@@ -1,6 +1,6 @@
 #include "authoring/flown_turns.h"
 
-#include "authoring/station_geometry.h"
+#include "core/station_geometry.h"
 
 namespace tarnel {
 

@@ -1,6 +1,6 @@
 #include "authoring/manoeuvres.h"
 #include "authoring/wording.h"
-#include "exercises/holding_answer.h"
+#include "core/holding_answer.h"
 
 #include <cmath>
 #include <numbers>

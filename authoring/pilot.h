@@ -2,8 +2,8 @@
 
 #include "authoring/authored_chart.h"
 #include "authoring/local_text.h"
-#include "authoring/station_geometry.h"
-#include "authoring/wind_triangle.h"
+#include "core/station_geometry.h"
+#include "core/wind_triangle.h"
 #include "flights/flight.h"
 #include "flights/flight_csv.h"
 

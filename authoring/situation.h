@@ -3,8 +3,8 @@
 #include "authoring/authored_chart.h"
 #include "authoring/local_text.h"
 #include "authoring/pilot.h"
-#include "authoring/station_geometry.h"
 #include "core/aircraft.h"
+#include "core/station_geometry.h"
 
 #include <array>
 #include <cstdint>

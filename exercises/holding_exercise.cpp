@@ -1,8 +1,8 @@
 #include "exercises/holding_exercise.h"
 
+#include "core/holding_answer.h"
 #include "core/number_text.h"
 #include "core/rounding.h"
-#include "exercises/holding_answer.h"
 #include "exercises/val_str.h"
 
 namespace tarnel {

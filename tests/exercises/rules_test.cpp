@@ -1,6 +1,6 @@
+#include "core/holding_answer.h"
 #include "core/run_time_error.h"
 #include "exercises/heading_offers.h"
-#include "exercises/holding_answer.h"
 #include "exercises/question_draw.h"
 #include "exercises/val_str.h"
 #include "support/told.h"

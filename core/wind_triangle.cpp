@@ -1,4 +1,4 @@
-#include "authoring/wind_triangle.h"
+#include "core/wind_triangle.h"
 
 #include <cmath>
 #include <numbers>

@@ -1,4 +1,4 @@
-#include "authoring/station_geometry.h"
+#include "core/station_geometry.h"
 
 #include "core/sailing.h"
 

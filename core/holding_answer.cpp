@@ -1,4 +1,4 @@
-#include "exercises/holding_answer.h"
+#include "core/holding_answer.h"
 
 #include "core/angle.h"
 
