@@ -55,7 +55,7 @@ class AdfKind : public QuestionKind {
     }
     void solve(Pilot& pilot, const Situation& situation) const override;
     [[nodiscard]] StudyRecord ask(const FlownSituation& flown, Language language) const override;
-    void check(const FlownSituation& flown, Findings& findings) const override;
+    void check(const FlownSituation& flown, SourceFindings& findings) const override;
 
   private:
     [[nodiscard]] static double radial(const FlownSituation& flown, const FlightRow& row) {
@@ -115,7 +115,7 @@ StudyRecord AdfKind::ask(const FlownSituation& flown, Language language) const {
     return record;
 }
 
-void AdfKind::check(const FlownSituation& flown, Findings& findings) const {
+void AdfKind::check(const FlownSituation& flown, SourceFindings& findings) const {
     const double first = radial(flown, flown.asked());
     const double last = radial(flown, flown.rows.back());
     const double moved = change(flown);

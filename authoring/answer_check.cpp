@@ -97,7 +97,7 @@ void checkOffers(const PosedQuestion& posed, int row,
                   [&](const std::string& text) { wrong(which + text); });
 }
 
-void checkTexts(const BuiltQuestion& question, Findings& findings) {
+void checkTexts(const BuiltQuestion& question, SourceFindings& findings) {
     const StudyRecord& german = question.in(Language::german);
     const StudyRecord& english = question.in(Language::english);
     for (std::size_t i = 0; i < german.columns.size(); ++i) {
@@ -135,7 +135,7 @@ std::string answerIn(const BuiltQuestion& question, Language language, StudyColu
         .answer(static_cast<int>(column) - static_cast<int>(ans4));
 }
 
-void checkExpected(const BuiltQuestion& question, Findings& findings) {
+void checkExpected(const BuiltQuestion& question, SourceFindings& findings) {
     for (const auto& [name, column] : answerColumns) {
         const auto expected = question.flown.situation.answers.find(name);
         if (expected == question.flown.situation.answers.end())
@@ -153,7 +153,7 @@ void checkExpected(const BuiltQuestion& question, Findings& findings) {
 
 } // namespace
 
-void checkAnswers(const BuiltQuestion& question, Findings& findings) {
+void checkAnswers(const BuiltQuestion& question, SourceFindings& findings) {
     checkTexts(question, findings);
     checkExpected(question, findings);
     std::set<std::string> told; // once for both languages

@@ -8,6 +8,6 @@ namespace tarnel {
 /// Proves that a question can be answered in one way: it is told in both languages, each of its
 /// rows offers the right answer once and no offer twice, and the answer is what the teacher
 /// expects.
-void checkAnswers(const BuiltQuestion& question, Findings& findings);
+void checkAnswers(const BuiltQuestion& question, SourceFindings& findings);
 
 } // namespace tarnel

@@ -28,7 +28,7 @@ class ArcKind : public QuestionKind {
                                    const AuthoredChart& chart) const override;
     void solve(Pilot& pilot, const Situation& situation) const override;
     [[nodiscard]] StudyRecord ask(const FlownSituation& flown, Language language) const override;
-    void check(const FlownSituation& flown, Findings& findings) const override;
+    void check(const FlownSituation& flown, SourceFindings& findings) const override;
 
   private:
     /// The headings of the first turn's beginning and end.
@@ -116,7 +116,7 @@ StudyRecord ArcKind::ask(const FlownSituation& flown, Language language) const {
     return record;
 }
 
-void ArcKind::check(const FlownSituation& flown, Findings& findings) const {
+void ArcKind::check(const FlownSituation& flown, SourceFindings& findings) const {
     const Situation& situation = flown.situation;
     const double around = std::abs(turnBetween(situation.at.radial, situation.final + 180));
     if (around < 20)

@@ -19,7 +19,7 @@ struct BuiltQuestion {
     [[nodiscard]] const StudyRecord& in(Language language) const {
         return records[static_cast<std::size_t>(language)];
     }
-    [[nodiscard]] Finding finding(std::string text) const {
+    [[nodiscard]] SourceFinding finding(std::string text) const {
         return {flown.situation.line, std::move(text)};
     }
 };

@@ -168,7 +168,7 @@ void checkClaims(const ShownComment& shown, const LocalText& text, const Tell& w
 } // namespace
 
 void checkComments(const CommentedFlight& flight, const std::vector<int>& lines,
-                   Findings& findings) {
+                   SourceFindings& findings) {
     for (std::size_t i = 0; i < flight.said.size(); ++i) {
         const LocalText& text = flight.said[i].text;
         const Tell wrong = [&](const std::string& what) {

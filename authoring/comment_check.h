@@ -23,6 +23,6 @@ struct CommentedFlight {
 /// with sums that add up, and true of the sample at which they begin. `lines` are those of the
 /// source, one a comment; the last one stands for those behind it.
 void checkComments(const CommentedFlight& flight, const std::vector<int>& lines,
-                   Findings& findings);
+                   SourceFindings& findings);
 
 } // namespace tarnel

@@ -17,7 +17,7 @@ struct BuiltFile {
 
 struct BuiltCourse {
     std::vector<BuiltFile> files; ///< none if a finding must not stand
-    Findings findings;            ///< in the order of their lines
+    SourceFindings findings;      ///< in the order of their lines
 };
 
 /// Flies a written flight, and proves what is said in it.

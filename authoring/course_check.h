@@ -9,7 +9,8 @@ namespace tarnel {
 /// number.
 class CourseCheck {
   public:
-    CourseCheck(const CourseSource& source, Findings& findings) : course(source), found(findings) {}
+    CourseCheck(const CourseSource& source, SourceFindings& findings)
+        : course(source), found(findings) {}
 
     /// Proves what holds for the questions of every exercise, and what holds for this one: answers,
     /// readings, the solution, comments.
@@ -24,7 +25,7 @@ class CourseCheck {
     };
 
     const CourseSource& course;
-    Findings& found;
+    SourceFindings& found;
     std::vector<Asked> asked;
 };
 

@@ -6,12 +6,12 @@
 namespace tarnel {
 
 /// Something in a course that a student must not meet.
-struct Finding {
+struct SourceFinding {
     int line = 0; ///< of the source; 0 stands for the whole
     std::string text;
     bool mayStand = false; ///< told, and built all the same
 };
 
-using Findings = std::vector<Finding>;
+using SourceFindings = std::vector<SourceFinding>;
 
 } // namespace tarnel

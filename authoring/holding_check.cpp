@@ -24,7 +24,7 @@ struct Passage {
 /// The flight of a holding as its rows tell it.
 class HoldingCheck {
   public:
-    HoldingCheck(const BuiltQuestion& asked, Findings& found)
+    HoldingCheck(const BuiltQuestion& asked, SourceFindings& found)
         : question(asked), flown(asked.flown), findings(found), turns(turnsIn(asked.flown.rows)) {}
 
     void entry() const;
@@ -46,7 +46,7 @@ class HoldingCheck {
 
     const BuiltQuestion& question;
     const FlownSituation& flown;
-    Findings& findings;
+    SourceFindings& findings;
     std::vector<FlownTurn> turns;
 };
 
@@ -162,7 +162,7 @@ void HoldingCheck::circuits(std::size_t wanted, bool firstByTheClock) const {
 
 } // namespace
 
-void checkHoldingFlown(const BuiltQuestion& question, Findings& findings) {
+void checkHoldingFlown(const BuiltQuestion& question, SourceFindings& findings) {
     const HoldingCheck check(question, findings);
     if (question.kind.type == ExerciseType::wind) {
         check.firstLeg();

@@ -33,7 +33,7 @@ class HoldingKind : public QuestionKind {
         fly(pilot, holdingOf(situation));
     }
     [[nodiscard]] StudyRecord ask(const FlownSituation& flown, Language language) const override;
-    void check(const FlownSituation& flown, Findings& findings) const override;
+    void check(const FlownSituation& flown, SourceFindings& findings) const override;
 
   private:
     bool beacon;
@@ -75,7 +75,7 @@ StudyRecord HoldingKind::ask(const FlownSituation& flown, Language language) con
     return record;
 }
 
-void HoldingKind::check(const FlownSituation& flown, Findings& findings) const {
+void HoldingKind::check(const FlownSituation& flown, SourceFindings& findings) const {
     const Situation& situation = flown.situation;
     const HoldingAnswer answer = answerOf(holdingOf(situation), situation.heading);
     const double shorter = turnBetween(situation.heading, answer.firstHeading);

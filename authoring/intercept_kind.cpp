@@ -44,7 +44,7 @@ class InterceptKind : public QuestionKind {
                                    const AuthoredChart& chart) const override;
     void solve(Pilot& pilot, const Situation& situation) const override;
     [[nodiscard]] StudyRecord ask(const FlownSituation& flown, Language language) const override;
-    void check(const FlownSituation& flown, Findings& findings) const override;
+    void check(const FlownSituation& flown, SourceFindings& findings) const override;
 
   private:
     /// The bearing that is asked for, at a moment.
@@ -137,7 +137,7 @@ StudyRecord InterceptKind::ask(const FlownSituation& flown, Language language) c
     return record;
 }
 
-void InterceptKind::check(const FlownSituation& flown, Findings& findings) const {
+void InterceptKind::check(const FlownSituation& flown, SourceFindings& findings) const {
     const Situation& situation = flown.situation;
     const auto wrong = [&](const char* text) { findings.push_back({situation.line, text}); };
     const double bearing = wholeDegrees(actual(flown, flown.asked()));

@@ -46,7 +46,7 @@ class OrientationKind : public QuestionKind {
     }
     void solve(Pilot& pilot, const Situation& situation) const override;
     [[nodiscard]] StudyRecord ask(const FlownSituation& flown, Language language) const override;
-    void check(const FlownSituation& flown, Findings& findings) const override;
+    void check(const FlownSituation& flown, SourceFindings& findings) const override;
 };
 
 /// How the third answer comes about.
@@ -102,7 +102,7 @@ StudyRecord OrientationKind::ask(const FlownSituation& flown, Language language)
     return record;
 }
 
-void OrientationKind::check(const FlownSituation& flown, Findings& findings) const {
+void OrientationKind::check(const FlownSituation& flown, SourceFindings& findings) const {
     const Situation& situation = flown.situation;
     const double radial = flown.from(situation.station, flown.asked()).radial;
     const double qdm = flown.from(situation.other, flown.asked()).radial + 180;

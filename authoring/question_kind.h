@@ -31,7 +31,7 @@ class QuestionKind {
     /// The record but for the name of its session.
     [[nodiscard]] virtual StudyRecord ask(const FlownSituation& flown, Language language) const = 0;
     /// What is wrong with this kind of question, beside what is wrong with any.
-    virtual void check(const FlownSituation& flown, Findings& findings) const = 0;
+    virtual void check(const FlownSituation& flown, SourceFindings& findings) const = 0;
 };
 
 /// An exercise that courses are written for.

@@ -27,7 +27,7 @@ class RadialKind : public QuestionKind {
         situation.course = readDirection(table, "course");
     }
     void solve(Pilot& pilot, const Situation& situation) const override;
-    void check(const FlownSituation& flown, Findings& findings) const override;
+    void check(const FlownSituation& flown, SourceFindings& findings) const override;
 
   protected:
     /// A change of the radial, and that the needle moves by it, to the right if `move` is positive.
@@ -110,7 +110,7 @@ StudyRecord RadialKind::askPlace(const FlownSituation& flown, Language language)
     return record;
 }
 
-void RadialKind::check(const FlownSituation& flown, Findings& findings) const {
+void RadialKind::check(const FlownSituation& flown, SourceFindings& findings) const {
     const double move = std::abs(needleMove(flown));
     if (move > steadyNeedle && move < seenNeedle)
         findings.push_back({flown.situation.line, "the needle moves too little to be seen and too "

@@ -20,7 +20,7 @@ constexpr double silence = 10;      ///< seconds without a word, while the quest
 /// What is proved at the sample of a question.
 class PanelCheck {
   public:
-    PanelCheck(const BuiltQuestion& asked, Findings& found)
+    PanelCheck(const BuiltQuestion& asked, SourceFindings& found)
         : question(asked), flown(asked.flown), row(asked.flown.asked()), findings(found) {}
 
     void area() const;
@@ -39,7 +39,7 @@ class PanelCheck {
     const BuiltQuestion& question;
     const FlownSituation& flown;
     const FlightRow& row;
-    Findings& findings;
+    SourceFindings& findings;
 };
 
 void PanelCheck::area() const {
@@ -128,7 +128,7 @@ void PanelCheck::tellTales() const {
 
 } // namespace
 
-void checkReadings(const BuiltQuestion& question, Findings& findings) {
+void checkReadings(const BuiltQuestion& question, SourceFindings& findings) {
     const PanelCheck check(question, findings);
     check.area();
     check.quietStart();

@@ -7,6 +7,6 @@ namespace tarnel {
 
 /// Proves what the panel shows where a question stands: its station can be received and read, the
 /// instrument that is asked about shows the answer, and nothing else tells it.
-void checkReadings(const BuiltQuestion& question, Findings& findings);
+void checkReadings(const BuiltQuestion& question, SourceFindings& findings);
 
 } // namespace tarnel

@@ -17,7 +17,7 @@ constexpr std::size_t ticksPerSecond = 3;
 constexpr double sameHeading = 1; ///< degrees
 
 /// A flight straight on.
-void checkPosition(const BuiltQuestion& question, Findings& findings) {
+void checkPosition(const BuiltQuestion& question, SourceFindings& findings) {
     constexpr double longEnough = 60; ///< seconds
     const auto& rows = question.flown.rows;
     if (rows.back().seconds - question.flown.asked().seconds < longEnough)
@@ -44,7 +44,7 @@ void checkPosition(const BuiltQuestion& question, Findings& findings) {
 
 /// Half a minute along a course over a station, to the end of the flight.
 void checkTracked(const BuiltQuestion& question, double course, const std::string& what,
-                  Findings& findings) {
+                  SourceFindings& findings) {
     constexpr std::size_t tracked = 30 * ticksPerSecond;
     constexpr double onBearing = 2; // degrees
     constexpr double onLine = 0.1;  // NM; near the station a bearing says little
@@ -64,7 +64,7 @@ void checkTracked(const BuiltQuestion& question, double course, const std::strin
 
 /// Whether a turn is the one that the answers tell; "maintain" is none within half a minute.
 void checkFirstTurn(const BuiltQuestion& question, const std::string& side, double heading,
-                    Findings& findings) {
+                    SourceFindings& findings) {
     constexpr std::size_t atOnce = 30 * ticksPerSecond;
     const std::vector<FlownTurn> turns = turnsIn(question.flown.rows);
     const bool none = turns.empty() || turns.front().begin > atOnce;
@@ -84,7 +84,7 @@ void checkFirstTurn(const BuiltQuestion& question, const std::string& side, doub
                                             " is flown"));
 }
 
-void checkIntercept(const BuiltQuestion& question, Findings& findings) {
+void checkIntercept(const BuiltQuestion& question, SourceFindings& findings) {
     const StudyRecord& record = question.in(Language::english);
     checkFirstTurn(question, record[ans3], std::stod(record[ans6]), findings);
     const bool inbound = question.kind.type == ExerciseType::qdm;
@@ -110,7 +110,7 @@ const FlownTurn* leadTurn(const std::vector<FlightRow>& rows, const std::vector<
 }
 
 void checkArcKept(const BuiltQuestion& question, std::size_t from, std::size_t until,
-                  Findings& findings) {
+                  SourceFindings& findings) {
     constexpr double kept = 0.2;    // NM
     constexpr double shortest = 15; // degrees
     const FlownSituation& flown = question.flown;
@@ -135,7 +135,7 @@ void checkArcKept(const BuiltQuestion& question, std::size_t from, std::size_t u
         findings.push_back(question.finding("the arc is flown the wrong way round"));
 }
 
-void checkArc(const BuiltQuestion& question, Findings& findings) {
+void checkArc(const BuiltQuestion& question, SourceFindings& findings) {
     const StudyRecord& record = question.in(Language::english);
     checkTracked(question, question.flown.situation.final, "final course", findings);
     const auto& rows = question.flown.rows;
@@ -155,7 +155,7 @@ void checkArc(const BuiltQuestion& question, Findings& findings) {
 
 } // namespace
 
-void checkSolution(const BuiltQuestion& question, Findings& findings) {
+void checkSolution(const BuiltQuestion& question, SourceFindings& findings) {
     switch (question.kind.type) {
     case ExerciseType::hsiHolding:
     case ExerciseType::dgHolding:

@@ -50,7 +50,7 @@ class WindKind : public QuestionKind {
         fly(pilot, holdingOf(situation, outboundTime(situation)));
     }
     [[nodiscard]] StudyRecord ask(const FlownSituation& flown, Language language) const override;
-    void check(const FlownSituation& flown, Findings& findings) const override;
+    void check(const FlownSituation& flown, SourceFindings& findings) const override;
 };
 
 FlightPlan WindKind::start(const Situation& situation, const AuthoredChart& chart) const {
@@ -95,7 +95,7 @@ StudyRecord WindKind::ask(const FlownSituation& flown, Language language) const 
     return record;
 }
 
-void WindKind::check(const FlownSituation& flown, Findings& findings) const {
+void WindKind::check(const FlownSituation& flown, SourceFindings& findings) const {
     const Situation& situation = flown.situation;
     const double correction = std::abs(inboundTriangle(situation).correction);
     if (!(correction * 3 < 75))

@@ -31,9 +31,9 @@ struct PilotInFlight {
 };
 
 /// What is found in a question whose solution `solve` flies, once `spoil` is through with it.
-inline Findings findingsOf(const CourseSource& course,
-                           const std::function<void(Pilot&, const Situation&)>& solve,
-                           const std::function<void(BuiltQuestion&)>& spoil) {
+inline SourceFindings findingsOf(const CourseSource& course,
+                                 const std::function<void(Pilot&, const Situation&)>& solve,
+                                 const std::function<void(BuiltQuestion&)>& spoil) {
     const Situation& situation = course.situations.front();
     PilotInFlight flown(course);
     solve(flown.pilot, situation);
@@ -41,7 +41,7 @@ inline Findings findingsOf(const CourseSource& course,
                                   flown.flight.form().UserControl11.sessionBytes()};
     BuiltQuestion question = questionOf(course, solution);
     spoil(question);
-    Findings findings;
+    SourceFindings findings;
     CourseCheck(course, findings).add(question);
     return findings;
 }

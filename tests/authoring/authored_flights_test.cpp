@@ -118,7 +118,7 @@ constexpr const char* hard[][2] = {
 
 TEST(AuthoredFlights, ReachTheirEnd) {
     for (const auto& [exercise, situation] : hard)
-        for (const Finding& finding :
+        for (const SourceFinding& finding :
              buildCourse(courseOf(exercise, situation), TARNEL_DATA_FOLDER).findings)
             EXPECT_EQ(finding.line, 0) << exercise << ' ' << situation << ": " << finding.text;
 }

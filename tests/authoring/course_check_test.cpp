@@ -194,7 +194,7 @@ const std::vector<Wrong>& wrongOnes() {
 std::vector<std::string> told(const Wrong& row) {
     const CourseSource course =
         courseOf(row.exercise, row.situation.empty() ? situationOf(row.exercise) : row.situation);
-    Findings findings;
+    SourceFindings findings;
     if (!row.solve && !row.spoil)
         findings = buildCourse(course, TARNEL_DATA_FOLDER).findings;
     else
@@ -205,7 +205,7 @@ std::vector<std::string> told(const Wrong& row) {
                 : [&](Pilot& pilot, const Situation& s) { course.questions->solve(pilot, s); },
             row.spoil ? row.spoil : [](BuiltQuestion&) {});
     std::vector<std::string> texts;
-    for (const Finding& finding : findings)
+    for (const SourceFinding& finding : findings)
         if (finding.line != 0) {
             EXPECT_EQ(finding.line, 4) << finding.text;
             texts.push_back(finding.text);
@@ -230,7 +230,7 @@ TEST(CourseCheck, CountsTheQuestions) {
     const auto number = [](std::size_t count) {
         CourseSource course = courseOf("hsi", situationOf("hsi"));
         course.situations.resize(count, course.situations.front());
-        Findings findings;
+        SourceFindings findings;
         CourseCheck(course, findings).finish();
         return findings;
     };

@@ -62,9 +62,9 @@ std::string courseFolder(const CourseOptions& options, const std::string& source
 }
 
 /// Tells what was found. False if any of it must not stand.
-bool tell(const std::string& source, const Findings& findings) {
+bool tell(const std::string& source, const SourceFindings& findings) {
     bool good = true;
-    for (const Finding& finding : findings) {
+    for (const SourceFinding& finding : findings) {
         good = good && finding.mayStand;
         std::cerr << source;
         if (finding.line > 0)
