@@ -33,7 +33,7 @@ class ArcFlight {
 };
 
 double ArcFlight::tooFar(const FromStation& at) const {
-    return std::hypot(at.distance, pilot.altitude() / feetPerMile) - arc.distance;
+    return slantRange(at.distance, pilot.altitude()) - arc.distance;
 }
 
 void ArcFlight::join() {

@@ -1,6 +1,7 @@
 #include "authoring/pilot.h"
 
 #include "core/number_text.h"
+#include "core/wind_turn.h"
 
 #include <algorithm>
 #include <cmath>
@@ -11,7 +12,6 @@ namespace tarnel {
 namespace {
 
 constexpr double degree = std::numbers::pi / 180;
-constexpr double secondsPerHour = 3600;
 constexpr double longestFlight = 7000; ///< seconds; well below what a recording holds
 /// As much is flown off on the course, without a cut, NM.
 constexpr double nearTheLine = 0.15;
@@ -61,32 +61,16 @@ double Pilot::headingOn(double course) const {
 
 FromStation Pilot::afterTurn(Slot station, double heading, Turn turn) const {
     const FromStation place = from(station);
-    double east = place.distance * std::sin(place.radial * degree);
-    double north = place.distance * std::cos(place.radial * degree);
-    const double perTick = now().tas * simTimeStep / secondsPerHour;
-    const double windPerTick = now().windSpeed * simTimeStep / secondsPerHour;
-    double flown = now().heading;
-    const auto fly = [&] {
-        east += perTick * std::sin(flown * degree) -
-                windPerTick * std::sin(now().windDirection * degree);
-        north += perTick * std::cos(flown * degree) -
-                 windPerTick * std::cos(now().windDirection * degree);
-    };
-    // The autopilot begins a tick late and takes the last five degrees at one degree a second.
-    const double change = signedTurn(now().heading, heading, turn);
-    double left = std::abs(change);
-    fly();
-    while (left > 0.01) {
-        const double turned = std::min(left, (left > 5 ? 3 : 1) * simTimeStep);
-        flown += std::copysign(turned, change);
-        left -= turned;
-        fly();
-    }
+    const PlaneOffset flown = turnInWind({now().windDirection, now().windSpeed}, now().tas,
+                                         now().heading, signedTurn(now().heading, heading, turn))
+                                  .back();
+    const double east = place.distance * std::sin(place.radial * degree) + flown.east;
+    const double north = place.distance * std::cos(place.radial * degree) + flown.north;
     return {circle(std::atan2(east, north) / degree), std::hypot(east, north)};
 }
 
 double Pilot::dme(Slot station) const {
-    return std::hypot(from(station).distance, altitude() / feetPerMile);
+    return slantRange(from(station).distance, altitude());
 }
 
 void Pilot::say(const LocalText& text) {

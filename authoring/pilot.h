@@ -35,8 +35,6 @@ struct SaidComment {
     LocalText text;
 };
 
-constexpr double feetPerMile = 6076.12;
-
 /// A manoeuvre that does not come to its end.
 class LostPilot : public std::runtime_error {
   public:

@@ -31,6 +31,11 @@ GeoPosition placeOn(const GeoPosition& station, const FromStation& seen) {
     return DeadReckon(toSplit(station), seen.distance, course).plain;
 }
 
+double slantRange(double distance, double altitude) {
+    constexpr double feetPerMile = 6076.12;
+    return std::hypot(distance, altitude / feetPerMile);
+}
+
 double circle(double degrees) {
     const double within = std::fmod(degrees, 360);
     return within < 0 ? within + 360 : within;

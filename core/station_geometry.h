@@ -22,6 +22,13 @@ struct FromStation {
 [[nodiscard]] FromStation fromStation(const GeoPosition& station, const GeoPosition& place);
 [[nodiscard]] GeoPosition placeOn(const GeoPosition& station, const FromStation& seen);
 
+/// Feet at which the simulated altitude stays, whatever the autopilot says.
+constexpr double fixedAltitude = 6000.0;
+
+/// NM through the air to a station that is `distance` NM away over the ground, from `altitude` feet
+/// above it.
+[[nodiscard]] double slantRange(double distance, double altitude);
+
 /// `degrees` brought into 0 up to 360.
 [[nodiscard]] double circle(double degrees);
 /// From `from` to `to` the shorter way, -180 to 180; positive clockwise.

@@ -19,20 +19,21 @@ struct SampleSpan {
 
 /// What a finding tells; one row each in `findings.def`.
 enum class FindingKind {
-#define FINDING(name, unit, limit) name,
+#define FINDING(name, unit, limit, text) name,
 #include "debrief/findings.def"
 };
 
 enum class FindingUnit {
-    degrees,
+    degrees, ///< an angle; a correction is positive to the right
+    bearing, ///< 0 up to 360
     nauticalMiles,
     seconds,
-    dots,
     percent,
     knots,
     count,
-    entry,
-    words
+    side,  ///< 1 right, -1 left
+    entry, ///< a `HoldingEntry`
+    words  ///< the finding says it all: it stands there or not
 };
 
 /// How a holding is entered, as the value of a finding whose unit is `entry`.
@@ -46,6 +47,8 @@ enum class Verdict {
 
 /// One thing that can be said of a flight.
 struct Finding {
+    bool operator==(const Finding&) const = default;
+
     FindingKind kind{};
     double value = 0;                ///< in the unit of its kind
     std::optional<double> expected;  ///< that the value should have
@@ -65,7 +68,9 @@ struct Phase {
     Verdict verdict = Verdict::open;
 };
 
-/// What is plotted over time. A value is missing where it means nothing.
+/// What is plotted over time. A value is missing where it means nothing. `needle`: degrees that the
+/// line lies to the right of the aircraft, as the needle shows it; `offLine`: the same in NM;
+/// `offArc`: NM outside; `distance`: NM by DME.
 enum class SeriesKind { needle, offLine, offArc, offReference, heading, distance, speed };
 struct Series {
     SeriesKind kind{};
@@ -95,6 +100,10 @@ struct Debrief {
     std::vector<TaskLine> lines;
     std::vector<bool> outside; ///< one a sample: some limit is not kept there
 };
+
+[[nodiscard]] FindingUnit unitOf(FindingKind kind);
+/// What it is held to where the station is a VOR, whose source can be told beside it.
+[[nodiscard]] Limit limitFor(FindingKind kind);
 
 /// Judges `flight` (element 0 is sample 1) against `task`. Every flight has a debrief: one without
 /// samples has no findings.

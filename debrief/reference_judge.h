@@ -1,11 +1,12 @@
 #pragma once
 
-#include "debrief/debrief.h"
+#include "debrief/judgement.h"
+#include "debrief/task.h"
 
 namespace tarnel {
 
-/// How far a flight stays off another one, sample by sample.
-[[nodiscard]] Debrief judgeReference(std::span<const Sample> flight, const ReferenceTask& task,
-                                     Strictness strictness);
+/// How far a flight stays off another one, sample by sample. `flight` has at least one sample.
+void judgeReference(std::span<const Sample> flight, const ReferenceTask& task,
+                    Judgement& judgement);
 
 } // namespace tarnel

@@ -3,6 +3,7 @@
 #include "core/angle.h"
 #include "core/rounding.h"
 #include "core/sailing.h"
+#include "core/station_geometry.h"
 #include "panel/needle_sources.h"
 
 #include <algorithm>
@@ -11,9 +12,6 @@
 namespace tarnel {
 
 namespace {
-
-/// Feet at which the simulated altitude stays, whatever the autopilot says.
-constexpr double fixedAltitude = 6000.0;
 
 bool isInstrument(std::int16_t type) {
     return type >= adf && type <= dg;
