@@ -1,22 +1,13 @@
 #include "exercises/course.h"
 
+#include "exercises/text_hash.h"
+
 #include <array>
 #include <charconv>
-#include <cstdint>
 
 namespace tarnel {
 
 namespace {
-
-/// A text as 64 bits that are the same in every build: FNV-1a (Fowler, Noll, Vo).
-std::uint64_t hashOf(std::string_view text) {
-    constexpr std::uint64_t start = 0xcbf29ce484222325;
-    constexpr std::uint64_t prime = 0x100000001b3;
-    std::uint64_t hash = start;
-    for (const char c : text)
-        hash = (hash ^ static_cast<unsigned char>(c)) * prime;
-    return hash;
-}
 
 std::string hexadecimal(std::uint64_t number) {
     constexpr int base = 16;
@@ -49,7 +40,8 @@ Course ownCourse(const std::string& folder, const std::string& name) {
     const std::string place = folder + "/" + name;
     return {.studyFolder = place + "/study/",
             .sessionFolder = place + "/sessions/",
-            .statisticPrefix = hexadecimal(hashOf(name)) + "/",
+            .statisticPrefix = hexadecimal(textHash(name)) + "/",
+            .name = name,
             .anyLanguage = true};
 }
 

@@ -13,6 +13,7 @@ struct Course {
     std::string studyFolder;
     std::string sessionFolder;
     std::string statisticPrefix; ///< of the exercises' stems
+    std::string name = {};       ///< as the user has it; empty for the shipped one
     bool anyLanguage = false;    ///< a study file in the other language serves where one is missing
 
     /// The names of the study file of `exercise`, the one to be preferred first.

@@ -57,6 +57,8 @@ class Exercise {
     /// Takes the next question, whose offers are drawn here.
     void take(const StudyRecord& record);
 
+    /// The question that was taken last, with what was worked out for it.
+    [[nodiscard]] const StudyRecord& taken() const { return question; }
     [[nodiscard]] int rowCount() const { return static_cast<int>(plannedRows.size()); }
     /// The task above the rows; empty in exercises whose prompts say all.
     [[nodiscard]] virtual std::string task() const { return {}; }

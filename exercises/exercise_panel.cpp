@@ -19,7 +19,8 @@ ExercisePanel::ExercisePanel(FormState& form, const PanelWidgets& widgets)
       solutionButton(state, widgets.solution, Text::showSolution),
       flyButton(state, widgets.fly, Text::flyYourself),
       cancelButton(state, widgets.cancel, Text::cancel),
-      randomBox(state, widgets.random, Text::randomOrder) {
+      randomBox(state, widgets.random, Text::randomOrder),
+      mistakesBox(state, widgets.mistakes, Text::mistakesOrder) {
     for (const RowWidgets& row : widgets.rows)
         rows.push_back(std::make_unique<AnswerRow>(state, row));
     frame.setVisible(false);
@@ -30,6 +31,14 @@ ExercisePanel::ExercisePanel(FormState& form, const PanelWidgets& widgets)
     for (FormControl* control : controls())
         if (control->name().empty())
             control->setVisible(false);
+    const auto replaces = [](CheckBox& box, CheckBox& other) {
+        box.onClick = [&] {
+            if (box.value() == 1)
+                other.set(0);
+        };
+    };
+    replaces(randomBox, mistakesBox);
+    replaces(mistakesBox, randomBox);
 }
 
 void ExercisePanel::fold(bool folds) {
@@ -97,7 +106,8 @@ std::vector<FormControl*> ExercisePanel::controls() {
         const std::vector<FormControl*> widgets = row->controls();
         all.insert(all.end(), widgets.begin(), widgets.end());
     }
-    all.insert(all.end(), {&solutionButton, &flyButton, &nextButton, &cancelButton, &randomBox});
+    all.insert(all.end(),
+               {&solutionButton, &flyButton, &nextButton, &cancelButton, &randomBox, &mistakesBox});
     return all;
 }
 

@@ -63,6 +63,7 @@ class ExercisePanel {
     CommandButton flyButton;
     CommandButton cancelButton;
     CheckBox randomBox;
+    CheckBox mistakesBox; ///< an order as the random one is; one goes out with the other
 
   private:
     void setAnswerable(bool answerable);

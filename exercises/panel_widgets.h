@@ -36,6 +36,7 @@ struct PanelWidgets {
     std::string_view fly;
     std::string_view cancel;
     std::string_view random;
+    std::string_view mistakes;
     std::string_view statistic;
     std::string_view statisticBox;
     std::string_view task;

@@ -1,6 +1,8 @@
 #include "exercises/qa_form.h"
 
+#include "exercises/question_key.h"
 #include "exercises/study_remark.h"
+#include "exercises/weak_spot.h"
 
 #include <algorithm>
 
@@ -67,13 +69,13 @@ void QAform::New_c_QAtype() {
         DisplayQuestion();
 }
 
-void QAform::open(const Course& from, ExerciseType type) {
+void QAform::open(const Course& from, ExerciseType type, Order order) {
     c_QAtype.publish(static_cast<std::int16_t>(type));
     if (const ExerciseKind* kind = exerciseOf(c_QAtype))
-        start(*kind, from);
+        start(*kind, from, order);
 }
 
-void QAform::start(const ExerciseKind& kind, const Course& from) {
+void QAform::start(const ExerciseKind& kind, const Course& from, Order order) {
     endFlight();
     course = from;
     exercise = kind.make(texts, draw);
@@ -84,6 +86,8 @@ void QAform::start(const ExerciseKind& kind, const Course& from) {
     c_smallFrame = false;
     if (kind.startsAtRandom)
         shown.randomBox.set(1);
+    shown.mistakesBox.set(order == Order::mistakes ? 1 : 0);
+    round.reset();
     loadStudyFileOf(kind);
     draw.shuffle(lastQuestion);
     questionIndex = -1;
@@ -102,6 +106,7 @@ void QAform::loadStudyFileOf(const ExerciseKind& kind) {
 void QAform::LoadStudyFile(const std::string& name) {
     const auto bytes = readFile(course.studyFolder + name);
     study = bytes ? readStudyFile(*bytes, c_QAtype) : StudyFile{{}, StudyEnd::unreadable, 0, 0};
+    keys = questionKeys(study.records);
     lastQuestion = static_cast<std::int16_t>(study.records.size()) - 1;
     questionIndex = lastQuestion;
     remark = studyRemark(study, name, texts);
@@ -119,8 +124,27 @@ void QAform::DisplayQuestion() {
     shown.setTitle(std::string(texts[kind->title]));
     shown.setNotice(remark);
     c_QASessionFileName.publish({});
-    if (!study.records.empty())
+    if (!study.records.empty() && followRound(shown))
         poseQuestion(*kind, shown);
+}
+
+/// The box begins a round. False if nothing is left to be asked in it; then the usual order goes
+/// on.
+bool QAform::followRound(ExercisePanel& shown) {
+    if (shown.mistakesBox.value() != 1) {
+        round.reset();
+        return true;
+    }
+    const bool begins = !round;
+    if (begins)
+        round = mistakes ? mistakes(course, static_cast<ExerciseType>(c_QAtype.get()), keys)
+                         : MistakeRound();
+    if (!round->over())
+        return true;
+    round.reset();
+    shown.mistakesBox.set(0);
+    shown.setNotice(std::string(texts[begins ? Text::noMistakes : Text::mistakesAllRight]));
+    return false;
 }
 
 void QAform::poseQuestion(const ExerciseKind& kind, ExercisePanel& shown) {
@@ -131,9 +155,14 @@ void QAform::poseQuestion(const ExerciseKind& kind, ExercisePanel& shown) {
     shown.ask(*exercise);
     requestSession();
     questionLive = true;
+    onPosed();
 }
 
 void QAform::stepQuestion(bool atRandom) {
+    if (round) {
+        questionIndex = static_cast<std::int16_t>(round->place());
+        return;
+    }
     std::int16_t& counter = atRandom ? shuffleCursor : questionIndex;
     ++counter;
     if (counter > lastQuestion)
@@ -161,6 +190,20 @@ void QAform::judge(ExercisePanel& panel, int row, int option) {
     shutRows(panel);
     if (exercise->canFinish(row) && allRight())
         ask(running()->whenSolved);
+    tellJudged(pick, right);
+}
+
+void QAform::tellJudged(const Pick& pick, bool right) {
+    const auto type = static_cast<ExerciseType>(c_QAtype.get());
+    onJudged({.course = course,
+              .exercise = type,
+              .question = keys[static_cast<std::size_t>(questionIndex)],
+              .row = pick.row,
+              .rows = exercise->rowCount(),
+              .spot = weakSpot(type, pick.row, exercise->taken()),
+              .given = exercise->given(pick),
+              .answer = exercise->rightAnswer(pick.row),
+              .right = right});
 }
 
 /// An answer to one row can use up another.
@@ -228,6 +271,8 @@ void QAform::next() {
     if (!kind)
         return;
     endFlight();
+    if (round && questionLive)
+        round->pass(allRight());
     countAnswer(*kind);
     ask(ShowResult::nextQuestion);
     c_smallFrame = false;

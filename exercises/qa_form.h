@@ -4,6 +4,7 @@
 #include "exercises/course.h"
 #include "exercises/exercise_catalogue.h"
 #include "exercises/exercise_panel.h"
+#include "exercises/mistake_round.h"
 #include "exercises/question_draw.h"
 #include "exercises/statistics.h"
 #include "exercises/study_file.h"
@@ -22,6 +23,19 @@ struct ExerciseSurroundings {
     SettingsStore& settings;
     FileReader readFile;
     SeedSource seed;
+};
+
+/// A row that was answered, for whoever keeps a log of answers.
+struct JudgedRow {
+    const Course& course;
+    ExerciseType exercise;
+    std::int64_t question; ///< its key
+    int row;               ///< from 0
+    int rows;              ///< of the question
+    Text spot;             ///< what it trains
+    std::string given;
+    std::string answer; ///< the right one
+    bool right;
 };
 
 /// `QAform`: the quiz over ten exercises: it asks the questions of a study file, judges, counts and
@@ -55,8 +69,18 @@ class QAform {
     /// Above 0: the distance of track marks that the student's flight asks for, cleared when taken.
     Property<std::int16_t> c_TrackDelta{properties, "c_TrackDelta"};
 
+    /// In which order a start asks: in that of the file or at random, as the panel has it, or what
+    /// went wrong until all is right.
+    enum class Order { usual, mistakes };
     /// Starts an exercise of that course.
-    void open(const Course& from, ExerciseType type);
+    void open(const Course& from, ExerciseType type, Order order = Order::usual);
+
+    /// A question is put up, and each answer to one of its rows.
+    std::function<void()> onPosed = [] {};
+    std::function<void(const JudgedRow&)> onJudged = [](const JudgedRow&) {};
+    /// What there is to be asked again of an exercise with these questions. Without a log: nothing.
+    std::function<MistakeRound(const Course&, ExerciseType, const std::vector<std::int64_t>&)>
+        mistakes;
     /// Shows the next question of the running exercise.
     void DisplayQuestion();
     /// Reads the study file of that name for the current type. What can't be read is told in the
@@ -85,9 +109,10 @@ class QAform {
     void fold(bool small);
     void connect(ExercisePanel& panel);
 
-    void start(const ExerciseKind& kind, const Course& from);
+    void start(const ExerciseKind& kind, const Course& from, Order order = Order::usual);
     void loadStudyFileOf(const ExerciseKind& kind);
     void poseQuestion(const ExerciseKind& kind, ExercisePanel& shown);
+    [[nodiscard]] bool followRound(ExercisePanel& shown);
     void stepQuestion(bool atRandom);
     void requestSession();
     [[nodiscard]] const StudyRecord& currentRecord() const {
@@ -97,6 +122,7 @@ class QAform {
     void ask(ShowResult result) { c_showResult.publish(static_cast<std::int16_t>(result)); }
     void judge(ExercisePanel& panel, int row, int option);
     void shutRows(ExercisePanel& panel);
+    void tellJudged(const Pick& pick, bool right);
     [[nodiscard]] bool allRight() const;
     void showSolution(ExercisePanel& panel);
     void flyQuestion(ExercisePanel& panel);
@@ -113,7 +139,9 @@ class QAform {
     std::unique_ptr<Exercise> exercise; ///< null before the first start
     Course course;                      ///< of the exercise that was started last
     StudyFile study;
-    std::string remark; ///< what is wrong with the study file
+    std::vector<std::int64_t> keys;    ///< of its questions
+    std::optional<MistakeRound> round; ///< that decides what is asked; nothing in other orders
+    std::string remark;                ///< what is wrong with the study file
     std::int16_t lastQuestion = -1;
     std::int16_t questionIndex = -1;
     std::int16_t shuffleCursor = 0;

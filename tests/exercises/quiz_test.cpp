@@ -1,5 +1,6 @@
 #include "core/run_time_error.h"
 #include "exercise_fixture.h"
+#include "exercises/question_key.h"
 
 namespace tarnel {
 namespace {
@@ -51,6 +52,77 @@ TEST_F(QuizTest, AtRandomFollowsTheDrawFromItsSecondPlace) {
     play(question(draw.question(1)) + "; Check1; Command1; " + question(draw.question(1) + 1));
     start(1, positions(1));
     play("Text1>question 0");
+}
+
+TEST_F(QuizTest, AsksWhatWentWrongUntilEachWasRightOnce) {
+    std::vector<std::int64_t> keys;
+    form.mistakes = [&](const Course&, ExerciseType, const std::vector<std::int64_t>& all) {
+        keys = all;
+        return MistakeRound({3, 1});
+    };
+    get<CheckBox>("Check1").set(1);
+    start(1, positions(5));
+    play("Mistakes1; Check1; Mistakes1"); // one order goes out with the other
+    EXPECT_EQ(get<CheckBox>("Check1").value(), 0);
+    play(next + "Text1>question 3; " + wrong + next + "Text1>question 1; " + next + // passed
+         "Text1>question 3; " + right + next + "Text1>question 1; " + right + next);
+    EXPECT_EQ(shown("StudyNotice1"), std::string(germanTable()[Text::mistakesAllRight]));
+    EXPECT_FALSE(form.posed());
+    EXPECT_EQ(get<CheckBox>("Mistakes1").value(), 0);
+    play(next + "Text1>question 2");
+    EXPECT_EQ(keys.size(), 5U);
+    form.mistakes = nullptr; // no log, no mistakes
+    form.open(shippedCourse("app"), ExerciseType::hsiPosition, QAform::Order::mistakes);
+    EXPECT_EQ(shown("StudyNotice1"), std::string(germanTable()[Text::noMistakes]));
+}
+
+TEST(MistakeRounds, BeginWithWhatIsLongestWrongThenWithWhatRestedLongest) {
+    constexpr std::int64_t now = 10 * MistakeRound::longAgo;
+    const std::vector<QuestionStanding> standings = {{10, now - 5, false},
+                                                     {11, now - 5, true}, // fresh
+                                                     {12, now - 2 * MistakeRound::longAgo, true},
+                                                     {14, now - 9, false},
+                                                     {99, 1, false}}; // no longer in the file
+    MistakeRound round({10, 11, 12, 13, 14}, standings, now);
+    std::vector<int> order;
+    for (; !round.over(); round.pass(true))
+        order.push_back(round.place());
+    EXPECT_EQ(order, (std::vector<int>{4, 0, 3, 2}));
+}
+
+TEST(QuestionKeys, OutlastWordsAndOtherQuestions) {
+    const StudyRecord german =
+        recordOf({{qa, "120 NDB MNW"}, {ans1, "100"}, {ans2, "gleich"}, {sessionName, "q.ts"}});
+    StudyRecord english = german;
+    english[ans2] = "remain constant";
+    english[sessionName] = "e-q.ts";
+    StudyRecord other = german;
+    other[qa] = "12 0 NDB MNW";
+    const auto keys = questionKeys({german, other, german});
+    EXPECT_EQ(questionKeys({other, english})[1], keys[0]);
+    EXPECT_NE(keys[0], keys[1]);
+    EXPECT_NE(keys[0], keys[2]) << "two questions alike";
+}
+
+TEST_F(QuizTest, TellsEachAnsweredRowWithWhatItTrains) {
+    std::vector<std::string> told;
+    form.onJudged = [&](const JudgedRow& row) {
+        told.push_back(std::to_string(row.row + 1) + "/" + std::to_string(row.rows) + " " +
+                       std::string(germanTable()[row.spot]) + " " + row.given + "|" + row.answer +
+                       (row.right ? "+" : "-"));
+    };
+    start(1, positions(1));
+    play(wrong + "Combo3=Nach links");
+    start(3, std::vector<StudyRecord>(8, recordOf({{ans1, "250"}, // offset, right turns
+                                                   {ans2, "090"},
+                                                   {ans3, "Standard"},
+                                                   {sessionName, "h.ts"}})));
+    play("Option13; Option14");
+    EXPECT_EQ(told,
+              (std::vector<std::string>{"1/3 Andere Richtungen 095|90-",
+                                        "3/3 Wohin der Kursbalken wandert Nach links|Nach links+",
+                                        "1/4 Offset Entries von links Offset|offset+",
+                                        "4/4 Erste Kurve nach einem Offset Entry Left|left+"}));
 }
 
 TEST_F(QuizTest, CountsWhatWasAnsweredAndWritesOnce) {

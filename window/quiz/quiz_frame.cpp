@@ -72,6 +72,8 @@ QVBoxLayout* QuizFrame::makeHeader(FormBinding& binding) {
     binding.bind(asked.statistic, *statistic);
     random = new QCheckBox(this);
     binding.bind(asked.randomBox, *random);
+    mistakes = new QCheckBox(this);
+    binding.bind(asked.mistakesBox, *mistakes);
     auto* name = new QHBoxLayout;
     name->setSpacing(titleGap);
     name->addWidget(title);
@@ -81,6 +83,7 @@ QVBoxLayout* QuizFrame::makeHeader(FormBinding& binding) {
     standing->addWidget(statistic);
     standing->addStretch();
     standing->addWidget(random);
+    standing->addWidget(mistakes);
     auto* words = new WrapLayout(WrapLayout::Manner::flowing, statisticGap, 0);
     words->addLayout(name);
     words->addLayout(standing);

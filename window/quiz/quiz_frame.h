@@ -95,6 +95,7 @@ class QuizFrame : public QWidget {
     QPushButton* fly = nullptr;
     QPushButton* cancel = nullptr;
     QCheckBox* random = nullptr;
+    QCheckBox* mistakes = nullptr;
     QuizFlightBar* flightBar = nullptr;
     std::optional<Shown> shown;
 };
