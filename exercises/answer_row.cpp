@@ -47,7 +47,7 @@ void AnswerRow::ask(const std::string& promptText, const std::vector<std::string
 
 void AnswerRow::begin(RowState next) {
     enter(next);
-    judged = Verdict::notYet;
+    judged = Judgement::notYet;
     ownAnswer.clear();
 }
 
@@ -61,7 +61,7 @@ void AnswerRow::enter(RowState next) {
 
 void AnswerRow::judge(bool right, const std::string& given, const std::string& answerText) {
     enter(RowState::judged);
-    judged = right ? Verdict::right : Verdict::wrong;
+    judged = right ? Judgement::right : Judgement::wrong;
     ownAnswer = given;
     showAnswer(answerText, right ? rightColours : wrongColours);
 }

@@ -17,7 +17,7 @@ constexpr LabelColours wrongColours{0xFFFFFF, 0x0000FF};
 constexpr LabelColours solutionColours{0xFFFFFF, 0x806000};
 
 /// What became of the one attempt at a sub-question.
-enum class Verdict { notYet, right, wrong };
+enum class Judgement { notYet, right, wrong };
 
 /// Where a sub-question stands.
 enum class RowState {
@@ -51,7 +51,7 @@ class AnswerRow {
     void hide();
 
     [[nodiscard]] RowState state() const { return stage; }
-    [[nodiscard]] Verdict verdict() const { return judged; }
+    [[nodiscard]] Judgement verdict() const { return judged; }
     /// The student's answer as he picked or typed it; empty before he has given one.
     [[nodiscard]] const std::string& given() const { return ownAnswer; }
     /// What stands in the fields.
@@ -83,7 +83,7 @@ class AnswerRow {
     FormState& changes;
     OptionGroup group;
     RowState stage = RowState::notAsked;
-    Verdict judged = Verdict::notYet;
+    Judgement judged = Judgement::notYet;
     std::string ownAnswer;
 };
 

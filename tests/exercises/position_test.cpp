@@ -68,7 +68,7 @@ TEST_F(PositionTest, DegreesAreJudgedByTheirPlace) {
         start(type, answer, answer, "");
         list(name).pick(index);
         EXPECT_EQ(form.panel(PanelId::frame1).rows[name == std::string("Combo2")]->verdict(),
-                  isRight ? Verdict::right : Verdict::wrong);
+                  isRight ? Judgement::right : Judgement::wrong);
     }
 }
 

@@ -256,20 +256,20 @@ TEST_F(QuizTest, AStudyFileThatCannotBeReadIsToldAndCanBeLeft) {
 TEST_F(QuizTest, AWrongAnswerStaysBesideTheSolution) {
     start(1, positions(1));
     const auto& rows = form.activePanel()->rows;
-    const auto expectFirst = [&](RowState is, Verdict verdict, const char* given) {
+    const auto expectFirst = [&](RowState is, Judgement verdict, const char* given) {
         EXPECT_EQ(rows[0]->state(), is);
         EXPECT_EQ(rows[0]->verdict(), verdict);
         EXPECT_EQ(rows[0]->given(), given);
     };
-    expectFirst(RowState::open, Verdict::notYet, "");
+    expectFirst(RowState::open, Judgement::notYet, "");
     play(wrong + "Text11>-FALSCH");
-    expectFirst(RowState::judged, Verdict::wrong, "095");
+    expectFirst(RowState::judged, Judgement::wrong, "095");
     play("Combo2=090; Command2; Text11>90");
-    expectFirst(RowState::revealed, Verdict::wrong, "095");
-    EXPECT_EQ(rows[1]->verdict(), Verdict::right);
-    EXPECT_EQ(rows[2]->verdict(), Verdict::notYet);
+    expectFirst(RowState::revealed, Judgement::wrong, "095");
+    EXPECT_EQ(rows[1]->verdict(), Judgement::right);
+    EXPECT_EQ(rows[2]->verdict(), Judgement::notYet);
     play(next);
-    expectFirst(RowState::open, Verdict::notYet, "");
+    expectFirst(RowState::open, Judgement::notYet, "");
     EXPECT_EQ(rows[1]->given(), "");
 }
 

@@ -139,7 +139,7 @@ void QuizRow::tellVerdict() {
     const RowState state = answerRow.state();
     const QString answer = plain(answerRow.answer.text());
     const QString rightWord = textOf(texts, Text::answerRight);
-    const bool isRight = answerRow.verdict() == Verdict::right;
+    const bool isRight = answerRow.verdict() == Judgement::right;
     verdict->setVisible(asked() && !open());
     if (state == RowState::shut)
         verdict->tell(Kind::shut, textOf(texts, Text::rowShut), {});
@@ -157,7 +157,7 @@ void QuizRow::tellVerdict() {
 /// A wrong answer stays beside the solution.
 void QuizRow::tellOwnAnswer() {
     own->setVisible(answerRow.state() == RowState::revealed &&
-                    answerRow.verdict() == Verdict::wrong);
+                    answerRow.verdict() == Judgement::wrong);
     own->tell(QuizVerdict::Kind::wrong, givenText(), textOf(texts, Text::ownAnswer));
     own->setAccessibleName(textOf(texts, Text::answerWrong) + QStringLiteral(": ") +
                            own->toolTip());
