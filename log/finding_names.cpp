@@ -8,7 +8,7 @@ namespace tarnel {
 namespace {
 
 constexpr std::string_view names[] = {
-#define FINDING(name, unit, limit) #name,
+#define FINDING(name, ...) #name,
 #include "debrief/findings.def"
 };
 
