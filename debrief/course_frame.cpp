@@ -30,7 +30,7 @@ double CourseFrame::limit(const Judgement& judgement, Limit ofNeedle, Limit ofBe
 }
 
 bool CourseFrame::isOnLine(int i, double within) const {
-    constexpr double along = 30; ///< degrees
+    constexpr double along = 25; ///< degrees
     return std::abs(deviation(i)) <= within && std::abs(headingOff(i)) <= along;
 }
 

@@ -12,7 +12,8 @@ namespace tarnel {
 
 namespace {
 
-constexpr double legTurn = 60; ///< degrees: so much leads from one leg to the next
+constexpr double legTurn = 60;    ///< degrees: so much leads from one leg to the next
+constexpr double wingsLevel = 10; ///< degrees: a smaller turn corrects the heading
 
 double direction(double signedDegrees) {
     return signedDegrees < 0 ? -1 : 1;
@@ -127,7 +128,7 @@ std::vector<double> HoldFlight::crossings(int arrived) const {
 /// Before the turn, if that begins before the fix.
 double HoldFlight::arrivalHeading(int arrived) const {
     constexpr int lead = 12;
-    const TurnSpan* turn = path.turnBefore(arrived, 10);
+    const TurnSpan* turn = path.turnBefore(arrived, wingsLevel);
     return path.heading(turn && turn->first >= arrived - lead && turn->last >= arrived ? turn->first
                                                                                        : arrived);
 }
@@ -191,7 +192,7 @@ HoldFlight::Entered HoldFlight::enteredBy(int arrived, double heading, int end) 
 double HoldFlight::medianHeading(int first, int last, double from) const {
     std::vector<double> headings;
     for (int i = first; i <= last; ++i)
-        if (!path.inTurn(i, 10))
+        if (!path.inTurn(i, wingsLevel))
             headings.push_back(turnBetween(from, path.heading(i)));
     if (headings.empty())
         return turnBetween(from, path.heading(last));
@@ -214,17 +215,19 @@ Circuit HoldFlight::circuit(int begin, double end) const {
     const TurnSpan* in = path.turnAfter(level, legTurn);
     flown.turn = in && in->first < flown.last() ? in->first : flown.last();
     constexpr double nearCourse = 25;
-    constexpr double onCourse = 10;
     int from = flown.last();
     while (from > flown.turn && std::abs(frame.headingOff(from - 1)) <= nearCourse)
         --from;
-    while (from < flown.last() && std::abs(frame.headingOff(from)) > onCourse)
+    while (from < flown.last() && path.inTurn(from, wingsLevel))
         ++from;
     flown.inbound = from;
     return flown;
 }
 
 void HoldFlight::findCircuits(int arrived, const std::vector<double>& over) {
+    constexpr double aside = 30; ///< degrees
+    const bool joinsFromAside =
+        std::abs(turnBetween(task.inbound, arrivalHeading(arrived))) > aside;
     double begin = arrived;
     for (const double end : over) {
         if (entryEnds < 0 && entered.entry != HoldingEntry::direct) {
@@ -232,7 +235,7 @@ void HoldFlight::findCircuits(int arrived, const std::vector<double>& over) {
         } else {
             Circuit flown = circuit(static_cast<int>(begin), end);
             flown.number = static_cast<int>(circuits.size()) + 1;
-            flown.enters = circuits.empty() && entryEnds < 0;
+            flown.enters = circuits.empty() && entryEnds < 0 && joinsFromAside;
             circuits.push_back(flown);
         }
         begin = end;
@@ -272,31 +275,34 @@ void HoldFlight::judgeSide() {
     }
 }
 
-/// Outbound the book has several figures in a wind, and each of them is right; the first inbound
-/// leg behind one is what the next outbound leg is corrected by.
+/// Outbound the book has several figures in a wind, and each of them is right. An inbound leg that
+/// lasts its time justifies the outbound one before it, but in the first circuit, which is flown by
+/// the book. The first inbound leg behind that is measured, and the next outbound one corrected by
+/// it. Who joins from the side needs room to meet the course.
 void HoldFlight::judgeTimes() {
+    constexpr double toJoin = 30; ///< seconds
     const double leg = task.minutes * 60;
-    const double tolerance = judgement.limit(Limit::legTime);
     for (const Circuit& flown : circuits) {
-        const SampleSpan out{flown.outbound, flown.turn};
-        const SampleSpan in{flown.inbound, flown.last()};
+        const double tolerance = judgement.limit(Limit::legTime) * (flown.enters ? 2 : 1);
         const WindTriangle wind = triangleAt(path, flown.outbound, task.inbound);
         const double byDistance = leg * wind.groundSpeed / (wind.groundSpeed + 2 * wind.head);
         const double exact = track ? track->outboundSeconds : leg;
         const auto [low, high] = std::minmax({leg, byDistance, exact});
-        const bool inWind = std::abs(wind.head) > 5;
-        const bool isInLimits = std::abs(flown.secondsIn() - leg) <= tolerance;
-        Finding& outTime = judgement.between(FindingKind::outboundTime, flown.secondsOut(),
-                                             {low, high}, tolerance, out);
-        outTime.turn = flown.number;
-        const bool outIsRight = outTime.verdict == Verdict::right;
-        if (!track || (flown.enters && isInLimits))
-            outTime.verdict = Verdict::open;
-        Finding& inTime =
-            judgement.about(FindingKind::inboundTime, flown.secondsIn(), leg, tolerance, in);
-        inTime.turn = flown.number;
-        if (!track || (flown.number == 1 && inWind && outIsRight))
-            inTime.verdict = Verdict::open;
+        Finding& in = judgement.about(FindingKind::inboundTime, flown.secondsIn(), leg, tolerance,
+                                      {flown.inbound, flown.last()});
+        in.turn = flown.number;
+        const bool isInTime = in.verdict == Verdict::right;
+        const bool isMeasured = flown.number == 1 && path.wind(flown.outbound).speed > 5;
+        const std::pair<double, double> ends{low, high + (flown.enters ? toJoin : 0)};
+        const bool isByTheBook = flown.secondsOut() >= ends.first - tolerance &&
+                                 flown.secondsOut() <= ends.second + tolerance;
+        if (!track || (isMeasured && isByTheBook))
+            in.verdict = Verdict::open;
+        Finding& out = judgement.between(FindingKind::outboundTime, flown.secondsOut(), ends,
+                                         tolerance, {flown.outbound, flown.turn});
+        out.turn = flown.number;
+        if (!track || (isInTime && flown.number > 1))
+            out.verdict = Verdict::open;
     }
 }
 
@@ -336,6 +342,8 @@ void HoldFlight::judgeInbound() {
     constexpr double towards = 60; ///< degrees: the heading of one who is about to roll out
     const double within = frame.kept(judgement);
     const double settled = frame.established(judgement);
+    // Three times the correction leads across in a strong wind.
+    const double drift = track ? std::abs(track->correctionIn) : 0;
     Worst over;
     Worst kept;
     for (const Circuit& flown : circuits) {
@@ -344,8 +352,9 @@ void HoldFlight::judgeInbound() {
             if (path.inCone(i) || std::abs(frame.headingOff(i)) > towards || !frame.onThisSide(i))
                 continue;
             const double aside = frame.deviation(i);
-            over.take(std::max(0.0, -aside * side), std::max(0.0, -aside * side), {i, flown.last()},
-                      flown.number);
+            if (!flown.enters)
+                over.take(std::max(0.0, -aside * side), std::max(0.0, -aside * side),
+                          {i, flown.last()}, flown.number);
             onLine = onLine || (i >= flown.inbound && std::abs(aside) <= settled);
             if (!onLine)
                 continue;
@@ -359,7 +368,8 @@ void HoldFlight::judgeInbound() {
     if (over.found())
         judgement
             .atMost(FindingKind::inboundOvershoot, over.value,
-                    judgement.limit(Limit::inboundOvershoot) * frame.fullScale(), over.samples)
+                    judgement.limit(Limit::inboundOvershoot) * frame.fullScale() + drift,
+                    over.samples)
             .turn = over.circuit;
     if (kept.found())
         judgement.atMost(FindingKind::largestDeviation, kept.value, within, kept.samples).turn =

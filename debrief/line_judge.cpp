@@ -58,11 +58,11 @@ int LineFlight::passage(int from) const {
 
 /// The turn by which the line is met: the last that begins before it or a little behind.
 const TurnSpan* LineFlight::turnOnto() const {
-    constexpr int late = 6; ///< samples
-    const double within = frame.established(judgement);
+    constexpr int late = 6;       ///< samples
+    constexpr double there = 0.1; ///< NM
     const double side = frame.deviation(0);
     int met = 0;
-    while (met < path.last() && std::abs(frame.deviation(met)) > within &&
+    while (met < path.last() && std::abs(frame.cross(met)) > there &&
            std::signbit(frame.deviation(met)) == std::signbit(side))
         ++met;
     for (int until = met + late; until >= 0;) {
@@ -169,8 +169,10 @@ void LineFlight::judgeJoin() {
         }
     judgement.atMost(FindingKind::overshoot, over, frame.established(judgement),
                      {worst, std::max(worst, joined)});
-    judgement.atMost(FindingKind::timeToEstablished, (joined - begun) * secondsPerSample,
-                     judgement.limit(Limit::timeToEstablished), {begun, joined});
+    if (onto)
+        judgement.atMost(
+            FindingKind::timeToEstablished, std::max(0, joined - begun) * secondsPerSample,
+            judgement.limit(Limit::timeToEstablished), {begun, std::max(begun, joined)});
 }
 
 void LineFlight::judgeTrack() {
