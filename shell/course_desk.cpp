@@ -33,13 +33,13 @@ std::vector<const ExerciseItem*> CourseDesk::exercisesOf(const std::string& name
     return found;
 }
 
-void CourseDesk::open(const std::string& name, const ExerciseItem& item) {
+void CourseDesk::open(const std::string& name, const ExerciseItem& item, QAform::Order order) {
     if (!menu.enabled())
         return;
     const Course course = ownCourse(folder, name);
     const auto fault = courseFault(course, *exerciseOf(static_cast<int>(item.type)), boxes.texts);
     if (!fault)
-        return exercise.start(item, course);
+        return exercise.start(item, course, order);
     boxes.show(Text::errorTitle, fault->path + "\n" + fault->why + "\n" +
                                      std::string(boxes.texts[Text::nothingChanged]));
 }

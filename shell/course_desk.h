@@ -25,7 +25,8 @@ class CourseDesk {
     [[nodiscard]] std::vector<const ExerciseItem*> exercisesOf(const std::string& name) const;
     /// Starts an exercise of a course. A wrong file is told in a box, and nothing has changed then.
     /// Does nothing while the menu rests.
-    void open(const std::string& name, const ExerciseItem& item);
+    void open(const std::string& name, const ExerciseItem& item,
+              QAform::Order order = QAform::Order::usual);
 
   private:
     BoxDesk& boxes;

@@ -47,7 +47,7 @@ void ExerciseConduct::switchFaces() {
     stage.coupling.switchFaces(!asksForPosition(form.c_QAtype));
 }
 
-void ExerciseConduct::start(const ExerciseItem& item, const Course& course) {
+void ExerciseConduct::start(const ExerciseItem& item, const Course& course, QAform::Order order) {
     stage.replay.stop();
     stage.flight.stop();
     stage.strip.stationPage.edit.set(0);
@@ -67,7 +67,7 @@ void ExerciseConduct::start(const ExerciseItem& item, const Course& course) {
     else if (item.size == ExerciseItem::Size::small)
         stage.panel.inst2Small.choose();
     form.c_smallFrame = false;
-    form.open(course, item.type);
+    form.open(course, item.type, order);
     switchFaces();
     hide();
     changed();

@@ -36,7 +36,8 @@ class ExerciseConduct {
     ExerciseConduct(QAform& exercises, const ExerciseStage& trainerStage);
 
     /// Starts an exercise of that course.
-    void start(const ExerciseItem& item, const Course& course);
+    void start(const ExerciseItem& item, const Course& course,
+               QAform::Order order = QAform::Order::usual);
 
     [[nodiscard]] bool runs() const { return question != Question::none; }
     /// While a question stands open: its answer must not be found by other means.

@@ -8,6 +8,7 @@ ExerciseMenu::ExerciseMenu(FormState& form)
     : introduction1(form, "intro1", Text::introduction1),
       introduction2(form, "intro2", Text::introduction2),
       ownCourses(form, "mnuOwnCourses", Text::ownCourses),
+      progress(form, "mnuProgress", Text::progress),
       resetStatistics(form, "resstats", Text::resetStatistics) {
     for (const ExerciseItem& item : exerciseItems())
         exercises.push_back(std::make_unique<CommandButton>(form, item.name, item.text));

@@ -24,6 +24,7 @@ struct ExerciseMenu {
     CommandButton introduction1;
     CommandButton introduction2;
     CommandButton ownCourses; ///< the sub menu of the courses that the user has
+    CommandButton progress;   ///< opens what the log tells; also in flight, which pauses then
     CommandButton resetStatistics;
 
     [[nodiscard]] std::vector<CommandButton*> items();

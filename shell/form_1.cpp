@@ -31,6 +31,7 @@ Form1::Form1(const StringTable& table, OutsideWorld& world, std::string applicat
       boxes(table, world),
       QAform1(state, exerciseSurroundings(table, world)),
       flightDesk(state, boxes, UserControl11, world),
+      training(QAform1, exercise, courses, boxes, world),
       documents(UserControl11, fileMenu.loadSession, practice, boxes, world) {
     UserControl11.clockSeed = [&world] { return world.clockSeed(); };
     connectDesks();

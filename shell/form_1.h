@@ -21,6 +21,7 @@
 #include "shell/station_desk.h"
 #include "shell/status_readouts.h"
 #include "shell/trainer_controls.h"
+#include "shell/training_desk.h"
 #include "shell/usable_controls.h"
 #include "shell/wind_desk.h"
 #include "strings/string_table.h"
@@ -90,6 +91,7 @@ class Form1 : public TrainerControls, public PanelControls {
     PracticeDesk practice{UserControl11, *this, flightDesk.keeper, texts};
     ExerciseConduct exercise{QAform1, exerciseStage()};
     CourseDesk courses{boxes, exercise, exerciseMenu.ownCourses};
+    TrainingDesk training;
     DocumentDesk documents;
 
   private:

@@ -35,6 +35,8 @@ class OutsideWorld {
     virtual bool openDocument(const std::string& /*path*/, int /*page*/) { return true; }
     /// Seconds since 1970 UTC; 0 in a world without a clock.
     virtual std::int64_t secondsNow() { return 0; }
+    /// The same in milliseconds.
+    virtual std::int64_t millisecondsNow() { return 1000 * secondsNow(); }
     /// Such a moment on this computer's clock, in a format of "yyyy", "MM", "dd", "HH" and "mm".
     virtual std::string localTime(std::int64_t /*seconds*/, const std::string& /*format*/) {
         return {};

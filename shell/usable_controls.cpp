@@ -52,6 +52,7 @@ void UsableControls::updateMenus() {
         item->setEnabled(free());
     for (CommandButton* item : strip.exerciseMenu.items())
         item->setEnabled(free());
+    strip.exerciseMenu.progress.setEnabled(!exercise.runs());
 }
 
 void UsableControls::followHistory() {

@@ -1,5 +1,6 @@
 #include "window/frame/application.h"
 
+#include "log/sqlite_log.h"
 #include "persistence/file_path.h"
 #include "persistence/save_file.h"
 #include "persistence/scratch_folder.h"
@@ -89,6 +90,11 @@ int runApplication(int argc, char** argv, const StringTable& texts) {
     QtOutsideWorld outside;
     Form1 form(texts, outside, folder);
     form.courses.setFolder(userCourses());
+    form.training.useLog([](TrainingDesk& desk) {
+        auto log = std::make_unique<SqliteLog>(userDataFolder() + "/training");
+        log->onSetAside = [&desk](const std::string& path) { desk.tellSetAside(path); };
+        return log;
+    });
     const ScratchFolder scratch(userDataFolder());
     if (!scratch.path().empty())
         form.UserControl11.c_ScratchPath = scratch.path();

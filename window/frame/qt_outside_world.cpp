@@ -45,6 +45,10 @@ std::int64_t QtOutsideWorld::secondsNow() {
     return QDateTime::currentSecsSinceEpoch();
 }
 
+std::int64_t QtOutsideWorld::millisecondsNow() {
+    return QDateTime::currentMSecsSinceEpoch();
+}
+
 std::string QtOutsideWorld::localTime(std::int64_t seconds, const std::string& format) {
     return QDateTime::fromSecsSinceEpoch(seconds)
         .toString(QString::fromStdString(format))

@@ -20,6 +20,7 @@ class QtOutsideWorld : public OutsideWorld {
     std::optional<std::string> chooseFile(const FileQuestion& question) override;
     bool openDocument(const std::string& path, int page) override;
     std::int64_t secondsNow() override;
+    std::int64_t millisecondsNow() override;
     std::string localTime(std::int64_t seconds, const std::string& format) override;
     std::optional<std::uint32_t> clockSeed() override;
     SettingsStore& settings() override { return kept; }
