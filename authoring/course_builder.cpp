@@ -6,6 +6,8 @@
 #include "exercises/study_file.h"
 #include "persistence/session_file.h"
 
+#include <cmath>
+
 namespace tarnel {
 
 namespace {
@@ -28,12 +30,33 @@ FlownSituation flySituation(const CourseSource& source, const Situation& situati
             flight.form().UserControl11.sessionBytes()};
 }
 
+/// The stations that a question is about.
+std::vector<GeoPosition> stationsOf(const CourseSource& source, const FlownSituation& flown) {
+    std::vector<GeoPosition> stations = {flown.chart.position(flown.situation.station)};
+    if (source.kind->type == ExerciseType::orientation)
+        stations.push_back(flown.chart.position(flown.situation.other));
+    return stations;
+}
+
+/// As exactly as anyone sees: a metre on the chart, a thousandth of a degree of heading.
+void shorten(std::vector<Sample>& samples) {
+    const auto shortened = [](double value, double unit) {
+        return std::round(value * unit) / unit;
+    };
+    for (Sample& sample : samples) {
+        sample.traceLat = shortened(sample.traceLat, 1e5);
+        sample.traceLon = shortened(sample.traceLon, 1e5);
+        sample.traceHeading = shortened(sample.traceHeading, 1e3);
+    }
+}
+
 /// A flight with its comments in a language.
 std::string sessionIn(const std::string& flown, const SessionView& view,
                       const std::vector<SaidComment>& said, Language language) {
     SessionFile session = readSession(flown);
     for (std::size_t i = 0; i < said.size(); ++i)
         session.comments.at(i) = said[i].text.in(language);
+    shorten(session.samples);
     session.mapScaleTwips = view.scale;
     session.mapCenterSelect = view.centre;
     return writeSession(session, std::nullopt);
@@ -52,14 +75,14 @@ BuiltCourse buildCourse(const CourseSource& source, const std::string& applicati
             const FlownSituation flown = flySituation(source, situation, applicationFolder);
             const BuiltQuestion question = questionOf(source, flown);
             check.add(question);
+            const SessionView view = questionView(flown.rows, stationsOf(source, flown));
             for (const Language language : bothLanguages) {
                 const std::string session = filePrefix(language) + sessionStem(source, i) + ".ts";
                 StudyRecord record = question.in(language);
                 record[StudyColumn::sessionName] = session;
                 study[static_cast<std::size_t>(language)] += writeStudyRecord(record, type);
                 built.files.push_back(
-                    {"sessions/" + session,
-                     sessionIn(flown.session, {sessionScale(flown.rows)}, flown.said, language)});
+                    {"sessions/" + session, sessionIn(flown.session, view, flown.said, language)});
             }
         } catch (const LostPilot& lost) {
             built.findings.push_back(

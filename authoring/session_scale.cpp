@@ -6,6 +6,29 @@
 
 namespace tarnel {
 
+namespace {
+
+constexpr std::int16_t aircraft = 1; ///< `c_MAPCenterSelect`
+
+std::vector<GeoPosition> placesOf(const std::vector<FlightRow>& rows) {
+    std::vector<GeoPosition> places;
+    places.reserve(rows.size());
+    for (const FlightRow& row : rows)
+        places.push_back({row.latitude, row.longitude});
+    return places;
+}
+
+/// Twips per NM at which the chart shows all places about a centre.
+std::int16_t scaleAbout(const GeoPosition& centre, const std::vector<GeoPosition>& places) {
+    std::vector<GeoPosition> both = places; // and mirrored at the centre
+    for (const GeoPosition& place : places)
+        both.push_back(
+            {2 * centre.latitude - place.latitude, 2 * centre.longitude - place.longitude});
+    return scaleOf(extentOf(both));
+}
+
+} // namespace
+
 Extent extentOf(const std::vector<GeoPosition>& places) {
     const GeoPosition& first = places.front();
     Extent extent{first.latitude, first.latitude, first.longitude, first.longitude};
@@ -29,32 +52,24 @@ std::int16_t scaleOf(const Extent& extent) {
         std::clamp(paper / std::max({high, wide, 0.1}), smallest, largest));
 }
 
-std::int16_t sessionScale(const std::vector<FlightRow>& rows) {
-    std::vector<GeoPosition> flown;
-    flown.reserve(rows.size());
-    for (const FlightRow& row : rows)
-        flown.push_back({row.latitude, row.longitude});
-    return scaleOf(extentOf(flown));
-}
-
 SessionView sessionView(const std::vector<FlightRow>& rows, const AuthoredChart& chart) {
-    constexpr std::int16_t aircraft = 1;
-    const auto scaleAbout = [&](const GeoPosition& centre) {
-        std::vector<GeoPosition> both; // the flight, and the flight mirrored at the centre
-        for (const FlightRow& row : rows) {
-            both.push_back({row.latitude, row.longitude});
-            both.push_back(
-                {2 * centre.latitude - row.latitude, 2 * centre.longitude - row.longitude});
-        }
-        return scaleOf(extentOf(both));
-    };
-    SessionView best{scaleAbout({rows.back().latitude, rows.back().longitude}), aircraft};
+    const std::vector<GeoPosition> flown = placesOf(rows);
+    SessionView best{scaleAbout(flown.back(), flown), aircraft};
     for (std::size_t i = 0; i < slotCount; ++i) {
-        const std::int16_t scale = scaleAbout(chart.position(static_cast<Slot>(i)));
+        const std::int16_t scale = scaleAbout(chart.position(static_cast<Slot>(i)), flown);
         if (scale > best.scale)
             best = {scale, static_cast<std::int16_t>(aircraft + 1 + i)};
     }
     return best;
+}
+
+SessionView questionView(const std::vector<FlightRow>& rows,
+                         const std::vector<GeoPosition>& stations) {
+    std::vector<GeoPosition> shown = placesOf(rows);
+    const GeoPosition first = shown.front();
+    const GeoPosition last = shown.back();
+    shown.insert(shown.end(), stations.begin(), stations.end());
+    return {std::min(scaleAbout(first, shown), scaleAbout(last, shown)), aircraft};
 }
 
 } // namespace tarnel

@@ -22,9 +22,6 @@ struct Extent {
 /// paper; 125 to 1000.
 [[nodiscard]] std::int16_t scaleOf(const Extent& extent);
 
-/// Twips per NM at which the chart shows a whole flight.
-[[nodiscard]] std::int16_t sessionScale(const std::vector<FlightRow>& rows);
-
 /// How the chart of a session lies.
 struct SessionView {
     std::int16_t scale = 0;  ///< twips per NM
@@ -34,5 +31,10 @@ struct SessionView {
 /// Shows a whole flight about the station, or about where it ends, that lets it be the largest.
 [[nodiscard]] SessionView sessionView(const std::vector<FlightRow>& rows,
                                       const AuthoredChart& chart);
+
+/// About the aircraft, as nothing else may tell where it is: shows the flight and the stations from
+/// where it begins as from where it ends.
+[[nodiscard]] SessionView questionView(const std::vector<FlightRow>& rows,
+                                       const std::vector<GeoPosition>& stations);
 
 } // namespace tarnel
