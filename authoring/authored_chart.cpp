@@ -11,13 +11,35 @@ namespace {
 
 constexpr std::size_t largestChart = std::size_t{1} << 16;
 
+constexpr Slot allSlots[] = {Slot::vor1, Slot::vor2, Slot::ndb1, Slot::ndb2, Slot::localizer};
+
+std::string kindAndName(const AuthoredChart& chart, Slot slot) {
+    const bool isVor = slot == Slot::vor1 || slot == Slot::vor2;
+    const char* kind = isVor ? "VOR " : slot == Slot::localizer ? "LOC " : "NDB ";
+    return kind + chart.identifier(slot);
+}
+
 } // namespace
 
 std::optional<Slot> AuthoredChart::slotOf(const std::string& name, bool (*fits)(Slot)) const {
-    for (std::size_t i = 0; i < slotCount; ++i)
-        if (file.stations[i].identifier == name && fits(static_cast<Slot>(i)))
-            return static_cast<Slot>(i);
-    return std::nullopt;
+    std::optional<Slot> found;
+    for (const Slot slot : allSlots) {
+        if (!fits(slot) || (identifier(slot) != name && kindAndName(*this, slot) != name))
+            continue;
+        if (found)
+            return std::nullopt;
+        found = slot;
+    }
+    return found;
+}
+
+std::vector<std::string> AuthoredChart::namesOf(bool (*fits)(Slot)) const {
+    std::vector<std::string> names;
+    for (const Slot slot : allSlots)
+        if (fits(slot))
+            names.push_back(slotOf(identifier(slot), fits) ? identifier(slot)
+                                                           : kindAndName(*this, slot));
+    return names;
 }
 
 const std::string& AuthoredChart::identifier(Slot slot) const {
@@ -26,13 +48,6 @@ const std::string& AuthoredChart::identifier(Slot slot) const {
 
 GeoPosition AuthoredChart::position(Slot slot) const {
     return inSlot(file.stations, slot).position.value();
-}
-
-std::vector<std::string> AuthoredChart::identifiers() const {
-    std::vector<std::string> names;
-    for (const ChartStation& station : file.stations)
-        names.push_back(station.identifier.value());
-    return names;
 }
 
 AuthoredChart readAuthoredChart(const std::string& path) {

@@ -14,12 +14,14 @@ struct AuthoredChart {
     std::string path;
     ChartFile file;
 
-    /// The first slot that `fits` of a station with an identifier: a VOR and a beacon may share it.
+    /// The only slot that `fits` of a station with a name: its identifier or, where two share that,
+    /// with the kind before it, "NDB GRZ".
     [[nodiscard]] std::optional<Slot> slotOf(
-        const std::string& identifier, bool (*fits)(Slot) = [](Slot) { return true; }) const;
+        const std::string& name, bool (*fits)(Slot) = [](Slot) { return true; }) const;
+    /// The names by which `slotOf` finds those that fit.
+    [[nodiscard]] std::vector<std::string> namesOf(bool (*fits)(Slot)) const;
     [[nodiscard]] const std::string& identifier(Slot slot) const;
     [[nodiscard]] GeoPosition position(Slot slot) const;
-    [[nodiscard]] std::vector<std::string> identifiers() const;
 };
 
 /// Reads the chart at `path`. Throws a run-time error if it can't be read, and its problem as a

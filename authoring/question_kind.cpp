@@ -36,9 +36,8 @@ const CourseKind* courseKind(std::string_view word) {
 Slot readStation(PlanTable& table, std::string_view key, const AuthoredChart& chart,
                  bool (*fits)(Slot)) {
     std::string names;
-    for (std::size_t i = 0; i < slotCount; ++i)
-        if (fits(static_cast<Slot>(i)))
-            names += (names.empty() ? "" : ", ") + chart.identifiers()[i];
+    for (const std::string& name : chart.namesOf(fits))
+        names += (names.empty() ? "" : ", ") + name;
     table.need(key);
     const auto name = table.text(
         key, [&](const std::string& text) { return chart.slotOf(text, fits).has_value(); },

@@ -45,7 +45,8 @@ std::string filledIn(const Pilot& pilot, const LocalText& text, Language languag
         const auto value = reading(pilot, filled.substr(open + 1, close - open - 1), lead);
         if (!value)
             throw LostPilot("{heading}, {clock}, {lead}, or {radial:STATION}, {qdm:STATION}, "
-                            "{relative:STATION}, {dme:STATION}, {distance:STATION}, not " +
+                            "{relative:STATION}, {dme:STATION}, {distance:STATION}, with VOR or "
+                            "NDB before a name that two stations share, not " +
                             filled.substr(open, close - open + 1));
         filled.replace(open, close - open + 1, value->in(language));
         open += value->in(language).size();

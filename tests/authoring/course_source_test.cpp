@@ -1,7 +1,8 @@
 #include "authoring/chart_source.h"
 #include "authoring/course_source.h"
+#include "flights/plan_error.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <filesystem>
 #include <fstream>
@@ -30,6 +31,24 @@ TEST(CourseSource, LetsASituationNameItsOwnChartAndABeaconBeCalledAsAVor) {
     EXPECT_EQ(&course.chartOf(course.situations[0]), &course.chart);
     EXPECT_EQ(course.situations[1].station, Slot::ndb1); // VOR 1 is called GRZ, too
     EXPECT_NEAR(course.chartOf(course.situations[1]).position(Slot::ndb1).latitude, 46.9207, 1e-6);
+
+    // Where either may be meant the kind is said.
+    const auto askedOf = [&](const std::string& station) {
+        return readCourse("exercise = \"qdm\"\nchart = \"lowg\"\nsituation = [\n{ station = \"" +
+                              station + "\", required = 10, " + place + "]\n",
+                          "x.toml", ChartShelf({folder.string()}))
+            .situations.front()
+            .station;
+    };
+    EXPECT_EQ(askedOf("VOR GRZ"), Slot::vor1);
+    EXPECT_EQ(askedOf("NDB GRZ"), Slot::ndb1);
+    try {
+        askedOf("GRZ");
+        FAIL() << "one of two stations is taken";
+    } catch (const PlanError& error) {
+        EXPECT_THAT(error.what(),
+                    testing::AllOf(testing::HasSubstr("x.toml:4"), testing::HasSubstr("VOR GRZ")));
+    }
 }
 
 } // namespace
