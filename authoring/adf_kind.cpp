@@ -66,11 +66,11 @@ class AdfKind : public QuestionKind {
     }
 };
 
-/// How QDM and QDR at the start follow from heading and needle.
+/// How the QDM at the start follows from heading and needle.
 LocalText reading(double heading, double qdm) {
     const int shown = wholeDegrees(qdm);
-    return worded(Phrase::readBearing, {direction(heading), direction(shown - heading),
-                                        direction(shown), direction(shown + 180)});
+    return worded(Phrase::readBearing,
+                  {direction(heading), direction(shown - heading), direction(shown)});
 }
 
 /// How the bearing has gone since the start, and why.
@@ -92,6 +92,9 @@ void AdfKind::solve(Pilot& pilot, const Situation& situation) const {
     const double asked = qdm();
     flyStraightOn(pilot, situation,
                   {[&] { return reading(situation.heading, asked); },
+                   [&] {
+                       return worded(Phrase::qdrOfQdm, {direction(asked), direction(asked + 180)});
+                   },
                    [&] { return movement(situation.heading, asked, qdm()); }});
 }
 

@@ -8,7 +8,9 @@ namespace tarnel {
 
 namespace {
 
-constexpr double legOfArc = 10; ///< degrees of radial to one heading
+constexpr double legOfArc = 10;     ///< degrees of radial to one heading
+constexpr double betweenWords = 60; ///< seconds
+constexpr double lastWords = 12;    ///< degrees before the final radial
 
 /// The flight along an arc.
 class ArcFlight {
@@ -17,6 +19,8 @@ class ArcFlight {
 
     void join();
     void keep(const CourseLine& final);
+    /// The radial on which the final course lies.
+    [[nodiscard]] double finalRadial() const { return circle(arc.final + (arc.inbound ? 180 : 0)); }
 
   private:
     [[nodiscard]] double hand() const { return arc.clockwise ? 1 : -1; }
@@ -27,9 +31,19 @@ class ArcFlight {
     [[nodiscard]] double tangent(double radial) const {
         return pilot.headingOn(circle(radial + 90 * hand()));
     }
+    /// Degrees of radial to fly.
+    [[nodiscard]] double left() const {
+        return hand() * turnBetween(place().radial, finalRadial());
+    }
+    /// Why a leg of the arc is followed by one on this heading.
+    void tellLeg(double heading);
+    void tellEnd();
 
     Pilot& pilot;
     const Arc& arc;
+    double told = 0; ///< when something was told last, seconds
+    bool toldOfNeedle = false;
+    bool toldOfEnd = false;
 };
 
 double ArcFlight::tooFar(const FromStation& at) const {
@@ -56,6 +70,37 @@ void ArcFlight::join() {
                       worded(toTheRight ? Phrase::rightTurn : Phrase::leftTurn), heading}));
     pilot.turnTo(firstHeading);
     pilot.say(worded(Phrase::arcKept, {tenths(arc.distance)}));
+    told = pilot.seconds();
+}
+
+void ArcFlight::tellLeg(double heading) {
+    if (pilot.seconds() - told < betweenWords || left() < 1.5 * lastWords)
+        return;
+    told = pilot.seconds();
+    const FromStation here = place();
+    const double off = std::round(tooFar(here) * 10) / 10;
+    const double now = pilot.now().heading;
+    const LocalText dme = tenths(pilot.dme(arc.station));
+    const LocalText radial = same(threeDigits(here.radial));
+    const LocalText next = same(threeDigits(heading));
+    const bool behind = std::abs(turnBetween(now, here.radial + 180)) > 90;
+    if (off != 0)
+        return pilot.say(worded(off < 0 ? Phrase::arcTooNear : Phrase::arcTooFar,
+                                {dme, radial, tenths(std::abs(off)), next}));
+    if (behind && !toldOfNeedle)
+        pilot.say(worded(Phrase::arcNeedle, {dme, radial, next}));
+    else
+        pilot.say(worded(Phrase::arcRight,
+                         {dme, radial, number(std::abs(turnBetween(now, heading))), next}));
+    toldOfNeedle = true;
+}
+
+void ArcFlight::tellEnd() {
+    if (toldOfEnd || left() > lastWords)
+        return;
+    toldOfEnd = true;
+    pilot.say(
+        worded(Phrase::arcEnds, {same(threeDigits(place().radial)), number(std::round(left()))}));
 }
 
 void ArcFlight::keep(const CourseLine& final) {
@@ -66,13 +111,17 @@ void ArcFlight::keep(const CourseLine& final) {
         const FromStation here = place();
         const FromStation after = pilot.afterTurn(arc.station, onFinal, Turn::shorter);
         if (std::signbit(after.crossTrack(final.course)) != std::signbit(side) &&
-            std::abs(turnBetween(here.radial, final.course + (arc.inbound ? 180 : 0))) < 45)
+            std::abs(turnBetween(here.radial, finalRadial())) < 45)
             return true;
+        tellEnd();
         if (hand() * turnBetween(legEnds, here.radial) >= 0) {
             constexpr double perMile = 60; ///< degrees of correction
             const double inwards = std::clamp(tooFar(here) * perMile, -20.0, 20.0);
             legEnds = here.radial + hand() * legOfArc;
-            pilot.turnTo(tangent(here.radial + hand() * legOfArc / 2) + hand() * inwards);
+            const double next =
+                circle(tangent(here.radial + hand() * legOfArc / 2) + hand() * inwards);
+            tellLeg(next);
+            pilot.turnTo(next);
         } else {
             pilot.step();
         }
@@ -88,12 +137,11 @@ void fly(Pilot& pilot, const Arc& arc) {
     const CourseLine final{arc.station, arc.final};
     flight.keep(final);
     const double lead = pilot.from(arc.station).radial;
-    const double finalRadial = circle(arc.final + (arc.inbound ? 180 : 0));
     const LocalText course = same(threeDigits(arc.final));
-    pilot.say(
-        worded(Phrase::arcLead, {same(threeDigits(lead)),
-                                 number(std::abs(turnBetween(wholeDegrees(lead), finalRadial))),
-                                 same(threeDigits(finalRadial)), course}));
+    pilot.say(worded(Phrase::arcLead,
+                     {same(threeDigits(lead)),
+                      number(std::abs(turnBetween(wholeDegrees(lead), flight.finalRadial()))),
+                      same(threeDigits(flight.finalRadial())), course}));
     pilot.turnTo(pilot.headingOn(arc.final));
 }
 

@@ -67,8 +67,7 @@ FlightPlan ArcKind::start(const Situation& situation, const AuthoredChart& chart
 void ArcKind::solve(Pilot& pilot, const Situation& situation) const {
     pilot.wait(15);
     fly(pilot, arcOf(situation));
-    pilot.say(worded(Phrase::arcFinal, {same(threeDigits(situation.final)),
-                                        same(threeDigits(pilot.headingOn(situation.final)))}));
+    pilot.say(establishedTold(pilot, worded(Phrase::finalCourse), situation.final, Phrase::theBar));
     const double end = pilot.seconds() + tracked;
     pilot.track({situation.station, situation.final}, [&] { return pilot.seconds() >= end; });
 }

@@ -1,9 +1,10 @@
+#include "authoring/holding_words.h"
 #include "authoring/manoeuvres.h"
 #include "authoring/wording.h"
 #include "core/holding_answer.h"
 
 #include <cmath>
-#include <numbers>
+#include <vector>
 
 namespace tarnel {
 
@@ -12,8 +13,10 @@ namespace {
 using enum Phrase;
 
 constexpr double entryLeg = 60; ///< seconds
-constexpr double afterTheLastWord = 8;
+constexpr double afterTheLastWord = 6;
 constexpr double beforeTheFirstWord = 12; ///< seconds, so that nothing is told beside a question
+constexpr double betweenWords = 16;
+constexpr double afterAbeam = 10;
 
 LocalText course(double degrees) {
     return same(threeDigits(degrees));
@@ -21,10 +24,6 @@ LocalText course(double degrees) {
 
 LocalText turnTowards(Turn turn) {
     return worded(turn == Turn::left ? leftTurn : rightTurn);
-}
-
-LocalText side(double signedDegrees) {
-    return worded(signedDegrees < 0 ? left : right);
 }
 
 Phrase entryPhrase(const std::string& entry) {
@@ -50,9 +49,10 @@ class HoldingFlight {
     [[nodiscard]] double correctedOutbound() const;
     /// Seconds from where a turn to the inbound course, begun now, would end.
     [[nodiscard]] double inboundAfterTurn() const;
-    void tellArrival(double heading);
-    void tellAbeam();
+    [[nodiscard]] std::vector<LocalText> arrivalTold(double heading) const;
+    void tellAbeam(bool enters);
     void tellInbound();
+    void tellLateness();
     void tellFix();
     void flyEntryLeg(double heading, Turn turn, Turn back);
     void flyOutbound(bool enters);
@@ -64,6 +64,8 @@ class HoldingFlight {
     LocalText fix;
     HoldingAnswer answer;
     double inboundTime = 0; ///< of the last inbound leg, seconds; 0 before there was one
+    double foretold = 0;    ///< of the inbound leg that is flown, seconds
+    double misjudged = 0;   ///< seconds that an inbound leg has taken longer than foretold
     int outboundLegs = 0;
 };
 
@@ -72,39 +74,32 @@ double HoldingFlight::correctedOutbound() const {
 }
 
 double HoldingFlight::inboundAfterTurn() const {
-    const FromStation end =
-        pilot.afterTurn(holding.fix, pilot.headingOn(holding.inbound), holding.turns);
-    // What is still off the course then is flown off at a slant of about 30 degrees.
-    const double slant = std::abs(end.crossTrack(holding.inbound)) * std::numbers::sqrt3;
-    return (-end.alongTrack(holding.inbound) - slant) /
-           pilot.triangle(holding.inbound).groundSpeed * 3600;
+    return -pilot.onLine(inbound, holding.turns) / pilot.triangle(holding.inbound).groundSpeed *
+           3600;
 }
 
 void HoldingFlight::arrive() {
     const double heading = pilot.now().heading;
     answer = answerOf(holding, heading);
     const double begun = pilot.seconds();
-    const double words = pilot.seconds() + beforeTheFirstWord;
     const auto over = [&] { return pilot.isOver(holding.fix); };
-    pilot.flyUntil([&] { return over() || pilot.seconds() >= words; });
-    if (!over())
-        tellArrival(heading);
+    double next = begun + beforeTheFirstWord;
+    for (const LocalText& words : arrivalTold(heading)) {
+        pilot.flyUntil([&] { return over() || pilot.seconds() >= next; });
+        if (over())
+            break;
+        pilot.say(words);
+        next += betweenWords;
+    }
     pilot.flyUntil(over);
     inboundTime = pilot.seconds() - begun;
 }
 
-void HoldingFlight::tellArrival(double heading) {
-    const double angle = turnBetween(holding.inbound, heading);
+std::vector<LocalText> HoldingFlight::arrivalTold(double heading) const {
     if (!holding.established)
-        return pilot.say(
-            worded(holdSector, {course(heading), course(holding.inbound), number(std::abs(angle)),
-                                side(angle), worded(entryPhrase(answer.entry))}));
-    const WindTriangle wind = pilot.triangle(holding.inbound);
-    pilot.say(worded(
-        holdTriangle,
-        {same(threeDigits(pilot.now().windDirection) + "/" + std::to_string(pilot.now().windSpeed)),
-         course(holding.inbound), tenths(std::abs(wind.head)), tenths(std::abs(wind.fromRight)),
-         tenths(std::abs(wind.correction)), course(heading)}));
+        return {sectorTold(holding, heading)};
+    const FlightRow& now = pilot.now();
+    return windTold({now.windDirection, now.windSpeed}, holding.inbound, now.tas);
 }
 
 void HoldingFlight::enter() {
@@ -124,8 +119,11 @@ void HoldingFlight::flyEntryLeg(double heading, Turn turn, Turn back) {
     pilot.turnTo(heading, turn);
     pilot.restartStopwatch();
     const double begun = pilot.seconds();
-    pilot.say(worded(holdOnEntryLeg, {course(heading)}));
-    pilot.turnTo(pilot.headingOn(heading)); // only now against the wind, as the answer is without
+    const double intoWind = pilot.headingOn(heading);
+    pilot.say(intoWind == wholeDegrees(heading)
+                  ? worded(holdOnEntryLeg, {course(heading)})
+                  : worded(holdOnEntryLegInWind, {course(heading), course(intoWind)}));
+    pilot.turnTo(intoWind); // only now against the wind, as the answer is without
     pilot.flyUntil([&] {
         return pilot.seconds() - begun >= entryLeg && pilot.cutBefore(inbound, back).has_value();
     });
@@ -145,6 +143,8 @@ void HoldingFlight::circuit(bool joins) {
     flyOutbound(enters);
     pilot.establish(inbound, holding.turns);
     flyInbound();
+    // A circuit that began with the entry comes back from elsewhere than the others.
+    misjudged = enters ? 0 : inboundTime - foretold;
 }
 
 void HoldingFlight::flyOutbound(bool enters) {
@@ -152,13 +152,18 @@ void HoldingFlight::flyOutbound(bool enters) {
     pilot.flyUntil([&] { return pilot.from(holding.fix).alongTrack(holding.inbound) <= 0; });
     pilot.restartStopwatch();
     const double begun = pilot.seconds();
-    tellAbeam();
+    tellAbeam(enters);
     pilot.turnTo(correctedOutbound());
     const bool byTheClock = holding.firstOutbound && outboundLegs == 0;
+    if (holding.firstOutbound && !byTheClock) {
+        pilot.flyUntil([&] { return pilot.seconds() - begun >= afterAbeam; });
+        tellLateness();
+    }
     pilot.flyUntil([&] {
         return byTheClock ? pilot.seconds() - begun >= *holding.firstOutbound
-                          : inboundAfterTurn() >= holding.minutes * 60;
+                          : inboundAfterTurn() + misjudged >= holding.minutes * 60;
     });
+    foretold = inboundAfterTurn();
     ++outboundLegs;
     pilot.say(worded(holdInboundTurn, {minutesAndSeconds(pilot.seconds() - begun),
                                        turnTowards(holding.turns), course(holding.inbound)}));
@@ -172,38 +177,42 @@ void HoldingFlight::flyInbound() {
     inboundTime = pilot.seconds() - begun;
 }
 
-/// Where the time outbound begins, and the heading against the wind.
-void HoldingFlight::tellAbeam() {
+/// Where the time outbound begins, and the heading against the wind if that is new.
+void HoldingFlight::tellAbeam(bool enters) {
     const double into = turnBetween(outbound(), correctedOutbound());
-    if (into == 0)
-        pilot.say(worded(holdAbeam, {fix, course(outbound())}));
-    else
-        pilot.say(
-            worded(holdAbeamInWind, {fix, course(outbound()), same(into < 0 ? "-" : "+"),
-                                     number(std::abs(into) / 3), course(correctedOutbound())}));
+    if (into == 0 || !enters)
+        return pilot.say(worded(holdAbeam, {fix, course(correctedOutbound())}));
+    pilot.say(worded(holdAbeamInWind, {fix, course(outbound()), same(into < 0 ? "-" : "+"),
+                                       number(std::abs(into) / 3), course(correctedOutbound())}));
 }
 
 void HoldingFlight::tellInbound() {
     const double heading = pilot.headingOn(holding.inbound);
     const double into = turnBetween(holding.inbound, heading);
     if (into == 0)
-        pilot.say(worded(holdInbound, {course(holding.inbound)}));
-    else
-        pilot.say(worded(holdInboundInWind, {course(holding.inbound), course(heading),
-                                             number(std::abs(into)), side(into)}));
+        return pilot.say(worded(holdInbound, {course(holding.inbound)}));
+    pilot.say(worded(holdInboundInWind, {course(holding.inbound), same(into < 0 ? "-" : "+"),
+                                         number(std::abs(into)), course(heading)}));
 }
 
-/// The fix, how long the inbound leg took, and what follows from that.
+/// The fix, how long the inbound leg took, and the heading outbound.
 void HoldingFlight::tellFix() {
-    constexpr double rightEnough = 3; ///< seconds
-    const double late = inboundTime - holding.minutes * 60;
     const LocalText time = minutesAndSeconds(inboundTime);
     const LocalText heading = course(correctedOutbound());
-    if (!holding.firstOutbound || outboundLegs != 1 || std::abs(late) <= rightEnough)
-        pilot.say(worded(holdFix, {fix, time, turnTowards(holding.turns), heading}));
-    else
-        pilot.say(worded(late > 0 ? holdFixLate : holdFixEarly,
-                         {fix, time, number(std::abs(late)), turnTowards(holding.turns), heading}));
+    const double into = turnBetween(outbound(), correctedOutbound());
+    if (into == 0)
+        return pilot.say(worded(holdFix, {fix, time, turnTowards(holding.turns), heading}));
+    pilot.say(
+        worded(holdFixInWind, {fix, time, turnTowards(holding.turns), course(outbound()),
+                               same(into < 0 ? "-" : "+"), number(std::abs(into) / 3), heading}));
+}
+
+/// What follows outbound from how long the last inbound leg took.
+void HoldingFlight::tellLateness() {
+    constexpr double rightEnough = 3; ///< seconds
+    const double late = inboundTime - holding.minutes * 60;
+    if (std::abs(late) > rightEnough)
+        pilot.say(worded(late > 0 ? holdWasLong : holdWasShort, {number(std::abs(late))}));
 }
 
 void HoldingFlight::end() {

@@ -139,7 +139,7 @@ void HoldingCheck::firstLeg() const {
 void HoldingCheck::circuits(std::size_t wanted, bool firstByTheClock) const {
     constexpr double onLine = 0.2;        // NM
     constexpr double onTrack = 8;         // degrees
-    constexpr double established = 5;     // seconds
+    constexpr double established = 25;    // seconds
     constexpr double lastTolerance = 10;  // seconds, as a student's would be
     constexpr double firstTolerance = 15; // seconds, while the wind and the entry are corrected
     const std::vector<Passage> passages = passagesAfter(arrival());

@@ -96,20 +96,15 @@ void InterceptKind::solve(Pilot& pilot, const Situation& situation) const {
                           same(threeDigits(heading)), sign}));
         pilot.turnTo(heading);
         pilot.establishFrom(line, [&](double lead) {
-            pilot.say(worded(Phrase::interceptLead, {word, wanted, number(lead)}));
+            pilot.say(std::lround(lead) == 0
+                          ? worded(Phrase::interceptLeadSmall, {word, wanted})
+                          : worded(Phrase::interceptLead, {word, wanted, number(lead)}));
         });
     } else {
         pilot.turnTo(pilot.headingOn(situation.required));
     }
     const double end = pilot.seconds() + tracked;
-    const double correction = pilot.triangle(situation.required).correction;
-    if (std::abs(correction) < 0.5)
-        pilot.say(worded(Phrase::established, {word, wanted}));
-    else
-        pilot.say(worded(Phrase::establishedInWind,
-                         {word, wanted, number(std::abs(correction)),
-                          worded(correction > 0 ? Phrase::right : Phrase::left),
-                          same(threeDigits(pilot.headingOn(situation.required)))}));
+    pilot.say(establishedTold(pilot, word, situation.required, Phrase::thePointer));
     pilot.track(line, [&] { return pilot.seconds() >= end; });
 }
 

@@ -21,6 +21,10 @@ std::string asOffered(double degrees) {
     return digits == "000" ? "360" : digits;
 }
 
+LocalText answer(double degrees) {
+    return same(asOffered(degrees));
+}
+
 /// `OrientationKind`: bearings read from the chart alone.
 class OrientationKind : public QuestionKind {
   public:
@@ -50,12 +54,15 @@ class OrientationKind : public QuestionKind {
 };
 
 /// How the third answer comes about.
-LocalText lastWord(const Situation& situation, const Pilot& pilot, double qdm) {
-    if (situation.asksHeading)
-        return worded(Phrase::noseHeading, {direction(situation.heading)});
-    return worded(Phrase::relativeBearing,
-                  {same(pilot.name(situation.station)), direction(qdm),
-                   direction(situation.heading), direction(qdm - situation.heading)});
+LocalText lastWord(const Situation& situation, const Pilot& pilot, double radial) {
+    const LocalText heading = direction(situation.heading);
+    if (!situation.asksHeading)
+        return worded(Phrase::relativeBearing, {same(pilot.name(situation.station)), answer(radial),
+                                                heading, answer(radial + 180 - situation.heading)});
+    if (situation.wind.speed == 0)
+        return worded(Phrase::noseHeading, {answer(situation.heading)});
+    return worded(Phrase::noseHeadingInWind,
+                  {answer(situation.heading), direction(pilot.now().track)});
 }
 
 void OrientationKind::solve(Pilot& pilot, const Situation& situation) const {
@@ -71,14 +78,14 @@ void OrientationKind::solve(Pilot& pilot, const Situation& situation) const {
     const auto tellRadial = [&] {
         pilot.set({.obs2 = radialOf(Slot::vor2), .obs3 = radialOf(Slot::vor1)});
         return worded(Phrase::lineFromStation,
-                      {same(pilot.name(situation.station)), direction(radial),
+                      {same(pilot.name(situation.station)), answer(radial),
                        worded(isNdb(situation.station) ? Phrase::theQdr : Phrase::theRadial)});
     };
     const auto tellQdm = [&] {
-        return worded(Phrase::lineToStation, {same(pilot.name(situation.other)), direction(qdm)});
+        return worded(Phrase::lineToStation, {same(pilot.name(situation.other)), answer(qdm)});
     };
     flyStraightOn(pilot, situation,
-                  {tellRadial, tellQdm, [&] { return lastWord(situation, pilot, radial + 180); }});
+                  {tellRadial, tellQdm, [&] { return lastWord(situation, pilot, radial); }});
 }
 
 StudyRecord OrientationKind::ask(const FlownSituation& flown, Language language) const {

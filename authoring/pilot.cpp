@@ -15,6 +15,7 @@ constexpr double degree = std::numbers::pi / 180;
 constexpr double longestFlight = 7000; ///< seconds; well below what a recording holds
 /// As much is flown off on the course, without a cut, NM.
 constexpr double nearTheLine = 0.15;
+constexpr double steepestCut = 60; ///< degrees
 /// Farther off a course line than this the needle shows it, NM.
 constexpr double onTheLine = 0.04;
 
@@ -156,17 +157,35 @@ double Pilot::missOf(const CourseLine& line, Turn turn) const {
     return afterTurn(line.station, headingOn(line.course), turn).crossTrack(line.course);
 }
 
-std::optional<double> Pilot::cutBefore(const CourseLine& line, Turn turn) const {
-    constexpr double wanted = 1.5; ///< NM to be flown on the course, and for the turn onto it
+std::optional<double> Pilot::meetsLine(const CourseLine& line, double cut, Turn turn) const {
     const double miss = missOf(line, turn);
-    for (const double cut : {30.0, 45.0, 60.0}) {
-        const double heading = circle(line.course - std::copysign(cut, miss));
-        const FromStation end = afterTurn(line.station, heading, turn);
-        const double needed = std::abs(end.crossTrack(line.course)) / std::tan(cut * degree);
-        if (end.alongTrack(line.course) + needed < -wanted)
+    const WindTriangle wind = triangle(line.course);
+    const double heading = circle(line.course - std::copysign(cut, miss));
+    const FromStation end = afterTurn(line.station, heading, turn);
+    const double ahead = now().tas * std::cos(cut * degree) - wind.head;
+    const double across =
+        now().tas * std::sin(cut * degree) + std::copysign(1, miss) * wind.fromRight;
+    if (across <= 0)
+        return std::nullopt;
+    return end.alongTrack(line.course) + std::abs(end.crossTrack(line.course)) * ahead / across;
+}
+
+std::optional<double> Pilot::cutBefore(const CourseLine& line, Turn turn) const {
+    constexpr double wanted = 50; ///< seconds to be flown on the course, and for the turn onto it
+    const double room = triangle(line.course).groundSpeed * wanted / secondsPerHour;
+    for (const double cut : {30.0, 45.0, steepestCut})
+        if (const auto met = meetsLine(line, cut, turn); met && *met < -room)
             return cut;
-    }
     return std::nullopt;
+}
+
+double Pilot::onLine(const CourseLine& line, Turn turn) const {
+    if (std::abs(missOf(line, turn)) < nearTheLine)
+        return afterTurn(line.station, headingOn(line.course), turn).alongTrack(line.course);
+    constexpr double degreesPerHour = 3 * secondsPerHour;
+    const double cut = cutBefore(line, turn).value_or(steepestCut);
+    const double radius = now().tas / (degreesPerHour * degree);
+    return meetsLine(line, cut, turn).value_or(0) + radius * std::tan(cut / 2 * degree);
 }
 
 void Pilot::establishFrom(const CourseLine& line, const std::function<void(double lead)>& leads) {
@@ -184,7 +203,8 @@ void Pilot::establish(const CourseLine& line, Turn turn) {
         const double miss = missOf(line, turn);
         if (std::abs(miss) < nearTheLine)
             break;
-        turnTo(line.course - std::copysign(cutBefore(line, turn).value_or(60), miss), turn);
+        turnTo(line.course - std::copysign(cutBefore(line, turn).value_or(steepestCut), miss),
+               turn);
         if (std::signbit(missOf(line, Turn::shorter)) == std::signbit(miss)) {
             establishFrom(line, [](double) {});
             return;

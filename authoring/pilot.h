@@ -78,6 +78,10 @@ class Pilot {
     /// station; nothing if none does.
     [[nodiscard]] std::optional<double> cutBefore(const CourseLine& line, Turn turn) const;
 
+    /// NM beyond the station, or before it if negative, where `establish` begun now would have the
+    /// aircraft on a course line.
+    [[nodiscard]] double onLine(const CourseLine& line, Turn turn) const;
+
     void set(const FlightSettings& settings) { flight.apply(settings); }
     /// Comments from now on, until the next comment.
     void say(const LocalText& text);
@@ -103,6 +107,10 @@ class Pilot {
   private:
     /// NM right of the line where a turn onto its course, begun now, would end.
     [[nodiscard]] double missOf(const CourseLine& line, Turn turn) const;
+    /// NM beyond the station where a cut by so many degrees, turned to now, would meet a course
+    /// line; nothing if it never does.
+    [[nodiscard]] std::optional<double> meetsLine(const CourseLine& line, double cut,
+                                                  Turn turn) const;
     void setHeading(double heading);
 
     ScriptedFlight& flight;

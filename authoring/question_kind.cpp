@@ -3,6 +3,8 @@
 #include "authoring/table_values.h"
 #include "authoring/wording.h"
 
+#include <cmath>
+
 namespace tarnel {
 
 namespace {
@@ -90,6 +92,16 @@ void flyStraightOn(Pilot& pilot, const Situation& situation,
         next += apart;
     }
     pilot.wait(situation.flown - pilot.seconds());
+}
+
+LocalText establishedTold(const Pilot& pilot, const LocalText& what, double course, Phrase needle) {
+    const double heading = pilot.headingOn(course);
+    const double into = turnBetween(course, heading);
+    if (into == 0)
+        return worded(Phrase::established, {what, direction(course), worded(needle)});
+    return worded(Phrase::establishedInWind,
+                  {what, direction(course), number(std::abs(into)),
+                   worded(into > 0 ? Phrase::right : Phrase::left), direction(heading)});
 }
 
 FlightPlan planFrom(const GeoPosition& place, const Situation& situation,

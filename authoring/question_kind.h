@@ -2,6 +2,7 @@
 
 #include "authoring/findings.h"
 #include "authoring/situation.h"
+#include "authoring/wording.h"
 #include "exercises/exercise_catalogue.h"
 #include "exercises/study_record.h"
 #include "flights/plan_table.h"
@@ -73,6 +74,11 @@ struct CourseKind {
 /// time has come.
 void flyStraightOn(Pilot& pilot, const Situation& situation,
                    const std::vector<std::function<LocalText()>>& words);
+
+/// Told where the turn onto a course ends: what keeps the `needle` where it is. `what` names the
+/// course: a QDM, a final.
+[[nodiscard]] LocalText establishedTold(const Pilot& pilot, const LocalText& what, double course,
+                                        Phrase needle);
 
 /// Degrees that count as no movement of a needle, and as one that is seen.
 constexpr double steadyNeedle = 0.5;

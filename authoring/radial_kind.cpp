@@ -30,10 +30,9 @@ class RadialKind : public QuestionKind {
     void check(const FlownSituation& flown, SourceFindings& findings) const override;
 
   protected:
-    /// A change of the radial, and that the needle moves by it, to the right if `move` is positive.
-    [[nodiscard]] virtual LocalText moved(const Situation& situation, const LocalText& before,
-                                          const LocalText& after, double move) const;
-    [[nodiscard]] LocalText movement(const Situation& situation, double before, double after) const;
+    /// What the needle does: to the right if `move` is positive.
+    [[nodiscard]] virtual LocalText moved(const Situation& situation, double move) const = 0;
+    [[nodiscard]] virtual Phrase needleName() const = 0;
     /// What both ask.
     [[nodiscard]] static StudyRecord askPlace(const FlownSituation& flown, Language language);
     /// How far right of the middle the needle stands, seen along the course, as far as it goes.
@@ -47,46 +46,69 @@ LocalText side(double toTheRight) {
     return worded(toTheRight < 0 ? Phrase::left : Phrase::right);
 }
 
-/// How the radial at the start follows from the needle.
+/// QDM or radial at the start, as it follows from the needle.
 LocalText reading(double courseSet, double radial) {
-    const LocalText course = direction(courseSet);
     const double fromCourse = turnBetween(courseSet, radial);
     const bool from = std::abs(fromCourse) < 90;
     const double off =
         std::round(from ? -fromCourse : turnBetween(courseSet, radial + 180)); // to the right
-    if (off == 0)
-        return from ? worded(Phrase::readCentredFrom, {course})
-                    : worded(Phrase::readCentredTo, {course, direction(radial)});
-    const LocalText sign = same((off > 0) == from ? "-" : "+");
-    if (from)
-        return worded(Phrase::readFrom,
-                      {course, number(std::abs(off)), side(off), sign, direction(radial)});
-    return worded(Phrase::readTo, {course, number(std::abs(off)), side(off), sign,
-                                   direction(radial + 180), direction(radial)});
+    return worded(from ? Phrase::readFrom : Phrase::readTo,
+                  {direction(courseSet), number(std::abs(off)), side(off),
+                   same((off > 0) == from ? "-" : "+"), direction(from ? radial : radial + 180)});
 }
 
-LocalText RadialKind::moved(const Situation&, const LocalText& before, const LocalText& after,
-                            double move) const {
-    return worded(Phrase::needleMoves, {before, after, side(move)});
+/// The one of both that was not read.
+LocalText reciprocal(double courseSet, double radial) {
+    const LocalText qdm = direction(radial + 180);
+    return std::abs(turnBetween(courseSet, radial)) < 90
+               ? worded(Phrase::qdmOfRadial, {direction(radial), qdm})
+               : worded(Phrase::radialOfQdm, {qdm, direction(radial)});
 }
 
-/// Where the needle has gone since the start, and why.
-LocalText RadialKind::movement(const Situation& situation, double before, double after) const {
-    const double change = turnBetween(before, after);
-    if (std::abs(change) < steadyNeedle)
-        return worded(Phrase::needleStands, {direction(before)});
-    const bool from = std::abs(turnBetween(situation.course, before)) < 90;
-    return moved(situation, direction(before), direction(after), from ? -change : change);
-}
+/// How the radial has gone since the start.
+class RadialChange {
+  public:
+    RadialChange(const Situation& of, double from, double to)
+        : situation(of), before(from), after(to) {}
+
+    [[nodiscard]] bool isNone() const {
+        return std::abs(turnBetween(before, after)) < steadyNeedle;
+    }
+    /// Of the needle, to the right.
+    [[nodiscard]] double move() const {
+        const bool from = std::abs(turnBetween(situation.course, before)) < 90;
+        return turnBetween(before, after) * (from ? -1 : 1);
+    }
+    [[nodiscard]] LocalText why(double track) const {
+        if (isNone()) {
+            const bool outbound = std::abs(turnBetween(track, before)) < 90;
+            return worded(Phrase::flownAlong,
+                          {direction(situation.heading), direction(before + (outbound ? 0 : 180)),
+                           direction(before)});
+        }
+        return worded(Phrase::lineMoves, {direction(before), direction(after), side(move())});
+    }
+
+  private:
+    const Situation& situation;
+    double before;
+    double after;
+};
 
 void RadialKind::solve(Pilot& pilot, const Situation& situation) const {
     pilot.wait(FlownSituation::askedTick * simTimeStep);
     const double asked = pilot.from(situation.station).radial;
+    const auto change = [&] {
+        return RadialChange(situation, asked, pilot.from(situation.station).radial);
+    };
     flyStraightOn(pilot, situation,
                   {[&] { return reading(situation.course, asked); },
+                   [&] { return reciprocal(situation.course, asked); },
+                   [&] { return change().why(pilot.now().track); },
                    [&] {
-                       const double now = pilot.from(situation.station).radial;
-                       return movement(situation, asked, now);
+                       return change().isNone() ? worded(Phrase::needleStands,
+                                                         {direction(asked), worded(needleName())})
+                                                : moved(situation, change().move());
                    }});
 }
 
@@ -131,8 +153,8 @@ class HsiKind : public RadialKind {
     [[nodiscard]] StudyRecord ask(const FlownSituation& flown, Language language) const override;
 
   protected:
-    [[nodiscard]] LocalText moved(const Situation& situation, const LocalText& before,
-                                  const LocalText& after, double move) const override;
+    [[nodiscard]] LocalText moved(const Situation& situation, double move) const override;
+    [[nodiscard]] Phrase needleName() const override { return Phrase::theBar; }
 
   private:
     /// The bar lies square to the course, so it moves one way, or two if the course slants.
@@ -177,13 +199,12 @@ std::string HsiKind::barMoves(const FlownSituation& flown, const StringTable& te
     return ways.size() == 1 ? first : "+" + first + "+" + std::string(texts[ways[1].text]) + "+";
 }
 
-LocalText HsiKind::moved(const Situation& situation, const LocalText& before,
-                         const LocalText& after, double move) const {
+LocalText HsiKind::moved(const Situation& situation, double move) const {
     const std::vector<FaceWay> ways = barWays(situation, move);
     const LocalText first = worded(ways.front().phrase);
     const LocalText all =
         ways.size() == 1 ? first : worded(Phrase::bothWays, {first, worded(ways[1].phrase)});
-    return worded(Phrase::barMoves, {before, after, side(move), all});
+    return worded(Phrase::barMoves, {all});
 }
 
 StudyRecord HsiKind::ask(const FlownSituation& flown, Language language) const {
@@ -214,6 +235,13 @@ class VorKind : public RadialKind {
                                                                        : Text::moveLeft];
         return record;
     }
+
+  protected:
+    [[nodiscard]] LocalText moved(const Situation&, double move) const override {
+        return worded(Phrase::needleMoves,
+                      {worded(move > 0 ? Phrase::toTheRight : Phrase::toTheLeft)});
+    }
+    [[nodiscard]] Phrase needleName() const override { return Phrase::theNeedle; }
 };
 
 } // namespace

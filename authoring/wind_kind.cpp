@@ -30,12 +30,6 @@ WindTriangle inboundTriangle(const Situation& situation) {
     return windTriangle(situation.wind, situation.inbound, situation.tas);
 }
 
-/// Seconds outbound that come as far over the ground as a minute inbound.
-double outboundTime(const Situation& situation) {
-    const WindTriangle wind = inboundTriangle(situation);
-    return std::round(60 * wind.groundSpeed / (wind.groundSpeed + 2 * wind.head));
-}
-
 /// `WindKind`: the components of the wind, the correction and the outbound time of a holding.
 class WindKind : public QuestionKind {
   public:
@@ -47,7 +41,7 @@ class WindKind : public QuestionKind {
     [[nodiscard]] FlightPlan start(const Situation& situation,
                                    const AuthoredChart& chart) const override;
     void solve(Pilot& pilot, const Situation& situation) const override {
-        fly(pilot, holdingOf(situation, outboundTime(situation)));
+        fly(pilot, holdingOf(situation, outboundSeconds(inboundTriangle(situation))));
     }
     [[nodiscard]] StudyRecord ask(const FlownSituation& flown, Language language) const override;
     void check(const FlownSituation& flown, SourceFindings& findings) const override;
@@ -75,7 +69,7 @@ StudyRecord WindKind::ask(const FlownSituation& flown, Language language) const 
                    ? std::string("-")
                    : worded(fromRight > 0 ? Phrase::right : Phrase::left).in(language);
     };
-    const int seconds = static_cast<int>(outboundTime(situation));
+    const int seconds = static_cast<int>(outboundSeconds(wind));
     StudyRecord record;
     record[qa] = headingCaption(situation.wind.direction);
     record[qb] = std::to_string(situation.wind.speed);

@@ -16,4 +16,8 @@ WindTriangle windTriangle(const Wind& wind, double course, double tas) {
     return triangle;
 }
 
+double outboundSeconds(const WindTriangle& inbound) {
+    return std::round(60 * inbound.groundSpeed / (inbound.groundSpeed + 2 * inbound.head));
+}
+
 } // namespace tarnel

@@ -16,4 +16,7 @@ struct WindTriangle {
 /// `course` in degrees, `tas` in knots.
 [[nodiscard]] WindTriangle windTriangle(const Wind& wind, double course, double tas);
 
+/// Seconds outbound, whole, that come as far over the ground as a minute inbound.
+[[nodiscard]] double outboundSeconds(const WindTriangle& inbound);
+
 } // namespace tarnel

@@ -1,10 +1,12 @@
 #include "authoring/authored_flight.h"
 #include "authoring/course_builder.h"
 #include "authoring/manoeuvres.h"
+#include "persistence/session_file.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace tarnel {
@@ -97,6 +99,9 @@ constexpr const char* hard[][2] = {
     {"dghld",
      R"(station = "MNW", distance = 2, heading = 165, inbound = 40, turns = "left",
         wind = "050/10", tas = 100)"},
+    {"dghld",
+     R"(station = "MNE", distance = 3, heading = 310, inbound = 110, turns = "right",
+        wind = "250/15", tas = 140)"},
     {"wind", R"(station = "MAH", inbound = 20, turns = "left", wind = "210/20", tas = 100)"},
     {"wind", R"(station = "MAH", inbound = 45, turns = "left", wind = "120/10")"},
     {"dmearc",
@@ -116,11 +121,37 @@ constexpr const char* hard[][2] = {
         wind = "110/30", tas = 150)"},
 };
 
-TEST(AuthoredFlights, ReachTheirEnd) {
-    for (const auto& [exercise, situation] : hard)
-        for (const SourceFinding& finding :
-             buildCourse(courseOf(exercise, situation), TARNEL_DATA_FOLDER).findings)
-            EXPECT_EQ(finding.line, 0) << exercise << ' ' << situation << ": " << finding.text;
+/// Both where a flight begins and where it ends.
+void expectStationOnChart(const SessionFile& session, const GeoPosition& station) {
+    constexpr double halfPaper = 6810 / 2.0; // twips
+    double farthest = 0;                     // NM
+    for (const Sample* at : {&session.samples.front(), &session.samples.back()})
+        farthest = std::max(farthest, fromStation(station, {at->traceLat, at->traceLon}).distance);
+    EXPECT_LT(farthest * *session.mapScaleTwips, halfPaper);
+    EXPECT_GT(farthest * *session.mapScaleTwips, halfPaper / 4);
+}
+
+TEST(AuthoredFlights, ReachTheirEndOnTheirChart) {
+    for (const auto& [exercise, situation] : hard) {
+        SCOPED_TRACE(situation);
+        const CourseSource course = courseOf(exercise, situation);
+        const BuiltCourse built = buildCourse(course, TARNEL_DATA_FOLDER);
+        for (const SourceFinding& finding : built.findings)
+            EXPECT_EQ(finding.line, 0) << finding.text;
+        expectStationOnChart(readSession(built.files.front().bytes),
+                             course.chart.position(course.situations.front().station));
+    }
+}
+
+TEST(AuthoredFlights, TellHowAnArcGoes) {
+    constexpr double longest = 110; // seconds without a word
+    const CourseSource course = courseOf("dmearc", hard[9][1]);
+    PilotInFlight flown(course);
+    course.questions->solve(flown.pilot, course.situations.front());
+    const std::vector<SaidComment>& said = flown.pilot.said();
+    for (std::size_t i = 1; i < said.size(); ++i)
+        EXPECT_LT(static_cast<double>(said[i].tick - said[i - 1].tick) / 3, longest)
+            << said[i - 1].text.english;
 }
 
 } // namespace

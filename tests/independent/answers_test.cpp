@@ -10,6 +10,7 @@
 #include <map>
 #include <numbers>
 #include <set>
+#include <tuple>
 
 namespace independent {
 namespace {
@@ -320,6 +321,33 @@ TEST(ShippedCourses, AreAnsweredAsTheirPositionsSay) {
                 check(Asked(question, session, german));
             }
         }
+}
+
+TEST(ShippedCourses, AskFromBothSidesOfEachLimitOfAHolding) {
+    for (const char* name : {"HSIHLD", "dgHLD"}) {
+        std::set<std::tuple<bool, int, bool>> sides;
+        for (const Question& question : readStudyBytes(folder + "study/" + name + ".sty", name)) {
+            const bool standard = question["a3"] == "Standard";
+            const double angle = turn(std::stod(question["a2"]), std::stod(question["a1"]));
+            for (const int limit : {-70, 110, 180}) {
+                const double beyond = turn(standard ? limit : -limit, angle);
+                if (beyond != 0 && std::abs(beyond) <= 5)
+                    sides.insert({standard, limit, beyond > 0});
+            }
+        }
+        EXPECT_EQ(sides.size(), 12U) << name;
+    }
+}
+
+TEST(ShippedCourses, TurnLeftAboutAsOftenAsRight) {
+    const std::map<std::string, const char*> turns = {
+        {"qdm", "a3"}, {"qdr", "a3"}, {"dmearc", "a1"}};
+    for (const auto& [name, column] : turns) {
+        int right = 0;
+        for (const Question& question : readStudyBytes(folder + "study/" + name + ".sty", name))
+            right += question[column] == "right" ? 1 : question[column] == "left" ? -1 : 0;
+        EXPECT_LE(std::abs(right), 4) << name;
+    }
 }
 
 TEST(ShippedCourses, FlyTheSameInBothLanguages) {
