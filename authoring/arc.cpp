@@ -74,25 +74,29 @@ void ArcFlight::join() {
 }
 
 void ArcFlight::tellLeg(double heading) {
+    constexpr double usual =
+        4; // degrees that a turn may differ from a leg's and go by without a word
     if (pilot.seconds() - told < betweenWords || left() < 1.5 * lastWords)
         return;
-    told = pilot.seconds();
     const FromStation here = place();
     const double off = std::round(tooFar(here) * 10) / 10;
     const double now = pilot.now().heading;
+    const double turn = hand() * turnBetween(now, heading);
+    const bool behind = std::abs(turnBetween(now, here.radial + 180)) > 90 && !toldOfNeedle;
+    if (off == 0 && !behind && std::abs(turn - legOfArc) > usual)
+        return;
     const LocalText dme = tenths(pilot.dme(arc.station));
     const LocalText radial = same(threeDigits(here.radial));
     const LocalText next = same(threeDigits(heading));
-    const bool behind = std::abs(turnBetween(now, here.radial + 180)) > 90;
     if (off != 0)
-        return pilot.say(worded(off < 0 ? Phrase::arcTooNear : Phrase::arcTooFar,
-                                {dme, radial, tenths(std::abs(off)), next}));
-    if (behind && !toldOfNeedle)
+        pilot.say(worded(off < 0 ? Phrase::arcTooNear : Phrase::arcTooFar,
+                         {dme, radial, tenths(std::abs(off)), next}));
+    else if (behind)
         pilot.say(worded(Phrase::arcNeedle, {dme, radial, next}));
     else
-        pilot.say(worded(Phrase::arcRight,
-                         {dme, radial, number(std::abs(turnBetween(now, heading))), next}));
-    toldOfNeedle = true;
+        pilot.say(worded(Phrase::arcRight, {dme, radial, number(turn), next}));
+    toldOfNeedle = toldOfNeedle || off == 0;
+    told = pilot.seconds();
 }
 
 void ArcFlight::tellEnd() {

@@ -13,7 +13,7 @@ namespace {
 using enum Phrase;
 
 constexpr double entryLeg = 60; ///< seconds
-constexpr double afterTheLastWord = 6;
+constexpr double afterTheLastWord = 8;
 constexpr double beforeTheFirstWord = 12; ///< seconds, so that nothing is told beside a question
 constexpr double betweenWords = 16;
 constexpr double afterAbeam = 10;

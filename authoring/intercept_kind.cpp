@@ -2,6 +2,7 @@
 #include "authoring/question_kind.h"
 #include "authoring/wording.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace tarnel {
@@ -66,6 +67,9 @@ class InterceptKind : public QuestionKind {
         return angle(flown, flown.rows.at(held)) - angle(flown, flown.asked());
     }
 
+    /// Where the needle will be when the required bearing is reached.
+    void tellNeedle(Pilot& pilot, const Situation& situation, double heading) const;
+
     bool inbound;
 };
 
@@ -95,6 +99,7 @@ void InterceptKind::solve(Pilot& pilot, const Situation& situation) const {
                          {word, same(threeDigits(rounded)), wanted, number(situation.cut),
                           same(threeDigits(heading)), sign}));
         pilot.turnTo(heading);
+        tellNeedle(pilot, situation, heading);
         pilot.establishFrom(line, [&](double lead) {
             pilot.say(std::lround(lead) == 0
                           ? worded(Phrase::interceptLeadSmall, {word, wanted})
@@ -106,6 +111,20 @@ void InterceptKind::solve(Pilot& pilot, const Situation& situation) const {
     const double end = pilot.seconds() + tracked;
     pilot.say(establishedTold(pilot, word, situation.required, Phrase::thePointer));
     pilot.track(line, [&] { return pilot.seconds() >= end; });
+}
+
+void InterceptKind::tellNeedle(Pilot& pilot, const Situation& situation, double heading) const {
+    constexpr double soon = 5;    // degrees to go, with no time for words
+    constexpr double toRead = 10; // seconds for what was told before
+    const CourseLine line{situation.station, situation.required};
+    if (std::abs(std::remainder(pilot.from(line.station).radial - line.course, 180)) < soon)
+        return;
+    pilot.wait(std::max(0.0, lookFirst + toRead - pilot.seconds()));
+    const double angle = turnBetween(heading, situation.required);
+    pilot.say(worded(Phrase::interceptNeedle,
+                     {same(inbound ? "QDM" : "QDR"), direction(situation.required),
+                      worded(inbound ? Phrase::thePointer : Phrase::thePointersTail),
+                      number(std::abs(angle)), worded(angle < 0 ? Phrase::left : Phrase::right)}));
 }
 
 StudyRecord InterceptKind::ask(const FlownSituation& flown, Language language) const {
