@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <limits>
 
 namespace tarnel {
 
@@ -76,7 +77,9 @@ class HoldFlight {
     [[nodiscard]] std::array<HoldingEntry, 2> sectors(double heading) const;
     [[nodiscard]] Entered enteredBy(int arrived, double heading, int end) const;
     [[nodiscard]] Circuit circuit(int begin, double end) const;
-    [[nodiscard]] double medianHeading(int first, int last, double from) const;
+    [[nodiscard]] double
+    medianHeading(int first, int last, double from,
+                  double within = std::numeric_limits<double>::infinity()) const;
     [[nodiscard]] double miss(double crossing) const;
     void findCircuits(int arrived, const std::vector<double>& over);
     void judgeEntry(int arrived, int end);
@@ -110,8 +113,8 @@ int HoldFlight::arrival() const {
 
 /// Where the fix is crossed on the inbound course, between two samples.
 std::vector<double> HoldFlight::crossings(int arrived) const {
-    constexpr double near = 2; ///< NM
-    constexpr int soonest = 15;
+    constexpr double near = 2;  ///< NM
+    constexpr int soonest = 56; ///< samples: no pattern is shorter than its turns
     std::vector<double> over;
     int before = arrived;
     for (int i = arrived + 1; i < path.size(); ++i) {
@@ -188,11 +191,12 @@ HoldFlight::Entered HoldFlight::enteredBy(int arrived, double heading, int end) 
     return found;
 }
 
-/// Degrees from a course to the middle one of the headings of a leg, without its turns.
-double HoldFlight::medianHeading(int first, int last, double from) const {
+/// Degrees from a course to the middle one of the headings of a leg, without its turns and without
+/// what is flown farther off the line than `within` NM, back to it.
+double HoldFlight::medianHeading(int first, int last, double from, double within) const {
     std::vector<double> headings;
     for (int i = first; i <= last; ++i)
-        if (!path.inTurn(i, wingsLevel))
+        if (!path.inTurn(i, wingsLevel) && std::abs(frame.cross(i)) <= within)
             headings.push_back(turnBetween(from, path.heading(i)));
     if (headings.empty())
         return turnBetween(from, path.heading(last));
@@ -307,6 +311,7 @@ void HoldFlight::judgeTimes() {
 }
 
 void HoldFlight::judgeCorrections() {
+    constexpr double onLine = 0.15; ///< NM
     Worst out;
     Worst in;
     if (!track)
@@ -320,7 +325,7 @@ void HoldFlight::judgeCorrections() {
                      flown.number);
         }
         if (flown.last() - flown.inbound > 4) {
-            const double value = medianHeading(flown.inbound, flown.last(), task.inbound);
+            const double value = medianHeading(flown.inbound, flown.last(), task.inbound, onLine);
             in.take(std::abs(value - track->correctionIn), value, {flown.inbound, flown.last()},
                     flown.number);
         }

@@ -56,24 +56,29 @@ int LineFlight::passage(int from) const {
     return -1;
 }
 
-/// The turn by which the line is met: the last that begins before it or a little behind.
+/// The turn by which the line is joined: the last before the line is met, or, if that still leads
+/// across, the first behind.
 const TurnSpan* LineFlight::turnOnto() const {
-    constexpr int late = 6;       ///< samples
     constexpr double there = 0.1; ///< NM
+    constexpr double along = 25;  ///< degrees
     const double side = frame.deviation(0);
     int met = 0;
     while (met < path.last() && std::abs(frame.cross(met)) > there &&
            std::signbit(frame.deviation(met)) == std::signbit(side))
         ++met;
-    for (int until = met + late; until >= 0;) {
-        const TurnSpan* turn = path.turnBefore(until, aTurn);
-        if (!turn)
-            return nullptr;
-        if (std::abs(frame.headingOff(turn->last)) < std::abs(frame.headingOff(turn->first)))
+    const auto leadsOnto = [&](const TurnSpan& turn) {
+        const double after = std::abs(frame.headingOff(turn.last));
+        return after <= along && after < std::abs(frame.headingOff(turn.first));
+    };
+    for (const TurnSpan* turn = path.turnBefore(met, aTurn); turn;
+         turn = path.turnBefore(turn->first - 1, aTurn)) {
+        if (leadsOnto(*turn))
             return turn;
-        until = turn->first - 1;
+        if (std::abs(frame.headingOff(turn->last)) > along)
+            break;
     }
-    return nullptr;
+    const TurnSpan* behind = path.turnAfter(met + 1, aTurn);
+    return behind && leadsOnto(*behind) ? behind : nullptr;
 }
 
 void LineFlight::findLegs() {
