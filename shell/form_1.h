@@ -17,6 +17,7 @@
 #include "shell/flight_switch.h"
 #include "shell/outside_world.h"
 #include "shell/practice_desk.h"
+#include "shell/reference_guard.h"
 #include "shell/replay_deck.h"
 #include "shell/station_desk.h"
 #include "shell/status_readouts.h"
@@ -107,10 +108,12 @@ class Form1 : public TrainerControls, public PanelControls {
     // The tick.
     void tick();
     void guardPractiseArea();
+    void guardReference();
     void showState();
     void showComment();
     void letGo();
 
+    ReferenceGuard reference{UserControl11};
     StopwatchDesk stopwatch{UserControl11, *this};
     StatusReadouts readouts{UserControl11, *this, texts};
     UsableControls usable{UserControl11, *this,  positions, flightDesk.menu,

@@ -1,9 +1,11 @@
 #include "shell/form_1.h"
+#include "shell/text_format.h"
 
 namespace tarnel {
 
 void Form1::tick() {
     guardPractiseArea();
+    guardReference();
     replay.echoLock();
     coupling.followFrequencies();
     exercise.followFlight();
@@ -46,6 +48,17 @@ void Form1::guardPractiseArea() {
         return;
     flight.stop();
     boxes.show(Text::windowTitle, std::string(texts[Text::outsidePracticeArea]));
+}
+
+/// A practice flight rests where its reference ends, and once when it is lost.
+void Form1::guardReference() {
+    if (!flight.flies() || !practice.practises())
+        return;
+    const std::optional<Text> rests = reference.look();
+    if (!rests)
+        return;
+    flight.stop();
+    boxes.show(Text::windowTitle, filledIn(texts[*rests], {texts[Text::startSim]}));
 }
 
 void Form1::showComment() {
