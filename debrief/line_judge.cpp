@@ -94,7 +94,8 @@ void LineFlight::findLegs() {
         trackEnds = std::min(trackEnds, away->first);
 }
 
-/// Whether the flight goes on over the station as if it still lay ahead.
+/// Whether the flight goes on over the station as if it still lay ahead: straight on, and off the
+/// course behind it. To go on along that is no fault of one who was established.
 bool LineFlight::passesUnseen() {
     if (!task.inbound)
         return false;
@@ -102,7 +103,11 @@ bool LineFlight::passesUnseen() {
     for (int over = passage(0); over >= 0; over = passage(over + 1)) {
         const TurnSpan* turn = path.turnAfter(over - patience / 4, correction);
         const int goesOn = turn ? turn->first : path.last();
-        if (goesOn - over < patience || std::abs(frame.headingOff(over)) > leaves)
+        const bool keepsOn =
+            joined >= 0 && joined < over &&
+            180 - std::abs(frame.deviation(std::min(over + patience, path.last()))) <=
+                frame.kept(judgement);
+        if (goesOn - over < patience || std::abs(frame.headingOff(over)) > leaves || keepsOn)
             continue;
         judgement.fault(FindingKind::stationPassed, {over, goesOn});
         return true;

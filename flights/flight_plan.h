@@ -2,6 +2,7 @@
 
 #include "core/aircraft.h"
 #include "core/geo_position.h"
+#include "flights/plan_task.h"
 #include "flights/range.h"
 #include "instruments/ap_control_face.h"
 
@@ -73,6 +74,7 @@ struct FlightPlan {
     FlightSettings start; ///< its heading is also that of the aircraft
     InstrumentPlan inst2;
     InstrumentPlan inst3;
+    std::optional<PlannedTask> task; ///< what it is debriefed by
     std::vector<FlightEvent> events; ///< in the order of their time, then as written
 };
 

@@ -140,6 +140,7 @@ FlightPlan readRoot(PlanTable root, const std::string& file) {
     radios.refuseOtherKeys();
     plan.inst2 = readInstrument(root.part("inst2"), plan.start.obs2);
     plan.inst3 = readInstrument(root.part("inst3"), plan.start.obs3);
+    plan.task = readTask(root, file);
     readEvents(root, {plan_limits::seconds.lowest, plan.seconds}, plan);
     root.refuseOtherKeys();
     root.need("seconds");

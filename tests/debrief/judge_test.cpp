@@ -118,7 +118,11 @@ TEST(Judge, FindsWhatIsWrongInJoiningAndTracking) {
           }},
          {"away from it", turnedAway, [] { return awayFirst(90); }},
          {"by the wrong end of the needle", reversedNeedle, [] { return awayFirst(270); }},
-         {"over the station", stationPassed, [] { return toTheStation(joining(45)).fly(100); }}});
+         {"over the station", stationPassed,
+          [] { return toTheStation(joining(45)).turn(20).fly(100); }},
+         {"over it and on along the course", {}, [] {
+              return toTheStation(joining(45)).fly(300);
+          }}});
 }
 
 TEST(Judge, TellsWhereTheNeedleAndTheLineWere) {

@@ -48,6 +48,14 @@ adf_card = 1
 obs = 90
 [inst3]
 type = "DG"
+[task]
+kind = "arc"
+limits = "check ride"
+station = "VOR2"
+distance = 12.5
+sense = "anticlockwise"
+final = 90
+way = "outbound"
 [[event]]
 at = 600
 comment_end = true
@@ -72,6 +80,12 @@ comment = "Größe, #2"
                    plan.start.wind->speed, plan.start.nav2, plan.start.dme, plan.start.obs2,
                    plan.inst2.type, plan.inst2.receiver, plan.inst2.adfCard, plan.inst3.type),
               "360 0 240 20 1 2 90 4 2 1 5");
+    ASSERT_TRUE(plan.task);
+    EXPECT_EQ(plan.task->limits, Strictness::checkRide);
+    const auto& arc = std::get<ArcTask>(plan.task->task);
+    EXPECT_EQ(
+        told(static_cast<int>(arc.station), arc.distance, arc.clockwise, arc.final, arc.inbound),
+        "1 12.5 0 90 0");
     ASSERT_EQ(plan.events.size(), 2U); // in the order of their time
     EXPECT_EQ(told(plan.events[0].at, plan.events[0].settings.obs3,
                    plan.events[0].settings.wind->direction, plan.events[0].settings.wind->speed,
@@ -119,6 +133,13 @@ TEST(PlanReader, NamesTheLineAndWhatWasExpected) {
         {"seconds = 9\n[inst2]\nnav = 0", 3, "from 1 to 2"},
         {"seconds = 9\n[inst3]\nadf_card = 3", 3, "from 1 to 2"},
         {"seconds = 9\n[inst3]\nobs = -1", 3, "from 0 to 360"},
+        {"seconds = 9\n[task]\nstation = \"VOR1\"", 2, "'kind' as well"},
+        {"seconds = 9\n[task]\nkind = \"hold\"", 3, "\"line\", \"holding\""},
+        {"seconds = 9\n[task]\nkind = \"line\"\ncourse = 9", 2, "'station' as well"},
+        {"seconds = 9\n[task]\nkind = \"line\"\nturns = \"left\"", 2, "'station' as well"},
+        {"seconds = 9\n[task]\nkind = \"arc\"\nstation = \"NDB1\"", 4, "\"VOR2\" or \"LOC\""},
+        {"seconds = 9\n[task]\nkind = \"wind\"\nminutes = 4", 4, "from 0.5 to 3"},
+        {"seconds = 9\n[task]\nkind = \"reference\"\nsession = 3", 4, "a path"},
         {"seconds = 9\n[event]\nat = 5", 2, "[[event]]"},
         {"seconds = 9\nevent = [5]", 2, "[[event]]"},
         {"seconds = 9\n[[event]]\nheading = 5", 2, "'at' as well"},

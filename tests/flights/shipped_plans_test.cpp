@@ -1,6 +1,11 @@
 #include "core/sailing.h"
+#include "flights/flight_debrief.h"
 #include "flights/flown_table.h"
+#include "flights/plan_error.h"
+#include "persistence/save_file.h"
+#include "support/temporary_folder.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -55,6 +60,31 @@ TEST(ShippedPlans, TrackHoldAndKeepTheirDistance) {
         EXPECT_TRUE(plan.turned < 0 || std::abs(turned - plan.turned) < 1) << turned;
         EXPECT_LT(std::abs(crossTrack(rows.back(), plan.station, plan.course)), 0.3);
     }
+}
+
+TEST(ShippedPlans, AreWhatTheirTasksAsk) {
+    for (const std::string name : {"track_vor_inbound", "hold_over_ndb_with_wind", "dme_arc"}) {
+        const FlightPlan plan = readPlanFile(TARNEL_PLANS_FOLDER "/" + name + ".toml");
+        ScriptedFlight flight(plan, germanTable(), TARNEL_DATA_FOLDER);
+        flight.fly(plan.seconds, [] {});
+        const std::string told = flightDebrief(flight, germanTable());
+        EXPECT_THAT(told, testing::HasSubstr(" richtig: ")) << name;
+        EXPECT_THAT(told, testing::Not(testing::ContainsRegex("[0-9] (zu |falsch)"))) << name;
+    }
+}
+
+/// A flight is its own reference; a later start is not.
+TEST(FlightDebrief, ReadsTheSessionBesideThePlan) {
+    const TemporaryFolder folder;
+    const std::string file = folder.path + "/plan.toml";
+    FlightPlan plan =
+        readPlan("seconds = 60\n[task]\nkind = \"reference\"\nsession = \"a.ts\"", file);
+    ScriptedFlight flight(plan, englishTable(), TARNEL_DATA_FOLDER);
+    flight.fly(60, [] {});
+    EXPECT_THROW((void)flightDebrief(flight, englishTable()), PlanError);
+    saveFileBytes(folder.path + "/a.ts", flight.form().UserControl11.sessionBytes());
+    EXPECT_THAT(flightDebrief(flight, englishTable()),
+                testing::HasSubstr("00:00 right: On average 0 NM off the reference"));
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "flights/flight.h"
 #include "flights/flight_csv.h"
+#include "flights/flight_debrief.h"
 #include "flights/flight_summary.h"
 #include "flights/plan_error.h"
 #include "flights/plan_reader.h"
@@ -22,14 +23,15 @@ enum ExitStatus { done = 0, planIsWrong = 1, usageIsWrong = 2, outputFailed = 3 
 
 constexpr auto usage =
     "Usage: tarnel-fly PLAN [--csv FILE] [--session FILE] [--picture FILE]\n"
-    "                  [--until SECONDS] [--language de|en]\n"
+    "                  [--debrief] [--until SECONDS] [--language de|en]\n"
     "Flies a plan without showing a window.\n"
     "\n"
     "  --csv FILE        write a table with a line for each tick\n"
     "  --session FILE    write the flight as a session that the trainer opens\n"
     "  --picture FILE    write the window as it stands at the end, such as window.png\n"
+    "  --debrief         print what was right and wrong, by the plan's [task], worst first\n"
     "  --until SECONDS   end the flight there, if the plan does not end earlier\n"
-    "  --language de|en  the language of the picture; English without it\n"
+    "  --language de|en  of the picture and the debrief; English without it\n"
     "  --help            this text\n"
     "\n"
     "FILE may be - for standard output, and none of the files that are read. Without an output a "
@@ -74,12 +76,16 @@ void run(const FlyOptions& options) {
     const StringTable& texts = options.german ? germanTable() : englishTable();
     const FlightPlan plan = readPlanFile(options.plan);
     checkOutputs(options, plan);
+    if (options.debrief && !plan.task)
+        throw PlanError(plan.file, 0, "a table [task] that says what the flight has to be");
     ScriptedFlight flight(plan, texts, applicationFolder());
     flyTo(flight, options);
     if (options.session)
         writeSession(flight.form().UserControl11, *options.session);
     if (options.picture)
         writePicture(flight.form(), *options.picture);
+    if (options.debrief)
+        std::cout << flightDebrief(flight, texts) << std::flush;
     if (options.hasOutput())
         std::cerr << flightRemarks(flight);
     else

@@ -42,7 +42,9 @@ void check(const FlyOptions& options) {
     if (options.plan.empty())
         throw UsageError("a plan is missing");
     const auto toStandard = [](const auto& output) { return output == standardOutput ? 1 : 0; };
-    if (toStandard(options.csv) + toStandard(options.picture) + toStandard(options.session) > 1)
+    if (toStandard(options.csv) + toStandard(options.picture) + toStandard(options.session) +
+            (options.debrief ? 1 : 0) >
+        1)
         throw UsageError("only one output can go to standard output");
 }
 
@@ -56,7 +58,9 @@ FlyOptions readOptions(const std::vector<std::string>& words) {
             options.help = true;
             return options;
         }
-        if (word.starts_with("-")) {
+        if (word == "--debrief") {
+            options.debrief = true;
+        } else if (word.starts_with("-")) {
             if (i + 1 == words.size())
                 throw UsageError(word + " is unknown or lacks its value");
             takeOption(options, word, words[++i]);

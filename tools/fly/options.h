@@ -20,10 +20,11 @@ struct FlyOptions {
     std::optional<std::string> picture;
     std::optional<std::string> session;
     std::optional<double> until; ///< seconds
+    bool debrief = false;        ///< to standard output
     bool german = false;
     bool help = false;
 
-    [[nodiscard]] bool hasOutput() const { return csv || picture || session; }
+    [[nodiscard]] bool hasOutput() const { return csv || picture || session || debrief; }
 };
 
 /// Reads the words behind the program's name. Throws UsageError.
