@@ -309,6 +309,47 @@ TEST_F(StripTest, APracticePanelTakesItsStates) {
     EXPECT_FALSE(form.practicePanel.frame.visible());
 }
 
+class PracticeFlight : public TrainerWithFiles {
+  protected:
+    /// Flies the practice, or on, and tells whether it still flies in the end.
+    bool flies(int seconds) {
+        form->startButton.click();
+        for (int i = 0; i < 3 * seconds; ++i) {
+            form->simulationTimer();
+            couple();
+        }
+        return form->flight.flies();
+    }
+};
+
+TEST_F(PracticeFlight, RestsWhereItsExampleEndsAndOnceWhereItIsLost) {
+    const std::string example = "default/sessions/e-adf practise 01.ts";
+    fly(40);
+    saveAs(example);
+    form->exerciseMenu.adfPractice[0]->click();
+    couple();
+    EXPECT_FALSE(flies(50));
+    EXPECT_EQ(sim().recording.sampleIndex(), sim().reference.size() + 1);
+    ASSERT_EQ(world.boxes.size(), 1U);
+    EXPECT_THAT(world.boxes[0], testing::HasSubstr("example ends"));
+    EXPECT_TRUE(flies(60)); // on, if he wants to
+    form->startButton.click();
+    form->exerciseMenu.adfPractice[0]->click();
+    couple();
+    ReferenceTrack far;
+    for (int i = 0; i < 60; ++i)
+        far.append({50, 13});
+    sim().reference = far;
+    EXPECT_FALSE(flies(5));
+    ASSERT_EQ(world.boxes.size(), 2U);
+    EXPECT_THAT(world.boxes[1], testing::HasSubstr("3 NM"));
+    EXPECT_TRUE(flies(20));
+    form->startButton.click();
+    load(example); // to be looked at, not practised
+    EXPECT_TRUE(flies(60));
+    EXPECT_EQ(world.boxes.size(), 2U);
+}
+
 TEST_F(StripTest, ChartAndStationsAnswerTheirPages) {
     const std::string first = told(1, sim().c_MAPscale, toPlain(sim().view.mapCenter).latitude);
     form.display.stepScale(-1);
