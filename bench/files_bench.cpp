@@ -1,4 +1,5 @@
 #include "cpu_seconds.h"
+#include "debrief/debrief.h"
 #include "persistence/file_bytes.h"
 #include "persistence/sample_fields.h"
 #include "persistence/save_file.h"
@@ -118,6 +119,16 @@ int main() {
     const double bareLoading = medianSeconds([&] { sum += bareLoad(text); });
     const double loading = medianSeconds([&] { load(plain); });
     const double loadingEnciphered = medianSeconds([&] { load(enciphered); });
+    const auto judging = [&](const Task& task) {
+        return medianSeconds([&] {
+            const Debrief told = judge(session.samples, task, Strictness::standard);
+            sum += static_cast<double>(told.findings.size());
+        });
+    };
+    const double line = judging(LineTask{.course = 90, .joins = true});
+    const double holding = judging(HoldTask{.inbound = 90});
+    const double arc = judging(ArcTask{.distance = 12, .final = 90});
+    const double reference = judging(ReferenceTask{session.samples});
     const double bareSaving = medianSeconds([&] { bareSave(session, folder + "/bare"); });
     const double saving = medianSeconds([&] { save(plain, {}); });
     const double savingEnciphered = medianSeconds([&] { save(enciphered, key); });
@@ -126,6 +137,10 @@ int main() {
     bool met = std::isfinite(sum) && read == 2 * runs * session.samples.size();
     met =
         report("load, against a bare loop of from_chars", loading, bareLoading, mostOfBare) && met;
+    met = report("judge a line, against loading", line, loading, 1) && met;
+    met = report("judge a holding, against loading", holding, loading, 1) && met;
+    met = report("judge an arc, against loading", arc, loading, 1) && met;
+    met = report("judge beside a reference, against loading", reference, loading, 1) && met;
     met = report("save, against a bare loop of to_chars", saving, bareSaving, mostOfBare) && met;
     met = report("load enciphered, against plain", loadingEnciphered, loading, mostOfPlain) && met;
     met = report("save enciphered, against plain", savingEnciphered, saving, mostOfPlain) && met;
