@@ -38,16 +38,14 @@ void offer(StudyRecord& record, const Offers& columns, double right,
 class AdfKind : public QuestionKind {
   public:
     void read(PlanTable& table, const AuthoredChart& chart, Situation& situation) const override {
-        situation.station = readStation(table, "station", chart, isNdb);
-        situation.at = {readDirection(table, "radial"), readDistance(table, "distance")};
+        readPlace(table, chart, isNdb, situation);
         situation.heading = readDirection(table, "heading");
     }
     [[nodiscard]] FlightPlan start(const Situation& situation,
                                    const AuthoredChart& chart) const override {
-        FlightPlan plan =
-            planFrom(placeOn(chart.position(situation.station), situation.at), situation, chart);
+        FlightPlan plan = planAt(situation, chart);
         plan.start.nav1 = std::int16_t{0};
-        plan.start.adf = static_cast<std::int16_t>(situation.station == Slot::ndb1 ? 0 : 1);
+        tuneAdf(plan, situation.station);
         plan.inst2 = {.type = displayOf("ADF"), .adfCard = std::int16_t{2}};
         plan.inst3 = {.type = displayOf("VOR"), .receiver = std::int16_t{1}};
         plan.start.obs3 = std::int16_t{0};

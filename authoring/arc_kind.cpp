@@ -41,8 +41,7 @@ class ArcKind : public QuestionKind {
 };
 
 void ArcKind::read(PlanTable& table, const AuthoredChart& chart, Situation& situation) const {
-    situation.station = readStation(table, "station", chart, isVor);
-    situation.at = {readDirection(table, "radial"), readDistance(table, "distance")};
+    readPlace(table, chart, isVor, situation);
     situation.arc = readDistance(table, "arc");
     situation.final = readDirection(table, "final");
     situation.clockwise = readSense(table);
@@ -55,12 +54,8 @@ FlightPlan ArcKind::start(const Situation& situation, const AuthoredChart& chart
     const WindTriangle wind = windTriangle(situation.wind, situation.heading, situation.tas);
     Situation established = situation;
     established.heading = wholeDegrees(situation.heading + wind.correction);
-    FlightPlan plan =
-        planFrom(placeOn(chart.position(situation.station), situation.at), established, chart);
-    plan.start.nav1 = plan.start.dme = static_cast<std::int16_t>(situation.station);
-    plan.inst2 = {.type = displayOf("RMI"), .receiver = std::int16_t{1}};
-    plan.inst3 = {.type = displayOf("HSI"), .receiver = std::int16_t{1}};
-    plan.start.obs3 = static_cast<std::int16_t>(situation.final);
+    FlightPlan plan = planAt(established, chart);
+    showRmiAndHsi(plan, situation, situation.final);
     return plan;
 }
 

@@ -50,16 +50,13 @@ FlightPlan HoldingKind::start(const Situation& situation, const AuthoredChart& c
         placeOn(chart.position(situation.station), {circle(track + 180), situation.at.distance}),
         situation, chart);
     if (beacon) {
-        plan.start.adf = static_cast<std::int16_t>(situation.station == Slot::ndb1 ? 0 : 1);
+        tuneAdf(plan, situation.station);
         plan.inst2 = {.type = displayOf("ADF"), .adfCard = std::int16_t{1}};
         plan.inst3 = {.type = displayOf("DG")};
         plan.start.obs2 = std::int16_t{0};
         return plan;
     }
-    plan.start.nav1 = plan.start.dme = static_cast<std::int16_t>(situation.station);
-    plan.inst2 = {.type = displayOf("RMI"), .receiver = std::int16_t{1}};
-    plan.inst3 = {.type = displayOf("HSI"), .receiver = std::int16_t{1}};
-    plan.start.obs3 = static_cast<std::int16_t>(situation.inbound);
+    showRmiAndHsi(plan, situation, situation.inbound);
     return plan;
 }
 

@@ -35,8 +35,7 @@ class InterceptKind : public QuestionKind {
 
     void read(PlanTable& table, const AuthoredChart& chart, Situation& situation) const override {
         constexpr Range<double> cuts{15, 90};
-        situation.station = readStation(table, "station", chart, isVorOrNdb);
-        situation.at = {readDirection(table, "radial"), readDistance(table, "distance")};
+        readPlace(table, chart, isVorOrNdb, situation);
         situation.heading = readDirection(table, "heading");
         situation.required = readDirection(table, "required");
         situation.cut = table.number("cut", cuts).value_or(inbound ? 30 : 45);
@@ -74,11 +73,10 @@ class InterceptKind : public QuestionKind {
 };
 
 FlightPlan InterceptKind::start(const Situation& situation, const AuthoredChart& chart) const {
-    FlightPlan plan =
-        planFrom(placeOn(chart.position(situation.station), situation.at), situation, chart);
+    FlightPlan plan = planAt(situation, chart);
     const bool beacon = isNdb(situation.station);
     plan.start.nav1 = beacon ? std::int16_t{0} : static_cast<std::int16_t>(situation.station);
-    plan.start.adf = static_cast<std::int16_t>(situation.station == Slot::ndb2 ? 1 : 0);
+    tuneAdf(plan, situation.station);
     plan.inst2 = {.type = displayOf("ADF"), .adfCard = std::int16_t{2}};
     plan.inst3 = {.type = displayOf("RMI"), .receiver = std::int16_t{1}};
     return plan;

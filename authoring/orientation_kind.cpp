@@ -29,8 +29,7 @@ LocalText answer(double degrees) {
 class OrientationKind : public QuestionKind {
   public:
     void read(PlanTable& table, const AuthoredChart& chart, Situation& situation) const override {
-        situation.station = readStation(table, "station", chart, isVorOrNdb);
-        situation.at = {readDirection(table, "radial"), readDistance(table, "distance")};
+        readPlace(table, chart, isVorOrNdb, situation);
         situation.other = readStation(table, "other", chart, isVorOrNdb);
         situation.heading = readDirection(table, "heading");
         table.need("third");
@@ -38,8 +37,7 @@ class OrientationKind : public QuestionKind {
     }
     [[nodiscard]] FlightPlan start(const Situation& situation,
                                    const AuthoredChart& chart) const override {
-        FlightPlan plan =
-            planFrom(placeOn(chart.position(situation.station), situation.at), situation, chart);
+        FlightPlan plan = planAt(situation, chart);
         // No course that would tell a bearing is set before the question has been asked.
         plan.start.nav1 = plan.start.dme = std::int16_t{0};
         plan.start.nav2 = std::int16_t{1};

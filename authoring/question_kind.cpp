@@ -47,6 +47,12 @@ Slot readStation(PlanTable& table, std::string_view key, const AuthoredChart& ch
     return *chart.slotOf(*name, fits);
 }
 
+void readPlace(PlanTable& table, const AuthoredChart& chart, bool (*fits)(Slot),
+               Situation& situation) {
+    situation.station = readStation(table, "station", chart, fits);
+    situation.at = {readDirection(table, "radial"), readDistance(table, "distance")};
+}
+
 bool isVor(Slot slot) {
     return slot == Slot::vor1 || slot == Slot::vor2;
 }
@@ -115,6 +121,21 @@ FlightPlan planFrom(const GeoPosition& place, const Situation& situation,
     if (situation.wind.speed > 0)
         plan.start.wind = situation.wind;
     return plan;
+}
+
+FlightPlan planAt(const Situation& situation, const AuthoredChart& chart) {
+    return planFrom(placeOn(chart.position(situation.station), situation.at), situation, chart);
+}
+
+void showRmiAndHsi(FlightPlan& plan, const Situation& situation, double course) {
+    plan.start.nav1 = plan.start.dme = static_cast<std::int16_t>(situation.station);
+    plan.inst2 = {.type = displayOf("RMI"), .receiver = std::int16_t{1}};
+    plan.inst3 = {.type = displayOf("HSI"), .receiver = std::int16_t{1}};
+    plan.start.obs3 = static_cast<std::int16_t>(course);
+}
+
+void tuneAdf(FlightPlan& plan, Slot beacon) {
+    plan.start.adf = static_cast<std::int16_t>(beacon == Slot::ndb2 ? 1 : 0);
 }
 
 } // namespace tarnel

@@ -51,6 +51,9 @@ struct CourseKind {
 /// Reads "station", one of those on the chart that `fits`.
 [[nodiscard]] Slot readStation(PlanTable& table, std::string_view key, const AuthoredChart& chart,
                                bool (*fits)(Slot));
+/// Reads "station", one of those that `fits`, and the place by "radial" and "distance" from it.
+void readPlace(PlanTable& table, const AuthoredChart& chart, bool (*fits)(Slot),
+               Situation& situation);
 [[nodiscard]] bool isVor(Slot slot);
 [[nodiscard]] bool isNdb(Slot slot);
 [[nodiscard]] bool isVorOrNdb(Slot slot);
@@ -65,6 +68,13 @@ struct CourseKind {
 /// A flight plan that begins a second before `place`.
 [[nodiscard]] FlightPlan planFrom(const GeoPosition& place, const Situation& situation,
                                   const AuthoredChart& chart);
+
+/// The same, at the situation's own place.
+[[nodiscard]] FlightPlan planAt(const Situation& situation, const AuthoredChart& chart);
+/// An RMI on the left and an HSI on the right, both tuned to the situation's VOR with its DME.
+void showRmiAndHsi(FlightPlan& plan, const Situation& situation, double course);
+/// Tunes the ADF to a beacon.
+void tuneAdf(FlightPlan& plan, Slot beacon);
 
 /// Three digits, alike in both languages.
 [[nodiscard]] LocalText direction(double degrees);

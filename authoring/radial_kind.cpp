@@ -21,8 +21,7 @@ const StringTable& tableOf(Language language) {
 class RadialKind : public QuestionKind {
   public:
     void read(PlanTable& table, const AuthoredChart& chart, Situation& situation) const override {
-        situation.station = readStation(table, "station", chart, isVor);
-        situation.at = {readDirection(table, "radial"), readDistance(table, "distance")};
+        readPlace(table, chart, isVor, situation);
         situation.heading = readDirection(table, "heading");
         situation.course = readDirection(table, "course");
     }
@@ -164,8 +163,7 @@ class HsiKind : public RadialKind {
 };
 
 FlightPlan HsiKind::start(const Situation& situation, const AuthoredChart& chart) const {
-    FlightPlan plan =
-        planFrom(placeOn(chart.position(situation.station), situation.at), situation, chart);
+    FlightPlan plan = planAt(situation, chart);
     const auto slot = static_cast<std::int16_t>(situation.station);
     const auto course = static_cast<std::int16_t>(situation.course);
     plan.start.nav1 = plan.start.nav2 = plan.start.dme = slot;
@@ -218,8 +216,7 @@ class VorKind : public RadialKind {
   public:
     [[nodiscard]] FlightPlan start(const Situation& situation,
                                    const AuthoredChart& chart) const override {
-        FlightPlan plan =
-            planFrom(placeOn(chart.position(situation.station), situation.at), situation, chart);
+        FlightPlan plan = planAt(situation, chart);
         plan.start.nav1 = plan.start.dme = static_cast<std::int16_t>(situation.station);
         plan.inst2 = {.type = displayOf("DG")};
         plan.inst3 = {.type = displayOf("VOR"), .receiver = std::int16_t{1}};

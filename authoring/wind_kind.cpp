@@ -54,10 +54,7 @@ FlightPlan WindKind::start(const Situation& situation, const AuthoredChart& char
     FlightPlan plan = planFrom(placeOn(chart.position(situation.station),
                                        {circle(situation.inbound + 180), wind.groundSpeed / 60}),
                                established, chart);
-    plan.start.nav1 = plan.start.dme = static_cast<std::int16_t>(situation.station);
-    plan.inst2 = {.type = displayOf("RMI"), .receiver = std::int16_t{1}};
-    plan.inst3 = {.type = displayOf("HSI"), .receiver = std::int16_t{1}};
-    plan.start.obs3 = static_cast<std::int16_t>(situation.inbound);
+    showRmiAndHsi(plan, situation, situation.inbound);
     return plan;
 }
 
