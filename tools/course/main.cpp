@@ -10,7 +10,7 @@
 #include "strings/cause_text.h"
 #include "tools/course/options.h"
 #include "tools/course/print_command.h"
-#include "tools/output/output_file.h"
+#include "tools/output/tool_run.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -19,8 +19,6 @@
 namespace {
 
 using namespace tarnel;
-
-enum ExitStatus { done = 0, courseIsWrong = 1, usageIsWrong = 2, outputFailed = 3 };
 
 constexpr auto usage =
     "Usage: tarnel-course build SOURCE... [--out FOLDER]\n"
@@ -97,7 +95,7 @@ std::vector<std::string> chartsFirst(std::vector<std::string> files) {
     return files;
 }
 
-int print(const CourseOptions& options) {
+ExitStatus print(const CourseOptions& options) {
     const std::string data = applicationFolder();
     const std::string& file = options.sources.front();
     const ChartShelf charts({courseFolder(options, file) + "/maps", data + "/default/maps", data});
@@ -108,51 +106,38 @@ int print(const CourseOptions& options) {
     return done;
 }
 
-int run(const CourseOptions& options) {
+ExitStatus make(const CourseOptions& options) {
     const std::string data = applicationFolder();
-    int status = done;
+    ExitStatus status = done;
     for (const std::string& file : chartsFirst(options.sources)) {
         try {
             const std::string out = courseFolder(options, file);
             const ChartShelf charts({out + "/maps", data + "/default/maps", data});
             const BuiltCourse course = buildSource(readSource(file), file, charts, data);
             if (!tell(file, course.findings))
-                status = courseIsWrong;
+                status = inputIsWrong;
             else if (options.command == CourseCommand::build)
                 write(course.files, out);
         } catch (const PlanError& error) {
             std::cerr << error.what() << '\n';
-            status = courseIsWrong;
+            status = inputIsWrong;
         }
     }
     return status;
 }
 
+ExitStatus run(const CourseOptions& options) {
+    if (options.command == CourseCommand::help) {
+        std::cout << usage;
+        return done;
+    }
+    return options.command == CourseCommand::print ? print(options) : make(options);
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
-    makeFileSizeLimitAnError();
-    try {
-        const CourseOptions options = readCourseOptions({argv + 1, argv + argc});
-        if (options.command == CourseCommand::help) {
-            std::cout << usage;
-            return done;
-        }
-        return options.command == CourseCommand::print ? print(options) : run(options);
-    } catch (const UsageError& error) {
-        std::cerr << "tarnel-course: " << error.what() << '\n' << usage;
-        return usageIsWrong;
-    } catch (const PlanError& error) {
-        std::cerr << error.what() << '\n';
-        return courseIsWrong;
-    } catch (const OutputError& error) {
-        std::cerr << "tarnel-course: " << error.what() << '\n';
-        return outputFailed;
-    } catch (const RunTimeError& error) {
-        std::cerr << "tarnel-course: " << causeText(englishTable(), error.cause()) << '\n';
-        return outputFailed;
-    } catch (const std::filesystem::filesystem_error& error) {
-        std::cerr << "tarnel-course: " << error.what() << '\n';
-        return outputFailed;
-    }
+    return runTool("tarnel-course", usage, [&] {
+        return run(readCourseOptions({argv + 1, argv + argc}));
+    });
 }

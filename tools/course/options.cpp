@@ -1,5 +1,7 @@
 #include "tools/course/options.h"
 
+#include "tools/output/tool_run.h"
+
 namespace tarnel {
 
 namespace {

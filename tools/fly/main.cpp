@@ -2,14 +2,13 @@
 #include "flights/flight_csv.h"
 #include "flights/flight_debrief.h"
 #include "flights/flight_summary.h"
-#include "flights/plan_error.h"
 #include "flights/plan_reader.h"
-#include "persistence/save_file.h"
 #include "shell/application_folder.h"
 #include "strings/string_table.h"
 #include "tools/fly/options.h"
 #include "tools/fly/picture_output.h"
 #include "tools/output/output_file.h"
+#include "tools/output/tool_run.h"
 
 #include <iostream>
 #include <optional>
@@ -18,8 +17,6 @@
 namespace {
 
 using namespace tarnel;
-
-enum ExitStatus { done = 0, planIsWrong = 1, usageIsWrong = 2, outputFailed = 3 };
 
 constexpr auto usage =
     "Usage: tarnel-fly PLAN [--csv FILE] [--session FILE] [--picture FILE]\n"
@@ -72,7 +69,11 @@ void checkOutputs(const FlyOptions& options, const FlightPlan& plan) {
     }
 }
 
-void run(const FlyOptions& options) {
+ExitStatus run(const FlyOptions& options) {
+    if (options.help) {
+        std::cout << usage;
+        return done;
+    }
     const StringTable& texts = options.german ? germanTable() : englishTable();
     const FlightPlan plan = readPlanFile(options.plan);
     checkOutputs(options, plan);
@@ -90,27 +91,11 @@ void run(const FlyOptions& options) {
         std::cerr << flightRemarks(flight);
     else
         std::cout << flightSummary(flight) << std::flush;
+    return done;
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
-    makeFileSizeLimitAnError();
-    try {
-        const FlyOptions options = readOptions({argv + 1, argv + argc});
-        if (options.help)
-            std::cout << usage;
-        else
-            run(options);
-        return done;
-    } catch (const UsageError& error) {
-        std::cerr << "tarnel-fly: " << error.what() << '\n' << usage;
-        return usageIsWrong;
-    } catch (const PlanError& error) {
-        std::cerr << error.what() << '\n';
-        return planIsWrong;
-    } catch (const OutputError& error) {
-        std::cerr << "tarnel-fly: " << error.what() << '\n';
-        return outputFailed;
-    }
+    return runTool("tarnel-fly", usage, [&] { return run(readOptions({argv + 1, argv + argc})); });
 }

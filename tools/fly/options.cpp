@@ -3,6 +3,7 @@
 #include "core/number_text.h"
 #include "flights/flight_plan.h"
 #include "tools/output/output_file.h"
+#include "tools/output/tool_run.h"
 
 namespace tarnel {
 

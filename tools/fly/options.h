@@ -1,17 +1,10 @@
 #pragma once
 
 #include <optional>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
 namespace tarnel {
-
-/// A command line that can't be understood.
-class UsageError : public std::runtime_error {
-  public:
-    using std::runtime_error::runtime_error;
-};
 
 /// What the command line asks for. An output of "-" is standard output.
 struct FlyOptions {
