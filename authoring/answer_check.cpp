@@ -1,9 +1,12 @@
 #include "authoring/answer_check.h"
 
+#include "core/number_text.h"
 #include "exercises/question_draw.h"
 
 #include <algorithm>
+#include <cmath>
 #include <functional>
+#include <optional>
 #include <set>
 
 namespace tarnel {
@@ -20,8 +23,6 @@ class PosedQuestion {
                        ->make(language == Language::german ? germanTable() : englishTable(), draw)),
           record(question.in(language)),
           type(question.kind.type) {
-        constexpr int manyQuestions = 20; // the draw of offers needs at least eight
-        draw.shuffle(manyQuestions);
         exercise->take(record);
     }
 
@@ -38,7 +39,7 @@ class PosedQuestion {
     /// What the student types who knows the answer.
     [[nodiscard]] std::vector<std::string> typed(int row) const;
 
-    QuestionDraw draw{[] { return std::uint32_t{1}; }};
+    QuestionDraw draw = QuestionDraw::ofChoices();
     std::unique_ptr<Exercise> exercise;
     const StudyRecord& record;
     ExerciseType type;
@@ -64,8 +65,16 @@ std::vector<std::string> PosedQuestion::right(int row) const {
     return captions;
 }
 
-bool isNumber(const std::string& text) {
-    return !text.empty() && text.find_first_not_of("0123456789.") == std::string::npos;
+/// Nothing for a text that has more than digits and a point.
+std::optional<double> numberIn(const std::string& text) {
+    return text.find_first_not_of("0123456789.") == std::string::npos ? parseNumber(text)
+                                                                      : std::nullopt;
+}
+
+/// Neither a direction to a multiple of 5 nor a text without a number.
+bool isOdd(const std::string& text) {
+    const auto number = numberIn(text);
+    return number && std::remainder(*number, 5) != 0;
 }
 
 void checkDistinct(const std::vector<std::string>& offers, const std::string& right,
@@ -75,9 +84,9 @@ void checkDistinct(const std::vector<std::string>& offers, const std::string& ri
     for (const std::string& offer : offers) {
         if (!offer.empty() && !seen.insert(offer).second)
             return wrong(" offers \"" + offer + "\" twice");
-        roundOnes = roundOnes && (offer == right || (isNumber(offer) && std::stoi(offer) % 5 == 0));
+        roundOnes = roundOnes && (offer == right || (numberIn(offer) && !isOdd(offer)));
     }
-    if (roundOnes && isNumber(right) && std::stoi(right) % 5 != 0)
+    if (roundOnes && isOdd(right))
         wrong(" offers \"" + right + "\" alone that is no multiple of 5, which tells the answer");
 }
 
@@ -108,7 +117,7 @@ void checkTexts(const BuiltQuestion& question, SourceFindings& findings) {
                 question.finding((left.empty() ? "a German text is missing for \"" + right
                                                : "an English text is missing for \"" + left) +
                                  "\""));
-        else if ((isNumber(left) || isNumber(right)) && left != right)
+        else if ((numberIn(left) || numberIn(right)) && left != right)
             findings.push_back(question.finding(
                 std::string("the answer is \"").append(left).append("\" in German and \"") + right +
                 "\" in English"));
@@ -121,8 +130,7 @@ constexpr std::pair<const char*, StudyColumn> answerColumns[] = {
 
 /// A direction may be written with fewer digits.
 bool isSame(const std::string& expected, const std::string& found) {
-    return expected == found ||
-           (isNumber(expected) && isNumber(found) && std::stod(expected) == std::stod(found));
+    return expected == found || (numberIn(expected) && numberIn(expected) == numberIn(found));
 }
 
 /// What the exercise takes as right in a column of the record; a holding works out its own.

@@ -1,7 +1,10 @@
 #include "authoring/comment_claims.h"
 
+#include "core/number_text.h"
+
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <regex>
 #include <string_view>
 #include <utility>
@@ -33,6 +36,11 @@ constexpr Wording wordings[] = {
     {ClaimKind::heading, R"(\b(?:heading|HDG|steuerkurs) (\d{3})\b)", 1},
 };
 
+/// More digits than a number has are endless.
+double numberOf(const std::string& digits) {
+    return parseNumber(digits).value_or(std::numeric_limits<double>::infinity());
+}
+
 double valueOf(std::string text) {
     constexpr std::pair<std::string_view, double> counts[] = {{"one", 1},  {"two", 2}, {"three", 3},
                                                               {"four", 4}, {"ein", 1}, {"zwei", 2},
@@ -43,7 +51,7 @@ double valueOf(std::string text) {
     for (const auto& [word, count] : counts)
         if (text.starts_with(word))
             return count;
-    return std::stod(text);
+    return numberOf(text);
 }
 
 bool isMeantToCome(const std::string& before) {
@@ -79,7 +87,7 @@ Token numberAt(const std::string& text, std::size_t at) {
     token.decimals = static_cast<int>(found[3].length());
     token.direction = !found[2].matched && !found[3].matched && found[1].length() == 3;
     token.value =
-        found[2].matched ? std::stod(found[1]) * 60 + std::stod(found[2]) : valueOf(found.str());
+        found[2].matched ? numberOf(found[1]) * 60 + numberOf(found[2]) : valueOf(found.str());
     return token;
 }
 
@@ -175,7 +183,7 @@ std::vector<Claim> claimsIn(const std::string& comment) {
                 continue;
             double value = valueOf((*found)[1]) * wording.unit;
             if (found->size() > 2)
-                value += std::stod((*found)[2]);
+                value += numberOf((*found)[2]);
             claims.push_back({wording.kind, value, found->str()});
         }
     }

@@ -1,6 +1,7 @@
 #include "authoring/course_source.h"
 
 #include "authoring/table_values.h"
+#include "exercises/study_file.h"
 #include "flights/plan_bounds.h"
 
 namespace tarnel {
@@ -52,6 +53,8 @@ CourseSource readCourse(std::string_view text, const std::string& file, const Ch
     course.chart = readChartOf(root, file, charts);
     for (const PlanTable& table : root.parts("situation"))
         course.situations.push_back(readSituation(table, course, charts));
+    if (course.situations.size() > maxStudyRecords)
+        root.refuse("at most " + std::to_string(maxStudyRecords) + " situations");
     root.refuseOtherKeys();
     return course;
 }

@@ -1,5 +1,6 @@
 #include "authoring/pilot.h"
 
+#include "core/comments.h"
 #include "core/number_text.h"
 #include "core/wind_turn.h"
 
@@ -75,6 +76,8 @@ double Pilot::dme(Slot station) const {
 }
 
 void Pilot::say(const LocalText& text) {
+    if (comments.size() == Comments::count)
+        throw LostPilot("at most " + std::to_string(Comments::count) + " comments");
     flight.apply({.comment = text.german});
     comments.push_back({flownRows.size() - 1, text});
 }

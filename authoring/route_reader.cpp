@@ -183,7 +183,7 @@ Route readRoute(std::string_view text, const std::string& file, const ChartShelf
     Route route;
     route.file = file;
     root.need("flight");
-    route.name = *root.text("flight", isFileStem, "a name without '/'");
+    route.name = *root.text("flight", isFileStem, "a name of at most 200 letters without '/'");
     route.chart = readChartOf(root, file, charts);
     root.need("start");
     route.start = readStart(root.part("start"), route.chart);
@@ -192,6 +192,8 @@ Route readRoute(std::string_view text, const std::string& file, const ChartShelf
     const LegReader legs(route.chart);
     for (const PlanTable& table : root.parts("leg"))
         route.legs.push_back(legs.read(table));
+    if (route.legs.empty())
+        root.refuse("a [[leg]] that is flown");
     root.refuseOtherKeys();
     return route;
 }

@@ -1,8 +1,11 @@
 #include "authoring/table_values.h"
 
+#include "core/number_text.h"
 #include "core/run_time_error.h"
+#include "flights/flight_plan.h"
 #include "flights/plan_error.h"
 #include "flights/plan_reader.h"
+#include "persistence/text_encoding.h"
 #include "strings/cause_text.h"
 #include "strings/string_table.h"
 
@@ -26,10 +29,14 @@ std::optional<std::string> readWord(PlanTable& table, std::string_view key,
 LocalText readBothLanguages(PlanTable& table, std::string_view germanKey,
                             std::string_view englishKey) {
     const auto oneLine = [](const std::string& text) {
-        return !text.empty() && text.find_first_of("\r\n") == std::string::npos;
+        return !text.empty() && text.find_first_of("\r\n") == std::string::npos &&
+               characterCount(text) <= plan_limits::commentLength;
     };
-    const auto german = table.text(germanKey, oneLine, "one line of text");
-    const auto english = table.text(englishKey, oneLine, "one line of text");
+    const std::string expected = "one line of text of at most " +
+                                 numberText(std::int64_t{plan_limits::commentLength}) +
+                                 " characters";
+    const auto german = table.text(germanKey, oneLine, expected);
+    const auto english = table.text(englishKey, oneLine, expected);
     table.needBothOrNone(germanKey, englishKey);
     return {german.value_or(""), english.value_or("")};
 }
@@ -47,8 +54,10 @@ bool readSense(PlanTable& table) {
 }
 
 bool isFileStem(const std::string& text) {
-    return !text.empty() && text.front() != '.' && text.find('/') == std::string::npos &&
-           text.find('\\') == std::string::npos;
+    constexpr std::size_t longest = 200; // bytes; file systems take 255, with a prefix and an end
+    const auto fits = [](unsigned char c) { return c >= ' ' && c != '/' && c != '\\'; };
+    return !text.empty() && text.size() <= longest && text.front() != '.' &&
+           std::all_of(text.begin(), text.end(), fits);
 }
 
 AuthoredChart readChartOf(PlanTable& root, const std::string& file, const ChartShelf& charts) {

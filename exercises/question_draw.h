@@ -20,6 +20,13 @@ using SeedSource = std::function<std::uint32_t()>;
 class QuestionDraw {
   public:
     explicit QuestionDraw(SeedSource seedSource) : seed(std::move(seedSource)) {}
+    /// A draw for single questions, of which nothing but the choices is drawn by chance.
+    [[nodiscard]] static QuestionDraw ofChoices() {
+        constexpr int manyQuestions = 20;
+        QuestionDraw draw([] { return std::uint32_t{1}; });
+        draw.shuffle(manyQuestions);
+        return draw;
+    }
 
     /// Puts the records 0 to `lastQuestion` into an order. `lastQuestion` itself never comes up,
     /// except alone; the last place, for which nothing is left, repeats a record.
