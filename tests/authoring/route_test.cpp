@@ -31,6 +31,36 @@ TEST(Route, HomesInWindAndTellsWhereItTurns) {
                                      testing::MatchesRegex("[0-9.]+")));
 }
 
+/// The last thing said on a flight over the default chart.
+LocalText lastWord(const std::string& start, const std::string& legs) {
+    const Route route = readRoute("flight = \"x\"\nchart = \"default\"\nstart = { " + start +
+                                      " }\nleg = [ " + legs + " ]",
+                                  "x.toml", ChartShelf({TARNEL_DATA_FOLDER}));
+    ScriptedFlight flight(route.start, englishTable(), TARNEL_DATA_FOLDER);
+    Pilot pilot(flight, route.chart);
+    for (const RouteLeg& leg : route.legs)
+        flyLeg(pilot, leg);
+    return pilot.said().back().text;
+}
+
+TEST(Route, PutsTheReadingOfTheMomentInPlaceOfAMark) {
+    // A minute on heading 240 at 120 knots, from 10 NM east of the station, 6,000 ft up.
+    const std::string marks = "{heading} {clock} {radial:MUN} {qdm:MUN} {relative:MUN} "
+                              "{distance:MUN} {dme:MUN} {";
+    const LocalText read = lastWord(R"(station = "MUN", radial = 90, distance = 10, heading = 240)",
+                                    R"({ fly = "straight", seconds = 60, stopwatch = true },
+                    { fly = "straight", seconds = 1, de = ")" +
+                                        marks + R"(", en = ")" + marks + R"(" })");
+    EXPECT_EQ(read.german, "240 1:00 097 277 037 8,3 8,4 {");
+    EXPECT_EQ(read.english, "240 1:00 097 277 037 8.3 8.4 {");
+    // 5.2 NM south of the station a turn through 90 degrees takes 0.65 NM.
+    const LocalText turn =
+        lastWord(R"(station = "MUN", radial = 150, distance = 6, heading = 270)",
+                 R"({ fly = "intercept", station = "MUN", course = 360, angle = 90, )"
+                 R"(de_turn = "{lead} {radial:MUN}", en_turn = "{lead} {radial:MUN}" })");
+    EXPECT_EQ(turn.english, "7 173");
+}
+
 TEST(Route, TurnsAtOnceWhereTheTurnIsOverdue) {
     const BuiltCourse built = buildFlight(readRoute(R"(flight = "x"
 chart = "default"
