@@ -3,6 +3,7 @@
 #include "tools/course/sheets.h"
 #include "tools/output/output_file.h"
 #include "window/widgets/dressing.h"
+#include "window/widgets/text_of.h"
 
 #include <QApplication>
 
@@ -20,11 +21,11 @@ void printCourse(const CourseSource& source, Language language,
     const StringTable& texts = language == Language::german ? germanTable() : englishTable();
     dressApplication(texts, QString::fromStdString(applicationFolder));
     const ExerciseKind& exercise = *exerciseOf(static_cast<int>(source.kind->type));
-    const std::string title(texts[exercise.title]);
+    const SheetStyle style{textOf(texts, exercise.title), language,
+                           QString::fromStdString(applicationFolder)};
     OutputFile output(file);
-    output.write(sheets(QString::fromStdString(title),
-                        printedQuestions(source, language, applicationFolder), language)
-                     .toStdString());
+    output.write(
+        sheets(style, printedQuestions(source, language, applicationFolder)).toStdString());
     output.close();
 }
 

@@ -1,9 +1,10 @@
 #include "tools/course/printed_question.h"
 
+#include "chart/chart_framing.h"
 #include "exercises/exercise_catalogue.h"
 #include "flights/plan_error.h"
 #include "window/chart/chart_painter.h"
-#include "window/dials/instrument_painter.h"
+#include "window/widgets/text_of.h"
 
 #include <QPainter>
 
@@ -11,39 +12,14 @@ namespace tarnel {
 
 namespace {
 
-constexpr int dialPixels = 520;
-constexpr int chartPixels = 920;
-constexpr double chartSide = 460; ///< logical pixels, for which its lettering is made
-
-/// Paints what a trainer shows, without a window.
-class TrainerPictures {
-  public:
-    TrainerPictures(const StringTable& table, const std::string& applicationFolder)
-        : texts(table), pictures(QString::fromStdString(applicationFolder)), dials(pictures) {}
-
-    [[nodiscard]] QImage dial(const UserControl_1& instrument) {
-        QImage image(dialPixels, dialPixels, QImage::Format_RGB32);
-        image.fill(Qt::white);
-        QPainter painter(&image);
-        painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-        dials.paint(painter, instrument.picture, dialPixels);
-        return image;
-    }
-    [[nodiscard]] QImage chart(const UserControl2& simulation) const {
-        constexpr double ratio = chartPixels / chartSide;
-        QImage image(chartPixels, chartPixels, QImage::Format_RGB32);
-        image.setDevicePixelRatio(ratio);
-        QPainter painter(&image);
-        painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-        ChartPainter(simulation, texts).paint(painter, chartSide, ratio);
-        return image;
-    }
-
-  private:
-    const StringTable& texts;
-    PictureStore pictures;
-    InstrumentPainter dials;
-};
+/// The chart of a trainer as lines and areas.
+QPicture chartOf(const UserControl2& simulation, const StringTable& texts, double side) {
+    constexpr double finely = 8; // places of lettering in a unit
+    QPicture picture;
+    QPainter painter(&picture);
+    ChartPainter(simulation, texts, ChartMedium::sheet).paint(painter, side, finely);
+    return picture;
+}
 
 void showAircraft(ScriptedFlight& flight, bool shown) {
     UserControl2& simulation = flight.form().UserControl11;
@@ -51,12 +27,16 @@ void showAircraft(ScriptedFlight& flight, bool shown) {
     simulation.c_TraceEN = static_cast<std::int16_t>(shown ? 1 : 0);
 }
 
-std::vector<GeoPosition> placesOf(const std::vector<FlightRow>& rows) {
-    std::vector<GeoPosition> places;
-    places.reserve(rows.size());
+/// Shows a flight and what the question speaks of, as large as it fits.
+void frameFlight(UserControl2& simulation, const std::vector<FlightRow>& rows,
+                 const std::vector<GeoPosition>& stations) {
+    std::vector<FramedPlace> places;
     for (const FlightRow& row : rows)
-        places.push_back({row.latitude, row.longitude});
-    return places;
+        places.push_back({{row.latitude, row.longitude}, framedAircraftRoom});
+    for (const GeoPosition& station : stations)
+        places.push_back({station, framedAircraftRoom});
+    const ChartFraming framing = framingOf(places, simulation.picture.size);
+    simulation.showChart(framing.centre, framing.scale);
 }
 
 /// Two ways are stored with a plus around each.
@@ -66,13 +46,29 @@ QString asPrinted(const std::string& solution) {
                                 : text;
 }
 
-std::vector<PrintedQuestion::Row> rowsOf(const Exercise& exercise, const StringTable& texts) {
+/// What the exercise takes as right, in the words that it offers if that is all there is to it.
+QString solutionOf(const Exercise& exercise, int row, bool numbered) {
+    QStringList right;
+    const std::vector<std::string> offers = exercise.offers(row);
+    for (std::size_t i = 0; i < offers.size() && !numbered; ++i)
+        if (exercise.isRight({row, static_cast<int>(i), {}}))
+            right << QString::fromStdString(offers[i]);
+    return right.isEmpty() ? asPrinted(exercise.solution(row)) : right.join(QStringLiteral(" / "));
+}
+
+std::vector<PrintedQuestion::Row> rowsOf(const Exercise& exercise, PanelId panel,
+                                         const StringTable& texts) {
+    const auto& widgets = panelWidgets()[static_cast<std::size_t>(panel)].rows;
     std::vector<PrintedQuestion::Row> rows;
     for (int i = 0; i < exercise.rowCount(); ++i) {
-        PrintedQuestion::Row row{
-            QString::fromStdString(exercise.prompt(i)), {}, asPrinted(exercise.solution(i))};
+        const RowWidgets& asked = widgets[static_cast<std::size_t>(i)];
+        PrintedQuestion::Row row;
+        row.prompt = QString::fromStdString(exercise.prompt(i));
+        row.solution = solutionOf(exercise, i, !asked.entries.empty());
+        for (const EntryWidgets& entry : asked.entries)
+            row.units << textOf(texts, entry.unit);
         for (const std::string& offer : exercise.offers(i))
-            if (!offer.empty() && offer != texts[Text::pleaseSelect])
+            if (!offer.empty() && offer != texts[Text::pleaseSelect] && offer != texts[Text::ok])
                 row.offers << QString::fromStdString(offer);
         rows.push_back(std::move(row));
     }
@@ -87,58 +83,62 @@ class Printing {
           language(in),
           texts(in == Language::german ? germanTable() : englishTable()),
           data(folder),
-          pictures(texts, folder),
-          kind(*exerciseOf(static_cast<int>(printed.kind->type))),
-          draw([] { return std::uint32_t{1}; }) {
-        draw.shuffle(static_cast<int>(printed.situations.size()) - 1);
-    }
+          kind(*exerciseOf(static_cast<int>(printed.kind->type))) {}
 
     [[nodiscard]] PrintedQuestion take(const Situation& situation);
 
   private:
+    /// The stations that a question speaks of.
+    [[nodiscard]] std::vector<GeoPosition> stationsOf(const Situation& situation) const {
+        const AuthoredChart& chart = source.chartOf(situation);
+        std::vector<GeoPosition> stations{chart.position(situation.station)};
+        if (kind.askedOnChart)
+            stations.push_back(chart.position(situation.other));
+        return stations;
+    }
+
     const CourseSource& source;
     Language language;
     const StringTable& texts;
     const std::string& data;
-    TrainerPictures pictures;
     const ExerciseKind& kind;
-    QuestionDraw draw;
+    QuestionDraw draw = QuestionDraw::ofChoices();
 };
 
 PrintedQuestion Printing::take(const Situation& situation) {
-    FlightPlan plan = source.questions->start(situation, source.chart);
+    FlightPlan plan = source.questions->start(situation, source.chartOf(situation));
     plan.file = source.file;
     plan.chartLine = situation.line;
     ScriptedFlight flight(std::move(plan), texts, data);
     Form1& form = flight.form();
-    Pilot pilot(flight, source.chart);
+    Pilot pilot(flight, source.chartOf(situation));
     PrintedQuestion question;
     while (pilot.rows().size() <= FlownSituation::askedTick)
         pilot.step();
     if (!kind.askedOnChart) {
-        question.left = pictures.dial(form.inst2.instrument);
-        question.right = pictures.dial(form.inst3.instrument);
+        question.left = form.inst2.instrument.picture;
+        question.right = form.inst3.instrument.picture;
     }
     showAircraft(flight, kind.askedOnChart);
-    const auto place = placesOf({pilot.now()});
-    form.UserControl11.frameStations(kind.askedOnChart ? place : std::vector<GeoPosition>{});
-    question.chart = pictures.chart(form.UserControl11);
+    const GeoPosition asked{pilot.now().latitude, pilot.now().longitude};
+    form.UserControl11.frameStations(kind.askedOnChart ? std::vector{asked}
+                                                       : std::vector<GeoPosition>{});
+    question.chart = chartOf(form.UserControl11, texts, PrintedQuestion::chartUnits);
     showAircraft(flight, true);
     try {
         source.questions->solve(pilot, situation);
     } catch (const LostPilot& lost) {
         throw PlanError(source.file, situation.line, lost.what());
     }
-    const auto places = placesOf(pilot.rows());
-    form.UserControl11.frameStations(places);
-    question.flown = pictures.chart(form.UserControl11);
+    frameFlight(form.UserControl11, pilot.rows(), stationsOf(situation));
+    question.flown = chartOf(form.UserControl11, texts, PrintedQuestion::solutionUnits);
 
     const auto exercise = kind.make(texts, draw);
-    exercise->take(
-        source.questions->ask({situation, source.chart, pilot.rows(), pilot.said(), {}}, language));
-    question.task = QString::fromStdString(exercise->task());
+    exercise->take(source.questions->ask(
+        {situation, source.chartOf(situation), pilot.rows(), pilot.said(), {}}, language));
+    question.task = QString::fromStdString(exercise->task()).simplified();
     question.known = QString::fromStdString(exercise->known());
-    question.rows = rowsOf(*exercise, texts);
+    question.rows = rowsOf(*exercise, kind.panel, texts);
     return question;
 }
 

@@ -2,11 +2,13 @@
 
 #include "authoring/course_source.h"
 #include "authoring/local_text.h"
+#include "instruments/instrument_picture.h"
 
-#include <QImage>
+#include <QPicture>
 #include <QString>
 #include <QStringList>
 
+#include <optional>
 #include <vector>
 
 namespace tarnel {
@@ -15,17 +17,22 @@ namespace tarnel {
 struct PrintedQuestion {
     struct Row {
         QString prompt;
-        QStringList offers; ///< none where a number is to be written
+        QStringList offers; ///< none where the answer is to be written
+        QStringList units;  ///< of the numbers to be written, beside an offer or alone
         QString solution;
     };
 
     QString task;
     QString known; ///< what is known besides the task
     std::vector<Row> rows;
-    QImage left; ///< the dials; null where the chart alone is asked
-    QImage right;
-    QImage chart;
-    QImage flown; ///< the chart with the solution
+    std::optional<InstrumentPicture> left; ///< the dials; none where the chart alone is asked
+    std::optional<InstrumentPicture> right;
+    QPicture chart; ///< `chartUnits` wide and high
+    QPicture flown; ///< the chart with the solution, `solutionUnits` wide and high
+
+    // For these the lettering of charts is made.
+    static constexpr double chartUnits = 460;
+    static constexpr double solutionUnits = 300;
 };
 
 /// Flies every situation of a course and takes its question down. Throws PlanError for a solution

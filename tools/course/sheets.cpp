@@ -1,10 +1,13 @@
 #include "tools/course/sheets.h"
 
 #include "authoring/wording.h"
+#include "window/dials/instrument_painter.h"
 
 #include <QBuffer>
 #include <QPainter>
 #include <QPdfWriter>
+
+#include <algorithm>
 
 namespace tarnel {
 
@@ -15,6 +18,7 @@ constexpr double pageWidth = 174;
 constexpr double pageHeight = 261;
 constexpr double dialSide = 66;
 constexpr double chartSide = 100;
+constexpr double chartAlone = 2 * dialSide + 3; ///< where no dials stand beside it
 constexpr double lineHeight = 6;
 constexpr int solutionsOnPage = 4;
 
@@ -32,9 +36,21 @@ class Page {
         painter.drawText(QRectF(x * scale, y * scale, width * scale, pageHeight * scale),
                          alignment | Qt::TextWordWrap, words);
     }
-    void image(double x, double y, double side, const QImage& picture) {
-        painter.drawImage(QRectF(x * scale, y * scale, side * scale, side * scale), picture,
-                          QRectF(QPointF(0, 0), QSizeF(picture.size())));
+    void chart(double x, double y, double side, const QPicture& picture, double units) {
+        painter.save();
+        painter.translate(x * scale, y * scale);
+        // A picture is drawn in the size that it has on paper, whatever its own resolution.
+        const double dots = double(painter.device()->logicalDpiX()) / picture.logicalDpiX();
+        const double size = side * scale / units / dots;
+        painter.scale(size, size);
+        painter.drawPicture(0, 0, picture);
+        painter.restore();
+    }
+    void dial(double x, double y, const InstrumentPicture& picture, InstrumentPainter& dials) {
+        painter.save();
+        painter.translate(x * scale, y * scale);
+        dials.paint(painter, picture, dialSide * scale);
+        painter.restore();
     }
     void box(double x, double y) {
         painter.setPen(QPen(Qt::black, 0.25 * scale));
@@ -54,12 +70,13 @@ class Page {
 /// Sets the sheets of a course.
 class Sheets {
   public:
-    Sheets(QPdfWriter& file, const QString& heading, Language in)
+    Sheets(QPdfWriter& file, const SheetStyle& look)
         : writer(file),
           painter(&file),
           page(painter, file.resolution() / 25.4),
-          title(heading),
-          language(in) {}
+          style(look),
+          pictures(look.pictures),
+          dials(pictures) {}
 
     void question(const PrintedQuestion& asked, int number, int count);
     void solutions(const std::vector<PrintedQuestion>& questions);
@@ -69,32 +86,34 @@ class Sheets {
         if (begun)
             writer.newPage();
         begun = true;
-        page.text(0, 0, pageWidth, title, 12, true);
+        page.text(0, 0, pageWidth, style.title, 12, true);
         page.text(0, 0, pageWidth, right, 11, false, Qt::AlignRight);
         page.rule(7);
     }
     [[nodiscard]] QString words(Phrase phrase, std::initializer_list<LocalText> values = {}) const {
-        return QString::fromStdString(worded(phrase, values).in(language));
+        return QString::fromStdString(worded(phrase, values).in(style.language));
     }
-    void offers(const QStringList& texts, double y);
+    void answers(const PrintedQuestion::Row& row, double y);
     void solution(const PrintedQuestion& asked, int number, double y);
 
     QPdfWriter& writer;
     QPainter painter;
     Page page;
-    QString title;
-    Language language;
+    const SheetStyle& style;
+    PictureStore pictures;
+    InstrumentPainter dials;
     bool begun = false;
 };
 
 void Sheets::question(const PrintedQuestion& asked, int number, int count) {
     head(words(Phrase::sheetQuestion, {tarnel::number(number), tarnel::number(count)}));
     double y = 12;
-    if (!asked.left.isNull()) {
-        page.image(0, y, dialSide, asked.left);
-        page.image(0, y + dialSide + 3, dialSide, asked.right);
+    if (asked.left && asked.right) {
+        page.dial(0, y, *asked.left, dials);
+        page.dial(0, y + dialSide + 3, *asked.right, dials);
     }
-    page.image(pageWidth - chartSide, y, chartSide, asked.chart);
+    const double side = asked.left ? chartSide : chartAlone;
+    page.chart(pageWidth - side, y, side, asked.chart, PrintedQuestion::chartUnits);
     y += 2 * dialSide + 9;
     for (const QString& line : {asked.task, asked.known}) {
         if (line.isEmpty())
@@ -105,23 +124,30 @@ void Sheets::question(const PrintedQuestion& asked, int number, int count) {
     for (const PrintedQuestion::Row& row : asked.rows) {
         page.text(0, y, pageWidth, row.prompt, 11, false);
         y += lineHeight;
-        offers(row.offers, y);
+        answers(row, y);
         y += lineHeight + 4;
     }
 }
 
-/// Boxes to tick for a few offers; a line to write on for a list or a number.
-void Sheets::offers(const QStringList& texts, double y) {
+/// Boxes to tick for a few offers; a line to write on for a number, or a text of a long list.
+void Sheets::answers(const PrintedQuestion::Row& row, double y) {
     constexpr int mostBoxes = 6;
-    if (texts.isEmpty() || texts.size() > mostBoxes) {
-        page.rule(y + lineHeight, 0, 60);
-        return;
-    }
-    const double width = pageWidth / static_cast<double>(texts.size());
+    constexpr double lineWidth = 60;
+    constexpr double numberWidth = 24;
+    const bool ticks = !row.offers.isEmpty() && row.offers.size() <= mostBoxes;
+    const qsizetype parts = (ticks ? row.offers.size() : 0) + row.units.size();
+    if (parts == 0)
+        return page.rule(y + lineHeight, 0, lineWidth);
+    const double width = std::min(pageWidth / static_cast<double>(parts), lineWidth);
     double x = 0;
-    for (const QString& text : texts) {
+    for (const QString& offer : ticks ? row.offers : QStringList{}) {
         page.box(x, y);
-        page.text(x + 5, y, width - 6, text, 11, false);
+        page.text(x + 5, y, width - 6, offer, 11, false);
+        x += width;
+    }
+    for (const QString& unit : row.units) {
+        page.rule(y + lineHeight - 1, x, x + numberWidth);
+        page.text(x + numberWidth + 1, y, width - numberWidth, unit, 11, false);
         x += width;
     }
 }
@@ -138,11 +164,13 @@ void Sheets::solutions(const std::vector<PrintedQuestion>& questions) {
 
 void Sheets::solution(const PrintedQuestion& asked, int number, double y) {
     constexpr double side = 58;
-    page.image(pageWidth - side, y, side, asked.flown);
+    page.chart(pageWidth - side, y, side, asked.flown, PrintedQuestion::solutionUnits);
     page.text(0, y, 10, QString::number(number), 12, true);
     double line = y;
-    if (!asked.task.isEmpty()) {
-        page.text(10, line, pageWidth - side - 14, asked.task, 9, false);
+    QStringList given{asked.task, asked.known};
+    given.removeAll(QString());
+    if (!given.isEmpty()) {
+        page.text(10, line, pageWidth - side - 14, given.join(QStringLiteral("; ")), 9, false);
         line += 2 * lineHeight;
     }
     for (const PrintedQuestion::Row& row : asked.rows) {
@@ -154,8 +182,7 @@ void Sheets::solution(const PrintedQuestion& asked, int number, double y) {
 
 } // namespace
 
-QByteArray sheets(const QString& title, const std::vector<PrintedQuestion>& questions,
-                  Language language) {
+QByteArray sheets(const SheetStyle& style, const std::vector<PrintedQuestion>& questions) {
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
@@ -164,8 +191,8 @@ QByteArray sheets(const QString& title, const std::vector<PrintedQuestion>& ques
         writer.setPageSize(QPageSize(QPageSize::A4));
         writer.setPageMargins(QMarginsF(18, 18, 18, 18), QPageLayout::Millimeter);
         writer.setResolution(300);
-        writer.setTitle(title);
-        Sheets pages(writer, title, language);
+        writer.setTitle(style.title);
+        Sheets pages(writer, style);
         const int count = static_cast<int>(questions.size());
         for (int i = 0; i < count; ++i)
             pages.question(questions[static_cast<std::size_t>(i)], i + 1, count);

@@ -6,9 +6,16 @@
 
 namespace tarnel {
 
-/// A PDF on A4: a page a question, and at the end the solutions, four on a page. `title` stands at
-/// the head of each page.
-[[nodiscard]] QByteArray sheets(const QString& title, const std::vector<PrintedQuestion>& questions,
-                                Language language);
+/// What stands on all sheets of a course.
+struct SheetStyle {
+    QString title; ///< at the head of each page
+    Language language = Language::english;
+    QString pictures; ///< the folder with those of the dials
+};
+
+/// A PDF on A4: a page a question, and at the end the solutions, four on a page. All but the faces
+/// of the dials, which stand in it once, is lines, areas and text.
+[[nodiscard]] QByteArray sheets(const SheetStyle& style,
+                                const std::vector<PrintedQuestion>& questions);
 
 } // namespace tarnel

@@ -3,6 +3,7 @@
 #include "look/look.h"
 
 #include <QPainter>
+#include <QPainterPath>
 
 #include <cmath>
 
@@ -22,6 +23,14 @@ struct PixelPlace {
     int pixel = 0;
     int place = 0;
 };
+
+/// All dots as one path.
+void printDots(QPainter& painter, const ChartFrame& frame, const DotLayer& layer, double diameter) {
+    QPolygonF middles;
+    for (const Dot& dot : layer.all())
+        middles << frame.at({static_cast<double>(dot.x), static_cast<double>(dot.y)});
+    strokeDots(painter, middles, diameter, look::fromSurface(layer.all().front().colour));
+}
 
 } // namespace
 
@@ -51,6 +60,8 @@ void ChartDots::paint(QPainter& painter, const ChartFrame& frame, const DotLayer
     const std::vector<Dot>& dots = layer.all();
     if (dots.empty())
         return;
+    if (frame.medium == ChartMedium::sheet)
+        return printDots(painter, frame, layer, diameter);
     const Look wanted{diameter, frame.pixelRatio, dots.front().colour};
     if (wanted != look)
         makeCells(wanted);
@@ -66,6 +77,17 @@ void ChartDots::paint(QPainter& painter, const ChartFrame& frame, const DotLayer
         painter.drawPixmap(QPointF((x.pixel - middle) * pixel, (y.pixel - middle) * pixel), cells,
                            QRectF(x.place * side, y.place * side, side, side));
     }
+}
+
+void strokeDots(QPainter& painter, const QPolygonF& middles, double diameter,
+                const QColor& colour) {
+    const QPointF hardlyAnything(0.01, 0);
+    QPainterPath path;
+    for (const QPointF& middle : middles) {
+        path.moveTo(middle);
+        path.lineTo(middle + hardlyAnything);
+    }
+    painter.strokePath(path, QPen(colour, diameter, Qt::SolidLine, Qt::RoundCap));
 }
 
 } // namespace tarnel

@@ -4,6 +4,7 @@
 #include "window/chart/chart_frame.h"
 
 #include <QPixmap>
+#include <QPolygonF>
 
 class QPainter;
 
@@ -30,5 +31,8 @@ class ChartDots {
     int side = 0;  ///< of a cell, device pixels
     QPixmap cells; ///< the dot at each place within a pixel
 };
+
+/// Dots as one path, which takes little room in a file.
+void strokeDots(QPainter& painter, const QPolygonF& middles, double diameter, const QColor& colour);
 
 } // namespace tarnel

@@ -4,8 +4,10 @@
 
 namespace tarnel {
 
-ChartFrame::ChartFrame(double paperSide, double paperTwips, double devicePixelRatio)
+ChartFrame::ChartFrame(double paperSide, double paperTwips, double devicePixelRatio,
+                       ChartMedium paintedFor)
     : PaperFrame(paperSide, paperTwips, devicePixelRatio),
+      medium(paintedFor),
       paper(toQt(sheet())),
       nameFont(look::font(look::captionType * textScale, QFont::Bold)),
       frequencyFont(look::font(look::unitType * textScale)),

@@ -7,13 +7,19 @@
 
 namespace tarnel {
 
+/// What a chart is painted for: a screen, with pixmaps that make it quick, or a printed sheet, with
+/// lines, areas and full colours alone, which stay sharp and small.
+enum class ChartMedium { screen, sheet };
+
 /// `ChartFrame`: the paper's frame as the painter takes it, and the fonts of that size.
 struct ChartFrame : PaperFrame {
-    ChartFrame(double paperSide, double paperTwips, double devicePixelRatio);
+    ChartFrame(double paperSide, double paperTwips, double devicePixelRatio,
+               ChartMedium paintedFor = ChartMedium::screen);
 
     [[nodiscard]] QPointF at(Point point) const { return toQt(spot(point)); }
     [[nodiscard]] QLineF along(const Line& line) const { return toQt(stroke(line)); }
 
+    ChartMedium medium;
     QRectF paper;
     QFont nameFont;
     QFont frequencyFont;

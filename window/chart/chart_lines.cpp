@@ -34,10 +34,11 @@ constexpr double airWidth = 1.6;
 constexpr double windWidth = 2;
 constexpr double groundWidth = 2.4;
 
-QLinearGradient fading(const QLineF& along, QColor colour, double strength) {
+QLinearGradient fading(const QLineF& along, QColor colour, double strength, ChartMedium medium) {
+    const auto mixed = medium == ChartMedium::sheet ? look::onPaper : look::faded;
     QLinearGradient gradient(along.p1(), along.p2());
-    gradient.setColorAt(0, look::faded(colour, fillNear * strength));
-    gradient.setColorAt(1, look::faded(colour, fillFar * strength));
+    gradient.setColorAt(0, mixed(colour, fillNear * strength));
+    gradient.setColorAt(1, mixed(colour, fillFar * strength));
     return gradient;
 }
 
@@ -137,9 +138,9 @@ void paintFeather(QPainter& painter, const ChartFrame& frame, const LocalizerLin
     painter.setPen(Qt::NoPen);
     // The lines cover the steps of the unsmoothed fill, which costs a twentieth of a smooth one.
     painter.setRenderHint(QPainter::Antialiasing, false);
-    painter.setBrush(fading(centre, colour, 1));
+    painter.setBrush(fading(centre, colour, 1, frame.medium));
     painter.drawPolygon(QPolygonF{centre.p1(), frame.at(lines.leftEdge.to), centre.p2()});
-    painter.setBrush(fading(centre, colour, paleHalf));
+    painter.setBrush(fading(centre, colour, paleHalf, frame.medium));
     painter.drawPolygon(QPolygonF{centre.p1(), frame.at(lines.rightEdge.to), centre.p2()});
     painter.setRenderHint(QPainter::Antialiasing);
     const QPen pen(look::onPaper(colour, featherOpacity), 1);

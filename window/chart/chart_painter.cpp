@@ -37,8 +37,9 @@ RoomNeeded windRoom(const QFont& font, const QString& text) {
 
 } // namespace
 
-ChartPainter::ChartPainter(const UserControl2& simulation, const StringTable& table)
-    : sim(simulation), texts(table) {}
+ChartPainter::ChartPainter(const UserControl2& simulation, const StringTable& table,
+                           ChartMedium medium)
+    : sim(simulation), texts(table), frame(1, 1, 1, medium) {}
 
 void ChartPainter::paint(QPainter& painter, double side, double devicePixelRatio) {
     fitFrame(side, devicePixelRatio);
@@ -61,7 +62,7 @@ void ChartPainter::paint(QPainter& painter, double side, double devicePixelRatio
 void ChartPainter::fitFrame(double side, double devicePixelRatio) {
     if (frame.fits(side, sim.picture.size, devicePixelRatio))
         return;
-    frame = ChartFrame(side, sim.picture.size, devicePixelRatio);
+    frame = ChartFrame(side, sim.picture.size, devicePixelRatio, frame.medium);
     nameTexts = {};
 }
 

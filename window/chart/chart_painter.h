@@ -22,7 +22,8 @@ namespace tarnel {
 /// made anew for each painting.
 class ChartPainter {
   public:
-    ChartPainter(const UserControl2& simulation, const StringTable& texts);
+    ChartPainter(const UserControl2& simulation, const StringTable& texts,
+                 ChartMedium medium = ChartMedium::screen);
 
     /// Paints the chart on a square of `side` logical pixels.
     void paint(QPainter& painter, double side, double devicePixelRatio);
@@ -60,7 +61,7 @@ class ChartPainter {
 
     const UserControl2& sim;
     const StringTable& texts;
-    ChartFrame frame{1, 1, 1};
+    ChartFrame frame;
     ChartSymbols symbols;
     ChartDots trace;
     ChartDots ahead;

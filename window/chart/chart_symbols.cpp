@@ -1,6 +1,7 @@
 #include "window/chart/chart_symbols.h"
 
 #include "look/look.h"
+#include "window/chart/chart_dots.h"
 
 #include <QPainter>
 #include <QtMath>
@@ -116,19 +117,30 @@ void paintStation(QPainter& painter, QColor colour, Kind kind, SymbolImage image
 }
 
 void paintNdb(QPainter& painter, QColor colour, double scale) {
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(colour);
+    QPolygonF specks;
     for (const SpeckRing& ring : speckRings) {
         for (int i = 0; i < ring.specks; ++i) {
             const double angle = 2 * M_PI * i / ring.specks;
-            painter.drawEllipse(QPointF(std::sin(angle), -std::cos(angle)) * ring.radius * scale,
-                                ndbSpeckRadius * scale, ndbSpeckRadius * scale);
+            specks << QPointF(std::sin(angle), -std::cos(angle)) * ring.radius * scale;
         }
     }
+    strokeDots(painter, specks, 2 * ndbSpeckRadius * scale, colour);
     painter.setPen(QPen(colour, stroke * scale));
     painter.setBrush(look::paper);
     painter.drawEllipse(QPointF(), ndbRingRadius * scale, ndbRingRadius * scale);
     paintDot(painter, colour, ndbDotRadius * scale);
+}
+
+/// Paints the symbol of a slot about the painter's origin.
+void paintSymbol(QPainter& painter, const ChartFrame& frame, std::size_t slot, SymbolImage image,
+                 double rotation) {
+    const QColor colour = look::fromSurface(slotColour(slot));
+    const Kind kind = kindOf(slot);
+    if (kind == Kind::ndb)
+        return paintNdb(painter, colour, frame.symbolScale);
+    if (kind == Kind::vor)
+        paintRose(painter, colour, frame.roseRadius(), frame.symbolScale, rotation);
+    paintStation(painter, colour, kind, image, frame.symbolScale);
 }
 
 QPixmap symbolPixmap(const ChartFrame& frame, std::size_t slot, SymbolImage image,
@@ -143,15 +155,7 @@ QPixmap symbolPixmap(const ChartFrame& frame, std::size_t slot, SymbolImage imag
     painter.setRenderHint(QPainter::Antialiasing);
     const double centre = pixels / frame.pixelRatio / 2;
     painter.translate(centre, centre);
-    const QColor colour = look::fromSurface(slotColour(slot));
-    const Kind kind = kindOf(slot);
-    if (kind == Kind::ndb) {
-        paintNdb(painter, colour, frame.symbolScale);
-        return pixmap;
-    }
-    if (kind == Kind::vor)
-        paintRose(painter, colour, frame.roseRadius(), frame.symbolScale, rotation);
-    paintStation(painter, colour, kind, image, frame.symbolScale);
+    paintSymbol(painter, frame, slot, image, rotation);
     return pixmap;
 }
 
@@ -159,6 +163,13 @@ QPixmap symbolPixmap(const ChartFrame& frame, std::size_t slot, SymbolImage imag
 
 void ChartSymbols::paint(QPainter& painter, const ChartFrame& frame, const StationSymbol& symbol,
                          std::size_t slot, double rotation) {
+    if (frame.medium == ChartMedium::sheet) {
+        painter.save();
+        painter.translate(frame.at(symbol.leader.from));
+        paintSymbol(painter, frame, slot, symbol.image, rotation);
+        painter.restore();
+        return;
+    }
     const double turn = kindOf(slot) == Kind::vor ? std::round(rotation / roseStep) * roseStep : 0;
     const Look wanted{symbol.image, frame.side, frame.pixelRatio, turn};
     Kept& own = kept[slot];

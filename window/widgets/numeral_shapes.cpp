@@ -13,6 +13,8 @@ namespace {
 
 constexpr double pointTwips = 20;
 constexpr double outlineEm = 100;  ///< large, since outlines are hinted to whole pixels
+/// Smaller, as two outlines are united to half a unit or so: an edge needs no more points.
+constexpr double edgeEm = 30;
 constexpr double edgeShare = 0.09; ///< of an em, around a numeral
 constexpr double cardinalWeight =
     look::card_share::cardinalHeight / look::card_share::numeralHeight;
@@ -38,11 +40,14 @@ const TurnedNumeral& NumeralShapes::outline(const std::string& caption) {
     const QPointF middle = path.boundingRect().center();
     QTransform toOneEm = QTransform::fromScale(1 / outlineEm, 1 / outlineEm);
     toOneEm.translate(-middle.x(), -middle.y());
+    const QPainterPath body = toOneEm.map(path);
+    const QTransform toEdgeEm = QTransform::fromScale(edgeEm, edgeEm);
+    const QPainterPath inside = toEdgeEm.map(body);
     QPainterPathStroker stroker;
-    stroker.setWidth(2 * edgeShare * outlineEm);
+    stroker.setWidth(2 * edgeShare * edgeEm);
     stroker.setJoinStyle(Qt::RoundJoin);
-    const QPainterPath edge = stroker.createStroke(path).united(path);
-    return outlines[caption] = {toOneEm.map(path), toOneEm.map(edge)};
+    const QPainterPath edge = stroker.createStroke(inside).united(inside);
+    return outlines[caption] = {body, toEdgeEm.inverted().map(edge)};
 }
 
 TurnedNumeral NumeralShapes::turned(const Label& numeral, double size, double scale) {
