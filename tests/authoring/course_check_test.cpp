@@ -285,6 +285,11 @@ TEST(CourseCheck, LetsSolutionsSayWhatIsSo) {
         for (const auto& [comment, words] : comments)
             EXPECT_THAT(flown.pilot.said().at(comment).text.english, testing::HasSubstr(words));
     }
+    for (const auto& [degrees, words] :
+         {std::pair(1, "1 degree before"), {21, "21 degrees before"}})
+        EXPECT_THAT(
+            worded(Phrase::interceptLead, {same("QDM"), same("090"), number(degrees)}).english,
+            testing::StartsWith(words));
 }
 
 TEST(CourseCheck, CountsTheQuestions) {

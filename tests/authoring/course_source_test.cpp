@@ -1,8 +1,10 @@
 #include "authoring/chart_source.h"
 #include "authoring/course_source.h"
 #include "flights/plan_error.h"
+#include "persistence/session_file.h"
 
 #include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include <filesystem>
 #include <fstream>
@@ -20,7 +22,7 @@ TEST(CourseSource, LetsASituationNameItsOwnChartAndABeaconBeCalledAsAVor) {
     for (const BuiltFile& file : buildCharts(text, "charts.toml"))
         std::ofstream(folder / std::filesystem::path(file.path).filename()) << file.bytes;
 
-    const std::string place = "radial = 180, distance = 5, heading = 90 },\n";
+    const std::string place = "radial = 180, distance = 5, heading = 270 },\n";
     const CourseSource course =
         readCourse("exercise = \"adfpos\"\nchart = \"eddk\"\nsituation = [\n"
                    "{ station = \"LJ\", " +
@@ -49,6 +51,10 @@ TEST(CourseSource, LetsASituationNameItsOwnChartAndABeaconBeCalledAsAVor) {
         EXPECT_THAT(error.what(),
                     testing::AllOf(testing::HasSubstr("x.toml:4"), testing::HasSubstr("VOR GRZ")));
     }
+    const BuiltFile other = buildCourse(course, TARNEL_DATA_FOLDER).files.at(3);
+    EXPECT_THAT(readSession(other.bytes).comments.front(),
+                testing::HasSubstr("QDR: 000 + 180 = 180"))
+        << other.path;
 }
 
 } // namespace

@@ -4,6 +4,9 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+#include <cmath>
+
 namespace tarnel {
 namespace {
 
@@ -18,12 +21,19 @@ leg = [
 ])";
 
 TEST(Route, HomesInWindAndTellsWhereItTurns) {
-    const BuiltCourse built = buildFlight(
-        readRoute(flightInWind, "x.toml", ChartShelf({TARNEL_DATA_FOLDER})), TARNEL_DATA_FOLDER);
+    const Route route = readRoute(flightInWind, "x.toml", ChartShelf({TARNEL_DATA_FOLDER}));
+    const BuiltCourse built = buildFlight(route, TARNEL_DATA_FOLDER);
     EXPECT_THAT(built.findings, testing::IsEmpty());
     ASSERT_EQ(built.files.size(), 2U);
     const SessionFile session = readSession(built.files.back().bytes);
     EXPECT_EQ(session.mapCenterSelect, 5); // where it begins and ends lies to both sides of MNE
+    const GeoPosition centre = route.chart.position(*route.chart.slotOf("MNE"));
+    double reach = 0; // NM to either side
+    for (const Sample& sample : session.samples)
+        reach = std::max({reach, std::abs(sample.traceLat - centre.latitude) * 60,
+                          std::abs(sample.traceLon - centre.longitude) * 60 * 0.664});
+    EXPECT_NEAR(2 * reach * session.mapScaleTwips.value(), 0.8 * 6810, 120)
+        << "four fifths of the paper";
     // Homing turns into the wind from 340; a course held straight would have led there on 070.
     EXPECT_THAT(session.comments,
                 testing::ElementsAre("there", testing::MatchesRegex("0[0-3][0-9]"), "a",
