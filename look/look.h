@@ -58,6 +58,7 @@ inline constexpr QColor secondaryInk = rgb(0x55606B);
 inline constexpr QColor accent = rgb(0x1B5FAA);
 inline constexpr QColor right = rgb(0x1A7440);
 inline constexpr QColor wrong = rgb(0xB3261E);
+inline constexpr QColor exceeded = rgb(0xB05A00); ///< worse than before, outside a limit
 inline constexpr QColor solution = rgb(0x006080);
 
 // Dark panel: gradients from top to bottom.

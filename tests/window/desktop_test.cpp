@@ -47,9 +47,10 @@ TEST_F(MenuTest, FilesAndExercisesRestInFlightAndInAnExercise) {
     for (const char* name :
          {"mnuNewSession", "mnuSaveChartAs", "qdm", "adf10", "intro2", "resstats"})
         EXPECT_FALSE(item(name).isEnabled()) << name;
-    for (const char* name : {"mnuOption", "adfrmi", "adfvorprac", "vorprac", "intromain"})
+    for (const char* name : {"adfrmi", "adfvorprac", "vorprac", "intromain"})
         EXPECT_FALSE(opens(name)) << name;
-    EXPECT_TRUE(opens("mnufile"));
+    EXPECT_TRUE(opens("mnufile") &&
+                opens("mnuOption")); // the flight pauses for what they have left
     item("pdf31").trigger();
     EXPECT_THAT(world.boxes, testing::ElementsAre(testing::HasSubstr("book was not found")));
     EXPECT_TRUE(form->flight.flies());

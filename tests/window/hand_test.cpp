@@ -60,6 +60,7 @@ class HandStudent : public Student {
                   {"latitude", told(form->UserControl11.aircraft.aircraftLat)},
                   {"centre", told(toPlain(form->UserControl11.view.mapCenter).latitude)},
                   {"open", told(window->isVisible())},
+                  {"progress", told(window->findChild<QWidget*>("Progress") != nullptr)},
                   {"box", world.boxes.empty() ? "" : world.boxes.back()},
                   {"opened", world.opened.empty() ? "" : world.opened.back()},
                   {"asked", world.asked.empty() ? "" : world.asked.back()}};
@@ -197,7 +198,7 @@ TEST_F(HandStudent, EveryItemOfTheMenusDoesWhatItIsNamedFor) {
         "placed/mnuUndo/mnuRedo latitude=48.36 editChart c_mapedit=1 adfpos exercise=5 "
         "qdm exercise=6 qdr exercise=7 hsipos2 exercise=1 mnuAltitude large=01 hldhsi exercise=3 "
         "dmearcs exercise=9 stdvor exercise=2 wind exercise=8 hlddg exercise=4 "
-        "qdnorient exercise=10 resstats asked=exercises "
+        "qdnorient exercise=10 resstats asked=exercises mnuProgress progress=1 "
         "intro1 c_SessionFileName=e-introduction1.ts intro2 c_SessionFileName=e-introduction2.ts "
         "bookStart opened=buch_en.pdf0 pdf31 opened=buch_en.pdf30 "
         "bookAbbreviations opened=buch_en.pdf250 bookIndex opened=buch_en.pdf251 "

@@ -12,6 +12,7 @@
 #include "window/frame/instrument_panel.h"
 #include "window/frame/menu_tree.h"
 #include "window/frame/status_panels.h"
+#include "window/progress/progress_page.h"
 #include "window/quiz/quiz_panel.h"
 #include "window/strip/control_strip.h"
 #include "window/widgets/style_sheet.h"
@@ -127,7 +128,29 @@ void MainWindow::makeDesk() {
     panel = new InstrumentPanel(panelModel(), binding, pictures, guard, desk);
     status = new StatusPanels(form, form.flightDesk.notice, binding, desk);
     quiz = new QuizPanel(quizModel(), binding, desk);
+    makeProgress();
     gyro = new additional_DG(form, form.exercise, form.boxes, pictures, this);
+}
+
+/// The page is made when it is first asked for, and covers all but the status bar.
+void MainWindow::makeProgress() {
+    form.exerciseMenu.progress.onClick = [this] {
+        if (!progress) {
+            progress = new ProgressPage(
+                {.training = form.training, .boxes = form.boxes, .texts = form.texts}, desk);
+            progress->onClose = [this] { coverDesk(false); };
+            layOut();
+        }
+        form.boxes.pause();
+        coverDesk(true);
+        progress->open();
+    };
+}
+
+/// What is covered must not have the keyboard.
+void MainWindow::coverDesk(bool covered) {
+    for (QWidget* part : std::initializer_list<QWidget*>{chart, strip, comment, quiz, panel})
+        part->setEnabled(!covered);
 }
 
 void MainWindow::openFile(const std::string& path) {
@@ -183,6 +206,8 @@ void MainWindow::layOut() {
     panel->setGeometry(layout.panel);
     panel->layOut(layout);
     status->setGeometry(0, body.height(), desk->width(), barHeight);
+    if (progress)
+        progress->setGeometry(0, 0, desk->width(), body.height());
     pictures.sizesChanged();
 }
 

@@ -20,6 +20,7 @@ class ControlStrip;
 class FileOpener;
 class FlightSigns;
 class InstrumentPanel;
+class ProgressPage;
 class QuizPanel;
 struct InstrumentPanelModel;
 struct QuizModel;
@@ -59,6 +60,8 @@ class MainWindow : public QMainWindow {
     [[nodiscard]] InstrumentPanelModel panelModel();
     [[nodiscard]] QuizModel quizModel();
     void makeDesk();
+    void makeProgress();
+    void coverDesk(bool covered);
     void layOut();
     [[nodiscard]] ColumnWishes columnWishes() const;
     void couplingTick();
@@ -80,6 +83,7 @@ class MainWindow : public QMainWindow {
     CommentCard* comment = nullptr;
     QuizPanel* quiz = nullptr;
     InstrumentPanel* panel = nullptr;
+    ProgressPage* progress = nullptr;
     StatusPanels* status = nullptr;
     additional_DG* gyro = nullptr;
     QTimer couplingTimer;

@@ -178,6 +178,7 @@ void MenuBuilder::buildExercises() {
     binding.bind(items.ownCourses, *courses->menuAction());
     fillWithCourses(*courses, model.courses, model.boxes);
     exercises->addSeparator();
+    bound(*exercises, items.progress);
     bound(*exercises, items.resetStatistics);
     followItems(*exercises);
 }

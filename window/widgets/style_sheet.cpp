@@ -132,6 +132,21 @@ QFrame[hairline="true"] { background: $hairline; border: none; min-height: 1px; 
 QComboBox[quiz="true"] QAbstractItemView { background: $paper; color: $ink; border: 1px solid $line;
   selection-background-color: $accent; selection-color: white; outline: none; }
 
+QLabel[strong="true"] { font-weight: bold; }
+QLabel[figure="true"] { font-size: {22}px; font-weight: bold; }
+QLabel[change="true"] { font-size: {12}px; font-weight: bold; color: $worse; }
+QLabel[change="true"][better="true"] { color: $right; }
+QPushButton[link="true"] { background: transparent; border: 1px solid transparent; color: $accent;
+  font-size: {13}px; padding: 0 {5}px; min-height: {24}px; max-height: {24}px; }
+QPushButton[link="true"]:hover { border-color: $accent; }
+QPushButton[link="true"]:focus { border: 2px solid $accent; padding: 0 {4}px; }
+QPushButton[link="true"]:disabled { color: $unit; }
+QTableWidget { background: transparent; color: $ink; outline: none;
+  selection-background-color: $tint; selection-color: $ink; }
+QTableWidget#FlightList:focus { border: 1px solid $accent; }
+QHeaderView, QHeaderView::section { background: transparent; border: none; }
+QHeaderView::section { color: $ink; padding: {4}px {8}px; font-size: {12}px; }
+
 QWidget#StatusPanels { background: $bar; border-top: 1px solid $line; }
 QWidget#StatusPanels QLabel { font-size: {12}px; padding-left: {10}px; }
 QWidget#StatusPanels QLabel#StatusNotice { background: $bar; font-weight: bold; }
@@ -157,6 +172,8 @@ const QHash<QString, QColor>& colours() {
         {QStringLiteral("second"), look::fromSurface(chartColour::second)},
         {QStringLiteral("localizer"), look::fromSurface(chartColour::localizer)},
         {QStringLiteral("wrong"), look::wrong},
+        {QStringLiteral("right"), look::right},
+        {QStringLiteral("worse"), look::exceeded},
         {QStringLiteral("unit"), look::unit},
         {QStringLiteral("moduleTop"), look::moduleTop},
         {QStringLiteral("moduleBottom"), look::moduleBottom},

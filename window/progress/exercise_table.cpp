@@ -1,0 +1,239 @@
+#include "window/progress/exercise_table.h"
+
+#include "look/look.h"
+#include "window/progress/progress_colours.h"
+#include "window/progress/time_spans.h"
+#include "window/widgets/text_of.h"
+
+#include <QHeaderView>
+#include <QPainter>
+#include <QPainterPath>
+#include <QStyledItemDelegate>
+
+#include <array>
+
+namespace tarnel {
+
+namespace {
+
+constexpr int shownTrend = 8;
+constexpr int barWidth = 76;
+constexpr int inset = 8;
+constexpr int percentRole = Qt::UserRole;
+constexpr int historyRole = Qt::UserRole + 1;
+constexpr int chosenBar = 3;
+constexpr int narrow = 660; ///< without room for the trend
+
+/// Pictures beside or in place of a cell's text, and the row that is chosen.
+class CellPainter : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override {
+        painter->save();
+        painter->setRenderHint(QPainter::Antialiasing);
+        const bool chosen = option.state.testFlag(QStyle::State_Selected);
+        if (chosen)
+            painter->fillRect(option.rect, look::onPaper(look::accent, 0.15));
+        if (chosen && index.column() == 0)
+            painter->fillRect(QRect(option.rect.topLeft(), QSize(chosenBar, option.rect.height())),
+                              look::accent);
+        painter->setPen(look::hairline);
+        painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
+        paintText(*painter, option, index, chosen);
+        paintShare(*painter, option.rect, index.data(percentRole), chosen);
+        paintTrend(*painter, option.rect, index.data(historyRole).toList());
+        painter->restore();
+    }
+
+  private:
+    static void paintText(QPainter& painter, const QStyleOptionViewItem& option,
+                          const QModelIndex& index, bool chosen) {
+        QFont font = option.font;
+        font.setBold(index.data(Qt::FontRole).toBool() || (chosen && index.column() == 0));
+        painter.setFont(font);
+        const QVariant colour = index.data(Qt::ForegroundRole);
+        painter.setPen(colour.isValid() ? colour.value<QColor>() : look::ink);
+        const QRect place = option.rect.adjusted(inset, 0, -inset, 0);
+        const auto side = index.column() == 0 ? Qt::AlignLeft : Qt::AlignRight;
+        const QString text = index.data(Qt::DisplayRole).toString();
+        if (!index.data(historyRole).isValid())
+            painter.drawText(place, static_cast<int>(side | Qt::AlignVCenter),
+                             QFontMetrics(font).elidedText(text, Qt::ElideRight, place.width()));
+    }
+    static void paintShare(QPainter& painter, const QRect& cell, const QVariant& percent,
+                           bool chosen) {
+        constexpr int thickness = 8;
+        constexpr double whole = 100;
+        if (!percent.isValid())
+            return;
+        const QRectF bar(cell.left() + inset, cell.center().y() - thickness / 2.0 + 1, barWidth,
+                         thickness);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(look::hairline);
+        painter.drawRoundedRect(bar, 2, 2);
+        painter.setBrush(chosen ? progress_look::curve : progress_look::quietCurve);
+        painter.drawRoundedRect(
+            QRectF(bar.topLeft(), QSizeF(bar.width() * percent.toDouble() / whole, thickness)), 2,
+            2);
+    }
+    static void paintTrend(QPainter& painter, const QRect& cell, const QVariantList& history) {
+        constexpr double whole = 100;
+        constexpr int air = 6;
+        if (history.isEmpty())
+            return;
+        const QRectF area = QRectF(cell).adjusted(inset, air, -inset, -air);
+        QPainterPath line;
+        QPointF last;
+        for (qsizetype i = 0; i < history.size(); ++i) {
+            if (history[i].isNull())
+                continue;
+            last = {area.left() + area.width() * static_cast<double>(i) / (shownTrend - 1),
+                    area.bottom() - area.height() * history[i].toDouble() / whole};
+            line.isEmpty() ? line.moveTo(last) : line.lineTo(last);
+        }
+        if (line.isEmpty())
+            return;
+        constexpr double dot = 2.5;
+        painter.setBrush(Qt::NoBrush);
+        painter.setPen(QPen(progress_look::curve, 1.5));
+        painter.drawPath(line);
+        painter.setBrush(progress_look::curve);
+        painter.drawEllipse(last, dot, dot);
+    }
+};
+
+} // namespace
+
+ExerciseTable::ExerciseTable(const StringTable& table, QWidget* parent)
+    : QTableWidget(0, columns, parent), texts(table) {
+    setObjectName(QStringLiteral("ProgressExercises"));
+    setAccessibleName(textOf(texts, Text::menuExercises));
+    setItemDelegate(new CellPainter(this));
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(SingleSelection);
+    setEditTriggers(NoEditTriggers);
+    setTabKeyNavigation(false);
+    setShowGrid(false);
+    setFrameShape(NoFrame);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    verticalHeader()->hide();
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setSectionsClickable(false);
+    connect(this, &QTableWidget::currentCellChanged, this, [this](int row, int, int before, int) {
+        if (row == before || row < 0 || !item(row, name))
+            return;
+        chosenType = static_cast<ExerciseType>(item(row, name)->data(Qt::UserRole + 2).toInt());
+        onChoose();
+    });
+}
+
+void ExerciseTable::put(int row, Column column, const QString& text, bool bold) {
+    auto* cell = new QTableWidgetItem(text);
+    cell->setData(Qt::FontRole, bold);
+    setItem(row, column, cell);
+}
+
+void ExerciseTable::fill(int row, const ExerciseProgress& exercise, std::int64_t now) {
+    const Tally& tally = exercise.now();
+    const auto percent = tally.percent();
+    const auto earlier = exercise.before().percent();
+    put(row, name, QString::fromStdString(exerciseName(exercise.exercise, texts)));
+    item(row, name)->setData(Qt::UserRole + 2, static_cast<int>(exercise.exercise));
+    put(row, count,
+        percent ? QStringLiteral("%1 / %2").arg(tally.right).arg(tally.asked)
+                : textOf(texts, Text::notAsked));
+    put(row, share, percent ? QStringLiteral("%1 %").arg(*percent) : QString(), true);
+    if (percent)
+        item(row, share)->setData(percentRole, *percent);
+    const int difference = percent && earlier ? *percent - *earlier : 0;
+    put(row, change,
+        !percent || !earlier ? QString()
+        : difference == 0    ? QStringLiteral("=")
+                          : (difference > 0 ? QStringLiteral("▲ %1") : QStringLiteral("▼ %1"))
+                                .arg(std::abs(difference)),
+        difference != 0);
+    item(row, change)
+        ->setForeground(difference > 0   ? look::right
+                        : difference < 0 ? look::exceeded
+                                         : look::secondaryInk);
+    put(row, time,
+        percent ? textOf(texts, Text::seconds).arg((tally.milliseconds + 500) / 1000) : QString());
+    QVariantList history;
+    for (auto i = exercise.history.size() - shownTrend; i < exercise.history.size(); ++i) {
+        const auto then = exercise.history[i].percent();
+        history.append(then ? QVariant(*then) : QVariant());
+    }
+    put(row, trend, QString());
+    item(row, trend)->setData(historyRole, history);
+    put(row, lastAsked, ago(exercise.lastAsked, now, texts));
+    for (const Column column : {name, count, lastAsked})
+        if (!percent || column == lastAsked)
+            item(row, column)->setForeground(look::secondaryInk);
+}
+
+void ExerciseTable::show(const Progress& progress, std::int64_t now, const QString& spanMany) {
+    const QSignalBlocker quiet(this);
+    constexpr int rowShare = 29;
+    constexpr int usualText = 13;
+    setHorizontalHeaderLabels({textOf(texts, Text::csvExercise), textOf(texts, Text::rightOfAsked),
+                               textOf(texts, Text::csvRight), textOf(texts, Text::change),
+                               textOf(texts, Text::timeTaken), spanMany.arg(shownTrend),
+                               textOf(texts, Text::lastAsked)});
+    for (int column = 0; column < columns; ++column)
+        horizontalHeaderItem(column)->setTextAlignment(
+            Qt::AlignVCenter |
+            (column == name || column == trend ? Qt::AlignLeft : Qt::AlignRight));
+    const ExerciseType before = chosenType;
+    setRowCount(static_cast<int>(progress.exercises.size()));
+    verticalHeader()->setDefaultSectionSize(
+        std::max(fontMetrics().height() + 6, rowShare * font().pixelSize() / usualText));
+    int row = 0;
+    int choose = 0;
+    for (const ExerciseProgress& exercise : progress.exercises) {
+        if (exercise.exercise == before)
+            choose = row;
+        fill(row++, exercise, now);
+    }
+    selectRow(choose);
+    chosenType = progress.exercises[static_cast<std::size_t>(choose)].exercise;
+    shareOut();
+}
+
+void ExerciseTable::resizeEvent(QResizeEvent* event) {
+    QTableWidget::resizeEvent(event);
+    shareOut();
+}
+
+/// The columns of numbers get what they need, and the name what is left.
+void ExerciseTable::shareOut() {
+    const auto wide = [this](Text header, const QString& longest) {
+        QFont bold = font();
+        bold.setBold(true);
+        return std::max(fontMetrics().horizontalAdvance(textOf(texts, header)),
+                        QFontMetrics(bold).horizontalAdvance(longest)) +
+               2 * inset + 2;
+    };
+    setColumnHidden(trend, width() < narrow);
+    const std::array<std::pair<Column, int>, 5> widths = {{
+        {count, wide(Text::rightOfAsked, QStringLiteral("188 / 188"))},
+        {share, barWidth + inset + wide(Text::csvRight, QStringLiteral("100 %"))},
+        {change, wide(Text::change, QStringLiteral("▲ 88"))},
+        {time, wide(Text::timeTaken, QStringLiteral("888 s"))},
+        {lastAsked, wide(Text::lastAsked, textOf(texts, Text::weeksAgo).arg(88))},
+    }};
+    int left = viewport()->width();
+    for (const auto& [column, width] : widths) {
+        setColumnWidth(column, width);
+        left -= width;
+    }
+    constexpr double trendShare = 0.42;
+    if (!isColumnHidden(trend)) {
+        setColumnWidth(trend, static_cast<int>(left * trendShare));
+        left -= columnWidth(trend);
+    }
+    setColumnWidth(name, left);
+}
+
+} // namespace tarnel

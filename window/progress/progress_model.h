@@ -1,0 +1,30 @@
+#pragma once
+
+#include "shell/box_desk.h"
+#include "shell/training_desk.h"
+
+#include <QDateTime>
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace tarnel {
+
+/// What the views of the log show and act on.
+struct ProgressModel {
+    TrainingDesk& training;
+    BoxDesk& boxes;
+    const StringTable& texts;
+    /// A finding as a sentence; empty if it has none.
+    std::function<std::string(const Finding&)> sentence = [](const Finding&) {
+        return std::string();
+    };
+    /// Opens the debrief of a flight, or of several over one another. None without it.
+    std::function<void(const std::vector<std::int64_t>&)> openFlights = {};
+    /// Milliseconds since 1970 UTC.
+    std::function<std::int64_t()> clock = [] { return QDateTime::currentMSecsSinceEpoch(); };
+};
+
+} // namespace tarnel
