@@ -27,6 +27,10 @@ Sample& Recording::edit(int index) {
     return const_cast<Sample&>(at(index));
 }
 
+std::vector<Sample> Recording::samplesTo(int last) const {
+    return {samples.begin() + 1, samples.begin() + 1 + std::clamp<int>(last, 0, lastSample)};
+}
+
 void Recording::giveUp() const {
     if (beforeLoss)
         beforeLoss();

@@ -39,6 +39,8 @@ class Recording {
     [[nodiscard]] const Sample& at(int index) const;
     /// The same sample to be changed.
     [[nodiscard]] Sample& edit(int index);
+    /// Samples 1 to `last`, which is at most 6000; element 0 is sample 1.
+    [[nodiscard]] std::vector<Sample> samplesTo(int last) const;
     /// Numbers what is recorded: see `ChangeCount`.
     [[nodiscard]] std::uint64_t changes() const { return changeCount.value(); }
 

@@ -19,6 +19,7 @@ struct LineTask {
     bool inbound = true;            ///< towards the station
     bool joins = false;             ///< from beside it: how it was joined is judged, too
     std::optional<double> cut = {}; ///< degrees, where an angle of intercept is asked for
+    bool operator==(const LineTask&) const = default;
 };
 
 struct HoldTask {
@@ -26,6 +27,7 @@ struct HoldTask {
     double inbound = 0; ///< degrees true
     HoldingSide side = HoldingSide::right;
     double minutes = 1; ///< of the inbound leg
+    bool operator==(const HoldTask&) const = default;
 };
 
 /// Round a station at a distance by DME, then onto a course over the station.
@@ -35,16 +37,19 @@ struct ArcTask {
     bool clockwise = true;
     double final = 0; ///< degrees true
     bool inbound = true;
+    bool operator==(const ArcTask&) const = default;
 };
 
 /// A flight to be flown after.
 struct ReferenceTask {
     std::vector<Sample> samples; ///< element 0 is sample 1
+    bool operator==(const ReferenceTask&) const = default;
 };
 
 /// The whole holding in a wind: its corrections and times are what is judged.
 struct WindTask {
     HoldTask holding;
+    bool operator==(const WindTask&) const = default;
 };
 
 using Task = std::variant<LineTask, HoldTask, ArcTask, ReferenceTask, WindTask>;

@@ -2,6 +2,8 @@
 
 #include "exercises/exercise_catalogue.h"
 
+#include <algorithm>
+
 namespace tarnel {
 
 namespace {
@@ -35,6 +37,21 @@ ExerciseConduct::ExerciseConduct(QAform& exercises, const ExerciseStage& trainer
 
 bool ExerciseConduct::mayFly() const {
     return !runs() || (studentFlies() && stage.sim.c_FlyEN == 1);
+}
+
+bool ExerciseConduct::awaitsAnswer() const {
+    if (!runs())
+        return false;
+    const ExercisePanel* panel = form.activePanel();
+    return questionOpen() ||
+           (panel && std::ranges::any_of(panel->rows, [](const std::unique_ptr<AnswerRow>& row) {
+                return row->state() == RowState::open;
+            }));
+}
+
+void ExerciseConduct::flyAgain() {
+    if (studentFlies())
+        letStudentFly();
 }
 
 void ExerciseConduct::flightStarts() {

@@ -47,6 +47,14 @@ class ExerciseConduct {
     [[nodiscard]] bool mayFly() const;
     /// Whether he flies the question that is up, or has flown it.
     [[nodiscard]] bool studentFlies() const { return form.c_QAFly > 0; }
+    /// Whether he has flown it, and his flight is in memory.
+    [[nodiscard]] bool studentHasFlown() const {
+        return studentFlies() && question == Question::flown;
+    }
+    /// Whether something is asked that has not been answered, or could still be.
+    [[nodiscard]] bool awaitsAnswer() const;
+    /// Takes the student's aircraft to the question's first sample again.
+    void flyAgain();
     /// What the open question keeps from sight; nothing if none is open.
     [[nodiscard]] QuestionCover cover() const;
     /// A flight starts: in an exercise the recording is the student's own from now on.

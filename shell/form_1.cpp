@@ -1,7 +1,9 @@
 #include "shell/form_1.h"
 
+#include "panel/needle_sources.h"
 #include "persistence/file_bytes.h"
 
+#include <cmath>
 #include <optional>
 
 namespace tarnel {
@@ -65,6 +67,57 @@ ExerciseStage Form1::exerciseStage() {
             .boxes = boxes};
 }
 
+DebriefDesk::Given Form1::debriefGiven() {
+    return {.sim = UserControl11,
+            .replay = replay,
+            .lock = replayPage.lock,
+            .button = practicePanel.debrief,
+            .mayShow = [this] { return !flight.flies() && !exercise.awaitsAnswer(); },
+            .ownFlight =
+                [this] {
+                    return !flight.flies() &&
+                           (exercise.studentHasFlown() ||
+                            (practice.practises() && UserControl11.c_TrackDelta == 3));
+                },
+            .knownTask = [this]() -> std::optional<Task> {
+                const std::span<const Sample> example = exampleFlight();
+                if (example.empty())
+                    return {};
+                return ReferenceTask{{example.begin(), example.end()}};
+            },
+            .proposal = [this] { return likelyTask(); },
+            .reference = [this] { return exampleFlight(); },
+            .flyAgain = [this] { flyAgain(); }};
+}
+
+/// What the student flies after; without samples in a flight of his own making.
+std::span<const Sample> Form1::exampleFlight() const {
+    if (!exercise.runs() && !practice.practises())
+        return {};
+    return practice.practisedFlight();
+}
+
+/// The station and the course that the right instrument shows.
+TaskChoice Form1::likelyTask() {
+    TaskChoice likely;
+    if (const auto needle = needleSources(inst3, positions.feedSources()).first)
+        likely.station = needle->slot;
+    const auto course = static_cast<int>(std::lround(UserControl11.c_obsI3.get())) % 360;
+    likely.course = course <= 0 ? course + 360 : course;
+    return likely;
+}
+
+/// The aircraft stands where the flight began, with the settings that were recorded there.
+void Form1::flyAgain() {
+    if (exercise.studentFlies())
+        return exercise.flyAgain();
+    replayPage.lock.set(1);
+    UserControl11.c_HscrollRepeatValue = 1;
+    replay.followBar();
+    coupling.push();
+    replayPage.lock.set(0);
+}
+
 /// What one desk lets the others know.
 void Form1::connectDesks() {
     boxes.pause = [this] {
@@ -76,8 +129,8 @@ void Form1::connectDesks() {
         if (beforeBox)
             beforeBox();
     };
-    for (std::function<void()>* changed :
-         {&replay.changed, &flight.changed, &stationDesk.changed, &exercise.changed})
+    for (std::function<void()>* changed : {&replay.changed, &flight.changed, &stationDesk.changed,
+                                           &exercise.changed, &debrief.changed})
         *changed = [this] { usable.update(); };
     flight.onStart = [this] { exercise.flightStarts(); };
     flight.onStop = [this] {

@@ -10,6 +10,7 @@
 #include "shell/chart_display.h"
 #include "shell/comment_strip.h"
 #include "shell/course_desk.h"
+#include "shell/debrief_desk.h"
 #include "shell/document_desk.h"
 #include "shell/exercise_conduct.h"
 #include "shell/file_desk.h"
@@ -75,6 +76,10 @@ class Form1 : public TrainerControls, public PanelControls {
   private:
     FileSurroundings fileSurroundings();
     ExerciseStage exerciseStage();
+    DebriefDesk::Given debriefGiven();
+    void flyAgain();
+    TaskChoice likelyTask();
+    [[nodiscard]] std::span<const Sample> exampleFlight() const;
 
   public:
     FileDesk files{fileSurroundings()};
@@ -93,6 +98,8 @@ class Form1 : public TrainerControls, public PanelControls {
     ExerciseConduct exercise{QAform1, exerciseStage()};
     CourseDesk courses{boxes, exercise, exerciseMenu.ownCourses};
     TrainingDesk training;
+    DebriefControls debriefControls{state};
+    DebriefDesk debrief{debriefControls, debriefGiven()};
     DocumentDesk documents;
 
   private:
@@ -117,7 +124,7 @@ class Form1 : public TrainerControls, public PanelControls {
     StopwatchDesk stopwatch{UserControl11, *this};
     StatusReadouts readouts{UserControl11, *this, texts};
     UsableControls usable{UserControl11, *this,  positions, flightDesk.menu,
-                          flight,        replay, exercise};
+                          flight,        replay, exercise,  debrief};
 };
 
 } // namespace tarnel

@@ -14,6 +14,7 @@ void Form1::tick() {
     coupling.copyReceiverSelections();
     exercise.follow();
     exercise.coverReadings();
+    debrief.follow();
     positions.followReceivers();
     coupling.coupleAutopilot();
     coupling.coupleHeadingBug();

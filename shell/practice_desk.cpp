@@ -33,6 +33,7 @@ bool PracticeDesk::load(const std::string& path) {
     const bool read = sim.loadByName(path);
     if (read) {
         practisedPath = path;
+        example = sim.recording.samplesTo(sim.c_TraceBufferMax);
         task.take(sim.comments.shownText(sim.recording.at(1).traceComment));
     }
     onLoad(read);

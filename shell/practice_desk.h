@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace tarnel {
 
@@ -28,6 +29,8 @@ class PracticeDesk {
     /// The session at `path` is practised from now on, whether or not it can be read.
     void expect(const std::string& path) { practisedPath = path; }
     void leave();
+    /// The flight that was loaded last, element 0 its sample 1: what the student's own is held to.
+    [[nodiscard]] const std::vector<Sample>& practisedFlight() const { return example; }
     /// What is to be read where the flight has `comment`; `untouched` before it is flown or played.
     [[nodiscard]] std::string beside(const std::string& comment, bool untouched);
     /// The states of the panel: hidden, nothing kept yet, kept, called back.
@@ -45,7 +48,8 @@ class PracticeDesk {
     FlightKeeper& keeper;
     const StringTable& texts;
     bool practising = false;
-    std::string practisedPath; ///< the session that the student's flight is compared with
+    std::string practisedPath;   ///< the session that the student's flight is compared with
+    std::vector<Sample> example; ///< the flight of that session
     PracticeTask task;
 };
 

@@ -59,6 +59,11 @@ void ReplayDeck::moveBar() {
     scroll();
 }
 
+void ReplayDeck::goTo(int sample) {
+    page.bar.setValue(sample);
+    moveBar();
+}
+
 /// A flight that begins to be looked at is locked, so that looking changes nothing in it. Who wants
 /// to write over it unlocks it then.
 void ReplayDeck::lock() {

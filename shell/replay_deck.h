@@ -20,6 +20,9 @@ class ReplayDeck {
     /// A quarter of the way to the next sample.
     void pump();
 
+    /// Shows a sample, as the hand on the bar does. One beyond the ends is brought to them.
+    void goTo(int sample);
+
     // Steps of the tick.
     void echoLock();
     /// The bar's range, and a sample that a loaded session asks for.

@@ -110,6 +110,8 @@ struct PracticePanel {
     OptionButton keep{state, group, "PracticeKeep", Text::practiceKeep, Text::practiceKeepTip};
     OptionButton recall{state, group, "PracticeRecall", Text::practiceRecall,
                         Text::practiceRecallTip};
+    /// After a flight of one's own, at a question too.
+    CommandButton debrief{state, "Debrief", Text::debrief, Text::debriefTip};
 };
 
 /// The items of the file menu. They rest while the aircraft flies.

@@ -19,7 +19,7 @@ void UsableControls::update() {
     updateInstruments();
     updateMenus();
     strip.practicePanel.frame.setEnabled(!flight.flies());
-    strip.startButton.setEnabled(exercise.mayFly() && !replay.runs());
+    strip.startButton.setEnabled(exercise.mayFly() && !replay.runs() && !debrief.isOpen());
 }
 
 /// Going to a sample would put back the station that an author moves.
@@ -35,7 +35,7 @@ void UsableControls::updateChart() {
     enable(
         {&strip.replayPage.hide, &page.hide, &page.trace, &page.vectors, &page.centre, &page.reset},
         !open);
-    sim.mouse.setLocked(open);
+    sim.mouse.setLocked(open || debrief.isOpen());
     sim.setPlaceSecret(open);
 }
 
@@ -47,7 +47,8 @@ void UsableControls::updateInstruments() {
 }
 
 void UsableControls::updateMenus() {
-    enable({&strip.stationPage.edit, &bringBack}, free());
+    strip.stationPage.edit.setEnabled(free() && !debrief.isOpen());
+    bringBack.setEnabled(free());
     for (CommandButton* item : strip.fileMenu.items())
         item->setEnabled(free());
     for (CommandButton* item : strip.exerciseMenu.items())
@@ -56,8 +57,9 @@ void UsableControls::updateMenus() {
 }
 
 void UsableControls::followHistory() {
-    strip.editMenu.undo.setEnabled(free() && sim.history.undoable());
-    strip.editMenu.redo.setEnabled(free() && sim.history.redoable());
+    const bool may = free() && !debrief.isOpen();
+    strip.editMenu.undo.setEnabled(may && sim.history.undoable());
+    strip.editMenu.redo.setEnabled(may && sim.history.redoable());
 }
 
 } // namespace tarnel

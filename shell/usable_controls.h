@@ -2,6 +2,7 @@
 
 #include "engine/user_control_2.h"
 #include "panel/instrument_positions.h"
+#include "shell/debrief_desk.h"
 #include "shell/exercise_conduct.h"
 #include "shell/flight_switch.h"
 #include "shell/replay_deck.h"
@@ -16,18 +17,20 @@ class UsableControls {
     UsableControls(UserControl2& simulation, TrainerControls& controls,
                    const InstrumentPositions& instruments, CommandButton& bringBackItem,
                    const FlightSwitch& flightSwitch, const ReplayDeck& deck,
-                   const ExerciseConduct& conduct)
+                   const ExerciseConduct& conduct, const DebriefDesk& debriefDesk)
         : sim(simulation),
           strip(controls),
           positions(instruments),
           bringBack(bringBackItem),
           flight(flightSwitch),
           replay(deck),
-          exercise(conduct) {}
+          exercise(conduct),
+          debrief(debriefDesk) {}
 
     /// To be called after each change of what it depends on.
     void update();
-    /// A step of the tick: at rest and outside of exercises, what was done can be taken back.
+    /// A step of the tick: at rest and outside of exercises and debriefs, what was done can be
+    /// taken back.
     void followHistory();
 
   private:
@@ -44,6 +47,7 @@ class UsableControls {
     const FlightSwitch& flight;
     const ReplayDeck& replay;
     const ExerciseConduct& exercise;
+    const DebriefDesk& debrief;
 };
 
 } // namespace tarnel

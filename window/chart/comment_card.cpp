@@ -128,6 +128,7 @@ QWidget* CommentCard::makePractice() {
     name->setProperty("secondary", true);
     row->addWidget(name);
     row->addWidget(segmentRow(binding, {&panel.keep, &panel.recall}, section), 1);
+    addButtons(*row, {&panel.debrief});
     return section;
 }
 

@@ -119,6 +119,11 @@ void InstrumentPanel::layOut(const WindowLayout& layout) {
     }
 }
 
+void InstrumentPanel::showModules(bool shown) {
+    for (ModuleFrame* module : modules)
+        module->setVisible(shown);
+}
+
 void InstrumentPanel::showChannelLamps() {
     const std::array<const PositionLinks*, 2> links = {&model.positions.links2(),
                                                        &model.positions.links3()};

@@ -46,6 +46,8 @@ class InstrumentPanel : public QWidget {
                     PictureStore& pictures, const ModelGuard& guard, QWidget* parent = nullptr);
 
     void layOut(const WindowLayout& layout);
+    /// Radios, stopwatch and autopilot, in whose place something else may stand.
+    void showModules(bool shown);
     void refresh();
 
   protected:

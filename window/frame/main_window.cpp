@@ -6,6 +6,8 @@
 #include "window/chart/chart_view.h"
 #include "window/chart/comment_card.h"
 #include "window/chart/station_editing.h"
+#include "window/debrief/debrief_card.h"
+#include "window/debrief/debrief_plot.h"
 #include "window/dials/floating_gyro.h"
 #include "window/frame/file_opener.h"
 #include "window/frame/flight_signs.h"
@@ -78,6 +80,7 @@ void MainWindow::makeMenus() {
                 .history = form.UserControl11.history,
                 .display = form.display,
                 .flights = form.flightDesk,
+                .debrief = form.debriefControls,
                 .courses = form.courses,
                 .documents = form.documents,
                 .boxes = form.boxes,
@@ -112,6 +115,15 @@ QuizModel MainWindow::quizModel() {
             .texts = form.texts};
 }
 
+DebriefModel MainWindow::debriefModel() {
+    return {.desk = form.debrief,
+            .controls = form.debriefControls,
+            .trainer = form,
+            .sim = form.UserControl11,
+            .replay = form.replay,
+            .boxes = form.boxes};
+}
+
 void MainWindow::makeDesk() {
     desk = new QWidget(this);
     desk->setObjectName(QStringLiteral("Desk"));
@@ -129,6 +141,9 @@ void MainWindow::makeDesk() {
     status = new StatusPanels(form, form.flightDesk.notice, binding, desk);
     quiz = new QuizPanel(quizModel(), binding, desk);
     makeProgress();
+    debriefCard = new DebriefCard(debriefModel(), binding, desk);
+    debriefPlot = new DebriefPlot(debriefModel(), binding, pictures, guard, panel);
+    debriefPlot->hide();
     gyro = new additional_DG(form, form.exercise, form.boxes, pictures, this);
 }
 
@@ -167,8 +182,13 @@ PanelSizes MainWindow::panelSizes() const {
     return {form.inst2.instrument.c_Large == 1, form.inst3.instrument.c_Large == 1};
 }
 
-/// The quiz takes the strip's place, and while a question stands open the comment's too.
+/// The quiz takes the strip's place, and while a question stands open the comment's too. A debrief
+/// takes the place of all of them.
 ColumnWishes MainWindow::columnWishes() const {
+    if (form.debrief.isOpen())
+        return {[this](int width) { return debriefCard->wantedHeight(width); },
+                [this](int width) { return debriefCard->leastHeight(width); },
+                [](int) { return 0; }, [](int) { return 0; }};
     return {[this](int width) {
                 return quiz->runs() ? quiz->wantedHeight(width) : strip->wantedHeight(width);
             },
@@ -194,21 +214,50 @@ void MainWindow::layOut() {
     shownComments = comment->contents();
     shownQuiz = quiz->contents();
     shownOpen = form.exercise.questionOpen();
+    shownDebrief = form.debrief.isOpen();
     chart->setGeometry(layout.chart);
     const int inset = overlayInset;
     chartControls->setGeometry(inset, inset, layout.chart.width() - 2 * inset,
                                chartControls->sizeHint().height());
     strip->setGeometry(layout.strip);
-    strip->setVisible(!quiz->runs());
+    strip->setVisible(!quiz->runs() && !shownDebrief);
     quiz->setGeometry(layout.strip);
+    quiz->setVisible(quiz->runs() && !shownDebrief);
     comment->setGeometry(layout.comment);
     comment->setVisible(!layout.comment.isEmpty());
     panel->setGeometry(layout.panel);
     panel->layOut(layout);
+    layOutDebrief(layout);
     status->setGeometry(0, body.height(), desk->width(), barHeight);
     if (progress)
         progress->setGeometry(0, 0, desk->width(), body.height());
     pictures.sizesChanged();
+}
+
+/// The findings stand where quiz and strip do, the plot where the modules do.
+void MainWindow::layOutDebrief(const WindowLayout& layout) {
+    debriefCard->setGeometry(layout.strip);
+    debriefCard->setVisible(shownDebrief);
+    debriefPlot->setScale(layout.panelScale);
+    debriefPlot->setGeometry(layout.nav1.united(layout.autopilot));
+    debriefPlot->setVisible(shownDebrief);
+    panel->showModules(!shownDebrief);
+}
+
+/// What had the keyboard before the debrief gets it back.
+void MainWindow::followDebrief() {
+    debriefCard->refresh();
+    if (form.debrief.isOpen() == shownDebrief)
+        return;
+    if (!shownDebrief)
+        beforeDebrief = focusWidget();
+    layOut();
+    if (shownDebrief)
+        debriefCard->takeKeyboard();
+    else if (beforeDebrief)
+        beforeDebrief->setFocus(Qt::OtherFocusReason);
+    else if (focusWidget())
+        focusWidget()->clearFocus();
 }
 
 void MainWindow::resizeEvent(QResizeEvent* event) {
@@ -216,9 +265,11 @@ void MainWindow::resizeEvent(QResizeEvent* event) {
     layOut();
 }
 
-/// What nothing else takes may mean something to the exercise that runs.
+/// What nothing else takes may mean something to the debrief or the exercise.
 void MainWindow::keyPressEvent(QKeyEvent* event) {
-    if (!quiz->takeKey(*event))
+    if (event->key() == Qt::Key_Escape && form.debrief.isOpen())
+        return form.guarded([this] { form.debriefControls.close.click(); });
+    if (form.debrief.isOpen() || !quiz->takeKey(*event))
         QMainWindow::keyPressEvent(event);
 }
 
@@ -257,6 +308,7 @@ void MainWindow::refresh() {
     binding.refresh();
     comment->refresh();
     quiz->refresh();
+    followDebrief();
     // Without a quiz the keyboard would be with whatever comes next in the window.
     if (shownQuiz != 0 && !quiz->runs() && focusWidget())
         focusWidget()->clearFocus();
@@ -267,6 +319,7 @@ void MainWindow::refresh() {
     chartControls->refresh();
     strip->refresh();
     panel->refresh();
+    debriefPlot->refresh();
     gyro->refresh();
     flightSigns->refresh();
 }

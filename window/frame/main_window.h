@@ -6,6 +6,7 @@
 #include "window/widgets/picture_store.h"
 
 #include <QMainWindow>
+#include <QPointer>
 #include <QTimer>
 
 #include <functional>
@@ -16,12 +17,15 @@ namespace tarnel {
 class ChartControls;
 class ChartView;
 class CommentCard;
+class DebriefCard;
+class DebriefPlot;
 class ControlStrip;
 class FileOpener;
 class FlightSigns;
 class InstrumentPanel;
 class ProgressPage;
 class QuizPanel;
+struct DebriefModel;
 struct InstrumentPanelModel;
 struct QuizModel;
 struct StripModel;
@@ -59,10 +63,13 @@ class MainWindow : public QMainWindow {
     [[nodiscard]] StripModel stripModel();
     [[nodiscard]] InstrumentPanelModel panelModel();
     [[nodiscard]] QuizModel quizModel();
+    [[nodiscard]] DebriefModel debriefModel();
     void makeDesk();
     void makeProgress();
     void coverDesk(bool covered);
     void layOut();
+    void layOutDebrief(const WindowLayout& layout);
+    void followDebrief();
     [[nodiscard]] ColumnWishes columnWishes() const;
     void couplingTick();
     void followClocks();
@@ -84,6 +91,8 @@ class MainWindow : public QMainWindow {
     QuizPanel* quiz = nullptr;
     InstrumentPanel* panel = nullptr;
     ProgressPage* progress = nullptr;
+    DebriefCard* debriefCard = nullptr;
+    DebriefPlot* debriefPlot = nullptr;
     StatusPanels* status = nullptr;
     additional_DG* gyro = nullptr;
     QTimer couplingTimer;
@@ -93,7 +102,9 @@ class MainWindow : public QMainWindow {
     PanelSizes shownSizes;
     std::size_t shownComments = 0;
     int shownQuiz = 0;
-    bool shownOpen = false; ///< whether a question stood open
+    bool shownOpen = false;          ///< whether a question stood open
+    bool shownDebrief = false;       ///< whether a debrief stood open
+    QPointer<QWidget> beforeDebrief; ///< had the keyboard
     double shownScale = 1;
 };
 

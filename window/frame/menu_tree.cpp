@@ -248,6 +248,8 @@ void MenuBuilder::buildView() {
                      shown([](ChartDisplay& display) { display.stepScale(-1); }));
     view->addSeparator();
     binding.bind(model.floatingGyroBox, *entry(*view, "floatingGyro", text(Text::floatingGyro)));
+    view->addSeparator();
+    bound(*view, model.debrief.item, Qt::CTRL | Qt::Key_D);
 }
 
 /// The letters on the status panels. A field that takes text keeps them to itself.

@@ -3,6 +3,7 @@
 #include "shell/box_desk.h"
 #include "shell/chart_display.h"
 #include "shell/course_desk.h"
+#include "shell/debrief_controls.h"
 #include "shell/document_desk.h"
 #include "shell/flight_desk.h"
 #include "shell/trainer_controls.h"
@@ -21,6 +22,7 @@ struct MenuModel {
     const HandHistory& history;
     ChartDisplay& display;
     FlightDesk& flights;
+    DebriefControls& debrief;
     CourseDesk& courses;
     DocumentDesk& documents;
     BoxDesk& boxes;

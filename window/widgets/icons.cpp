@@ -71,6 +71,32 @@ void paintLens(QPainter& painter, bool plus) {
         painter.drawLine(QPointF(8, 3.5), QPointF(8, 12.5));
 }
 
+/// A triangle that runs against a bar.
+void paintJump(QPainter& painter, bool forwards, const QColor& colour) {
+    const auto x = [forwards](double at) { return forwards ? at : grid - at; };
+    painter.fillPath(triangle({x(3.5), 3.5}, {x(10.5), 8}, {x(3.5), 12.5}), colour);
+    painter.drawLine(QPointF(x(12), 4), QPointF(x(12), 12));
+}
+
+void paintMark(QPainter& painter, bool isRight) {
+    painter.setBrush(Qt::NoBrush);
+    if (isRight) {
+        painter.drawPolyline(QPolygonF{QPointF(4.8, 8.3), QPointF(7.1, 10.5), QPointF(11.2, 5.8)});
+        return;
+    }
+    painter.drawLine(QPointF(5.4, 5.4), QPointF(10.6, 10.6));
+    painter.drawLine(QPointF(10.6, 5.4), QPointF(5.4, 10.6));
+}
+
+/// A tick or a cross in a filled round.
+void paintVerdict(QPainter& painter, bool isRight, const QColor& colour) {
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colour);
+    painter.drawEllipse(QPointF(8, 8), 7, 7);
+    painter.setPen(QPen(Qt::white, 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    paintMark(painter, isRight);
+}
+
 void paintOnGrid(QPainter& painter, Sign sign, const QColor& colour) {
     switch (sign) {
     case Sign::play:
@@ -94,6 +120,18 @@ void paintOnGrid(QPainter& painter, Sign sign, const QColor& colour) {
     case Sign::zoomIn:
     case Sign::zoomOut:
         return paintLens(painter, sign == Sign::zoomIn);
+    case Sign::previous:
+    case Sign::next:
+        return paintJump(painter, sign == Sign::next, colour);
+    case Sign::right:
+    case Sign::wrong:
+        return paintVerdict(painter, sign == Sign::right, colour);
+    case Sign::tick:
+    case Sign::cross:
+        painter.translate(grid / 2, grid / 2);
+        painter.scale(1.6, 1.6);
+        painter.translate(-grid / 2, -grid / 2);
+        return paintMark(painter, sign == Sign::tick);
     }
 }
 

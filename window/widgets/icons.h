@@ -6,7 +6,24 @@
 namespace tarnel {
 
 /// The signs on buttons.
-enum class Sign { play, stop, loop, interpolate, radial, pointer, enlarge, gyro, zoomIn, zoomOut };
+enum class Sign {
+    play,
+    stop,
+    loop,
+    interpolate,
+    radial,
+    pointer,
+    enlarge,
+    gyro,
+    zoomIn,
+    zoomOut,
+    previous,
+    next,
+    right, ///< in a round
+    wrong,
+    tick,
+    cross
+};
 
 /// Paints `sign` into a square.
 void paintSign(QPainter& painter, Sign sign, const QRectF& square, const QColor& colour);

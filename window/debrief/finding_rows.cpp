@@ -1,0 +1,118 @@
+#include "window/debrief/finding_rows.h"
+
+#include "shell/debrief_words.h"
+#include "window/widgets/text_of.h"
+
+#include <QStringList>
+
+#include <algorithm>
+
+namespace tarnel {
+
+namespace {
+
+constexpr int secondsPerMinute = 60;
+constexpr int minutesPerHour = 60;
+
+const Finding* sameIn(const Attempt& attempt, const Finding& finding) {
+    const std::vector<Finding>& all = attempt.debrief.findings;
+    const auto found = std::ranges::find_if(all, [&](const Finding& other) {
+        return other.kind == finding.kind && other.turn == finding.turn;
+    });
+    return found == all.end() ? nullptr : &*found;
+}
+
+QString degrees(int course, const StringTable& texts) {
+    return QString::number(course).rightJustified(3, '0') + textOf(texts, Text::unitDegreeSign);
+}
+
+} // namespace
+
+std::vector<FindingRow> findingRows(const DebriefDesk& desk, const StringTable& texts) {
+    std::vector<FindingRow> rows;
+    if (!desk.attempt())
+        return rows;
+    for (const Finding& finding : desk.attempt()->debrief.findings) {
+        FindingRow row;
+        row.verdict = finding.verdict;
+        row.sentence = QString::fromStdString(sentenceOf(texts, finding));
+        row.word = QString::fromStdString(verdictOf(texts, finding));
+        row.moment = timeAt(*desk.attempt(), finding.samples.first);
+        if (!desk.compared().empty())
+            if (const Finding* earlier = sameIn(desk.compared().front(), finding)) {
+                row.earlier = QStringLiteral("%1. %2")
+                                  .arg(desk.compared().front().number)
+                                  .arg(QString::fromStdString(valueOf(texts, *earlier)));
+                row.earlierVerdict = earlier->verdict;
+            }
+        rows.push_back(std::move(row));
+    }
+    return rows;
+}
+
+QString taskTitle(const DebriefModel& model) {
+    const StringTable& texts = model.boxes.texts;
+    if (!model.desk.task())
+        return textOf(texts, Text::debrief);
+    if (std::holds_alternative<WindTask>(*model.desk.task()))
+        return textOf(texts, Text::taskWind);
+    return textOf(texts, nameOf(choiceOf(*model.desk.task()).kind));
+}
+
+QString taskDetail(const DebriefModel& model) {
+    const StringTable& texts = model.boxes.texts;
+    if (!model.desk.task())
+        return {};
+    const TaskChoice task = choiceOf(*model.desk.task());
+    if (task.kind == TaskKind::reference)
+        return {};
+    QStringList parts{QString::fromStdString(model.sim.slot(task.station).name)};
+    const auto add = [&](Text name, const QString& value) {
+        parts << textOf(texts, name) + QLatin1Char(' ') + value;
+    };
+    switch (task.kind) {
+    case TaskKind::holding:
+        parts << textOf(texts, task.side == HoldingSide::left ? Text::taskLeft : Text::taskRight);
+        add(Text::taskInbound, degrees(task.course, texts));
+        break;
+    case TaskKind::arc:
+        add(Text::taskDistance, QString::number(task.distance));
+        parts << textOf(texts, task.clockwise ? Text::taskClockwise : Text::taskAnticlockwise);
+        add(Text::taskFinal, degrees(task.course, texts));
+        break;
+    default:
+        parts << degrees(task.course, texts);
+    }
+    return parts.join(QStringLiteral(", "));
+}
+
+QString attemptName(const Attempt& attempt, const StringTable& texts) {
+    return textOf(texts, Text::debriefAttempt).arg(attempt.number);
+}
+
+QString scoreOf(const Attempt& attempt, const StringTable& texts) {
+    int right = 0;
+    int all = 0;
+    for (const Finding& finding : attempt.debrief.findings) {
+        right += finding.verdict == Verdict::right ? 1 : 0;
+        all += finding.verdict == Verdict::open ? 0 : 1;
+    }
+    return textOf(texts, Text::debriefScore).arg(right).arg(all);
+}
+
+double secondsAt(const Attempt& attempt, int sample) {
+    const auto index = std::clamp<std::size_t>(static_cast<std::size_t>(std::max(sample, 0)), 0,
+                                               attempt.samples.size() - 1);
+    const Sample& at = attempt.samples[index];
+    return (at.traceFlightHours * minutesPerHour + at.traceFlightMinutes) * secondsPerMinute +
+           at.traceFlightSeconds;
+}
+
+QString timeAt(const Attempt& attempt, int sample) {
+    const auto seconds = static_cast<int>(secondsAt(attempt, sample));
+    return QStringLiteral("%1:%2")
+        .arg(seconds / secondsPerMinute, 2, 10, QLatin1Char('0'))
+        .arg(seconds % secondsPerMinute, 2, 10, QLatin1Char('0'));
+}
+
+} // namespace tarnel

@@ -1,0 +1,308 @@
+#include "window/debrief/plot_painter.h"
+
+#include "look/panel_look.h"
+#include "shell/debrief_words.h"
+#include "window/widgets/icons.h"
+#include "window/widgets/text_of.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QPainterPath>
+
+#include <cmath>
+
+namespace tarnel {
+
+namespace {
+
+constexpr double ownWidth = 2;
+constexpr double outsideWidth = 4.5;
+constexpr double earlierWidth = 1.2;
+constexpr double cursorWidth = 1.5;
+constexpr double rounding = 3;
+constexpr double chosenOpacity = 0.34;
+constexpr double dotsApart = 8;
+constexpr double labelGap = 6; ///< from a number to the curves
+
+void paintCurve(QPainter& painter, const QPolygonF& curve, const QPen& pen) {
+    painter.setPen(pen);
+    painter.setBrush(Qt::NoBrush);
+    curve.size() == 1 ? painter.drawPoint(curve.front()) : painter.drawPolyline(curve);
+}
+
+QPen roundPen(const QColor& colour, double width) {
+    return {colour, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin};
+}
+
+QString numberOf(double value) {
+    const double rounded = std::round(std::abs(value) * 100) / 100;
+    return QString::number(rounded, 'g', 4);
+}
+
+/// A label at a side of the middle says which.
+QString labelOf(const Series& series, double value, const StringTable& texts) {
+    if (series.kind != SeriesKind::needle || value == 0)
+        return numberOf(value);
+    const QString side = textOf(texts, value > 0 ? Text::sideRight : Text::sideLeft);
+    return numberOf(value) + QLatin1Char(' ') + side.left(1).toUpper();
+}
+
+} // namespace
+
+const PlotColours& panelColours() {
+    static const PlotColours colours{
+        .well = look::digitWell,
+        .edge = look::rgb(0x1B2023),
+        .grid = look::rgb(0x1B2124),
+        .caption = look::caption,
+        .unit = look::unit,
+        .own = look::rgb(0x2FB4D0),
+        .earlier = look::rgb(0x7B858E),
+        .outside = look::headingBug,
+        .dots = look::digitWell,
+        .band = look::faded(Qt::white, 0.12),
+        .bandEdge = look::unit,
+        .chosen = look::faded(look::accent, chosenOpacity),
+        .right = look::measured,
+        .cursor = Qt::white,
+        .tag = Qt::white,
+        .tagText = look::ink,
+    };
+    return colours;
+}
+
+const PlotColours& paperColours() {
+    static const PlotColours colours{
+        .well = look::paper,
+        .edge = look::line,
+        .grid = look::hairline,
+        .caption = look::ink,
+        .unit = look::secondaryInk,
+        .own = look::rgb(0x0093B2),
+        .earlier = look::rgb(0x7B858E),
+        .outside = look::rgb(0xB05A00),
+        .dots = Qt::white,
+        .band = look::faded(look::ink, 0.08),
+        .bandEdge = look::secondaryInk,
+        .chosen = look::faded(look::accent, 0.15),
+        .right = look::right,
+        .cursor = look::ink,
+        .tag = look::ink,
+        .tagText = Qt::white,
+    };
+    return colours;
+}
+
+PlotReading readingOf(const Series& series, std::optional<double> value, const StringTable& texts) {
+    QString unit = QString::fromStdString(nameOf(texts, series.unit));
+    if (!value)
+        return {QStringLiteral("---"), unit};
+    const double size = std::abs(*value);
+    if (series.kind == SeriesKind::needle && size > 0)
+        unit += QLatin1Char(' ') + textOf(texts, *value > 0 ? Text::sideRight : Text::sideLeft);
+    if (series.kind == SeriesKind::heading) {
+        const int heading = static_cast<int>(std::lround(size)) % 360;
+        return {QString::number(heading == 0 ? 360 : heading).rightJustified(3, '0'), unit};
+    }
+    if (series.unit == FindingUnit::nauticalMiles)
+        return {QString::number(size, 'f', size < 9.995 ? 2 : 1), unit};
+    if (series.unit == FindingUnit::dots)
+        return {QString::number(size, 'f', 1), unit};
+    return {QString::number(std::lround(size)).rightJustified(2, '0'), unit};
+}
+
+void paintOutside(QPainter& painter, const QPolygonF& curve, const QColor& colour,
+                  const QColor& dots, double width) {
+    if (curve.isEmpty())
+        return;
+    paintCurve(painter, curve, roundPen(colour, width));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(dots);
+    double next = dotsApart / 2;
+    for (qsizetype i = 1; i < curve.size(); ++i) {
+        const QLineF part(curve[i - 1], curve[i]);
+        for (; next <= part.length(); next += dotsApart)
+            painter.drawEllipse(part.pointAt(next / part.length()), width / 4.2, width / 4.2);
+        next -= part.length();
+    }
+}
+
+void PlotPainter::paint(QPainter& painter) const {
+    painter.setRenderHint(QPainter::Antialiasing);
+    paintPhases(painter);
+    for (const PlotRow& row : layout.rows)
+        paintRow(painter, row);
+    paintAxis(painter);
+}
+
+void PlotPainter::paintPhases(QPainter& painter) const {
+    painter.setPen(QPen(colours.edge, 1));
+    painter.setBrush(colours.well);
+    painter.drawRect(layout.phases);
+    if (!scene.own)
+        return;
+    for (std::size_t i = 0; i < layout.cells.size(); ++i)
+        paintPhase(painter, scene.own->phases[i], layout.cells[i]);
+}
+
+/// The name, and where it was timed the seconds with their verdict below it; less in a small cell.
+void PlotPainter::paintPhase(QPainter& painter, const Phase& phase, const QRectF& cell) const {
+    constexpr double inset = 2;
+    const bool chosen = scene.chosen && phase.samples.first >= scene.chosen->first &&
+                        phase.samples.last <= scene.chosen->last;
+    painter.setPen(QPen(colours.grid, 1));
+    painter.setBrush(chosen ? QBrush(look::accent) : Qt::NoBrush);
+    painter.drawRect(cell);
+    const QRectF room = cell.adjusted(inset, 0, -inset, 0);
+    const bool timed = phase.seconds && cell.height() > 28 * scale;
+    const QRectF upper =
+        timed ? QRectF(room.topLeft(), QSizeF(room.width(), room.height() * 0.54)) : room;
+    const QFont font = look::font(look::unitType * scale, chosen ? QFont::Bold : QFont::Normal);
+    painter.setFont(font);
+    painter.setPen(chosen ? QColor(Qt::white) : colours.unit);
+    const QFontMetricsF metrics(font);
+    const QString name = QString::fromStdString(nameOf(texts, phase.kind));
+    const QString shown = metrics.elidedText(name, Qt::ElideRight, room.width());
+    if (shown.size() > 2)
+        painter.drawText(upper, Qt::AlignCenter, shown);
+    if (!timed)
+        return;
+    const QString seconds = QString::number(std::lround(*phase.seconds)) + QStringLiteral(" s");
+    const QRectF lower(upper.bottomLeft(), room.bottomRight());
+    const double sign = phase.verdict == Verdict::open ? 0 : 12 * scale;
+    const double wide = metrics.horizontalAdvance(seconds) + sign;
+    if (wide > room.width())
+        return;
+    const QColor ink = chosen                            ? QColor(Qt::white)
+                       : phase.verdict == Verdict::right ? colours.right
+                       : phase.verdict == Verdict::wrong ? colours.outside
+                                                         : colours.unit;
+    const double left = lower.center().x() - wide / 2;
+    if (sign > 0)
+        paintSign(painter, phase.verdict == Verdict::right ? Sign::tick : Sign::cross,
+                  QRectF(left, lower.center().y() - 6 * scale, 10 * scale, 10 * scale), ink);
+    painter.setPen(ink);
+    painter.drawText(QRectF(left + sign, lower.top() - 2 * scale, wide, lower.height()),
+                     Qt::AlignLeft | Qt::AlignVCenter, seconds);
+}
+
+void PlotPainter::paintRow(QPainter& painter, const PlotRow& row) const {
+    painter.setPen(QPen(colours.edge, 1));
+    painter.setBrush(colours.well);
+    painter.drawRoundedRect(row.frame, rounding, rounding);
+    painter.save();
+    painter.setClipRect(row.frame.adjusted(1, 1, -1, -1));
+    paintGrid(painter, row);
+    if (layout.chosen)
+        painter.fillRect(QRectF(layout.chosen->left(), row.frame.top(), layout.chosen->width(),
+                                row.frame.height()),
+                         colours.chosen);
+    paintBands(painter, row);
+    paintCurves(painter, row);
+    painter.restore();
+    paintCaption(painter, row);
+}
+
+void PlotPainter::paintGrid(QPainter& painter, const PlotRow& row) const {
+    painter.setPen(QPen(colours.grid, 1));
+    for (const PlotLayout::Minute& minute : layout.minutes)
+        painter.drawLine(QPointF(minute.x, row.frame.top()), QPointF(minute.x, row.frame.bottom()));
+    if (row.low < 0 && row.high > 0)
+        painter.drawLine(QPointF(row.frame.left(), row.yAt(0)),
+                         QPointF(row.frame.right(), row.yAt(0)));
+}
+
+void PlotPainter::paintBands(QPainter& painter, const PlotRow& row) const {
+    QPen edge(colours.bandEdge, 1);
+    edge.setDashPattern({4, 3});
+    for (const QRectF& band : row.bands) {
+        painter.fillRect(band, colours.band);
+        painter.setPen(edge);
+        painter.drawLine(band.topLeft(), band.topRight());
+        painter.drawLine(band.bottomLeft(), band.bottomRight());
+    }
+}
+
+void PlotPainter::paintCurves(QPainter& painter, const PlotRow& row) const {
+    for (const QPolygonF& curve : row.earlier)
+        paintCurve(painter, curve, roundPen(colours.earlier, earlierWidth * scale));
+    for (const QPolygonF& curve : row.own)
+        paintCurve(painter, curve, roundPen(colours.own, ownWidth * scale));
+    for (const QPolygonF& curve : row.outside)
+        paintOutside(painter, curve, colours.outside, colours.dots, outsideWidth * scale);
+}
+
+void PlotPainter::paintCaption(QPainter& painter, const PlotRow& row) const {
+    const QFont numbers = look::font(look::scaleType * scale);
+    const QFontMetricsF metrics(numbers);
+    double widest = 0;
+    painter.setFont(numbers);
+    painter.setPen(colours.unit);
+    for (const double value : row.labels) {
+        const QString label = labelOf(*row.series, value, texts);
+        widest = std::max(widest, metrics.horizontalAdvance(label));
+        const double middle = std::clamp(row.yAt(value), row.frame.top() + metrics.height() / 2 - 2,
+                                         row.frame.bottom() - metrics.height() / 2 + 2);
+        painter.drawText(QRectF(row.caption.left(), middle - metrics.height() / 2,
+                                row.frame.left() - labelGap * scale - row.caption.left(),
+                                metrics.height()),
+                         Qt::AlignRight | Qt::AlignVCenter, label);
+    }
+    painter.setFont(look::font(look::unitType * scale, QFont::Bold));
+    painter.setPen(colours.caption);
+    const QRectF room = row.caption.adjusted(0, 0, -widest - labelGap * scale, 0);
+    painter.drawText(room, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap,
+                     QString::fromStdString(nameOf(texts, row.series->kind)));
+}
+
+void PlotPainter::paintAxis(QPainter& painter) const {
+    const QFont font = look::font(look::unitType * scale);
+    painter.setFont(font);
+    painter.setPen(colours.unit);
+    const double width = 40 * scale;
+    for (const PlotLayout::Minute& minute : layout.minutes) {
+        painter.drawLine(QPointF(minute.x, layout.axis.top() - 1),
+                         QPointF(minute.x, layout.axis.top() + 3 * scale));
+        painter.drawText(
+            QRectF(minute.x - width / 2, layout.axis.top(), width, layout.axis.height()),
+            Qt::AlignCenter, QString::number(minute.minutes));
+    }
+    painter.drawText(
+        QRectF(0, layout.axis.top(), layout.axis.left() - labelGap * scale, layout.axis.height()),
+        Qt::AlignRight | Qt::AlignVCenter, textOf(texts, Text::debriefMinutes));
+}
+
+void PlotPainter::paintCursor(QPainter& painter, int sample, const QString& time) const {
+    if (layout.samples == 0)
+        return;
+    painter.setRenderHint(QPainter::Antialiasing);
+    const double x = layout.xAt(sample);
+    const double top = layout.phases.bottom();
+    painter.setPen(QPen(colours.cursor, cursorWidth * scale));
+    painter.drawLine(QPointF(x, top), QPointF(x, layout.axis.top() + 4 * scale));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colours.cursor);
+    const double half = 5 * scale;
+    painter.drawPolygon(
+        QPolygonF{QPointF(x - half, top), QPointF(x + half, top), QPointF(x, top + 6 * scale)});
+    for (const PlotRow& row : layout.rows) {
+        const std::optional<double> value = row.valueAt(sample);
+        if (!value || *value < row.low || *value > row.high)
+            continue;
+        painter.setPen(QPen(colours.well, 1));
+        painter.drawEllipse(QPointF(x, row.yAt(*value)), 4 * scale, 4 * scale);
+    }
+    const QFont font = look::font(look::unitType * scale, QFont::Bold);
+    const double wide = QFontMetricsF(font).horizontalAdvance(time) + 12 * scale;
+    QRectF tag(x - wide / 2, layout.axis.top() + 4 * scale, wide, 19 * scale);
+    tag.moveLeft(
+        std::clamp(tag.left(), layout.axis.left() - 4, layout.axis.right() + 4 - tag.width()));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colours.tag);
+    painter.drawRoundedRect(tag, 3, 3);
+    painter.setFont(font);
+    painter.setPen(colours.tagText);
+    painter.drawText(tag, Qt::AlignCenter, time);
+}
+
+} // namespace tarnel
