@@ -96,6 +96,10 @@ class QAform {
     [[nodiscard]] ExercisePanel& panel(PanelId id) { return *panels[static_cast<std::size_t>(id)]; }
     /// Whether a question stands on the panel; its session may still be asked for.
     [[nodiscard]] bool posed() const { return questionLive; }
+    /// What stands in the study file on that question; null if none does.
+    [[nodiscard]] const StudyRecord* posedRecord() const {
+        return questionLive ? &currentRecord() : nullptr;
+    }
     /// The panel of the running exercise; null if none runs.
     [[nodiscard]] ExercisePanel* activePanel();
     /// The widget of that name, null if no panel has it.

@@ -2,6 +2,7 @@
 
 #include "panel/needle_sources.h"
 #include "persistence/file_bytes.h"
+#include "shell/question_task.h"
 
 #include <cmath>
 #include <optional>
@@ -81,6 +82,9 @@ DebriefDesk::Given Form1::debriefGiven() {
                 },
             .knownTask = [this]() -> std::optional<Task> {
                 const std::span<const Sample> example = exampleFlight();
+                if (exercise.runs() && QAform1.posedRecord())
+                    return taskOf(static_cast<ExerciseType>(QAform1.c_QAtype.get()),
+                                  *QAform1.posedRecord(), example);
                 if (example.empty())
                     return {};
                 return ReferenceTask{{example.begin(), example.end()}};

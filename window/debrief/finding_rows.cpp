@@ -1,6 +1,6 @@
 #include "window/debrief/finding_rows.h"
 
-#include "shell/debrief_words.h"
+#include "shell/finding_text.h"
 #include "window/widgets/text_of.h"
 
 #include <QStringList>
@@ -35,14 +35,15 @@ std::vector<FindingRow> findingRows(const DebriefDesk& desk, const StringTable& 
     for (const Finding& finding : desk.attempt()->debrief.findings) {
         FindingRow row;
         row.verdict = finding.verdict;
-        row.sentence = QString::fromStdString(sentenceOf(texts, finding));
-        row.word = QString::fromStdString(verdictOf(texts, finding));
+        row.sentence = QString::fromStdString(findingText(finding, texts));
+        row.word = QString::fromStdString(verdictText(finding, texts));
         row.moment = timeAt(*desk.attempt(), finding.samples.first);
         if (!desk.compared().empty())
             if (const Finding* earlier = sameIn(desk.compared().front(), finding)) {
-                row.earlier = QStringLiteral("%1. %2")
+                row.earlier = textOf(texts, Text::debriefEarlierValue)
                                   .arg(desk.compared().front().number)
-                                  .arg(QString::fromStdString(valueOf(texts, *earlier)));
+                                  .arg(QString::fromStdString(
+                                      valueText(earlier->value, unitOf(earlier->kind), texts)));
                 row.earlierVerdict = earlier->verdict;
             }
         rows.push_back(std::move(row));

@@ -1,7 +1,7 @@
 #include "window/debrief/plot_painter.h"
 
 #include "look/panel_look.h"
-#include "shell/debrief_words.h"
+#include "shell/finding_text.h"
 #include "window/widgets/icons.h"
 #include "window/widgets/text_of.h"
 
@@ -94,7 +94,7 @@ const PlotColours& paperColours() {
 }
 
 PlotReading readingOf(const Series& series, std::optional<double> value, const StringTable& texts) {
-    QString unit = QString::fromStdString(nameOf(texts, series.unit));
+    QString unit = QString::fromStdString(unitText(series.unit, texts));
     if (!value)
         return {QStringLiteral("---"), unit};
     const double size = std::abs(*value);
@@ -106,8 +106,6 @@ PlotReading readingOf(const Series& series, std::optional<double> value, const S
     }
     if (series.unit == FindingUnit::nauticalMiles)
         return {QString::number(size, 'f', size < 9.995 ? 2 : 1), unit};
-    if (series.unit == FindingUnit::dots)
-        return {QString::number(size, 'f', 1), unit};
     return {QString::number(std::lround(size)).rightJustified(2, '0'), unit};
 }
 
@@ -161,7 +159,7 @@ void PlotPainter::paintPhase(QPainter& painter, const Phase& phase, const QRectF
     painter.setFont(font);
     painter.setPen(chosen ? QColor(Qt::white) : colours.unit);
     const QFontMetricsF metrics(font);
-    const QString name = QString::fromStdString(nameOf(texts, phase.kind));
+    const QString name = textOf(texts, nameOf(phase.kind));
     const QString shown = metrics.elidedText(name, Qt::ElideRight, room.width());
     if (shown.size() > 2)
         painter.drawText(upper, Qt::AlignCenter, shown);
@@ -252,7 +250,7 @@ void PlotPainter::paintCaption(QPainter& painter, const PlotRow& row) const {
     painter.setPen(colours.caption);
     const QRectF room = row.caption.adjusted(0, 0, -widest - labelGap * scale, 0);
     painter.drawText(room, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap,
-                     QString::fromStdString(nameOf(texts, row.series->kind)));
+                     textOf(texts, nameOf(row.series->kind)));
 }
 
 void PlotPainter::paintAxis(QPainter& painter) const {

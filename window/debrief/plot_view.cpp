@@ -2,7 +2,7 @@
 
 #include "instruments/digit_readout.h"
 #include "look/panel_look.h"
-#include "shell/debrief_words.h"
+#include "shell/finding_text.h"
 #include "window/debrief/finding_rows.h"
 #include "window/debrief/plot_painter.h"
 #include "window/widgets/picture_store.h"
@@ -98,8 +98,7 @@ void PlotView::speak() {
     for (const PlotRow& row : laidOut().rows) {
         const PlotReading reading =
             readingOf(*row.series, row.valueAt(model.desk.moment()), model.boxes.texts);
-        words += QStringLiteral(", ") +
-                 QString::fromStdString(nameOf(model.boxes.texts, row.series->kind)) +
+        words += QStringLiteral(", ") + textOf(model.boxes.texts, nameOf(row.series->kind)) +
                  QLatin1Char(' ') + reading.digits + QLatin1Char(' ') + reading.unit;
     }
     if (words != accessibleName())
