@@ -43,6 +43,8 @@ struct LetteringRoom {
 class ChartLettering {
   public:
     void layOut(const LetteringScene& scene, const LetteringRoom& room);
+    /// What has come to stand there, for lettering that is laid out after it.
+    [[nodiscard]] const std::vector<Box>& occupiedAreas() const { return occupied; }
 
     std::array<NameLabel, slotCount> names;
     std::optional<LineLettering> radialI2;

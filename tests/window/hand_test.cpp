@@ -61,6 +61,8 @@ class HandStudent : public Student {
                   {"centre", told(toPlain(form->UserControl11.view.mapCenter).latitude)},
                   {"open", told(window->isVisible())},
                   {"progress", told(window->findChild<QWidget*>("Progress") != nullptr)},
+                  {"debrief", told(form->debrief.isOpen(), form->debrief.choosesTask())},
+                  {"choice", told(form->debrief.choice().course)},
                   {"box", world.boxes.empty() ? "" : world.boxes.back()},
                   {"opened", world.opened.empty() ? "" : world.opened.back()},
                   {"asked", world.asked.empty() ? "" : world.asked.back()}};
@@ -136,6 +138,8 @@ TEST_F(HandStudent, EveryControlReachesTheModel) {
             turnTo(name.c_str());
         else if (name == "fly")
             fly(8);
+        else if (name == "debrief")
+            form->debriefControls.item.click();
         else
             useWidget(*controls().at(name));
     };
@@ -171,7 +175,11 @@ TEST_F(HandStudent, EveryControlReachesTheModel) {
         "PageStations/Ndb1On c_NDB1EN=0 PageStations/Ndb2On c_NDB2EN=0 "
         "PageStations/LocOn c_LOC1EN=0 PageStations/Dme1On c_DME1EN=0 "
         "PageStations/Dme2On c_DME2EN=0 PageStations/Dme5On c_DME5EN=0 "
-        "PageStations/Check9 c_mapedit=1",
+        "PageStations/Check9 c_mapedit=1 debrief/TaskCourse choice=1 debrief/DebriefClose "
+        "debrief=0 "
+        "debrief/DebriefJudge debrief=10 debrief/DebriefJudge/DebriefTask debrief=11 "
+        "debrief/DebriefJudge/DebriefPlotView c_RepeatValue=14 "
+        "debrief/DebriefJudge/DebriefFlyAgain debrief=0",
         use);
     openBehindAFlight();
     const std::set<std::string> others{"",
@@ -209,7 +217,7 @@ TEST_F(HandStudent, EveryItemOfTheMenusDoesWhatItIsNamedFor) {
         "test box=Tarnel headingUp c_MAPnorthUP=0 headingUp/northUp c_MAPnorthUP=1 "
         "keyM c_TimerEN=1 keyP replay=100 keyH c_AirplaneEN=0 keyT c_TraceEN=0 "
         "keyV c_SpeedVectorEN=1 keyW c_WindSetEN=3 keyR c_NAVRadBorder=-1 zoomIn c_MAPscale=250 "
-        "zoomOut c_MAPscale=167 floatingGyro gyro=1";
+        "zoomOut c_MAPscale=167 floatingGyro gyro=1 mnuDebrief debrief=11";
     for (const std::string kind : {"adf", "vor"})
         for (int i = 1; i <= 10; ++i)
             rows += " " + kind + std::to_string(i) + " c_SessionFileName=e-" + kind + "practise" +

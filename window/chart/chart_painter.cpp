@@ -56,6 +56,10 @@ void ChartPainter::paint(QPainter& painter, double side, double devicePixelRatio
     paintGrid(painter, frame, grid);
     paintLines(painter);
     paintLettering(painter, said);
+    if (layered()) {
+        layer->paintLettering(painter, layerPlace(), lettering.occupiedAreas());
+        layer->paintFoot(painter, layerPlace());
+    }
     paintOverlays(painter, scale);
 }
 
@@ -76,6 +80,10 @@ GridPlace ChartPainter::gridPlace() const {
     ChartPlace origin;
     view.placeOnChart(toPlain(view.mapCenter), rotation(), origin);
     return {frame.spot(origin.wide), view.plot.mapScaleTwips * frame.pixelsPerTwip, rotation()};
+}
+
+LayerPlace ChartPainter::layerPlace() const {
+    return {frame, sim.view, rotation(), sim.view.plot.mapScaleTwips * frame.pixelsPerTwip};
 }
 
 const ChartPainter::NameText& ChartPainter::nameText(std::size_t slot) {
@@ -124,7 +132,8 @@ void ChartPainter::layOut(const Words& said, const ScaleBar& scale) {
                        windRoom(frame.lineFont, said.wind)};
     for (std::size_t slot = 0; slot < slotCount; ++slot)
         room.names[slot] = nameText(slot).room;
-    lettering.layOut({sim.picture, frame, scale.plate, sim.referenceReading.known,
+    const Box foot = layered() ? layer->foot(layerPlace()) : scale.plate;
+    lettering.layOut({sim.picture, frame, foot, sim.referenceReading.known && !layered(),
                       toPaper(airplaneArea(frame, sim.picture.airplane)),
                       frame.spot(sim.aircraft.place.wide)},
                      room);
@@ -135,7 +144,10 @@ void ChartPainter::paintLines(QPainter& painter) {
     paintFeather(painter, frame, picture.localizer);
     paintRadials(painter, frame, picture.radialsI2);
     paintRadials(painter, frame, picture.radialsI3);
-    trace.paint(painter, frame, picture.trace, traceDiameter * frame.symbolScale);
+    if (layered())
+        layer->paintLines(painter, layerPlace());
+    else
+        trace.paint(painter, frame, picture.trace, traceDiameter * frame.symbolScale);
     ahead.paint(painter, frame, picture.ahead, aheadDiameter * frame.symbolScale);
     for (std::size_t slot = 0; slot < slotCount; ++slot)
         if (isOnPaper(frame, picture.symbols[slot], slot))

@@ -5,6 +5,7 @@
 #include "strings/string_table.h"
 #include "window/chart/chart_dots.h"
 #include "window/chart/chart_frame.h"
+#include "window/chart/chart_layer.h"
 #include "window/chart/chart_lines.h"
 #include "window/chart/chart_overlays.h"
 #include "window/chart/chart_symbols.h"
@@ -27,6 +28,8 @@ class ChartPainter {
 
     /// Paints the chart on a square of `side` logical pixels.
     void paint(QPainter& painter, double side, double devicePixelRatio);
+
+    ChartLayer* layer = nullptr; ///< lies on the chart while it is shown
 
   private:
     /// The lines of a name label, cut from its caption.
@@ -51,6 +54,8 @@ class ChartPainter {
     [[nodiscard]] Words words() const;
     [[nodiscard]] QString courseOf(const RadialLines& lines) const;
     void layOut(const Words& words, const ScaleBar& scale);
+    [[nodiscard]] bool layered() const { return layer && layer->isShown(); }
+    [[nodiscard]] LayerPlace layerPlace() const;
 
     void paintLines(QPainter& painter);
     void paintLettering(QPainter& painter, const Words& words) const;

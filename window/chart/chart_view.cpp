@@ -53,11 +53,17 @@ ChartView::ChartView(UserControl2& simulation, const StringTable& table, QWidget
 
 void ChartView::refresh() {
     showCursor();
-    lamps->refresh();
+    const ChartLayer* layer = painter.layer;
+    if (layer && layer->isShown())
+        lamps->hide();
+    else
+        lamps->refresh();
     speak();
-    if (shownRevision == sim.picture.surface.revision())
+    const std::uint64_t layerRevision = layer ? layer->revision() : 0;
+    if (shownRevision == sim.picture.surface.revision() && shownLayer == layerRevision)
         return;
     shownRevision = sim.picture.surface.revision();
+    shownLayer = layerRevision;
     update();
 }
 

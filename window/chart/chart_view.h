@@ -32,6 +32,9 @@ class ChartView : public QWidget {
     void speak();
     [[nodiscard]] QString spokenChart() const;
 
+    /// What lies on the chart in the place of the trace while it is shown; it must live as long.
+    void setLayer(ChartLayer& layer) { painter.layer = &layer; }
+
     /// Every call into the simulation goes through here, so that its owner can catch what it
     /// throws.
     ModelGuard guard = unguarded();
@@ -70,6 +73,7 @@ class ChartView : public QWidget {
     ChartPainter painter;
     ReferenceLamps* lamps = nullptr;
     std::uint64_t shownRevision = 0; ///< of the picture, when all of it was last asked for
+    std::uint64_t shownLayer = 0;    ///< the layer's
     std::pair<std::uint64_t, bool> spoken{~std::uint64_t{0}, false}; ///< what the words are of
     int wheelRest = 0;
     MouseHold hold{*this, [this] { letGo(); }};

@@ -53,7 +53,7 @@ std::vector<FindingRow> findingRows(const DebriefDesk& desk, const StringTable& 
 
 QString taskTitle(const DebriefModel& model) {
     const StringTable& texts = model.boxes.texts;
-    if (!model.desk.task())
+    if (!model.desk.task() || model.desk.choosesTask())
         return textOf(texts, Text::debrief);
     if (std::holds_alternative<WindTask>(*model.desk.task()))
         return textOf(texts, Text::taskWind);

@@ -9,7 +9,7 @@ namespace tarnel {
 namespace {
 
 constexpr double captionWidth = 84;
-constexpr double narrowCaptionWidth = 62;
+constexpr double narrowCaptionWidth = 40;
 constexpr double readoutWidth = 80;
 constexpr double narrowReadoutWidth = 58;
 constexpr double narrowPlot = 560; ///< below that captions and read-outs are narrow
@@ -240,7 +240,7 @@ int PlotLayout::sampleAt(double x) const {
 
 PlotLayout layOutPlot(const PlotScene& scene, QSizeF size, double scale) {
     PlotLayout layout;
-    const bool narrow = size.width() < narrowPlot * scale;
+    const bool narrow = layout.narrow = size.width() < narrowPlot * scale;
     const double left = (narrow ? narrowCaptionWidth : captionWidth) * scale;
     const double right = (narrow ? narrowReadoutWidth : readoutWidth) * scale;
     const double gap = columnGap * scale;

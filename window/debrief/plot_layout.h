@@ -57,6 +57,7 @@ struct PlotLayout {
     std::vector<Minute> minutes;
     std::optional<QRectF> chosen; ///< what is looked at, over phases and rows
     int samples = 0;
+    bool narrow = false; ///< names stand on the rows: beside them is room for numbers alone
 
     /// The middle of a sample, from 0.
     [[nodiscard]] double xAt(double sample) const;

@@ -36,9 +36,11 @@ void PlotLegend::paintEvent(QPaintEvent* /*event*/) {
     painter.setFont(font());
     const QFontMetricsF metrics(font());
     double x = entryGap;
+    bool full = false;
     const auto entry = [&](const QString& name, const std::function<void(QPointF, QPointF)>& sign) {
         const double wide = swatch + swatchGap + metrics.horizontalAdvance(name) + entryGap;
-        if (x + wide > width())
+        full = full || x + wide > width();
+        if (full)
             return;
         sign({x, height() / 2.0}, {x + swatch, height() / 2.0});
         painter.setPen(look::unit);

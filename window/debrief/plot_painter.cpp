@@ -126,6 +126,8 @@ void paintOutside(QPainter& painter, const QPolygonF& curve, const QColor& colou
 }
 
 void PlotPainter::paint(QPainter& painter) const {
+    if (!scene.own)
+        return;
     painter.setRenderHint(QPainter::Antialiasing);
     paintPhases(painter);
     for (const PlotRow& row : layout.rows)
@@ -137,8 +139,6 @@ void PlotPainter::paintPhases(QPainter& painter) const {
     painter.setPen(QPen(colours.edge, 1));
     painter.setBrush(colours.well);
     painter.drawRect(layout.phases);
-    if (!scene.own)
-        return;
     for (std::size_t i = 0; i < layout.cells.size(); ++i)
         paintPhase(painter, scene.own->phases[i], layout.cells[i]);
 }
@@ -248,7 +248,8 @@ void PlotPainter::paintCaption(QPainter& painter, const PlotRow& row) const {
     }
     painter.setFont(look::font(look::unitType * scale, QFont::Bold));
     painter.setPen(colours.caption);
-    const QRectF room = row.caption.adjusted(0, 0, -widest - labelGap * scale, 0);
+    const QRectF room = layout.narrow ? row.frame.adjusted(labelGap * scale, 2 * scale, 0, 0)
+                                      : row.caption.adjusted(0, 0, -widest - labelGap * scale, 0);
     painter.drawText(room, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap,
                      textOf(texts, nameOf(row.series->kind)));
 }

@@ -44,9 +44,17 @@ PlotScene plotScene(const DebriefDesk& desk) {
     scene.startSeconds = secondsAt(attempt, 0);
     for (const Attempt& earlier : desk.compared())
         scene.earlier.push_back(&earlier.debrief);
-    if (desk.finding())
-        scene.chosen = attempt.debrief.findings[*desk.finding()].samples;
+    scene.chosen = chosenPart(desk);
     return scene;
+}
+
+std::optional<SampleSpan> chosenPart(const DebriefDesk& desk) {
+    constexpr double aboutAll = 0.9;
+    if (!desk.attempt() || !desk.finding())
+        return {};
+    const SampleSpan part = desk.attempt()->debrief.findings[*desk.finding()].samples;
+    const auto all = static_cast<double>(desk.attempt()->samples.size());
+    return part.last - part.first < aboutAll * all ? std::optional(part) : std::nullopt;
 }
 
 PlotView::PlotView(const DebriefModel& debriefModel, PictureStore& store, QWidget* parent)

@@ -9,6 +9,7 @@
 #include <QWidget>
 
 #include <cstdint>
+#include <optional>
 
 namespace tarnel {
 
@@ -16,6 +17,9 @@ class PictureStore;
 
 /// What is plotted of the flight that is looked at.
 [[nodiscard]] PlotScene plotScene(const DebriefDesk& desk);
+
+/// The part of the flight that the chosen finding speaks of; none if that is about all of it.
+[[nodiscard]] std::optional<SampleSpan> chosenPart(const DebriefDesk& desk);
 
 /// `PlotView`: the flight over time. Its cursor is the moment of the replay: mouse and keys move
 /// both.

@@ -7,6 +7,8 @@
 #include "window/chart/comment_card.h"
 #include "window/chart/station_editing.h"
 #include "window/debrief/debrief_card.h"
+#include "window/debrief/debrief_layer.h"
+#include "window/debrief/debrief_page.h"
 #include "window/debrief/debrief_plot.h"
 #include "window/dials/floating_gyro.h"
 #include "window/frame/file_opener.h"
@@ -144,6 +146,9 @@ void MainWindow::makeDesk() {
     debriefCard = new DebriefCard(debriefModel(), binding, desk);
     debriefPlot = new DebriefPlot(debriefModel(), binding, pictures, guard, panel);
     debriefPlot->hide();
+    debriefLayer = std::make_unique<DebriefLayer>(debriefModel());
+    chart->setLayer(*debriefLayer);
+    connectExports(debriefModel());
     gyro = new additional_DG(form, form.exercise, form.boxes, pictures, this);
 }
 

@@ -15,6 +15,7 @@
 namespace tarnel {
 
 class ChartControls;
+class ChartLayer;
 class ChartView;
 class CommentCard;
 class DebriefCard;
@@ -93,6 +94,7 @@ class MainWindow : public QMainWindow {
     ProgressPage* progress = nullptr;
     DebriefCard* debriefCard = nullptr;
     DebriefPlot* debriefPlot = nullptr;
+    std::unique_ptr<ChartLayer> debriefLayer;
     StatusPanels* status = nullptr;
     additional_DG* gyro = nullptr;
     QTimer couplingTimer;

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "shell/debrief_desk.h"
+
+#include <QPointF>
+#include <QPolygonF>
+
+#include <functional>
+#include <optional>
+#include <span>
+#include <vector>
+
+namespace tarnel {
+
+/// The lines of a debrief on the chart, in pixels.
+struct ChartTracks {
+    struct TaskCurve {
+        TaskLineKind kind{};
+        QPolygonF points;
+    };
+    std::vector<TaskCurve> task;
+    double corridor = 0; ///< NM to either side of the task's curves that are allowed; 0 for none
+    QPolygonF own;
+    std::vector<QPolygonF> outside; ///< the parts of it that keep some limit not
+    QPolygonF chosen;               ///< the part that the finding speaks of; empty without one
+    std::vector<QPolygonF> earlier;
+};
+
+/// Where a position lies on the paper.
+using OnPaper = std::function<QPointF(const GeoPosition&)>;
+
+[[nodiscard]] ChartTracks layOutTracks(const Attempt& attempt, std::span<const Attempt> earlier,
+                                       std::optional<SampleSpan> chosen, const OnPaper& place);
+
+/// Boxes of these sizes in lines from left to right between `left` and `right`, downwards from
+/// `top`.
+[[nodiscard]] std::vector<QRectF> flowOf(std::span<const double> widths, double left, double right,
+                                         double top, double lineHeight);
+
+} // namespace tarnel
