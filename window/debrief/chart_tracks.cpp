@@ -69,12 +69,17 @@ ChartTracks layOutTracks(const Attempt& attempt, std::span<const Attempt> earlie
     const std::vector<QPointF> path = pathOf(attempt, place);
     tracks.own = curveOf(path);
     tracks.outside = outsideOf(path, attempt.debrief.outside);
-    if (chosen && chosen->last > chosen->first) {
-        const auto first = static_cast<std::size_t>(std::max(0, chosen->first));
-        const auto last = std::min(static_cast<std::size_t>(chosen->last), path.size() - 1);
-        if (first <= last)
-            tracks.chosen = curveOf(std::span(path).subspan(first, last - first + 1));
-    }
+    if (path.empty())
+        return tracks;
+    const auto sampleAt = [&](int sample) {
+        return static_cast<std::size_t>(std::clamp(sample, 0, static_cast<int>(path.size()) - 1));
+    };
+    const SampleSpan part = chosen.value_or(SampleSpan{0, static_cast<int>(path.size()) - 1});
+    const std::size_t first = sampleAt(part.first);
+    const std::size_t last = sampleAt(part.last);
+    tracks.place = path[(first + last) / 2];
+    if (chosen && last > first)
+        tracks.chosen = curveOf(std::span(path).subspan(first, last - first + 1));
     for (const Attempt& each : earlier)
         tracks.earlier.push_back(curveOf(pathOf(each, place)));
     return tracks;

@@ -23,6 +23,7 @@ struct ChartTracks {
     QPolygonF own;
     std::vector<QPolygonF> outside; ///< the parts of it that keep some limit not
     QPolygonF chosen;               ///< the part that the finding speaks of; empty without one
+    QPointF place;                  ///< that the finding's words stand beside
     std::vector<QPolygonF> earlier;
 };
 

@@ -41,9 +41,18 @@ constexpr double swatchWidth = 30;
 constexpr double swatchGap = 7;
 constexpr double entryGap = 16;
 constexpr double footInset = 9;
+constexpr double smallSide = 360; ///< of a paper with room for short words only
 
 QPen roundPen(const QColor& colour, double width) {
     return {colour, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin};
+}
+
+/// The later of two earlier flights is dashed.
+QPen earlierPen(std::size_t index) {
+    QPen pen = roundPen(earlierInk, earlierWidth);
+    if (index > 0)
+        pen.setDashPattern({4, 3});
+    return pen;
 }
 
 /// Arrows along a curve tell which way it is flown.
@@ -91,13 +100,16 @@ void DebriefLayer::layOut(const LayerPlace& place) {
     layOutLegend(place);
 }
 
-std::vector<DebriefLayer::Entry> DebriefLayer::entries() const {
+std::vector<DebriefLayer::Entry> DebriefLayer::entries(double side) const {
     const StringTable& texts = model.boxes.texts;
     std::vector<Entry> all{{Swatch::own, attemptName(*model.desk.attempt(), texts), {}}};
     for (const Attempt& earlier : model.desk.compared())
-        all.push_back({Swatch::earlier, attemptName(earlier, texts), {}});
+        all.push_back({all.size() > 1 ? Swatch::earlierDashed : Swatch::earlier,
+                       attemptName(earlier, texts),
+                       {}});
+    const Text outside = side < smallSide ? Text::debriefOutside : Text::debriefOutsideLimits;
     if (!tracks.outside.empty())
-        all.push_back({Swatch::outside, textOf(texts, Text::debriefOutsideLimits), {}});
+        all.push_back({Swatch::outside, textOf(texts, outside), {}});
     if (!tracks.task.empty()) {
         QString name = textOf(texts, Text::debriefReference);
         if (tracks.corridor > 0)
@@ -112,7 +124,7 @@ std::vector<DebriefLayer::Entry> DebriefLayer::entries() const {
 /// The legend stands between the scale bar and the north arrow.
 void DebriefLayer::layOutLegend(const LayerPlace& place) {
     const double scale = place.frame.textScale;
-    legend = entries();
+    legend = entries(place.frame.side);
     const QFontMetricsF metrics(place.frame.smallFont);
     std::vector<double> widths;
     for (const Entry& entry : legend)
@@ -161,9 +173,10 @@ void DebriefLayer::paintLines(QPainter& painter, const LayerPlace& place) {
     layOut(place);
     painter.setBrush(Qt::NoBrush);
     paintTask(painter, place.pixelsPerMile);
-    painter.setPen(roundPen(earlierInk, earlierWidth));
-    for (const QPolygonF& earlier : tracks.earlier)
-        painter.drawPolyline(earlier);
+    for (std::size_t i = 0; i < tracks.earlier.size(); ++i) {
+        painter.setPen(earlierPen(i));
+        painter.drawPolyline(tracks.earlier[i]);
+    }
     const bool part = !tracks.chosen.isEmpty();
     if (part) {
         painter.setPen(roundPen(look::faded(look::accent, haloOpacity), haloWidth));
@@ -190,11 +203,9 @@ void DebriefLayer::paintLettering(QPainter& painter, const LayerPlace& place,
     const double scale = place.frame.textScale;
     const QFont font = look::font(look::denseType * scale, QFont::Bold);
     const QString said = QString::fromStdString(findingText(finding, model.boxes.texts))
-                             .section(QLatin1Char(','), 0, 0);
+                             .section(QStringLiteral(", "), 0, 0);
     const QRectF text = QFontMetricsF(font).boundingRect(QRectF(0, 0, place.frame.side * 0.45, 100),
                                                          Qt::TextWordWrap | Qt::AlignCenter, said);
-    const QPolygonF& part = tracks.chosen.isEmpty() ? tracks.own : tracks.chosen;
-    const QPointF middle = part[part.size() / 2];
     std::vector<Spot> track;
     for (const QPointF& spot : tracks.own)
         track.push_back({spot.x(), spot.y()});
@@ -202,7 +213,7 @@ void DebriefLayer::paintLettering(QPainter& painter, const LayerPlace& place,
     areas.push_back(footBox);
     const Box sheet{0, 0, place.frame.side, footBox.top};
     const Callout callout = placeCallout(
-        {middle.x(), middle.y()},
+        {tracks.place.x(), tracks.place.y()},
         {text.width() + 2 * padding * scale, text.height() + padding * scale}, sheet, areas, track);
     painter.setPen(QPen(look::accent, 1.2));
     painter.drawLine(toQt(callout.leader));
@@ -219,7 +230,8 @@ void DebriefLayer::paintSwatch(QPainter& painter, Swatch swatch, QPointF from, Q
         painter.setPen(roundPen(ownInk, ownWidth));
         break;
     case Swatch::earlier:
-        painter.setPen(roundPen(earlierInk, earlierWidth));
+    case Swatch::earlierDashed:
+        painter.setPen(earlierPen(swatch == Swatch::earlierDashed ? 1 : 0));
         break;
     case Swatch::outside:
         return paintOutside(painter, {from, to}, outsideInk, Qt::white, outsideWidth);

@@ -25,7 +25,7 @@ class DebriefLayer : public ChartLayer {
     void paintFoot(QPainter& painter, const LayerPlace& place) override;
 
   private:
-    enum class Swatch { own, outside, earlier, task };
+    enum class Swatch { own, outside, earlier, earlierDashed, task };
     struct Entry {
         Swatch swatch = Swatch::own;
         QString name;
@@ -43,7 +43,7 @@ class DebriefLayer : public ChartLayer {
 
     void layOut(const LayerPlace& place);
     void layOutLegend(const LayerPlace& place);
-    [[nodiscard]] std::vector<Entry> entries() const;
+    [[nodiscard]] std::vector<Entry> entries(double side) const;
     void paintTask(QPainter& painter, double pixelsPerMile) const;
     void paintSwatch(QPainter& painter, Swatch swatch, QPointF from, QPointF to) const;
 

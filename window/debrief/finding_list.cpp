@@ -41,7 +41,8 @@ struct Columns {
     double word = 0;
     double moment = 0;
 
-    Columns(const std::vector<FindingRow>& rows, double scale) {
+    /// Without room the first attempt's value gives way: it is still spoken and in the tool tip.
+    Columns(const std::vector<FindingRow>& rows, double width, double scale) {
         const QFontMetricsF plain(look::font(look::unitType * scale));
         const QFontMetricsF bold(sentenceFont(scale, true));
         for (const FindingRow& row : rows) {
@@ -51,6 +52,8 @@ struct Columns {
             word = std::max(word, bold.horizontalAdvance(row.word) + columnGap * scale);
             moment = std::max(moment, plain.horizontalAdvance(row.moment) + columnGap * scale);
         }
+        if (behind() > width / 2)
+            earlier = 0;
     }
     [[nodiscard]] double behind() const { return earlier + word + moment; }
 };
@@ -96,14 +99,14 @@ class FindingDelegate : public QStyledItemDelegate {
 
 double findingHeight(const FindingRow& row, double width, double scale,
                      const std::vector<FindingRow>& all) {
-    const double room = sentenceWidth(width, scale, Columns(all, scale));
+    const double room = sentenceWidth(width, scale, Columns(all, width, scale));
     const double text = sentenceBox(row, room, scale).height();
     return text > 1.5 * lineHeight * scale ? text + 5 * scale : rowHeight * scale;
 }
 
 void paintFinding(QPainter& painter, const FindingRow& row, const QRectF& area, double scale,
                   bool chosen, const std::vector<FindingRow>& all) {
-    const Columns columns(all, scale);
+    const Columns columns(all, area.width(), scale);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     if (chosen) {
@@ -129,7 +132,7 @@ void paintFinding(QPainter& painter, const FindingRow& row, const QRectF& area, 
         return box;
     };
     const QRectF earlier = cell(columns.earlier);
-    if (!row.earlier.isEmpty()) {
+    if (!row.earlier.isEmpty() && columns.earlier > 0) {
         painter.setFont(look::font(look::unitType * scale));
         painter.setPen(look::secondaryInk);
         painter.drawText(earlier.adjusted(0, 0, -14 * scale, 0), Qt::AlignRight | Qt::AlignVCenter,
@@ -176,7 +179,8 @@ void FindingList::show(std::vector<FindingRow> findings) {
         if (!row.earlier.isEmpty())
             spoken += QStringLiteral(", ") + row.earlier;
         item->setData(spoken, Qt::AccessibleTextRole);
-        item->setToolTip(row.sentence);
+        item->setToolTip(row.earlier.isEmpty() ? row.sentence
+                                               : row.sentence + QLatin1Char('\n') + row.earlier);
         items->appendRow(item);
     }
     marking = false;

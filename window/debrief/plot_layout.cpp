@@ -193,10 +193,12 @@ void fillRow(PlotRow& row, const PlotLayout& layout, const PlotScene& scene, dou
     draw(row.own, layout, row, series, any);
     draw(row.outside, layout, row, series,
          [&](int sample, double value) { return leavesBand(series, sample, value); });
-    for (const Debrief* debrief : scene.earlier)
+    for (const Debrief* debrief : scene.earlier) {
+        row.earlier.emplace_back();
         for (const Series& other : debrief->series)
             if (other.kind == series.kind)
-                draw(row.earlier, layout, row, other, any);
+                draw(row.earlier.back(), layout, row, other, any);
+    }
 }
 
 double minutesApart(double pixelsPerMinute, double scale) {

@@ -35,8 +35,8 @@ struct PlotRow {
     std::vector<double> labels;
     std::vector<QRectF> bands; ///< between the limits, where it is judged
     PlotCurves own;
-    PlotCurves outside; ///< the parts of it that leave a band
-    PlotCurves earlier;
+    PlotCurves outside;              ///< the parts of it that leave a band
+    std::vector<PlotCurves> earlier; ///< by flight
 
     [[nodiscard]] double yAt(double value) const;
     /// The value at a sample; none where it means nothing.

@@ -48,15 +48,15 @@ void PlotLegend::paintEvent(QPaintEvent* /*event*/) {
                          Qt::AlignLeft | Qt::AlignVCenter, name);
         x += wide;
     };
-    const auto line = [&](const QColor& colour, double width) {
-        return [&painter, colour, width](QPointF from, QPointF to) {
-            painter.setPen(QPen(colour, width));
+    const auto line = [&](const QPen& pen) {
+        return [&painter, pen](QPointF from, QPointF to) {
+            painter.setPen(pen);
             painter.drawLine(from, to);
         };
     };
-    entry(attemptName(*attempt, texts), line(colours.own, 2));
-    for (const Attempt& earlier : model.desk.compared())
-        entry(attemptName(earlier, texts), line(colours.earlier, 1.2));
+    entry(attemptName(*attempt, texts), line(QPen(colours.own, 2)));
+    for (std::size_t i = 0; i < model.desk.compared().size(); ++i)
+        entry(attemptName(model.desk.compared()[i], texts), line(earlierPen(colours, i, 1)));
     entry(textOf(texts, Text::debriefOutside), [&](QPointF from, QPointF to) {
         paintOutside(painter, {from, to}, colours.outside, colours.dots, 4.5);
     });

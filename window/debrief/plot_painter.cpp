@@ -109,6 +109,13 @@ PlotReading readingOf(const Series& series, std::optional<double> value, const S
     return {QString::number(std::lround(size)).rightJustified(2, '0'), unit};
 }
 
+QPen earlierPen(const PlotColours& colours, std::size_t index, double scale) {
+    QPen pen = roundPen(colours.earlier, earlierWidth * scale);
+    if (index > 0)
+        pen.setDashPattern({4, 3});
+    return pen;
+}
+
 void paintOutside(QPainter& painter, const QPolygonF& curve, const QColor& colour,
                   const QColor& dots, double width) {
     if (curve.isEmpty())
@@ -222,8 +229,9 @@ void PlotPainter::paintBands(QPainter& painter, const PlotRow& row) const {
 }
 
 void PlotPainter::paintCurves(QPainter& painter, const PlotRow& row) const {
-    for (const QPolygonF& curve : row.earlier)
-        paintCurve(painter, curve, roundPen(colours.earlier, earlierWidth * scale));
+    for (std::size_t i = 0; i < row.earlier.size(); ++i)
+        for (const QPolygonF& curve : row.earlier[i])
+            paintCurve(painter, curve, earlierPen(colours, i, scale));
     for (const QPolygonF& curve : row.own)
         paintCurve(painter, curve, roundPen(colours.own, ownWidth * scale));
     for (const QPolygonF& curve : row.outside)

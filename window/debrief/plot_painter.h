@@ -4,6 +4,7 @@
 #include "window/debrief/plot_layout.h"
 
 #include <QColor>
+#include <QPen>
 #include <QString>
 
 class QPainter;
@@ -70,6 +71,9 @@ class PlotPainter {
     const PlotColours& colours;
     double scale;
 };
+
+/// For the flights before: the later of two is dashed.
+[[nodiscard]] QPen earlierPen(const PlotColours& colours, std::size_t index, double scale);
 
 /// A curve outside of limits: a broad line with dots on it, so that it is told from the others
 /// without its colour.

@@ -148,8 +148,7 @@ QHeaderView, QHeaderView::section { background: transparent; border: none; }
 QHeaderView::section { color: $ink; padding: {4}px {8}px; font-size: {12}px; }
 QLabel[moduleCaption="true"] { color: $caption; font-size: {12}px; font-weight: bold; }
 QListView#DebriefFindings { background: transparent; outline: none; }
-QPushButton[toggle="true"]:checked { background: $tint; color: $accent; border-color: $accent;
-  font-weight: bold; }
+QPushButton[toggle="true"]:checked { background: $tint; color: $accent; border-color: $accent; }
 
 QWidget#StatusPanels { background: $bar; border-top: 1px solid $line; }
 QWidget#StatusPanels QLabel { font-size: {12}px; padding-left: {10}px; }
