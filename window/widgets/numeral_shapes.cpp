@@ -12,7 +12,7 @@ namespace tarnel {
 namespace {
 
 constexpr double pointTwips = 20;
-constexpr double outlineEm = 100;  ///< large, since outlines are hinted to whole pixels
+constexpr double outlineEm = 100; ///< large, since outlines are hinted to whole pixels
 /// Smaller, as two outlines are united to half a unit or so: an edge needs no more points.
 constexpr double edgeEm = 30;
 constexpr double edgeShare = 0.09; ///< of an em, around a numeral
