@@ -11,13 +11,13 @@ std::vector<PlaneOffset> turnInWind(const Wind& wind, double tas, double heading
     constexpr double secondsPerHour = 3600;
     const double perTick = tas * simTimeStep / secondsPerHour;
     const double windPerTick = wind.speed * simTimeStep / secondsPerHour;
+    const PlaneOffset drift{windPerTick * std::sin(wind.direction * degree),
+                            windPerTick * std::cos(wind.direction * degree)};
     std::vector<PlaneOffset> way;
     PlaneOffset place;
     const auto fly = [&](double flown) {
-        place.east +=
-            perTick * std::sin(flown * degree) - windPerTick * std::sin(wind.direction * degree);
-        place.north +=
-            perTick * std::cos(flown * degree) - windPerTick * std::cos(wind.direction * degree);
+        place.east += perTick * std::sin(flown * degree) - drift.east;
+        place.north += perTick * std::cos(flown * degree) - drift.north;
         way.push_back(place);
     };
     fly(heading);

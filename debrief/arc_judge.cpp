@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <numbers>
 
 namespace tarnel {
@@ -38,6 +37,7 @@ class ArcFlight {
     [[nodiscard]] int firstRun(double way, double near, int samples) const;
     void findLegs();
     [[nodiscard]] double leadInWind() const;
+    [[nodiscard]] double missAfter(double before) const;
     [[nodiscard]] double leadOfBook() const;
     void judgeArc();
     void judgeLead();
@@ -97,31 +97,32 @@ void ArcFlight::findLegs() {
         ends = established;
 }
 
-/// The radial from which the turn, in this wind and from this far off, would end on the course.
+/// Degrees before the final radial at which the turn, in this wind and from this far off, would
+/// end on the course.
 double ArcFlight::leadInWind() const {
-    constexpr double farthest = 25;
-    constexpr double step = 0.1;
+    double late = -5;
+    double early = 25;
+    const bool side = std::signbit(missAfter(late));
+    for (int i = 0; i < 12; ++i) {
+        const double middle = (late + early) / 2;
+        (std::signbit(missAfter(middle)) == side ? late : early) = middle;
+    }
+    return early;
+}
+
+/// NM right of the final course where the turn would end that begins so many degrees before its
+/// radial. Along the arc as he flies it, the heading goes with the radial.
+double ArcFlight::missAfter(double before) const {
     const int at = lead->first;
     const double correction = triangleAt(path, at, task.final).correction;
     const double onFinal = task.final + (std::isnan(correction) ? 0 : correction);
-    double nearest = std::numeric_limits<double>::infinity();
-    double best = 0;
-    // Along the arc as he flies it, the heading goes with the radial.
-    for (double before = -5; before <= farthest; before += step) {
-        const double radial = finalRadial() - hand * before;
-        const double heading = path.heading(at) + turnBetween(path.from(at).radial, radial);
-        const PlaneOffset turned =
-            turnInWind(path.wind(at), path.tas(at), heading, turnBetween(heading, onFinal)).back();
-        const double east = path.from(at).distance * std::sin(radial * degree) + turned.east;
-        const double north = path.from(at).distance * std::cos(radial * degree) + turned.north;
-        const double miss =
-            std::abs(east * std::cos(task.final * degree) - north * std::sin(task.final * degree));
-        if (miss < nearest) {
-            nearest = miss;
-            best = before;
-        }
-    }
-    return best;
+    const double radial = finalRadial() - hand * before;
+    const double heading = path.heading(at) + turnBetween(path.from(at).radial, radial);
+    const PlaneOffset turned =
+        turnInWind(path.wind(at), path.tas(at), heading, turnBetween(heading, onFinal)).back();
+    const double east = path.from(at).distance * std::sin(radial * degree) + turned.east;
+    const double north = path.from(at).distance * std::cos(radial * degree) + turned.north;
+    return east * std::cos(task.final * degree) - north * std::sin(task.final * degree);
 }
 
 /// 60 / DME x GS / 200, degrees.

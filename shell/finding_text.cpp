@@ -100,7 +100,7 @@ Text wrongBeyond(const Finding& finding) {
 } // namespace
 
 std::string findingText(const Finding& finding, const StringTable& texts) {
-    const std::string said =
+    std::string said =
         filledIn(texts[sentenceOf(finding.kind)], {valueOf(finding, finding.value, texts)});
     if (finding.verdict == Verdict::open)
         return said;

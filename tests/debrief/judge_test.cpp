@@ -58,7 +58,7 @@ void expectFound(const Task& task, const std::vector<Fault>& faults) {
 
 /// From the south-west to the course 090, by a cut; `early` NM before the turn would lead onto it.
 FlownFlight joining(double cut, double early = 0) {
-    constexpr double radius = 120 / 60 / std::numbers::pi;
+    constexpr double radius = 120 / 60.0 / std::numbers::pi;
     FlownFlight flight(-16, -3, 45);
     flight.course = 90;
     flight.fly(10).turnTo(90 - cut);
