@@ -84,6 +84,7 @@ TEST(Judge, FindsWhatIsWrongInJoiningAndTracking) {
     expectFound(
         line,
         {{"good", {}, [] { return toTheStation(joining(45)); }},
+         {"beside the station itself", {}, [] { return toTheStation(joining(45, 0.12)); }},
          {"cut too steep", interceptAngle, [] { return toTheStation(joining(70)); }},
          {"turned late", overshoot,
           [] {
@@ -343,6 +344,17 @@ TEST(Judge, FindsWhatIsOffAReference) {
                       }
                       return flight;
                   }}});
+}
+
+TEST(Judge, ForgivesATurnThatBeginsLater) {
+    const auto weaving = [](double first) {
+        FlownFlight flight(0, 0, 50);
+        flight.fly(first);
+        for (int i = 0; i < 12; ++i)
+            flight.turnTo(i % 2 == 0 ? 130 : 50).fly(16);
+        return flight;
+    };
+    expectFound(ReferenceTask{weaving(20).samples}, {{"late", {}, [&] { return weaving(27); }}});
 }
 
 TEST(Limits, AreWiderForBeginnersAndHaveSources) {
