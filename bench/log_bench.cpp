@@ -30,19 +30,20 @@ void fill(const std::string& folder) {
     first.spot = Text::spotQdmTurn;
     log.add(first);
     LogDatabase tables(folder + "/log.sqlite");
+    const auto minute = [](int number) { return static_cast<qlonglong>(number) * 60'000; };
     tables.together([&] {
         for (int i = 1; i < answers; ++i)
             tables.run(QStringLiteral("INSERT INTO answers(at, asked, course, exercise, question,"
                                       " place, places, spot, correct, took, given, answer)"
                                       " VALUES(?, ?, 1, ?, ?, ?, 4, ?, ?, ?, 'left', 'right')"),
-                       {i * (hour / 60), i * (hour / 60) - 9000, 1 + i % 10,
+                       {minute(i), minute(i) - 9000, 1 + i % 10,
                         static_cast<qlonglong>(i % 240) * 1'000'000'007, i % 4,
                         static_cast<int>(Text::spotRadial) + i % 39, i % 3 != 0,
                         5000 + i % 20'000});
         for (int i = 0; i < flights; ++i) {
             tables.run(QStringLiteral("INSERT INTO flights VALUES(?, ?, 'hold', 'Holding', ?,"
                                       " 20000, 0, 'none')"),
-                       {i + 1, i * hour, i});
+                       {i + 1, minute(60 * i), i});
             for (int place = 0; place < 7; ++place)
                 tables.run(QStringLiteral("INSERT INTO findings VALUES(?, ?, 'meanOffReference',"
                                           " 0.4, NULL, 1, 1, 0.5, 3, 90, 0)"),
