@@ -1,7 +1,7 @@
 #include "authoring/holding_words.h"
 
-#include "authoring/wind_triangle.h"
 #include "authoring/wording.h"
+#include "core/wind_triangle.h"
 #include "exercises/heading_offers.h"
 
 #include <cmath>
