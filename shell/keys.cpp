@@ -8,6 +8,9 @@ bool Form1::pressKey(char letter) {
         return false;
     switch (letter) {
     case 'M':
+        // The button rests while a replay plays; the key means to fly from where that stands.
+        if (exercise.mayFly() && replay.runs())
+            replayPage.stop.click();
         startButton.click();
         break;
     case 'P':

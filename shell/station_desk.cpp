@@ -38,6 +38,7 @@ void StationDesk::setEditing(bool editing) {
         display.setNorthUp(true);
     }
     sim.c_mapedit = editing ? 1 : 0;
+    page.edit.show(editing ? 1 : 0); // the coupling before a question has taken it back
     changed();
 }
 

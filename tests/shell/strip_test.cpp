@@ -188,6 +188,8 @@ TEST_F(StripTest, LettersDoWhatThePanelsSay) {
     EXPECT_EQ(press("P"), "1 0") << "no replay in flight";
     EXPECT_EQ(press("MP"), "0 1");
     EXPECT_EQ(press("P"), "0 0");
+    EXPECT_EQ(press("PM"), "1 0") << "a replay gives way to a flight";
+    press("M");
     press("HT");
     EXPECT_EQ(told(form.hidePanel, form.tracePanel), "[H]ide ON [T]race OFF");
     press("HVV");
@@ -279,7 +281,6 @@ TEST_F(StripTest, EditingAChartAsksForMarkedCommentsAndRestsTheReplay) {
     for (const bool answer : {false, true}) {
         world.answer = answer;
         form.stationPage.edit.click();
-        couple();
         EXPECT_EQ(told(form.stationPage.edit, sim().c_mapedit, sim().hasCommentMarks()),
                   answer ? "1 1 0" : "0 0 1");
     }
