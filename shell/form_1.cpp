@@ -77,8 +77,7 @@ DebriefDesk::Given Form1::debriefGiven() {
             .ownFlight =
                 [this] {
                     return !flight.flies() &&
-                           (exercise.studentHasFlown() ||
-                            (practice.practises() && UserControl11.c_TrackDelta == 3));
+                           (exercise.studentHasFlown() || practice.hasOwnFlight());
                 },
             .knownTask = [this]() -> std::optional<Task> {
                 const std::span<const Sample> example = exampleFlight();

@@ -82,6 +82,7 @@ void PracticeDesk::recall() {
 
 void PracticeDesk::showPanel(std::int16_t state) {
     PracticePanel& panel = strip.practicePanel;
+    own = state == 3;
     panel.frame.setVisible(state != 0);
     panel.recall.setEnabled(state >= 2);
     if (state == 1 || state == 2)

@@ -22,6 +22,8 @@ class PracticeDesk {
 
     /// Whether a practice flight is in memory, or one that was flown after it.
     [[nodiscard]] bool practises() const { return practising; }
+    /// Whether it is the student's own flight after it.
+    [[nodiscard]] bool hasOwnFlight() const { return practising && own; }
     /// Loads a session of the program's own, to be practised or only to be looked at.
     void open(const std::string& name, bool practised);
     /// Loads the session that is practised from now on. False, with a box, if it can't be read.
@@ -48,6 +50,7 @@ class PracticeDesk {
     FlightKeeper& keeper;
     const StringTable& texts;
     bool practising = false;
+    bool own = false;            ///< what is in memory was flown by the student
     std::string practisedPath;   ///< the session that the student's flight is compared with
     std::vector<Sample> example; ///< the flight of that session
     PracticeTask task;

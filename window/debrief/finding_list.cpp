@@ -23,7 +23,8 @@ constexpr double signWidth = 21;
 constexpr double columnGap = 10;
 constexpr double barWidth = 3;
 constexpr double edge = 8;
-constexpr int fewestRows = 3; ///< in sight
+constexpr int fewestRows = 3;       ///< in sight
+constexpr double mostBehind = 0.42; ///< of a row, for all but its sentence
 
 QColor inkOf(Verdict verdict) {
     return verdict == Verdict::right   ? look::right
@@ -52,7 +53,7 @@ struct Columns {
             word = std::max(word, bold.horizontalAdvance(row.word) + columnGap * scale);
             moment = std::max(moment, plain.horizontalAdvance(row.moment) + columnGap * scale);
         }
-        if (behind() > width / 2)
+        if (behind() > mostBehind * width)
             earlier = 0;
     }
     [[nodiscard]] double behind() const { return earlier + word + moment; }

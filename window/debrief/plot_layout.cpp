@@ -153,6 +153,12 @@ bool leavesBand(const Series& series, int sample, double value) {
     });
 }
 
+/// Where the judge lets a deviation pass, such as over the station, the plot does too.
+bool isOutside(const Debrief& debrief, int sample) {
+    const auto index = static_cast<std::size_t>(sample);
+    return index < debrief.outside.size() && debrief.outside[index];
+}
+
 /// A heading goes through north from one edge to the other: no line joins them.
 bool jumps(const Series& series, double from, double to) {
     return series.kind == SeriesKind::heading && std::abs(to - from) > 180;
@@ -191,8 +197,9 @@ void fillRow(PlotRow& row, const PlotLayout& layout, const PlotScene& scene, dou
                             row.frame);
     const auto any = [](int, double) { return true; };
     draw(row.own, layout, row, series, any);
-    draw(row.outside, layout, row, series,
-         [&](int sample, double value) { return leavesBand(series, sample, value); });
+    draw(row.outside, layout, row, series, [&](int sample, double value) {
+        return isOutside(*scene.own, sample) && leavesBand(series, sample, value);
+    });
     for (const Debrief* debrief : scene.earlier) {
         row.earlier.emplace_back();
         for (const Series& other : debrief->series)

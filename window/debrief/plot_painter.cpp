@@ -42,7 +42,7 @@ QString numberOf(double value) {
 /// A label at a side of the middle says which.
 QString labelOf(const Series& series, double value, const StringTable& texts) {
     if (series.kind != SeriesKind::needle || value == 0)
-        return numberOf(value);
+        return (value < 0 ? QStringLiteral("−") : QString()) + numberOf(value);
     const QString side = textOf(texts, value > 0 ? Text::sideRight : Text::sideLeft);
     return numberOf(value) + QLatin1Char(' ') + side.left(1).toUpper();
 }
@@ -105,7 +105,9 @@ PlotReading readingOf(const Series& series, std::optional<double> value, const S
         return {QString::number(heading == 0 ? 360 : heading).rightJustified(3, '0'), unit};
     }
     if (series.unit == FindingUnit::nauticalMiles)
-        return {QString::number(size, 'f', size < 9.995 ? 2 : 1), unit};
+        return {(*value <= -0.005 ? QStringLiteral("-") : QString()) +
+                    QString::number(size, 'f', size < 9.995 ? 2 : 1),
+                unit};
     return {QString::number(std::lround(size)).rightJustified(2, '0'), unit};
 }
 
