@@ -178,7 +178,7 @@ TEST_F(HandStudent, EveryControlReachesTheModel) {
         "PageStations/Check9 c_mapedit=1 debrief/TaskCourse choice=1 debrief/DebriefClose "
         "debrief=0 "
         "debrief/DebriefJudge debrief=10 debrief/DebriefJudge/DebriefTask debrief=11 "
-        "debrief/DebriefJudge/DebriefPlotView c_RepeatValue=14 "
+        "debrief/DebriefJudge/DebriefPlotView c_RepeatValue=2 "
         "debrief/DebriefJudge/DebriefFlyAgain debrief=0",
         use);
     openBehindAFlight();
@@ -217,12 +217,17 @@ TEST_F(HandStudent, EveryItemOfTheMenusDoesWhatItIsNamedFor) {
         "test box=Tarnel headingUp c_MAPnorthUP=0 headingUp/northUp c_MAPnorthUP=1 "
         "keyM c_TimerEN=1 keyP replay=100 keyH c_AirplaneEN=0 keyT c_TraceEN=0 "
         "keyV c_SpeedVectorEN=1 keyW c_WindSetEN=3 keyR c_NAVRadBorder=-1 zoomIn c_MAPscale=250 "
-        "zoomOut c_MAPscale=167 floatingGyro gyro=1 mnuDebrief debrief=11";
+        "zoomOut c_MAPscale=167 floatingGyro gyro=1 mnuDebrief debrief=11 "
+        "mnuDebrief/DebriefJudge/DebriefExportPage file=savepdf "
+        "mnuDebrief/DebriefJudge/DebriefExportPicture file=savepng "
+        "mnuDebrief/DebriefJudge/DebriefExportValues file=savecsv";
     for (const std::string kind : {"adf", "vor"})
         for (int i = 1; i <= 10; ++i)
             rows += " " + kind + std::to_string(i) + " c_SessionFileName=e-" + kind + "practise" +
                     (i < 10 ? "0" : "") + std::to_string(i) + ".ts";
     expectEffects(rows, [this](const std::string& name) {
+        if (name == "DebriefJudge")
+            return form->debriefControls.judge.click();
         if (name != "placed")
             return find<QAction>(name.c_str()).trigger();
         form->UserControl11.mouse.down(ChartButton::left, {2000, 2000});

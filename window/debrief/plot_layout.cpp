@@ -8,7 +8,7 @@ namespace tarnel {
 
 namespace {
 
-constexpr double captionWidth = 84;
+constexpr double captionWidth = 100;
 constexpr double narrowCaptionWidth = 40;
 constexpr double readoutWidth = 80;
 constexpr double narrowReadoutWidth = 58;

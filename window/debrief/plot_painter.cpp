@@ -8,7 +8,9 @@
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPainterPath>
+#include <QStringList>
 
+#include <algorithm>
 #include <cmath>
 
 namespace tarnel {
@@ -32,6 +34,21 @@ void paintCurve(QPainter& painter, const QPolygonF& curve, const QPen& pen) {
 
 QPen roundPen(const QColor& colour, double width) {
     return {colour, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin};
+}
+
+/// Bold, and so small that the longest word has room.
+QFont fittingFont(const QString& words, double width, double scale) {
+    constexpr double smallest = 8;
+    double size = look::unitType;
+    const auto fits = [&] {
+        const QFontMetricsF metrics(look::font(size * scale, QFont::Bold));
+        const QStringList all = words.split(QLatin1Char(' '));
+        return std::ranges::all_of(
+            all, [&](const QString& word) { return metrics.horizontalAdvance(word) <= width; });
+    };
+    while (size > smallest && !fits())
+        size -= 1;
+    return look::font(size * scale, QFont::Bold);
 }
 
 QString numberOf(double value) {
@@ -256,12 +273,12 @@ void PlotPainter::paintCaption(QPainter& painter, const PlotRow& row) const {
                                 metrics.height()),
                          Qt::AlignRight | Qt::AlignVCenter, label);
     }
-    painter.setFont(look::font(look::unitType * scale, QFont::Bold));
-    painter.setPen(colours.caption);
     const QRectF room = layout.narrow ? row.frame.adjusted(labelGap * scale, 2 * scale, 0, 0)
                                       : row.caption.adjusted(0, 0, -widest - labelGap * scale, 0);
-    painter.drawText(room, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap,
-                     textOf(texts, nameOf(row.series->kind)));
+    const QString name = textOf(texts, nameOf(row.series->kind));
+    painter.setFont(fittingFont(name, room.width(), scale));
+    painter.setPen(colours.caption);
+    painter.drawText(room, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, name);
 }
 
 void PlotPainter::paintAxis(QPainter& painter) const {

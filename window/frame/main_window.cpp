@@ -252,10 +252,11 @@ void MainWindow::layOutDebrief(const WindowLayout& layout) {
 /// What had the keyboard before the debrief gets it back.
 void MainWindow::followDebrief() {
     debriefCard->refresh();
-    if (form.debrief.isOpen() == shownDebrief)
+    if (form.debrief.isOpen() == shownDebrief) {
+        if (!shownDebrief)
+            beforeDebrief = focusWidget();
         return;
-    if (!shownDebrief)
-        beforeDebrief = focusWidget();
+    }
     layOut();
     if (shownDebrief)
         debriefCard->takeKeyboard();
