@@ -31,6 +31,7 @@ void showAircraft(ScriptedFlight& flight, bool shown) {
 void frameFlight(UserControl2& simulation, const std::vector<FlightRow>& rows,
                  const std::vector<GeoPosition>& stations) {
     std::vector<FramedPlace> places;
+    places.reserve(rows.size() + stations.size());
     for (const FlightRow& row : rows)
         places.push_back({{row.latitude, row.longitude}, framedAircraftRoom});
     for (const GeoPosition& station : stations)
