@@ -1,18 +1,14 @@
 #include "exercises/mistake_round.h"
 
 #include <algorithm>
+#include <tuple>
 #include <unordered_map>
 
 namespace tarnel {
 
 MistakeRound::MistakeRound(const std::vector<std::int64_t>& questions,
                            const std::vector<QuestionStanding>& standings, std::int64_t now) {
-    struct Wanted {
-        bool rested; ///< behind those that went wrong
-        std::int64_t asked;
-        int place;
-        auto operator<=>(const Wanted&) const = default;
-    };
+    using Wanted = std::tuple<bool, std::int64_t, int>; // rested, when it was asked, place
     std::unordered_map<std::int64_t, const QuestionStanding*> known;
     for (const QuestionStanding& standing : standings)
         known[standing.question] = &standing;
@@ -22,11 +18,12 @@ MistakeRound::MistakeRound(const std::vector<std::int64_t>& questions,
         const std::int64_t asked = found == known.end() ? 0 : found->second->asked;
         const bool wrong = found != known.end() && !found->second->allRight;
         if (wrong || asked < now - longAgo)
-            wanted.push_back({!wrong, asked, static_cast<int>(i)});
+            wanted.emplace_back(!wrong, asked, static_cast<int>(i));
     }
     std::ranges::sort(wanted);
+    left.reserve(wanted.size());
     for (const Wanted& each : wanted)
-        left.push_back(each.place);
+        left.push_back(std::get<2>(each));
 }
 
 void MistakeRound::pass(bool allRight) {

@@ -23,7 +23,7 @@ std::string freeName(const std::string& name, const std::string& suffix) {
     std::string tried = name + suffix;
     std::error_code ignored;
     for (int count = 2; fs::exists(tried, ignored); ++count)
-        tried = name + "-" + std::to_string(count) + suffix;
+        tried = std::string(name).append("-").append(std::to_string(count)).append(suffix);
     return tried;
 }
 
@@ -68,7 +68,7 @@ void LogFolder::removeAllSessions() const {
 }
 
 std::string LogFolder::setAside() const {
-    const std::string name = freeName(folder + asideMark + "1", "");
+    std::string name = freeName(folder + asideMark + "1", "");
     std::error_code failure;
     fs::rename(folder, name, failure);
     if (failure)

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <charconv>
 #include <map>
+#include <tuple>
 
 namespace tarnel {
 
@@ -171,12 +172,7 @@ MistakeRound TrainingDesk::roundOf(const Course& course, ExerciseType type,
 /// The questions in which the log has seen that spot: what went wrong first, then by their age.
 MistakeRound TrainingDesk::spotRound(TrainingLog& target, const Course& course, ExerciseType type,
                                      const std::vector<std::int64_t>& questions, Text spot) {
-    struct Last {
-        bool right = false;
-        std::int64_t asked = 0;
-        int place = 0;
-        auto operator<=>(const Last&) const = default;
-    };
+    using Last = std::tuple<bool, std::int64_t, int>; // right, when it was asked, place
     int number = 0;
     for (const LoggedCourse& known : target.courses())
         if (known.key == course.statisticPrefix)
@@ -189,11 +185,13 @@ MistakeRound TrainingDesk::spotRound(TrainingLog& target, const Course& course, 
     std::vector<Last> found;
     for (std::size_t i = 0; i < questions.size(); ++i)
         if (const auto at = last.find(questions[i]); at != last.end())
-            found.push_back({at->second.right, at->second.asked, static_cast<int>(i)});
+            found.emplace_back(std::get<0>(at->second), std::get<1>(at->second),
+                               static_cast<int>(i));
     std::ranges::sort(found);
     std::vector<int> places;
+    places.reserve(found.size());
     for (const Last& each : found)
-        places.push_back(each.place);
+        places.push_back(std::get<2>(each));
     return MistakeRound(std::move(places));
 }
 
