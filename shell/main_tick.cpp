@@ -51,7 +51,7 @@ void Form1::guardPractiseArea() {
     boxes.show(Text::windowTitle, std::string(texts[Text::outsidePracticeArea]));
 }
 
-/// A practice flight rests where its reference ends, and once when it is lost.
+/// A practice flight rests where its reference ends, with its debrief, and once when it is lost.
 void Form1::guardReference() {
     if (!flight.flies() || !practice.practises())
         return;
@@ -60,6 +60,8 @@ void Form1::guardReference() {
         return;
     flight.stop();
     boxes.show(Text::windowTitle, filledIn(texts[*rests], {texts[Text::startSim]}));
+    if (*rests == Text::practiceEnded)
+        debrief.open();
 }
 
 void Form1::showComment() {

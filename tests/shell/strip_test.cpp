@@ -333,6 +333,8 @@ TEST_F(PracticeFlight, RestsWhereItsExampleEndsAndOnceWhereItIsLost) {
     EXPECT_EQ(sim().recording.sampleIndex(), sim().reference.size() + 1);
     ASSERT_EQ(world.boxes.size(), 1U);
     EXPECT_THAT(world.boxes[0], testing::HasSubstr("example ends"));
+    EXPECT_TRUE(form->debrief.isOpen());
+    form->debriefControls.close.click();
     EXPECT_TRUE(flies(60)); // on, if he wants to
     form->startButton.click();
     form->exerciseMenu.adfPractice[0]->click();
