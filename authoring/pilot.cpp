@@ -13,6 +13,7 @@ namespace tarnel {
 namespace {
 
 constexpr double degree = std::numbers::pi / 180;
+constexpr double secondsPerHour = 3600;
 constexpr double longestFlight = 7000; ///< seconds; well below what a recording holds
 /// As much is flown off on the course, without a cut, NM.
 constexpr double nearTheLine = 0.15;

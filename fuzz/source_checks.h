@@ -9,7 +9,7 @@ namespace tarnel {
 
 /// What was built without a finding that must not stand can be opened; all else names a line.
 inline void requireThatItCanBeTaught(const BuiltCourse& built) {
-    for (const Finding& finding : built.findings)
+    for (const SourceFinding& finding : built.findings)
         require(finding.line >= 0 && !finding.text.empty());
     for (const BuiltFile& file : built.files) {
         if (!file.path.ends_with(".ts"))

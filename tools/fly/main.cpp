@@ -2,6 +2,7 @@
 #include "flights/flight_csv.h"
 #include "flights/flight_debrief.h"
 #include "flights/flight_summary.h"
+#include "flights/plan_error.h"
 #include "flights/plan_reader.h"
 #include "shell/application_folder.h"
 #include "strings/string_table.h"

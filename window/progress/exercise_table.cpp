@@ -7,7 +7,7 @@
 
 #include <QHeaderView>
 #include <QPainter>
-#include <QPainterPath>
+#include <QPolygonF>
 #include <QStyledItemDelegate>
 
 #include <array>
@@ -17,12 +17,14 @@ namespace tarnel {
 namespace {
 
 constexpr int shownTrend = 8;
-constexpr int barWidth = 76;
+constexpr int widestBar = 76;
+constexpr int narrowestBar = 30;
 constexpr int inset = 8;
 constexpr int percentRole = Qt::UserRole;
 constexpr int historyRole = Qt::UserRole + 1;
 constexpr int chosenBar = 3;
-constexpr int narrow = 660; ///< without room for the trend
+constexpr int narrowShareCell = 110; ///< without room for a wide bar
+constexpr int narrow = 660;          ///< without room for the trend
 
 /// Pictures beside or in place of a cell's text, and the row that is chosen.
 class CellPainter : public QStyledItemDelegate {
@@ -68,8 +70,8 @@ class CellPainter : public QStyledItemDelegate {
         constexpr double whole = 100;
         if (!percent.isValid())
             return;
-        const QRectF bar(cell.left() + inset, cell.center().y() - thickness / 2.0 + 1, barWidth,
-                         thickness);
+        const QRectF bar(cell.left() + inset, cell.center().y() - thickness / 2.0 + 1,
+                         barIn(cell.width()), thickness);
         painter.setPen(Qt::NoPen);
         painter.setBrush(look::hairline);
         painter.drawRoundedRect(bar, 2, 2);
@@ -78,29 +80,28 @@ class CellPainter : public QStyledItemDelegate {
             QRectF(bar.topLeft(), QSizeF(bar.width() * percent.toDouble() / whole, thickness)), 2,
             2);
     }
+    /// The text beside it has the room of the narrow cell's.
+    static int barIn(int width) { return width > narrowShareCell ? widestBar : narrowestBar; }
     static void paintTrend(QPainter& painter, const QRect& cell, const QVariantList& history) {
         constexpr double whole = 100;
         constexpr int air = 6;
         if (history.isEmpty())
             return;
         const QRectF area = QRectF(cell).adjusted(inset, air, -inset, -air);
-        QPainterPath line;
-        QPointF last;
-        for (qsizetype i = 0; i < history.size(); ++i) {
-            if (history[i].isNull())
-                continue;
-            last = {area.left() + area.width() * static_cast<double>(i) / (shownTrend - 1),
-                    area.bottom() - area.height() * history[i].toDouble() / whole};
-            line.isEmpty() ? line.moveTo(last) : line.lineTo(last);
-        }
+        QPolygonF line;
+        for (qsizetype i = 0; i < history.size(); ++i)
+            if (!history[i].isNull())
+                line << QPointF(area.left() +
+                                    area.width() * static_cast<double>(i) / (shownTrend - 1),
+                                area.bottom() - area.height() * history[i].toDouble() / whole);
         if (line.isEmpty())
             return;
         constexpr double dot = 2.5;
         painter.setBrush(Qt::NoBrush);
         painter.setPen(QPen(progress_look::curve, 1.5));
-        painter.drawPath(line);
+        painter.drawPolyline(line);
         painter.setBrush(progress_look::curve);
-        painter.drawEllipse(last, dot, dot);
+        painter.drawEllipse(line.back(), dot, dot);
     }
 };
 
@@ -175,8 +176,6 @@ void ExerciseTable::fill(int row, const ExerciseProgress& exercise, std::int64_t
 
 void ExerciseTable::show(const Progress& progress, std::int64_t now, const QString& spanMany) {
     const QSignalBlocker quiet(this);
-    constexpr int rowShare = 29;
-    constexpr int usualText = 13;
     setHorizontalHeaderLabels({textOf(texts, Text::csvExercise), textOf(texts, Text::rightOfAsked),
                                textOf(texts, Text::csvRight), textOf(texts, Text::change),
                                textOf(texts, Text::timeTaken), spanMany.arg(shownTrend),
@@ -187,8 +186,6 @@ void ExerciseTable::show(const Progress& progress, std::int64_t now, const QStri
             (column == name || column == trend ? Qt::AlignLeft : Qt::AlignRight));
     const ExerciseType before = chosenType;
     setRowCount(static_cast<int>(progress.exercises.size()));
-    verticalHeader()->setDefaultSectionSize(
-        std::max(fontMetrics().height() + 6, rowShare * font().pixelSize() / usualText));
     int row = 0;
     int choose = 0;
     for (const ExerciseProgress& exercise : progress.exercises) {
@@ -206,8 +203,15 @@ void ExerciseTable::resizeEvent(QResizeEvent* event) {
     shareOut();
 }
 
-/// The columns of numbers get what they need, and the name what is left.
+/// All rows are in sight where there is room for them. The columns of numbers get what they need,
+/// and the name what is left.
 void ExerciseTable::shareOut() {
+    constexpr int lowest = 5;
+    constexpr int highest = 14;
+    const int line = fontMetrics().height();
+    verticalHeader()->setMinimumSectionSize(line);
+    verticalHeader()->setDefaultSectionSize(
+        std::clamp(viewport()->height() / std::max(1, rowCount()), line + lowest, line + highest));
     const auto wide = [this](Text header, const QString& longest) {
         QFont bold = font();
         bold.setBold(true);
@@ -218,7 +222,8 @@ void ExerciseTable::shareOut() {
     setColumnHidden(trend, width() < narrow);
     const std::array<std::pair<Column, int>, 5> widths = {{
         {count, wide(Text::rightOfAsked, QStringLiteral("188 / 188"))},
-        {share, barWidth + inset + wide(Text::csvRight, QStringLiteral("100 %"))},
+        {share, (width() < narrow ? narrowestBar : widestBar) + inset +
+                    wide(Text::csvRight, QStringLiteral("100 %"))},
         {change, wide(Text::change, QStringLiteral("▲ 88"))},
         {time, wide(Text::timeTaken, QStringLiteral("888 s"))},
         {lastAsked, wide(Text::lastAsked, textOf(texts, Text::weeksAgo).arg(88))},

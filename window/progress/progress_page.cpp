@@ -112,6 +112,7 @@ void ProgressPage::addSpanButtons(QBoxLayout& line) {
 void ProgressPage::addMenu(QBoxLayout& line) {
     courses = new QComboBox(this);
     courses->setObjectName(QStringLiteral("ProgressCourse"));
+    courses->setProperty("quiz", true);
     courses->setAccessibleName(textOf(model.texts, Text::csvCourse));
     courses->setMinimumContentsLength(12);
     courses->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);

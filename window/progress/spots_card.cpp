@@ -18,6 +18,7 @@ class Cells : public QWidget {
   public:
     Cells(int rightCount, int askedCount, QWidget* parent)
         : QWidget(parent), right(rightCount), asked(askedCount) {
+        setObjectName(QStringLiteral("SpotCells"));
         setFixedSize(pitch * SpotProgress::latest, height);
     }
 
@@ -104,10 +105,23 @@ void SpotsCard::addRow(const SpotProgress& spot, bool mayStart) {
     auto* row = new QHBoxLayout;
     row->setSpacing(8);
     row->addLayout(twoLines(words, exercises.join(QStringLiteral(", ")), this), 1);
-    row->addWidget(new Cells(spot.right, spot.asked, this));
+    auto* cells = new Cells(spot.right, spot.asked, this);
+    cells->setVisible(hasRoomForCells());
+    row->addWidget(cells);
     row->addWidget(score);
     row->addWidget(link);
     rows->addLayout(row, 1);
+}
+
+bool SpotsCard::hasRoomForCells() const {
+    constexpr int letters = 60;
+    return width() > letters * fontMetrics().averageCharWidth();
+}
+
+void SpotsCard::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    for (auto* cells : findChildren<QWidget*>(QStringLiteral("SpotCells")))
+        cells->setVisible(hasRoomForCells());
 }
 
 void SpotsCard::paintEvent(QPaintEvent* /*event*/) {

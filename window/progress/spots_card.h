@@ -32,9 +32,13 @@ class SpotsCard : public QWidget {
 
   protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
   private:
     void addRow(const SpotProgress& spot, bool mayStart);
+
+    /// Words matter more than cells where there is no room for both.
+    [[nodiscard]] bool hasRoomForCells() const;
 
     const StringTable& texts;
     QVBoxLayout* rows = nullptr;
