@@ -101,25 +101,28 @@ void DebriefDesk::hold(const Task& next) {
     }
     held = lastTask = next;
     choosing = false;
-    takeFlight();
+    const bool isNew = takeFlight();
     controls.compare.show(attempts.size() > 1 ? 1 : 0);
     chosen.reset();
     judgeAll();
     frame();
     lookAtWorst();
+    if (isNew && onJudged && (given.ownFlight() || !given.knownTask()))
+        onJudged(attempts.back());
 }
 
-/// A flight that was looked at before is the same attempt again.
-void DebriefDesk::takeFlight() {
+/// A flight that was looked at before is the same attempt again; false then.
+bool DebriefDesk::takeFlight() {
     std::vector<Sample> samples = given.sim.recording.samplesTo(given.sim.c_TraceBufferMax);
     const auto again = std::ranges::find(attempts, samples, &Attempt::samples);
     if (again != attempts.end()) {
         std::rotate(again, again + 1, attempts.end());
-        return;
+        return false;
     }
     if (attempts.size() == mostAttempts)
         attempts.erase(attempts.begin());
     attempts.push_back({++flown, std::move(samples), {}});
+    return true;
 }
 
 /// The finding that is looked at stays the same one, wherever it stands now.

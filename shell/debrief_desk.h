@@ -83,6 +83,8 @@ class DebriefDesk {
     /// Counts the changes of what is shown, but for the moment.
     [[nodiscard]] std::uint64_t revision() const { return changes; }
     std::function<void()> changed; ///< whether it is open
+    /// A flight of the student's own has been judged that was not before.
+    std::function<void(const Attempt&)> onJudged;
 
     /// As many attempts are kept.
     static constexpr std::size_t mostAttempts = 3;
@@ -92,7 +94,7 @@ class DebriefDesk {
     void begin();
     void end();
     void hold(const Task& next);
-    void takeFlight();
+    bool takeFlight();
     void judgeAll();
     void lookAtWorst();
     void frame() const;

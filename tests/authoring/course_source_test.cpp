@@ -53,7 +53,7 @@ TEST(CourseSource, LetsASituationNameItsOwnChartAndABeaconBeCalledAsAVor) {
     }
     const BuiltFile other = buildCourse(course, TARNEL_DATA_FOLDER).files.at(3);
     EXPECT_THAT(readSession(other.bytes).comments.front(),
-                testing::HasSubstr("QDR: 000 + 180 = 180"))
+                testing::HasSubstr("QDM = HDG + RB: 270 + 090 = 000."))
         << other.path;
 }
 

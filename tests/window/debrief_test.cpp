@@ -1,5 +1,6 @@
 #include "look/look.h"
 #include "persistence/file_bytes.h"
+#include "shell/memory_log.h"
 #include "support/temporary_folder.h"
 #include "window/chart/chart_view.h"
 #include "window/debrief/finding_list.h"
@@ -150,10 +151,22 @@ TEST_F(DebriefView, MarksWhatIsOutsideOnChartAndPlotByMoreThanColour) {
 
 TEST_F(DebriefView, ComparesAttemptsAndExportsWhatIsShown) {
     practise();
+    MemoryLog* log = nullptr;
+    form->training.useLog([&](TrainingDesk&) {
+        auto made = std::make_unique<MemoryLog>();
+        log = made.get();
+        return made;
+    });
     openDebrief();
     click("DebriefFlyAgain");
     flyOff(210);
     openDebrief();
+    click("DebriefClose");
+    openDebrief(); // the same flight again
+    ASSERT_EQ(log->flights().size(), 2U);
+    EXPECT_EQ(log->flights()[0].attempt, 2);
+    EXPECT_EQ(log->flights()[0].findings, findings());
+    EXPECT_EQ(*log->session(log->flights()[0].id), form->UserControl11.sessionBytes());
     const std::size_t curves = plot().laidOut().rows[0].earlier.size();
     EXPECT_GT(curves, 0U);
     EXPECT_FALSE(list().rows()[0].earlier.isEmpty());

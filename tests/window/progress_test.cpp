@@ -12,6 +12,12 @@ namespace {
 
 using testing::HasSubstr;
 
+Finding finding(Verdict verdict) {
+    Finding made;
+    made.verdict = verdict;
+    return made;
+}
+
 /// A student with some weeks of answers and some flights behind him.
 class ProgressStudent : public ExerciseStudent {
   protected:
@@ -71,12 +77,12 @@ class ProgressStudent : public ExerciseStudent {
         add(3, ExerciseType::wind, Text::spotCrosswind, 4, 4, 31);
         for (int i = 0; i < 23; ++i)
             log->add(
-                LoggedFlight{
-                    .when = now - (22 - i) * 13 * hour,
-                    .taskKey = i % 3 == 0 ? "arc" : "hold",
-                    .title = i % 3 == 0 ? "Arc LDN 12 NM to R-350" : "Holding at MR, inbound 240°",
-                    .findings = {Finding{.verdict = Verdict::right},
-                                 Finding{.verdict = i % 4 == 0 ? Verdict::right : Verdict::wrong}}},
+                LoggedFlight{.when = now - (22 - i) * 13 * hour,
+                             .taskKey = i % 3 == 0 ? "arc" : "hold",
+                             .title = i % 3 == 0 ? "Arc LDN 12 NM to R-350"
+                                                 : "Holding at MR, inbound 240°",
+                             .findings = {finding(Verdict::right),
+                                          finding(i % 4 == 0 ? Verdict::right : Verdict::wrong)}},
                 std::string(4000, 's'), {});
     }
     QWidget& page() { return find<QWidget>("Progress"); }

@@ -2,6 +2,7 @@
 
 #include "look/look.h"
 #include "paper/plates.h"
+#include "shell/finding_text.h"
 #include "window/chart/chart_controls.h"
 #include "window/chart/chart_view.h"
 #include "window/chart/comment_card.h"
@@ -10,6 +11,7 @@
 #include "window/debrief/debrief_layer.h"
 #include "window/debrief/debrief_page.h"
 #include "window/debrief/debrief_plot.h"
+#include "window/debrief/finding_rows.h"
 #include "window/dials/floating_gyro.h"
 #include "window/frame/file_opener.h"
 #include "window/frame/flight_signs.h"
@@ -25,6 +27,8 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QMenuBar>
+
+#include <filesystem>
 
 namespace tarnel {
 
@@ -149,7 +153,20 @@ void MainWindow::makeDesk() {
     debriefLayer = std::make_unique<DebriefLayer>(debriefModel());
     chart->setLayer(*debriefLayer);
     connectExports(debriefModel());
+    form.debrief.onJudged = [this](const Attempt& attempt) { keepJudged(attempt); };
     gyro = new additional_DG(form, form.exercise, form.boxes, pictures, this);
+}
+
+/// A flight goes into the log with what was found. Attempts at a task go by its words and the file
+/// in which it stands.
+void MainWindow::keepJudged(const Attempt& attempt) {
+    const DebriefModel model = debriefModel();
+    const std::string title =
+        (taskTitle(model) + QLatin1Char(' ') + taskDetail(model)).trimmed().toStdString();
+    const std::string file =
+        std::filesystem::path(form.UserControl11.c_SessionFileName.get()).filename().string();
+    form.training.keepFlight(title + '\n' + file, title, attempt.debrief.findings,
+                             form.UserControl11.sessionBytes());
 }
 
 /// The page is made when it is first asked for, and covers all but the status bar.
@@ -157,7 +174,12 @@ void MainWindow::makeProgress() {
     form.exerciseMenu.progress.onClick = [this] {
         if (!progress) {
             progress = new ProgressPage(
-                {.training = form.training, .boxes = form.boxes, .texts = form.texts}, desk);
+                {.training = form.training,
+                 .boxes = form.boxes,
+                 .texts = form.texts,
+                 .sentence =
+                     [this](const Finding& finding) { return findingText(finding, form.texts); }},
+                desk);
             progress->onClose = [this] { coverDesk(false); };
             layOut();
         }
