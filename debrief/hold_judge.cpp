@@ -280,11 +280,13 @@ void HoldFlight::judgeSide() {
 }
 
 /// Outbound the book has several figures in a wind, and each of them is right. An inbound leg that
-/// lasts its time justifies the outbound one before it; in the first circuit, which is flown by the
-/// book, it has to be twice as good. The first inbound leg behind that is measured, and the next
-/// outbound one corrected by it. Who joins from the side needs room to meet the course.
+/// lasts its time justifies the outbound one before it, but in the first circuit, which is flown by
+/// the book. The first inbound leg behind that is measured, and the next outbound one corrected by
+/// it. Who joins from the side needs room to meet the course.
 void HoldFlight::judgeTimes() {
     constexpr double toJoin = 30; ///< seconds
+    constexpr double firstTurn =
+        5; ///< seconds; it begins on another heading than the inbound course
     const double leg = task.minutes * 60;
     for (const Circuit& flown : circuits) {
         const double tolerance = judgement.limit(Limit::legTime) * (flown.enters ? 2 : 1);
@@ -303,11 +305,10 @@ void HoldFlight::judgeTimes() {
         if (!track || (isMeasured && isByTheBook))
             in.verdict = Verdict::open;
         Finding& out = judgement.between(FindingKind::outboundTime, flown.secondsOut(), ends,
-                                         tolerance, {flown.outbound, flown.turn});
+                                         tolerance + (flown.number == 1 ? firstTurn : 0),
+                                         {flown.outbound, flown.turn});
         out.turn = flown.number;
-        const bool isJustified =
-            flown.number > 1 ? isInTime : std::abs(flown.secondsIn() - leg) <= tolerance / 2;
-        if (!track || isJustified)
+        if (!track || (isInTime && flown.number > 1))
             out.verdict = Verdict::open;
     }
 }

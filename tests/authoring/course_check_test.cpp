@@ -256,9 +256,15 @@ TEST(CourseCheck, LetsSolutionsSayWhatIsSo) {
          "",
          {"required 220: from the actual past the required QDR and 45 degrees beyond. Heading: "
           "220 - 45 = 175."}},
-        {"wind", "", {"13.0 kt along, 7.5 kt across. Correction angle 3.6 degrees, heading 094."}},
+        {"wind",
+         "",
+         {"13.0 kt head wind and 7.5 kt from the right.",
+          "the sine of 3.6 degrees. Heading: 090 + 4 = 094.",
+          "60 x 106.8 / 132.8 = 48 s outbound."}},
         {"dmearc", "", {"090 + 90 = 180.", "before radial 150: turn to final 330 now."}},
-        {"dmearc", inWind, {"On final 330: heading 334."}},
+        {"dmearc",
+         inWind,
+         {"On final 330: correct 4 degrees to the right into the wind, heading 334."}},
     };
     for (const auto& [exercise, more, words] : rows) {
         const CourseSource course = courseOf(exercise, situationOf(exercise) + more);

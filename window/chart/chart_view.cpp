@@ -53,7 +53,6 @@ ChartView::ChartView(UserControl2& simulation, const StringTable& table, QWidget
 
 void ChartView::refresh() {
     showCursor();
-    const ChartLayer* layer = painter.layer;
     if (layer && layer->isShown())
         lamps->hide();
     else

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <utility>
 
@@ -32,8 +33,11 @@ class ChartView : public QWidget {
     void speak();
     [[nodiscard]] QString spokenChart() const;
 
-    /// What lies on the chart in the place of the trace while it is shown; it must live as long.
-    void setLayer(ChartLayer& layer) { painter.layer = &layer; }
+    /// What lies on the chart in the place of the trace while it is shown.
+    void setLayer(std::unique_ptr<ChartLayer> shown) {
+        layer = std::move(shown);
+        painter.layer = layer.get();
+    }
 
     /// Every call into the simulation goes through here, so that its owner can catch what it
     /// throws.
@@ -72,8 +76,9 @@ class ChartView : public QWidget {
     const StringTable& texts;
     ChartPainter painter;
     ReferenceLamps* lamps = nullptr;
-    std::uint64_t shownRevision = 0; ///< of the picture, when all of it was last asked for
-    std::uint64_t shownLayer = 0;    ///< the layer's
+    std::uint64_t shownRevision = 0;   ///< of the picture, when all of it was last asked for
+    std::unique_ptr<ChartLayer> layer; ///< null without one
+    std::uint64_t shownLayer = 0;      ///< the layer's
     std::pair<std::uint64_t, bool> spoken{~std::uint64_t{0}, false}; ///< what the words are of
     int wheelRest = 0;
     MouseHold hold{*this, [this] { letGo(); }};

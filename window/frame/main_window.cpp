@@ -150,8 +150,7 @@ void MainWindow::makeDesk() {
     debriefCard = new DebriefCard(debriefModel(), binding, desk);
     debriefPlot = new DebriefPlot(debriefModel(), binding, pictures, guard, panel);
     debriefPlot->hide();
-    debriefLayer = std::make_unique<DebriefLayer>(debriefModel());
-    chart->setLayer(*debriefLayer);
+    chart->setLayer(std::make_unique<DebriefLayer>(debriefModel()));
     connectExports(debriefModel());
     form.debrief.onJudged = [this](const Attempt& attempt) { keepJudged(attempt); };
     gyro = new additional_DG(form, form.exercise, form.boxes, pictures, this);

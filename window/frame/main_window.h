@@ -15,7 +15,6 @@
 namespace tarnel {
 
 class ChartControls;
-class ChartLayer;
 class ChartView;
 class CommentCard;
 class DebriefCard;
@@ -95,7 +94,6 @@ class MainWindow : public QMainWindow {
     ProgressPage* progress = nullptr;
     DebriefCard* debriefCard = nullptr;
     DebriefPlot* debriefPlot = nullptr;
-    std::unique_ptr<ChartLayer> debriefLayer;
     StatusPanels* status = nullptr;
     additional_DG* gyro = nullptr;
     QTimer couplingTimer;
