@@ -1,0 +1,49 @@
+"""The pages in front of the first section, and the index."""
+
+import html
+
+TITLE = {"de": "Handbuch der Funknavigation", "en": "Handbook of Radio Navigation"}
+ABOUT = {
+    "de": "VOR, ILS, NDB und DME lesen und fliegen. Jede Abbildung ist im Trainer geflogen.",
+    "en": "Reading and flying VOR, ILS, NDB and DME. Every figure was flown in the trainer.",
+}
+CONTENTS = {"de": "Inhalt", "en": "Contents"}
+WARNING = {
+    "de": "Nur zur Ausbildung am Trainer, nicht zur Navigation. Alle Richtungen sind "
+          "rechtweisend.",
+    "en": "For training with the trainer only, not for navigation. All directions are true.",
+}
+
+
+def cover(language, picture):
+    return (f'<div class="cover"><h1>{TITLE[language]}</h1>'
+            f'<p class="about">{ABOUT[language]}</p><img src="{picture.as_uri()}">'
+            f'<p class="about">{WARNING[language]}</p></div>')
+
+
+def contents(language, sections):
+    rows = "".join(
+        f'<p class="{"tips" if section.name.startswith("tips") else "section"}">'
+        f'<span class="page">{section.page}</span>'
+        f'<a href="#{section.name}">{html.escape(section.title)}</a></p>'
+        for section in sections)
+    return f'<h1>{CONTENTS[language]}</h1><div class="contents">{rows}</div>'
+
+
+def index(sections):
+    """Each entry with the pages of the sections that it is about, by the alphabet."""
+    entries = {}
+    for section in sections:
+        for entry in section.index:
+            entries.setdefault(entry, {})[section.page] = section.name
+    rows = "".join(
+        f"<p>{html.escape(entry)} " + ", ".join(
+            f'<a href="#{name}">{page}</a>' for page, name in sorted(entries[entry].items()))
+        + "</p>"
+        for entry in sorted(entries, key=sorting))
+    return f'<div class="index">{rows}</div>'
+
+
+def sorting(entry):
+    """Umlauts stand with their vowels, as in a German index."""
+    return entry.casefold().translate(str.maketrans("äöüé", "aoue"))

@@ -1,0 +1,105 @@
+"""Sections written in Markdown become HTML."""
+
+import html
+import pathlib
+import re
+
+from markdown_it import MarkdownIt
+from markdown_it.token import Token
+
+BOXES = {
+    "de": {"Merke": "rule", "Beispiel": "example", "Häufiger Fehler": "mistake"},
+    "en": {"Remember": "rule", "Example": "example", "Common mistake": "mistake"},
+}
+PAGE = {"de": "Seite", "en": "page"}
+INDEX_ENTRY = re.compile(r"\s*\{index:([^}]*)\}")
+
+
+class SourceError(Exception):
+    """What is wrong in a source, told with file and line. It stops the book."""
+
+    def __init__(self, path, line, text):
+        super().__init__(f"{path}:{line}: {text}" if line else f"{path}: {text}")
+
+
+class Writer:
+    """Writes the HTML of one section after the other."""
+
+    def __init__(self, sections, figures, language):
+        self.pages = {section.name: section.page for section in sections}
+        self.figures = figures
+        self.language = language
+        self.markdown = MarkdownIt("commonmark").enable("table")
+        self.used = set()  # figures
+
+    def html(self, section):
+        """The section's text. Collects its index entries in `section.index`."""
+        self.section = section
+        tokens = self.markdown.parse(section.path.read_text(encoding="utf-8"))
+        for i, token in enumerate(tokens):
+            self.line = token.map[0] + 1 if token.map else 0
+            if token.type == "heading_open" and token.tag != "h2":
+                self.refuse("only headings of the second level; the title stands in the menu")
+            elif token.type == "blockquote_open":
+                self.take_box(token, tokens[i + 2])
+            elif token.type == "inline":
+                self.take_words(tokens[i - 1], token, tokens[i + 1])
+        return self.markdown.renderer.render(tokens, self.markdown.options, {})
+
+    def refuse(self, text):
+        raise SourceError(self.section.path, self.line, text)
+
+    def take_box(self, box, words):
+        opening = re.match(r"\*\*(.+?)[.:]?\*\*", words.content)
+        kind = BOXES[self.language].get(opening.group(1) if opening else "")
+        if not kind:
+            self.refuse("a box begins with one of " + ", ".join(BOXES[self.language]))
+        box.attrSet("class", kind)
+
+    def take_words(self, opening, inline, closing):
+        images = [child for child in inline.children if child.type == "image"]
+        if images:
+            opening.tag = closing.tag = "figure"
+            inline.children = [raw(self.figure(images))]
+            return
+        for i, child in enumerate(inline.children):
+            if child.type == "link_open":
+                self.take_link(child, inline.children[i + 1])
+            elif child.type == "text":
+                child.content = INDEX_ENTRY.sub(self.take_entry, child.content)
+
+    def take_entry(self, match):
+        self.section.index.append(match.group(1).strip())
+        return ""
+
+    def take_link(self, link, words):
+        name = link.attrs["href"]
+        if name not in self.pages:
+            self.refuse(f"the book has no section {name}")
+        link.attrs["href"] = f"#{name}"
+        words.content += f" ({PAGE[self.language]} {self.pages[name]})"
+
+    def figure(self, images):
+        """Pictures of one paragraph stand side by side, above what they show."""
+        shown = "".join(self.picture(image) for image in images)
+        caption = " ".join(image.content for image in images if image.content)
+        if not caption:
+            self.refuse("a figure without words")
+        row = "row three" if len(images) > 2 else "row"
+        return (f'<div class="{row}">{shown}</div>'
+                f"<figcaption>{html.escape(caption)}</figcaption>")
+
+    def picture(self, image):
+        name = pathlib.Path(image.attrs["src"]).stem
+        path = self.figures / f"{name}.svg"
+        if not path.exists():
+            self.refuse(f"there is no figure {name}")
+        self.used.add(name.rsplit("-", 1)[0])
+        kind = name.rsplit("-", 1)[1]
+        return f'<img class="{kind}" src="{path.as_uri()}">'
+
+
+def raw(text):
+    token = Token("html_inline", "", 0)
+    token.content = text
+    return token
