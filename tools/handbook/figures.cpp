@@ -51,8 +51,8 @@ void write(const QByteArray& bytes, const std::string& file) {
 
 } // namespace
 
-void paintFigures(const std::string& plan, const std::string& folder, const StringTable& texts,
-                  const std::string& applicationFolder) {
+void drawFigures(const std::string& plan, const std::string& folder, const StringTable& texts,
+                 const std::string& applicationFolder) {
     ScriptedFlight flight(readPlanFile(plan), texts, applicationFolder);
     std::vector<GeoPosition> places;
     Form1& form = flight.form();
@@ -73,7 +73,8 @@ void paintFigures(const std::string& plan, const std::string& folder, const Stri
     write(dial(form.inst3.instrument), name + "-right.svg");
     write(drawing(chartUnits,
                   [&](QPainter& painter) {
-                      ChartPainter(form.UserControl11, texts).paint(painter, chartUnits, 8);
+                      ChartPainter(form.UserControl11, texts, ChartMedium::sheet)
+                          .paint(painter, chartUnits, 8);
                   }),
           name + "-chart.svg");
 }

@@ -1,5 +1,7 @@
 #include "tools/handbook/options.h"
 
+#include "tools/output/tool_run.h"
+
 namespace tarnel {
 
 namespace {

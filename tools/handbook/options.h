@@ -1,16 +1,9 @@
 #pragma once
 
-#include <stdexcept>
 #include <string>
 #include <vector>
 
 namespace tarnel {
-
-/// A command line that can't be understood.
-class UsageError : public std::runtime_error {
-  public:
-    using std::runtime_error::runtime_error;
-};
 
 enum class HandbookCommand { help, sections, figures };
 
