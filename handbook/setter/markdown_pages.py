@@ -44,7 +44,7 @@ class Writer:
                 self.take_box(token, tokens[i + 2])
             elif token.type == "inline":
                 self.take_words(tokens[i - 1], token, tokens[i + 1])
-        return self.markdown.renderer.render(tokens, self.markdown.options, {})
+        return self.markdown.renderer.render(kept_together(tokens), self.markdown.options, {})
 
     def refuse(self, text):
         raise SourceError(self.section.path, self.line, text)
@@ -97,6 +97,30 @@ class Writer:
         self.used.add(name.rsplit("-", 1)[0])
         kind = name.rsplit("-", 1)[1]
         return f'<img class="{kind}" src="{path.as_uri()}">'
+
+
+def kept_together(tokens):
+    """A heading stands in one box with the block behind it, so that no page ends between them."""
+    kept = []
+    ends = 0  # of the block behind a heading, counted in `tokens`
+    for i, token in enumerate(tokens):
+        if token.type == "heading_open":
+            kept.append(raw('<div class="together">'))
+            ends = end_of_block(tokens, i + 3)
+        kept.append(token)
+        if ends and i == ends:
+            kept.append(raw("</div>"))
+            ends = 0
+    return kept
+
+
+def end_of_block(tokens, first):
+    depth = 0
+    for i in range(first, len(tokens)):
+        depth += tokens[i].nesting
+        if depth == 0:
+            return i
+    return first - 1
 
 
 def raw(text):
