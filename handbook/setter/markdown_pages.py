@@ -82,7 +82,8 @@ class Writer:
     def figure(self, images):
         """Pictures of one paragraph stand side by side, above what they show."""
         shown = "".join(self.picture(image) for image in images)
-        caption = " ".join(image.content for image in images if image.content)
+        captions = [image.content.strip() for image in images if image.content]
+        caption = " ".join(each if each[-1] in ".:!?" else each + "." for each in captions)
         if not caption:
             self.refuse("a figure without words")
         row = "row three" if len(images) > 2 else "row"
