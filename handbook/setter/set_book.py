@@ -109,6 +109,7 @@ def main():
     book.blank_to(3)
     book.append(front_matter.contents(given.language, sections))
     set_sections(book, sections, writer)
+    pathlib.Path(given.out).parent.mkdir(parents=True, exist_ok=True)
     book.write(given.out)
 
 

@@ -51,8 +51,8 @@ TEST_F(MenuTest, FilesAndExercisesRestInFlightAndInAnExercise) {
         EXPECT_FALSE(opens(name)) << name;
     EXPECT_TRUE(opens("mnufile") &&
                 opens("mnuOption")); // the flight pauses for what they have left
-    item("pdf31").trigger();
-    EXPECT_THAT(world.boxes, testing::ElementsAre(testing::HasSubstr("book was not found")));
+    item("userguide").trigger();
+    EXPECT_THAT(world.boxes, testing::ElementsAre(testing::HasSubstr("guide_en.pdf")));
     EXPECT_TRUE(form->flight.flies());
     click("Command6");
     EXPECT_TRUE(opens("vorprac"));
