@@ -5,6 +5,7 @@
 
 #include <array>
 #include <charconv>
+#include <utility>
 #include <vector>
 
 namespace tarnel {
@@ -29,11 +30,13 @@ struct Column {
 void addColumns(std::vector<Column>& columns, const Attempt& attempt, bool named,
                 const StringTable& texts) {
     for (const Series& series : attempt.debrief.series) {
-        std::string name(texts[nameOf(series.kind)]);
+        std::string name;
         if (named)
-            name = "#" + numberText(std::int64_t{attempt.number}) + " " + name;
-        const std::string unit = unitText(series.unit, texts);
-        columns.push_back({unit.empty() ? name : name + " (" + unit + ")", &series.values});
+            name.append("#").append(numberText(std::int64_t{attempt.number})).append(" ");
+        name.append(texts[nameOf(series.kind)]);
+        if (const std::string unit = unitText(series.unit, texts); !unit.empty())
+            name.append(" (").append(unit).append(")");
+        columns.push_back({std::move(name), &series.values});
     }
 }
 

@@ -42,6 +42,7 @@ std::vector<QuestionStanding> MemoryLog::standings(const std::string& courseKey,
             question.right += row.right ? 1 : 0;
     }
     std::vector<QuestionStanding> standings;
+    standings.reserve(last.size());
     for (const auto& [question, went] : last)
         standings.push_back({question, went.asked, went.right == went.rows});
     return standings;
@@ -64,8 +65,10 @@ std::int64_t MemoryLog::add(const LoggedFlight& flight, const std::string& sessi
 
 std::vector<LoggedFlight> MemoryLog::flights() {
     std::vector<LoggedFlight> all;
-    for (auto each = flown.rbegin(); each != flown.rend(); ++each)
-        all.push_back(each->second.flight);
+    all.reserve(flown.size());
+    for (const auto& [id, kept] : flown)
+        all.push_back(kept.flight);
+    std::ranges::reverse(all);
     return all;
 }
 

@@ -37,6 +37,7 @@ std::vector<GeoPosition> stationsInUse(Form1& form) {
 /// Shows the flight and what its needles speak of, as large as it fits.
 void frame(UserControl2& simulation, const std::vector<GeoPosition>& all) {
     std::vector<FramedPlace> places;
+    places.reserve(all.size());
     for (const GeoPosition& place : all)
         places.push_back({place, framedAircraftRoom});
     const ChartFraming framing = framingOf(places, simulation.picture.size);
