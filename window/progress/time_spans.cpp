@@ -8,7 +8,7 @@ namespace tarnel {
 
 namespace {
 
-constexpr int daysInWeek = 7;
+constexpr qint64 daysInWeek = 7;
 
 } // namespace
 
@@ -31,7 +31,7 @@ QDate TimeSpans::start(int index) const {
     const int away = index - (count - 1);
     switch (kind) {
     case SpanKind::week:
-        return last.addDays(static_cast<qint64>(daysInWeek) * away);
+        return last.addDays(daysInWeek * away);
     case SpanKind::month:
         return last.addMonths(away);
     case SpanKind::day:
