@@ -171,7 +171,11 @@ HoldFlight::Entered HoldFlight::enteredBy(int arrived, double heading, int end) 
         return found;
     const double aside = medianHeading(settled, back->first, outbound());
     const bool thisSide = back->degrees * side > 0;
-    found.mirrored = !thisSide && found.first && found.first->degrees * side < -110;
+    // As far as that a parallel entry turns as well, where its sector allows it.
+    const auto right = sectors(heading);
+    const bool maybeParallel = std::ranges::count(right, HoldingEntry::parallel) > 0;
+    found.mirrored =
+        !thisSide && !maybeParallel && found.first && found.first->degrees * side < -110;
     if (!thisSide)
         found.entry = found.mirrored ? HoldingEntry::direct : HoldingEntry::parallel;
     else if (const double turned = -aside * side; turned > 12 && turned < 60)
@@ -179,9 +183,8 @@ HoldFlight::Entered HoldFlight::enteredBy(int arrived, double heading, int end) 
     // What the wind asks of a direct entry's outbound leg may look like an offset one: where the
     // flight fits the sector, it flies that.
     if (thisSide && track) {
-        const auto fits = sectors(heading);
         const double slack = 15 + 3 * std::abs(track->correctionIn);
-        for (const HoldingEntry entry : fits)
+        for (const HoldingEntry entry : right)
             if ((entry == HoldingEntry::direct && std::abs(aside) < slack) ||
                 (entry == HoldingEntry::offset && std::abs(-aside * side - 30) < slack)) {
                 found.entry = entry;
