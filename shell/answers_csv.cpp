@@ -4,6 +4,7 @@
 #include "shell/progress.h"
 
 #include <initializer_list>
+#include <utility>
 
 namespace tarnel {
 
@@ -20,8 +21,9 @@ std::string quoted(std::string_view value) {
 
 std::string line(std::initializer_list<std::string_view> values) {
     std::string result;
+    const char* comma = "";
     for (const std::string_view value : values)
-        result += (result.empty() ? "" : ",") + quoted(value);
+        result += std::exchange(comma, ",") + quoted(value);
     return result + "\r\n";
 }
 

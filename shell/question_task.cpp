@@ -73,16 +73,15 @@ std::optional<Task> bearingTask(const StudyRecord& record, std::span<const Sampl
     if (numbersIn(record[qa]).empty() || offBearing(task.station) > near)
         return std::nullopt;
     // On the bearing already there is nothing to be cut.
-    if (!record[ans6].empty())
+    if (!numbersIn(record[ans6]).empty())
         task.cut = std::abs(turnBetween(course, Val(record[ans6])));
     if (task.cut == 0.0)
         task.cut.reset();
     return task;
 }
 
-std::optional<HoldTask> holdTask(double inbound, HoldingSide side,
-                                 std::span<const Sample> reference) {
-    return HoldTask{nearestStation(reference), circle(inbound), side, 1};
+HoldTask holdTask(double inbound, HoldingSide side, std::span<const Sample> reference) {
+    return {nearestStation(reference), circle(inbound), side, 1};
 }
 
 /// "Inbound 150, turns right"; the wind itself is that of the flight.
@@ -93,7 +92,7 @@ std::optional<Task> windTask(const StudyRecord& record, std::span<const Sample> 
     if (numbers.empty() || right == left)
         return std::nullopt;
     return WindTask{
-        *holdTask(numbers.front(), right ? HoldingSide::right : HoldingSide::left, reference)};
+        holdTask(numbers.front(), right ? HoldingSide::right : HoldingSide::left, reference)};
 }
 
 /// Radial, arc and final as the question names them, such as "MUN radial 005 inbound. DME arc 10 NM
@@ -132,6 +131,8 @@ std::optional<Task> ownTask(ExerciseType type, const StudyRecord& record,
     switch (type) {
     case ExerciseType::hsiHolding:
     case ExerciseType::dgHolding:
+        if (numbersIn(record[ans2]).empty())
+            return std::nullopt;
         return holdTask(Val(record[ans2]),
                         record[ans3] == "Standard" ? HoldingSide::right : HoldingSide::left,
                         reference);

@@ -11,12 +11,12 @@ using testing::ElementsAre;
 /// A flight in memory, debriefed at a task that the student chooses.
 class DebriefTest : public TrainerTest {
   protected:
-    /// A flight of a minute that turns to `heading`.
-    void flyTo(int heading) {
+    /// A flight of a minute, or of another time, that turns to `heading`.
+    void flyTo(int heading, int seconds = 60) {
         start();
         fly(20);
         form.coupling.setHeadingBug(static_cast<std::int16_t>(heading));
-        fly(40);
+        fly(seconds - 20);
         start();
         couple();
     }
@@ -92,11 +92,6 @@ TEST_F(DebriefTest, KeepsTheLastThreeAttemptsAtATask) {
     }
     EXPECT_EQ(form.debrief.attempt()->number, 4);
     EXPECT_THAT(numbersBeside(), ElementsAre(2, 3));
-    const std::string table = debriefCsv(form.debrief, form.texts);
-    EXPECT_EQ(std::ranges::count(table, '\n'), 1 + sim().c_TraceBufferMax);
-    EXPECT_THAT(
-        table.substr(0, table.find('\n')),
-        testing::AllOf(testing::HasSubstr(";#4 Needle (°)"), testing::HasSubstr(";#2 Needle (°)")));
     form.debriefControls.compare.click();
     EXPECT_THAT(numbersBeside(), ElementsAre());
     EXPECT_EQ(debriefCsv(form.debrief, form.texts).find('#'), std::string::npos);
@@ -108,6 +103,58 @@ TEST_F(DebriefTest, KeepsTheLastThreeAttemptsAtATask) {
     form.debriefControls.judge.click();
     EXPECT_EQ(form.debrief.attempt()->number, 1);
     EXPECT_FALSE(form.debriefControls.compare.enabled());
+}
+
+TEST_F(DebriefTest, WritesEachAttemptInColumnsOfItsOwn) {
+    EXPECT_EQ(debriefCsv(form.debrief, form.texts), "") << "nothing is plotted";
+    std::vector<std::size_t> lengths;
+    for (const int seconds : {40, 90, 60}) {
+        flyTo(100 + seconds, seconds);
+        openAt(track);
+        lengths.push_back(form.debrief.attempt()->samples.size());
+        if (seconds != 60)
+            form.debriefControls.flyAgain.click();
+        couple();
+    }
+    ASSERT_THAT(form.debrief.compared(), testing::SizeIs(2));
+    std::vector<const std::vector<std::optional<float>>*> columns;
+    const auto take = [&](const Attempt& each) {
+        for (const Series& series : each.debrief.series)
+            columns.push_back(&series.values);
+    };
+    take(*form.debrief.attempt());
+    for (const Attempt& each : form.debrief.compared())
+        take(each);
+    const auto parts = [](const std::string& text, char mark) {
+        std::vector<std::string> all(1);
+        for (const char letter : text)
+            if (letter == mark)
+                all.emplace_back();
+            else
+                all.back() += letter;
+        return all;
+    };
+    const auto lines = parts(debriefCsv(form.debrief, form.texts), '\n');
+    ASSERT_EQ(lines.size(), lengths.back() + 2) << "headings, samples, the end of the last line";
+    EXPECT_EQ(parts(lines[0], ';').size(), 4 + columns.size());
+    EXPECT_THAT(lines[0], testing::HasSubstr(";#1 Needle (°)"));
+    EXPECT_THAT(lines[4], testing::StartsWith("4;4.0;"));
+    int gaps = 0;
+    for (std::size_t i = 0; i < lengths.back(); ++i) {
+        const auto cells = parts(lines[i + 1], ';');
+        ASSERT_EQ(cells.size(), 4 + columns.size());
+        EXPECT_NEAR(std::stod(cells[2]), form.debrief.attempt()->samples[i].traceLat, 1e-6);
+        for (std::size_t column = 0; column < columns.size(); ++column) {
+            const std::string& cell = cells[4 + column];
+            const bool there = i < columns[column]->size() && (*columns[column])[i].has_value();
+            ASSERT_EQ(cell.empty(), !there) << i << " " << column;
+            gaps += there ? 0 : 1;
+            if (there) {
+                EXPECT_NEAR(std::stod(cell), *(*columns[column])[i], 6e-4);
+            }
+        }
+    }
+    EXPECT_GE(gaps, static_cast<int>(lengths[2] - lengths[0])) << "the first attempt was shorter";
 }
 
 TEST_F(DebriefTest, StricterLimitsJudgeAnewAndKeepTheFinding) {
@@ -174,16 +221,6 @@ TEST_F(DebriefTest, ProposesWhatStandsOnThePanelAndRefusesWhatIsNoTask) {
         EXPECT_EQ(form.debriefControls.judge.enabled(), judged)
             << told(choice.kind == TaskKind::arc);
     }
-    const TaskChoice arc{.kind = TaskKind::arc,
-                         .station = Slot::vor2,
-                         .course = 30,
-                         .distance = 12,
-                         .clockwise = false,
-                         .finalToStation = false};
-    const TaskChoice holding{
-        .kind = TaskKind::holding, .course = 240, .side = HoldingSide::left, .minutes = 1.5};
-    for (const TaskChoice& choice : {arc, holding, track})
-        EXPECT_EQ(choiceOf(*taskOf(choice, {})), choice);
 }
 
 } // namespace

@@ -215,31 +215,5 @@ TEST_F(ProgressTest, CountsByTheSpansAndShowsTheWeakestFirst) {
     EXPECT_EQ(progress.exercises[4].lastAsked, std::nullopt);
 }
 
-TEST_F(ProgressTest, NamesWeakSpotsByTheirLatestAnswersForAllOrOneCourse) {
-    using enum ExerciseType;
-    for (int i = 0; i < 20; ++i) // at first all wrong: that is long ago
-        answer(i, hsiHolding, Text::spotEntryOffsetLeft, i >= 10);
-    answer(30, dgHolding, Text::spotEntryOffsetLeft, false, 0, "own/");
-    for (int i = 0; i < 4; ++i)
-        answer(40 + i, dmeArc, Text::spotLeadRadial, i == 0, 0, "own/");
-    answer(50, qdm, Text::spotQdmTurn, false); // too few to tell anything
-    for (int i = 0; i < 5; ++i)
-        answer(60, qdr, Text::spotQdrTurn, true); // nothing to train
-    const auto told = [&](std::optional<int> course) {
-        std::vector<std::string> lines;
-        for (const SpotProgress& spot : progressOf(log, course, days).spots)
-            lines.push_back(spotName(spot.spot, englishTable()) + ": " +
-                            std::to_string(spot.right) + " of " + std::to_string(spot.asked) +
-                            " in " + exerciseName(spot.exercises.front(), englishTable()) + " of " +
-                            spot.courseKey);
-        return lines;
-    };
-    EXPECT_THAT(told({}),
-                ElementsAre("Lead radial for the final of an arc: 1 of 4 in DME Arcs of own/",
-                            "Offset entries from the left: 10 of 12 in HSI Holding of own/"));
-    EXPECT_THAT(told(log.courses()[1].number),
-                ElementsAre("Lead radial for the final of an arc: 1 of 4 in DME Arcs of own/"));
-}
-
 } // namespace
 } // namespace tarnel
