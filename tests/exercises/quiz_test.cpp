@@ -1,6 +1,5 @@
 #include "core/run_time_error.h"
 #include "exercise_fixture.h"
-#include "exercises/question_key.h"
 
 namespace tarnel {
 namespace {
@@ -74,34 +73,6 @@ TEST_F(QuizTest, AsksWhatWentWrongUntilEachWasRightOnce) {
     form.mistakes = nullptr; // no log, no mistakes
     form.open(shippedCourse("app"), ExerciseType::hsiPosition, QAform::Order::mistakes);
     EXPECT_EQ(shown("StudyNotice1"), std::string(germanTable()[Text::noMistakes]));
-}
-
-TEST(MistakeRounds, BeginWithWhatIsLongestWrongThenWithWhatRestedLongest) {
-    constexpr std::int64_t now = 10 * MistakeRound::longAgo;
-    const std::vector<QuestionStanding> standings = {{10, now - 5, false},
-                                                     {11, now - 5, true}, // fresh
-                                                     {12, now - 2 * MistakeRound::longAgo, true},
-                                                     {14, now - 9, false},
-                                                     {99, 1, false}}; // no longer in the file
-    MistakeRound round({10, 11, 12, 13, 14}, standings, now);
-    std::vector<int> order;
-    for (; !round.over(); round.pass(true))
-        order.push_back(round.place());
-    EXPECT_EQ(order, (std::vector<int>{4, 0, 3, 2}));
-}
-
-TEST(QuestionKeys, OutlastWordsAndOtherQuestions) {
-    const StudyRecord german =
-        recordOf({{qa, "120 NDB MNW"}, {ans1, "100"}, {ans2, "gleich"}, {sessionName, "q.ts"}});
-    StudyRecord english = german;
-    english[ans2] = "remain constant";
-    english[sessionName] = "e-q.ts";
-    StudyRecord other = german;
-    other[qa] = "12 0 NDB MNW";
-    const auto keys = questionKeys({german, other, german});
-    EXPECT_EQ(questionKeys({other, english})[1], keys[0]);
-    EXPECT_NE(keys[0], keys[1]);
-    EXPECT_NE(keys[0], keys[2]) << "two questions alike";
 }
 
 TEST_F(QuizTest, TellsEachAnsweredRowWithWhatItTrains) {
