@@ -1,3 +1,4 @@
+#include "log/finding_names.h"
 #include "log_fixture.h"
 #include "persistence/file_bytes.h"
 #include "shell/memory_log.h"
@@ -9,6 +10,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -122,6 +124,37 @@ TEST_P(AnyLog, KeepsFlightsToNumberAndSizeButNeverLosesWhatIsPinned) {
     }
 }
 
+TEST_P(AnyLog, GivesTextsBackAsTheyCame) {
+    const std::vector<std::string> texts = {
+        "",        " ", "Übung <ß>", "it's; DROP TABLE answers; --", "\"?\" %1 :a", "two\r\nlines",
+        "✈ 🛩"};
+    for (const std::string& text : texts) {
+        AnsweredRow row = answer(INT64_MIN + 1, INT64_MAX / 2, 0, true);
+        row.given = row.answer = row.courseName = text;
+        row.courseKey = "key " + text;
+        log->add(row);
+        fly(text, 5, text);
+    }
+    reopen();
+    std::vector<std::string> found;
+    log->eachRow([&](const AnsweredRow& row) {
+        EXPECT_EQ(row.question, INT64_MIN + 1);
+        EXPECT_EQ(row.asked, INT64_MAX / 2);
+        EXPECT_EQ(row.given, row.answer);
+        EXPECT_EQ(row.courseKey, "key " + row.given);
+        EXPECT_EQ(row.courseName, row.given);
+        found.push_back(row.given);
+    });
+    EXPECT_EQ(found, texts);
+    found.clear();
+    for (const LoggedFlight& flight : log->flights()) {
+        EXPECT_EQ(log->session(flight.id), flight.taskKey);
+        EXPECT_EQ(flight.attempt, 1) << "each text is a task of its own";
+        found.insert(found.begin(), flight.taskKey);
+    }
+    EXPECT_EQ(found, texts);
+}
+
 INSTANTIATE_TEST_SUITE_P(Memory, AnyLog, testing::Values(false));
 INSTANTIATE_TEST_SUITE_P(Sqlite, AnyLog, testing::Values(true));
 
@@ -142,6 +175,16 @@ class SqliteLogTest : public LogTest {
         std::fstream file(path() + "/log.sqlite", std::ios::in | std::ios::out | std::ios::binary);
         file.seekp(static_cast<std::streamoff>(4096));
         file << std::string(size - 4096, '\x55');
+    }
+    /// Does that to the log's file behind its back.
+    void alter(const char* statement) const {
+        {
+            auto database = QSqlDatabase::addDatabase("QSQLITE", "behind");
+            database.setDatabaseName(QString::fromStdString(path() + "/log.sqlite"));
+            EXPECT_TRUE(database.open());
+            EXPECT_TRUE(QSqlQuery(database).exec(statement)) << statement;
+        }
+        QSqlDatabase::removeDatabase("behind");
     }
     std::vector<std::string> aside;
     std::unique_ptr<SqliteLog> noting() {
@@ -196,15 +239,52 @@ TEST_F(SqliteLogTest, LeavesAloneWhatItCannotHave) {
     EXPECT_EQ(trouble(), static_cast<int>(LogTrouble::unwritable));
     fs::remove_all(path());
     EXPECT_EQ(trouble(), -1);
-    {
-        auto database = QSqlDatabase::addDatabase("QSQLITE", "newer");
-        database.setDatabaseName(QString::fromStdString(path() + "/log.sqlite"));
-        ASSERT_TRUE(database.open());
-        QSqlQuery(database).exec("PRAGMA user_version = 99");
-    }
-    QSqlDatabase::removeDatabase("newer");
+    alter("PRAGMA user_version = 99");
     EXPECT_EQ(trouble(), static_cast<int>(LogTrouble::ofNewerVersion));
     EXPECT_TRUE(fs::exists(path() + "/log.sqlite"));
+}
+
+TEST_F(SqliteLogTest, ChangesNothingInALogOfANewerProgram) {
+    SqliteLog(path()).add(answer(1, 1, 0, true));
+    alter("PRAGMA user_version = 99");
+    const std::string before = readFileBytes(path() + "/log.sqlite", 1 << 24);
+    const std::function<void(SqliteLog&)> uses[] = {
+        [](SqliteLog& log) { log.add(answer(2, 2, 0, true)); },
+        [](SqliteLog& log) { log.add(LoggedFlight{}, "session", {}); },
+        [](SqliteLog& log) { log.prune({.most = 0}); },
+        [](SqliteLog& log) { log.clear(); },
+    };
+    for (const auto& use : uses) {
+        const auto log = noting();
+        EXPECT_THROW(use(*log), LogFailure);
+    }
+    EXPECT_TRUE(aside.empty());
+    EXPECT_EQ(readFileBytes(path() + "/log.sqlite", 1 << 24), before);
+    EXPECT_TRUE(!fs::exists(path() + "/flights") || fs::is_empty(path() + "/flights"));
+    alter("PRAGMA user_version = 1");
+    EXPECT_EQ(answersIn(*noting()), 1U);
+}
+
+TEST_F(SqliteLogTest, PassesOverWhatItCannotNameAndMissesNoOtherFinding) {
+    LoggedFlight flight;
+#define FINDING(name, unit, limit, text)                                                           \
+    flight.findings.emplace_back().kind = FindingKind::name;                                       \
+    EXPECT_EQ(findingOf(nameOfFinding(FindingKind::name)), FindingKind::name);
+#include "debrief/findings.def"
+    EXPECT_EQ(findingOf(""), std::nullopt);
+    EXPECT_EQ(findingOf("fromTheFuture"), std::nullopt);
+    SqliteLog log(path());
+    const std::int64_t id = log.add(flight, "session", {});
+    EXPECT_EQ(log.flights()[0].findings, flight.findings) << "in their order";
+    alter("UPDATE findings SET kind = 'fromTheFuture' WHERE place = 1");
+    flight.findings.erase(flight.findings.begin() + 1);
+    EXPECT_EQ(log.flights()[0].findings, flight.findings);
+
+    fs::remove_all(path() + "/flights"); // by hand
+    EXPECT_EQ(log.session(id), std::nullopt);
+    EXPECT_EQ(log.flights().size(), 1U);
+    log.remove(id);
+    EXPECT_TRUE(log.flights().empty());
 }
 
 TEST_F(SqliteLogTest, TakesWhatSeveralProgramsWriteAtOnce) {
