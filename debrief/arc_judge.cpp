@@ -168,7 +168,7 @@ void ArcFlight::judgeArc() {
 
 void ArcFlight::judgeLead() {
     if (lead) {
-        const auto [least, most] = std::minmax(leadOfBook(), leadInWind());
+        const auto [least, most] = std::minmax({leadOfBook(), leadInWind()});
         const double flown = hand * turnBetween(path.from(lead->first).radial, finalRadial());
         Finding& turn =
             judgement.between(FindingKind::leadRadial, flown, {least, most},

@@ -7,6 +7,7 @@
 #include <array>
 #include <cmath>
 #include <numbers>
+#include <span>
 
 namespace tarnel {
 namespace {
@@ -298,7 +299,7 @@ void expectWhole(const Debrief& debrief, int samples) {
     EXPECT_TRUE(std::ranges::is_sorted(debrief.findings, {}, rank));
     for (const Finding& finding : debrief.findings)
         EXPECT_TRUE(std::isfinite(finding.value) && finding.samples.last < samples);
-    // Outside is only what some band says, and what lies beyond one counts but in turns or a cone.
+    // No sample is outside that no band says is.
     for (int i = 0; i < samples; ++i) {
         bool beyond = false;
         for (const Series& series : debrief.series)
