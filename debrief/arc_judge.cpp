@@ -205,7 +205,7 @@ void ArcFlight::drawLine() {
     const double overGround = std::sqrt(
         std::max(0.0, task.distance * task.distance - std::pow(slantRange(0, fixedAltitude), 2)));
     const double from = path.from(std::max(joined, 0)).radial;
-    double round = std::fmod(hand * (finalRadial() - from) + 720, 360);
+    const double round = circle(hand * (finalRadial() - from));
     TaskLine arc{TaskLineKind::arc, {}};
     for (double turned = 0; turned < round; turned += betweenPoints)
         arc.points.push_back(placeOn(path.place(), {circle(from + hand * turned), overGround}));
