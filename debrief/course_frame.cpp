@@ -21,8 +21,9 @@ double CourseFrame::headingOff(int i) const {
     return turnBetween(course + (std::isnan(correction) ? 0 : correction), path.heading(i));
 }
 
+/// As the instruments show it.
 double CourseFrame::fullScale() const {
-    return path.station() == Slot::localizer ? 2.5 : 10;
+    return path.station() == Slot::localizer ? 2 : 10;
 }
 
 double CourseFrame::limit(const Judgement& judgement, Limit ofNeedle, Limit ofBeacon) const {

@@ -20,7 +20,7 @@ class FlightSwitch {
     /// A pause keeps the flight: the bar shows the newest sample, and the next start goes on from
     /// where the aircraft is. Nothing happens at rest.
     void stop();
-    /// Whether the aircraft flies so far from all DMEs that the flight has to end.
+    /// Whether the aircraft flies so far from any of the three DMEs that the flight has to end.
     [[nodiscard]] bool leftPractiseArea() const;
 
     std::function<void()> onStart; ///< the flight is about to start

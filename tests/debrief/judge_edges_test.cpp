@@ -97,7 +97,7 @@ TEST(Limits, TurnTheVerdictAtTheirFigure) {
         std::function<FlownFlight(double)> fly;
     } cases[] = {
         {largestDeviation, onLine(Slot::vor2), {10, 7.5, 5}, 0.1, beside},
-        {largestDeviation, onLine(Slot::localizer), {2.5, 1.875, 1.25}, 0.05, beside},
+        {largestDeviation, onLine(Slot::localizer), {2, 1.5, 1}, 0.05, beside},
         {largestDeviation, onLine(Slot::ndb1), {10, 5, 5}, 0.1, beside},
         {interceptAngle, LineTask{.course = 90, .joins = true}, {110, 95, 90}, 0.5, joinedAt},
         {interceptAngle,
