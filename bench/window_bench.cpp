@@ -200,7 +200,7 @@ int compareAll() {
     constexpr double mostWhileDragging = 0.20;
     std::printf("%-44s %10s %10s %8s %8s\n", "measured against an empty program", "", "against",
                 "ratio", "at most");
-    bool met = compare("share of a core at rest", "rest", "empty", 1.5);
+    bool met = compare("share of a core at rest", "rest", "empty", 0.1);
     met = compare("first paint, ms", "paint", "empty-paint", 10) && met;
     met = limit("share of a core, x 4, heading up, 1280 x 800", "fly", mostInFlight) && met;
     met = limit("replay bar, 60 a second, north up", "drag", mostWhileDragging) && met;

@@ -144,7 +144,7 @@ void APControlFace::stepALT(int hundredsOfFeet) {
 }
 
 void APControlFace::Timer1() {
-    if (c_startTimer != 1 || !knobsAct())
+    if (!drives())
         return;
     if (tasRate != 0) {
         const double pushOff = tasValue < minimumTAS ? tasRate + 30 : 0;

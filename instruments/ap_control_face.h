@@ -39,7 +39,11 @@ class APControlFace {
     void stepTAS(int knots);
     void stepALT(int hundredsOfFeet);
 
-    /// A few times a second: drives speed and altitude at the rates that a drag has set.
+    /// Whether a drag has set a rate for speed or altitude.
+    [[nodiscard]] bool drives() const {
+        return c_startTimer == 1 && knobsAct() && (tasRate != 0 || altRate != 0);
+    }
+    /// A few times a second while it `drives`: takes speed and altitude on by those rates.
     void Timer1();
 
     [[nodiscard]] bool knobsAct() const { return c_LockSettings == 1 && c_OnOff == 1; }

@@ -4,13 +4,6 @@
 
 namespace tarnel {
 
-namespace {
-
-/// Ticks between two changes of the mark that blinks at rest: half a second in a window.
-constexpr std::int16_t ticksPerBlink = 500;
-
-} // namespace
-
 CommentStrip::CommentStrip(UserControl2& simulation, CommentPanel& controls, BoxDesk& boxDesk)
     : sim(simulation), panel(controls), boxes(boxDesk) {
     panel.startStop.onClick = [this] { startOrStop(); };
@@ -63,12 +56,8 @@ void CommentStrip::show(const std::string& comment) {
         panel.comment.setText(comment);
 }
 
-void CommentStrip::blinkMark(bool resting) {
-    if (++blinkCounter <= ticksPerBlink)
-        return;
-    blinkCounter = 0;
-    markShown = resting && !markShown;
-    panel.mark.setVisible(markShown);
+bool CommentStrip::markBlinks(bool resting) const {
+    return panel.comment.visible() && (resting || panel.mark.visible());
 }
 
 } // namespace tarnel

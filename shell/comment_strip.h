@@ -4,7 +4,6 @@
 #include "shell/box_desk.h"
 #include "shell/strip_controls.h"
 
-#include <cstdint>
 #include <string>
 
 namespace tarnel {
@@ -17,11 +16,14 @@ class CommentStrip {
     /// Another flight is in memory: what was being written does not belong to it.
     void forgetText() { panel.text.setText({}); }
 
+    /// Whether the mark beside a comment blinks: at rest, and until it is gone in flight.
+    [[nodiscard]] bool markBlinks(bool resting) const;
+    /// A timer procedure, twice a second while `markBlinks`.
+    void blinkMark(bool resting) { panel.mark.setVisible(resting && !panel.mark.visible()); }
+
     // Steps of the tick.
     /// Nothing is shown of an empty comment.
     void show(const std::string& comment);
-    /// The mark beside the comment blinks at rest.
-    void blinkMark(bool resting);
     /// Brings the author's strip to what is being marked, whatever changed it.
     void follow();
 
@@ -33,8 +35,6 @@ class CommentStrip {
     UserControl2& sim;
     CommentPanel& panel;
     BoxDesk& boxes;
-    bool markShown = true;
-    std::int16_t blinkCounter = 0;
 };
 
 } // namespace tarnel

@@ -195,6 +195,11 @@ void Form1::autopilotTimer() {
         guarded([this] { APControlFace1.Timer1(); });
 }
 
+void Form1::blinkTimer() {
+    if (!boxes.up())
+        comments.blinkMark(!flight.flies());
+}
+
 void Form1::setFloatingGyroOpen(bool open) {
     floatingGyroBox.set(open ? 1 : 0);
     if (!open)

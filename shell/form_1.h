@@ -49,6 +49,8 @@ class Form1 : public TrainerControls, public PanelControls {
     void simulationTimer();
     void autopilotTimer(); ///< the rate drive of the autopilot's knobs, a few times a second
     void Timer2();         ///< the replay, every `c_TimerSIMrate` ms while `replay.runs()`
+    void blinkTimer();     ///< the mark beside a comment, twice a second while `markBlinks()`
+    [[nodiscard]] bool markBlinks() const { return comments.markBlinks(!flight.flies()); }
 
     /// Runs what the user's hand started, with the same catch as the timer procedures.
     template <class Action>

@@ -21,7 +21,6 @@ void Form1::tick() {
     coupling.showDme();
     positions.followLocalizer();
     coupling.pinAltitude();
-    comments.blinkMark(!flight.flies());
     replay.followBar();
     inst1.followKnob();
     coupling.coupleSettings();

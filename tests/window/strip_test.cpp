@@ -61,6 +61,24 @@ TEST_F(StripStudent, SeesTheFlightTheReplayAndAHeldKnobMoveByThemselves) {
     EXPECT_TRUE(QTest::qWaitFor([this] { return sim().presentSampleIndex() == 3; }));
 }
 
+/// A flag that each tick clears tells whether there are any.
+TEST_F(StripStudent, HasAProgramThatRestsUntilSomethingComes) {
+    const auto ticks = [this](int milliseconds) {
+        sim().c_HDGchanged = 1;
+        return QTest::qWaitFor([this] { return sim().c_HDGchanged == 0; }, milliseconds);
+    };
+    window->startTimers();
+    EXPECT_TRUE(ticks(2000));
+    QTest::qWait(500);
+    EXPECT_FALSE(ticks(300)) << "at rest";
+    QTest::keyClick(window.get(), Qt::Key_T);
+    EXPECT_TRUE(ticks(2000));
+    sim().c_CurrentComment = "Here";
+    QTest::keyClick(window.get(), Qt::Key_T);
+    const bool shown = form->commentPanel.mark.visible();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return form->commentPanel.mark.visible() != shown; }, 5000));
+}
+
 TEST_F(StripStudent, EntersTheWind) {
     turnTo("PageWind");
     auto& direction = findShown<QSpinBox>("WindDirection");

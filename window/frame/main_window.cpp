@@ -34,8 +34,8 @@ namespace tarnel {
 
 namespace {
 
-constexpr int couplingMilliseconds = 1;
 constexpr int autopilotMilliseconds = 200;
+constexpr int blinkMilliseconds = 500;
 /// A screen of 960 x 540 less the desktop's own bars.
 constexpr QSize smallestWindow{940, 480};
 constexpr QSize usualWindow{1280, 800};
@@ -46,7 +46,8 @@ MainWindow::MainWindow(Form1& owner)
     : form(owner),
       guard([&owner](const std::function<void()>& action) { owner.guarded(action); }),
       binding(owner.texts, owner.state, guard),
-      pictures(QString::fromStdString(owner.UserControl11.c_MainAppPath.get())) {
+      pictures(QString::fromStdString(owner.UserControl11.c_MainAppPath.get())),
+      pulse([this] { couplingTick(); }) {
     setObjectName(QStringLiteral("Form1"));
     setWindowTitle(textOf(form.texts, Text::windowTitle));
     setContextMenuPolicy(Qt::NoContextMenu);
@@ -64,15 +65,12 @@ MainWindow::MainWindow(Form1& owner)
     setStyleSheet(sheetFor(1)); // once for all widgets
     resize(usualWindow);
 
-    couplingTimer.setTimerType(Qt::PreciseTimer);
-    couplingTimer.setInterval(couplingMilliseconds);
-    connect(&couplingTimer, &QTimer::timeout, this, &MainWindow::couplingTick);
     simulationTimer.setTimerType(Qt::PreciseTimer);
     connect(&simulationTimer, &QTimer::timeout, this, [this] { form.simulationTimer(); });
     replayTimer.setTimerType(Qt::PreciseTimer);
     connect(&replayTimer, &QTimer::timeout, this, [this] { form.Timer2(); });
-    autopilotTimer.setInterval(autopilotMilliseconds);
     connect(&autopilotTimer, &QTimer::timeout, this, [this] { form.autopilotTimer(); });
+    connect(&blinkTimer, &QTimer::timeout, this, [this] { form.blinkTimer(); });
 }
 
 MainWindow::~MainWindow() {
@@ -199,9 +197,7 @@ void MainWindow::openFile(const std::string& path) {
 }
 
 void MainWindow::startTimers() {
-    couplingTimer.start();
-    if (form.APControlFace1.c_startTimer == 1)
-        autopilotTimer.start();
+    pulse.start();
 }
 
 PanelSizes MainWindow::panelSizes() const {
@@ -323,6 +319,8 @@ void MainWindow::followClocks() {
     const int interval = form.UserControl11.c_TimerSIMrate;
     follow(simulationTimer, form.UserControl11.c_TimerEN == 1, interval);
     follow(replayTimer, form.replay.runs(), interval);
+    follow(autopilotTimer, form.APControlFace1.drives(), autopilotMilliseconds);
+    follow(blinkTimer, form.markBlinks(), blinkMilliseconds);
 }
 
 void MainWindow::couplingTick() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "shell/form_1.h"
+#include "window/frame/coupling_pulse.h"
 #include "window/frame/window_layout.h"
 #include "window/widgets/form_binding.h"
 #include "window/widgets/picture_store.h"
@@ -41,7 +42,7 @@ class MainWindow : public QMainWindow {
     explicit MainWindow(Form1& form);
     ~MainWindow() override;
 
-    /// Lets time run: the coupling as fast as it can, the simulation at its rate.
+    /// Lets time run: the coupling while something may change, the simulation at its rate.
     void startTimers();
 
     /// Opens a chart or a session that comes from outside the menus, by its absolute path.
@@ -96,10 +97,11 @@ class MainWindow : public QMainWindow {
     DebriefPlot* debriefPlot = nullptr;
     StatusPanels* status = nullptr;
     additional_DG* gyro = nullptr;
-    QTimer couplingTimer;
+    CouplingPulse pulse;
     QTimer simulationTimer;
     QTimer autopilotTimer;
     QTimer replayTimer;
+    QTimer blinkTimer;
     PanelSizes shownSizes;
     std::size_t shownComments = 0;
     int shownQuiz = 0;

@@ -22,6 +22,12 @@ QString nameOf(const FormControl& control) {
 
 namespace {
 
+/// A name that is set anew is announced, even the same.
+void speak(QWidget& widget, const QString& name) {
+    if (widget.accessibleName() != name)
+        widget.setAccessibleName(name);
+}
+
 /// A box shows the value 2 as partly ticked; another button has no such state.
 void showValue(QAbstractButton& button, int value) {
     const QSignalBlocker quiet(&button);
@@ -63,7 +69,7 @@ void FormBinding::showCommon(const FormControl& control, QWidget& widget) const 
     if (control.tip())
         widget.setToolTip(tipOf(control));
     if (control.caption())
-        widget.setAccessibleName(captionOf(control));
+        speak(widget, captionOf(control));
 }
 
 void FormBinding::bind(CommandButton& control, QAbstractButton& button) {
@@ -168,7 +174,7 @@ void FormBinding::bind(SelectionList& control, QComboBox& list) {
     follow([this, &control, &list] {
         showCommon(control, list);
         if (control.tip())
-            list.setAccessibleName(textOf(texts, *control.tip()));
+            speak(list, textOf(texts, *control.tip()));
         list.setCurrentIndex(control.index());
     });
 }
