@@ -13,8 +13,7 @@ namespace tarnel {
 
 namespace {
 
-constexpr double behindTheRunway = 300 / 1852.0; ///< of the localizer's antenna, NM
-constexpr double farthestStation = 60;           ///< from the localizer, NM
+constexpr double farthestStation = 60; ///< from the localizer, NM
 
 bool isName(const std::string& text, std::size_t longest, bool (*allowed)(char)) {
     return !text.empty() && text.size() <= longest &&
@@ -116,7 +115,7 @@ void readLocalizer(PlanTable table, ChartFile& chart) {
     const FromStation back = fromStation(farEnd, threshold);
     if (back.distance < 0.1 || back.distance > 3)
         table.refuse("a runway of 0.1 to 3 NM from 'threshold' to 'far_end'");
-    const GeoPosition antenna = placeOn(farEnd, {circle(back.radial + 180), behindTheRunway});
+    const GeoPosition antenna = placeOn(farEnd, {circle(back.radial + 180), localizerBehindRunway});
     localizer.position = {toSixDecimals(antenna.latitude), toSixDecimals(antenna.longitude)};
     chart.locCourse = wholeDegrees(back.radial);
 }

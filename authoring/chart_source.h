@@ -8,6 +8,9 @@
 
 namespace tarnel {
 
+/// From the runway's far end to the localizer's antenna, NM.
+constexpr double localizerBehindRunway = 300 / 1852.0;
+
 /// True for a source of charts, which has tables `[[chart]]`. Throws PlanError if it is no TOML.
 [[nodiscard]] bool isChartSource(std::string_view text, const std::string& file);
 
