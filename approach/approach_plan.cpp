@@ -15,9 +15,12 @@ namespace {
 constexpr double knots = 120;
 constexpr double turnRadius = knots / (60 * std::numbers::pi); ///< NM, three degrees a second
 constexpr double feetInMile = 1852 / 0.3048;
-constexpr double joinMiles = 1.5;    ///< along the final course, where it is met without a cut
-constexpr double shortestMark = 1.6; ///< NM of a leg that has room for its course
-constexpr double beyondFix = 1;      ///< NM that a cross radial goes on behind its fix
+constexpr double joinMiles = 1.5;  ///< along the final course, where it is met without a cut
+constexpr double shortestMark = 1; ///< NM of a leg that has room for its course
+constexpr double longMark = 2.4;   ///< NM of a leg that has room for its altitude, too
+constexpr double steepest = 400;   ///< feet a mile before the final approach fix
+constexpr double onTheLine = 0.02; ///< NM beside the final course that are none
+constexpr double beyondFix = 1;    ///< NM that a cross radial goes on behind its fix
 
 std::string degreesText(double course) {
     const int whole = wholeDegrees(course);
@@ -72,7 +75,10 @@ class PlanBuilder {
     void straightLeg(Point end, std::optional<double> next, int altitude);
     [[nodiscard]] std::optional<double> courseAfter(std::size_t index, Point corner) const;
     [[nodiscard]] double interceptCourse(Point from) const;
+    [[nodiscard]] double courseFromArc(Point station) const;
+    void intercept();
     void flyFinal();
+    void checkDescent() const;
     void placeFinalFix();
     void markFinal();
     void flyMissed();
@@ -96,15 +102,18 @@ void PlanBuilder::placeInitialFix() {
     plan.fixes.push_back(
         {pen.at(),
          {"IAF", name(source.initialStation) + " R-" + threeDigits(source.initialRadial),
-          "D" + oneDecimal(source.initialDistance)}});
+          "D" + oneDecimal(source.initialDistance) + "  " + std::to_string(source.initialAltitude) +
+              " ft"}});
 }
 
 void PlanBuilder::mark(Point from, Point to, const std::string& altitude) {
     const Point way = to - from;
-    if (plane.miles(lengthOf(way)) < shortestMark)
-        return;
-    plan.marks.push_back({from + onCourse(courseOf(way), lengthOf(way) / 2), courseOf(way),
-                          degreesText(courseOf(way)) + altitude});
+    const double miles = plane.miles(lengthOf(way));
+    const double course = courseOf(way);
+    if (miles >= shortestMark)
+        plan.marks.push_back({from + onCourse(course, lengthOf(way) / 2), course,
+                              degreesText(course) + (miles < longMark ? "" : altitude),
+                              lengthOf(way)});
 }
 
 /// Straight to a place, and round it if it is known how it goes on there.
@@ -154,7 +163,7 @@ void PlanBuilder::fly(const LegInHolding& leg, std::size_t index) {
     const Point fix = plane.station(leg.fix);
     const Point outbound = onCourse(leg.inbound + (leg.right ? 90 : -90), 2 * radius());
     const Point middle = onCourse(leg.inbound, -plane.twips(leg.minutes * knots / 120));
-    plan.marks.push_back({fix + middle, leg.inbound, degreesText(leg.inbound)});
+    plan.marks.push_back({fix + middle, leg.inbound, degreesText(leg.inbound), 0});
     plan.marks.push_back(
         {fix + middle + outbound, circle(leg.inbound + 180),
          degreesText(leg.inbound + 180) + "  " + std::to_string(source.legs[index].altitude)});
@@ -170,25 +179,33 @@ void PlanBuilder::joinArc(const LegOnArc& leg, std::size_t index) {
     const double outer = leg.distance + turnRadius;
     const double begins = std::sqrt(outer * outer - turnRadius * turnRadius);
     const Point turn = placeFrom(leg.station, source.initialRadial, begins);
-    mark(pen.at(), turn, "  " + std::to_string(source.initialAltitude));
+    mark(pen.at(), turn, "");
     pen.straightTo(turn);
     const double hand = leg.clockwise ? 1 : -1;
     const double gained = std::asin(turnRadius / outer) * 180 / std::numbers::pi;
     pen.turn(-hand * (90 - gained), radius());
 }
 
-/// The turn from the arc is a circle that touches the arc and the final course from inside.
+/// On which the turn from an arc ends: the final course, or one that leads to the localizer where
+/// that lies beside the line over the station.
+double PlanBuilder::courseFromArc(Point station) const {
+    const double beside = plane.miles(onLine(station, localizer(), finalCourse()).right);
+    if (std::abs(beside) < onTheLine)
+        return finalCourse();
+    if (source.cut)
+        return interceptCourse(station);
+    return finalCourse() - std::atan2(beside, joinMiles) * 180 / std::numbers::pi;
+}
+
+/// The turn from the arc is a circle that touches from inside the arc and the line over the station
+/// along the final course.
 void PlanBuilder::fly(const LegOnArc& leg, std::size_t index) {
     joinArc(leg, index);
     const Point station = plane.station(leg.station);
     const double hand = leg.clockwise ? 1 : -1;
-    const OnLine offset = onLine(station, localizer(), finalCourse());
-    const double aside = hand * radius() - offset.right;
-    const double inner = plane.twips(leg.distance) - radius();
-    const double outwards = std::sqrt(inner * inner - aside * aside);
-    const Point centre =
-        station + onCourse(finalCourse() + 90, aside) + onCourse(finalCourse() + 180, outwards);
-    const double lead = courseOf(centre - station);
+    const double inner = leg.distance - turnRadius;
+    const double lead =
+        circle(finalCourse() + 180 - hand * std::asin(turnRadius / inner) * 180 / std::numbers::pi);
     const double first = courseOf(pen.at() - station);
     const double swept = circle(hand * (lead - first));
     pen.turn(hand * swept, plane.twips(leg.distance));
@@ -197,34 +214,48 @@ void PlanBuilder::fly(const LegOnArc& leg, std::size_t index) {
     const double middle = first + hand * swept / 2;
     plan.marks.push_back({placeFrom(leg.station, middle, leg.distance), circle(middle + hand * 90),
                           "D" + oneDecimal(leg.distance) + " " + name(leg.station) + "  " +
-                              std::to_string(source.legs[index].altitude)});
+                              std::to_string(source.legs[index].altitude),
+                          0});
     plan.radials.push_back({leg.station, station,
                             placeFrom(leg.station, source.initialRadial, leg.distance),
                             source.initialRadial, "R-" + threeDigits(source.initialRadial)});
     plan.radials.push_back({leg.station, station, pen.at(), lead, "LR-" + threeDigits(lead)});
-    pen.turn(turnBetween(pen.course, finalCourse()), radius());
+    pen.turn(turnBetween(pen.course, courseFromArc(station)), radius());
+}
+
+/// Straight on to the localizer, and onto it.
+void PlanBuilder::intercept() {
+    const OnLine at = onLine(pen.at(), localizer(), finalCourse());
+    const double angle = turnBetween(pen.course, finalCourse()) * std::numbers::pi / 180;
+    const Point corner =
+        localizer() + onCourse(finalCourse(), at.along + std::abs(at.right / std::tan(angle)));
+    if (source.cut)
+        mark(pen.at(), corner, "  " + std::to_string(source.legs.back().altitude));
+    pen.roundCorner(corner, finalCourse(), radius());
 }
 
 void PlanBuilder::flyFinal() {
-    const Point from = pen.at();
-    const OnLine at = onLine(from, localizer(), finalCourse());
-    if (source.cut) {
-        const double angle = turnBetween(pen.course, finalCourse());
-        const double ahead =
-            std::abs(at.right) / std::tan(std::abs(angle) * std::numbers::pi / 180);
-        const Point corner = localizer() + onCourse(finalCourse(), at.along + ahead);
-        straightLeg(corner, finalCourse(), source.legs.back().altitude);
-    } else if (!plan.leadRadial && plane.miles(std::abs(at.right)) > 0.02) {
+    const OnLine at = onLine(pen.at(), localizer(), finalCourse());
+    const bool beside = plane.miles(std::abs(at.right)) > onTheLine;
+    if (source.cut || (plan.leadRadial && beside))
+        intercept();
+    else if (beside)
         pen.straightTo(localizer() + onCourse(finalCourse(), at.along + plane.twips(joinMiles)));
-    }
     plan.joinDme = dmeOf(pen.at());
     plan.joinAltitude = source.legs.back().altitude;
-    if (plan.joinDme < plan.descent.fixDme() - joinMiles)
-        throw PlanError(source.file, 0,
-                        "a final course that is reached before the final approach fix at DME " +
-                            oneDecimal(plan.descent.fixDme()) + ", and not at " +
-                            oneDecimal(plan.joinDme));
+    checkDescent();
     pen.straightTo(plan.threshold);
+}
+
+/// There has to be room for the descent to the final approach fix.
+void PlanBuilder::checkDescent() const {
+    const double fix = plan.descent.fixDme();
+    const double room = std::max(0.0, plan.joinDme - fix) * steepest;
+    if (plan.joinDme < fix - joinMiles || plan.joinAltitude - source.finalAltitude > room)
+        throw PlanError(source.file, 0,
+                        "room to descend to the final approach fix at DME " + oneDecimal(fix) +
+                            " where the final course is reached at DME " +
+                            oneDecimal(plan.joinDme));
 }
 
 void PlanBuilder::placeFinalFix() {

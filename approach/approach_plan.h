@@ -23,6 +23,7 @@ struct PlanMark {
     Point at;
     double course = 0;
     std::string text;
+    double leg = 0; ///< the length of the straight leg that it may be moved along, `at` its middle
 };
 
 /// A radial that tells a place on the way.

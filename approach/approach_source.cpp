@@ -105,7 +105,6 @@ ApproachSource readHead(PlanTable& root, const std::string& file) {
     root.need("elevation");
     source.elevation = *root.whole("elevation", {0, 8000});
     source.length = readNumber(root, "length", {1000, 16000});
-    source.note = root.text("note", isLine, "one line of text");
     return source;
 }
 

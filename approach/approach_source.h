@@ -71,7 +71,6 @@ struct ApproachSource {
     int finalAltitude = 0;          ///< at which the final approach begins
     std::optional<Slot> cross = {}; ///< a VOR whose radial tells the final approach fix, too
     MissedApproach missed;
-    std::optional<std::string> note = {};
 };
 
 /// The stations of a session under the names by which sources call them, at the places of its last

@@ -11,6 +11,7 @@ namespace {
 
 constexpr std::int16_t trialScale = 1000; ///< twips per NM
 constexpr double nearStation = 7;         ///< NM from the runway or the initial fix
+constexpr double nearMissed = 11.5;       ///< NM from the runway, of the missed approach's station
 constexpr double behindRunway = 2;        ///< NM of the missed approach
 
 struct Extent {
@@ -43,6 +44,9 @@ Extent extentOf(const ApproachPlan& plan, const ChartPlane& plane) {
     }
     for (const PlanRadial& radial : plan.radials)
         extent.take(radial.to);
+    if (plane.miles(lengthOf(plan.missed.back() - plan.threshold)) < nearMissed)
+        for (const Point at : plan.missed)
+            extent.take(at);
     return extent;
 }
 

@@ -83,7 +83,7 @@ QString missedText(const ApproachSheet& sheet) {
     const QString altitude = ink::feet(missed.altitude) + QStringLiteral(" ft");
     if (!missed.right)
         return climb + QStringLiteral("to %1, %2.").arg(station, altitude);
-    return climb + QStringLiteral("to %1. At D%2 behind %3 turn %4 direct %5.")
+    return climb + QStringLiteral("to %1. At D%2 beyond %3 turn %4 direct %5.")
                        .arg(altitude, ink::qt(oneDecimal(missed.after)),
                             ink::qt(sheet.chart.identifier(Slot::localizer)),
                             *missed.right ? QStringLiteral("right") : QStringLiteral("left"),

@@ -19,6 +19,7 @@ constexpr double paddingDown = 4;
 constexpr double lineHeight = 28;
 constexpr double morseHeight = 17;
 constexpr double morseUnit = 4.2; ///< the length of a dot
+constexpr double boxesApart = 4;  ///< half of what two boxes keep between them
 constexpr double fixRadius = 12;
 constexpr double edgeInset = 26;
 
@@ -117,7 +118,8 @@ std::vector<PlanLabel> planLabels(const ApproachSheet& sheet, const ChartFrame& 
         labels.push_back(fixLabel(fix, symbols, window.middle()));
     std::vector<NameLabel> places;
     for (PlanLabel& label : labels) {
-        label.place.size = roomOf(label);
+        const RoomNeeded room = roomOf(label);
+        label.place.size = {room.width + 2 * boxesApart, room.height + 2 * boxesApart};
         places.push_back(label.place);
     }
     placeLabels(places, window, {obstacles.areas, obstacles.lines});
@@ -127,7 +129,7 @@ std::vector<PlanLabel> planLabels(const ApproachSheet& sheet, const ChartFrame& 
 }
 
 void paintLabel(QPainter& painter, const PlanLabel& label) {
-    const QRectF box = toQt(label.place.box);
+    const QRectF box = toQt(label.place.box.grownBy(-boxesApart));
     painter.setPen(ink::pen(ink::hair, label.colour));
     painter.drawLine(toQt(label.place.leader()));
     painter.setPen(label.isStation ? ink::pen(ink::thin, label.colour) : QPen(Qt::NoPen));

@@ -1,14 +1,13 @@
 #pragma once
 
 #include "paper/name_labels.h"
-#include "tools/approach/approach_sheet.h"
-#include "window/chart/chart_frame.h"
+#include "tools/approach/plan_lettering.h"
 
 #include <QColor>
 #include <QString>
 #include <QStringList>
 
-#include <span>
+#include <optional>
 #include <vector>
 
 class QPainter;
@@ -22,12 +21,6 @@ struct PlanLabel {
     QString morse;     ///< of "." and "-"; empty for what has no identifier
     QColor colour;
     bool isStation = false;
-};
-
-/// What the labels of a plan keep clear of, tenths of a millimetre from the window's corner.
-struct PlanObstacles {
-    std::vector<Box> areas;
-    std::vector<Stroke> lines;
 };
 
 /// The place of a station on the window's edge if it lies beyond, the direction kept as it is seen

@@ -1,15 +1,11 @@
 #include "tools/approach/plan_painter.h"
 
-#include "core/station_geometry.h"
-#include "paper/line_clipping.h"
 #include "tools/approach/plan_labels.h"
 #include "tools/approach/profile_painter.h"
 #include "tools/approach/sheet_ink.h"
 #include "window/chart/chart_lines.h"
 #include "window/chart/chart_overlays.h"
 #include "window/chart/chart_symbols.h"
-
-#include <QFontMetricsF>
 
 #include <algorithm>
 #include <cmath>
@@ -21,35 +17,7 @@ namespace {
 /// Symbols are those of a paper as wide as this, so that they suit a printed sheet.
 constexpr double symbolPaper = 880;
 constexpr double runwayWidth = 13;
-constexpr double markGap = 9; ///< between the way and its lettering
-constexpr double markHeight = 30;
-constexpr double radialPlace = 0.6; ///< of a radial's visible length, for its lettering
-
-/// A text along a line, never upside down.
-struct LetteringOnLine {
-    QPointF on;
-    double turn = 0; ///< degrees clockwise
-    QRectF box;      ///< about `on`, before it is turned
-    QString words;
-    bool bold = false;
-};
-
-LetteringOnLine lettered(Spot on, double course, const QString& words, bool bold) {
-    const double width = QFontMetricsF(ink::type(ink::body, bold)).horizontalAdvance(words) + 12;
-    double turn = turnBetween(90, course);
-    if (std::abs(turn) > 90)
-        turn += turn > 0 ? -180 : 180;
-    return {toQt(on), turn, QRectF(-width / 2, -markGap - markHeight, width, markHeight), words,
-            bold};
-}
-
-/// The upright box around a lettering.
-Box areaOf(const LetteringOnLine& lettering) {
-    QTransform turned;
-    turned.translate(lettering.on.x(), lettering.on.y());
-    turned.rotate(lettering.turn);
-    return toPaper(turned.mapRect(lettering.box));
-}
+constexpr double missedShort = 48;
 
 /// Paints one plan about the window's upper left corner.
 class PlanPainter {
@@ -61,13 +29,14 @@ class PlanPainter {
           window{0, 0, place.width(), place.height()},
           frame(place.width(), place.width() * sheet_parts::twips, 1, ChartMedium::sheet),
           symbolFrame(symbolPaper, symbolPaper * sheet_parts::twips, 1, ChartMedium::sheet),
-          scaleBar(frame, of.plane.twips(1) / sheet_parts::twips) {}
+          scaleBar(frame, of.plane.twips(1) / sheet_parts::twips),
+          letterings(planLettering(plan, frame, window, drawnThings())) {}
 
     void paint();
 
   private:
-    void layOutLettering();
-    [[nodiscard]] PlanObstacles obstacles() const;
+    [[nodiscard]] PlanObstacles drawnThings() const;
+    [[nodiscard]] PlanObstacles obstaclesOfLabels() const;
     [[nodiscard]] QPolygonF way(const std::vector<Point>& points) const;
     void paintRadials();
     void paintWay();
@@ -75,7 +44,7 @@ class PlanPainter {
     void paintArrow(Spot at, double course);
     void paintFixes();
     void paintStations();
-    void paintLettering();
+    void paintTexts();
     void paintOverlays();
     [[nodiscard]] double belowTheSquare() const { return window.height - frame.side; }
 
@@ -96,31 +65,34 @@ QPolygonF PlanPainter::way(const std::vector<Point>& points) const {
     return line;
 }
 
-void PlanPainter::layOutLettering() {
-    for (const PlanMark& mark : plan.marks)
-        letterings.push_back(lettered(frame.spot(mark.at), mark.course, ink::qt(mark.text), true));
-    for (const PlanRadial& radial : plan.radials) {
-        const Stroke line{frame.spot(radial.from), frame.spot(radial.to)};
-        if (const auto seen = clipped(line, window))
-            letterings.push_back(
-                lettered(seen->at(radialPlace), radial.radial, ink::qt(radial.text), false));
+/// What stands on the plan whatever the lettering does.
+PlanObstacles PlanPainter::drawnThings() const {
+    PlanObstacles things;
+    for (std::size_t slot = 0; slot < slotCount; ++slot) {
+        const double across = 2 * symbolFrame.symbolRadius(slot);
+        things.areas.push_back(
+            Box::about(frame.spot(sheet.plane.station(static_cast<Slot>(slot))), {across, across}));
     }
-}
-
-PlanObstacles PlanPainter::obstacles() const {
-    PlanObstacles obstacles;
-    for (const LetteringOnLine& lettering : letterings)
-        obstacles.areas.push_back(areaOf(lettering));
     for (Box plate : {scaleBar.plate, NorthArrow(frame).plate}) {
         plate.top += belowTheSquare();
-        obstacles.areas.push_back(plate);
+        things.areas.push_back(plate);
     }
     for (const std::vector<Point>* line : {&plan.track, &plan.missed, &plan.hold})
         for (std::size_t i = 1; i < line->size(); ++i)
-            obstacles.lines.push_back({frame.spot((*line)[i - 1]), frame.spot((*line)[i])});
+            things.lines.push_back({frame.spot((*line)[i - 1]), frame.spot((*line)[i])});
+    things.lines.push_back({frame.spot(plan.threshold), frame.spot(plan.farEnd)});
+    return things;
+}
+
+/// The labels keep clear of the lettering and of the radials, too. Of the symbols they take care
+/// by themselves.
+PlanObstacles PlanPainter::obstaclesOfLabels() const {
+    PlanObstacles obstacles = drawnThings();
+    obstacles.areas.erase(obstacles.areas.begin(), obstacles.areas.begin() + slotCount);
+    for (const LetteringOnLine& lettering : letterings)
+        obstacles.areas.push_back(lettering.area());
     for (const PlanRadial& radial : plan.radials)
         obstacles.lines.push_back({frame.spot(radial.from), frame.spot(radial.to)});
-    obstacles.lines.push_back({frame.spot(plan.threshold), frame.spot(plan.farEnd)});
     return obstacles;
 }
 
@@ -134,18 +106,20 @@ void PlanPainter::paintRadials() {
 }
 
 void PlanPainter::paintWay() {
+    std::vector<Point> missed = plan.missed; // ends short of its station's symbol
+    const double course = courseOf(missed.back() - missed[missed.size() - 2]);
+    missed.back() = missed.back() + onCourse(course, -missedShort * sheet_parts::twips);
     painter.setBrush(Qt::NoBrush);
     painter.setPen(ink::dashed(ink::medium));
-    painter.drawPolyline(way(plan.missed));
+    painter.drawPolyline(way(missed));
     painter.setPen(QPen(look::ink, ink::medium, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin));
     painter.drawPolyline(way(plan.hold));
     painter.setPen(QPen(look::ink, ink::track, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin));
     painter.drawPolyline(way(plan.track));
-    for (const PlanMark& mark : plan.marks)
-        paintArrow(frame.spot(mark.at), mark.course);
-    if (plan.missed.size() > 1)
-        paintArrow(frame.spot(plan.missed.back()),
-                   courseOf(plan.missed.back() - plan.missed[plan.missed.size() - 2]));
+    for (const LetteringOnLine& lettering : letterings)
+        if (lettering.isFlown)
+            paintArrow(lettering.on, lettering.course);
+    paintArrow(frame.spot(missed.back()), course);
 }
 
 void PlanPainter::paintRunway() {
@@ -189,17 +163,10 @@ void PlanPainter::paintStations() {
     }
 }
 
-void PlanPainter::paintLettering() {
-    for (const LetteringOnLine& lettering : letterings) {
-        painter.save();
-        painter.translate(lettering.on);
-        painter.rotate(lettering.turn);
-        painter.fillRect(lettering.box.adjusted(0, 3, 0, -3), look::faded(look::paper, 0.8));
-        ink::text(painter, lettering.box, Qt::AlignCenter, lettering.words,
-                  ink::type(ink::body, lettering.bold));
-        painter.restore();
-    }
-    for (const PlanLabel& label : planLabels(sheet, symbolFrame, window, obstacles()))
+void PlanPainter::paintTexts() {
+    for (const LetteringOnLine& lettering : letterings)
+        paintLettering(painter, lettering);
+    for (const PlanLabel& label : planLabels(sheet, symbolFrame, window, obstaclesOfLabels()))
         paintLabel(painter, label);
 }
 
@@ -212,14 +179,13 @@ void PlanPainter::paintOverlays() {
 }
 
 void PlanPainter::paint() {
-    layOutLettering();
     paintFeather(painter, frame, sheet.plane.picture.localizer);
     paintRadials();
     paintStations();
     paintWay();
     paintRunway();
     paintFixes();
-    paintLettering();
+    paintTexts();
     paintOverlays();
 }
 

@@ -13,11 +13,13 @@ namespace tarnel {
 namespace {
 
 constexpr double besideWay = 40;   ///< at the left and the right
-constexpr double ground = 78;      ///< from the part's lower edge
+constexpr double ground = 86;      ///< from the part's lower edge
 constexpr double sky = 86;         ///< from its upper edge to the highest altitude
 constexpr double beforeJoin = 1.6; ///< NM of the way that is shown before the final course
 constexpr double afterRunway = 1.6;
 constexpr double onCourseMiles = 0.3; ///< that a beacon may stand beside the final course
+constexpr double apart = 0.3;         ///< NM between a beacon and fix or threshold
+constexpr double courseWidth = 150;
 constexpr double textWidth = 300;
 
 /// Paints one profile.
@@ -31,11 +33,19 @@ class Profile {
           descent(of.plan.descent),
           farthest(std::max(plan.joinDme, descent.fixDme()) + beforeJoin),
           nearest(descent.thresholdDme - runwayMiles() - afterRunway),
-          highest(std::max(plan.joinAltitude, descent.altitude)) {}
+          highest(std::max(plan.joinAltitude, descent.altitude)),
+          beacons(beaconsOnCourse()) {}
 
     void paint();
 
   private:
+    struct Beacon {
+        Slot slot;
+        double dme = 0;
+    };
+
+    [[nodiscard]] std::vector<Beacon> beaconsOnCourse() const;
+    [[nodiscard]] double placeOfCourse() const;
     [[nodiscard]] double runwayMiles() const { return sheet.source.length * 0.3048 / 1852; }
     [[nodiscard]] double x(double dme) const {
         const double share = (farthest - dme) / (farthest - nearest);
@@ -65,6 +75,7 @@ class Profile {
     double farthest;
     double nearest;
     double highest;
+    std::vector<Beacon> beacons;
 };
 
 void Profile::label(double atX, double top, const QString& words, const QFont& font,
@@ -112,12 +123,11 @@ void Profile::paintGround() {
     painter.fillRect(QRectF(QPointF(x(descent.thresholdDme), groundLine() - 5),
                             QPointF(x(descent.thresholdDme - runwayMiles()), groundLine() + 5)),
                      look::ink);
-    label(x(descent.thresholdDme), groundLine() - 38,
-          QStringLiteral("RWY ") + ink::qt(sheet.source.runway), ink::type(ink::small, true),
-          Qt::AlignLeft);
+    label(x(descent.thresholdDme - runwayMiles() / 2), groundLine() + 12,
+          QStringLiteral("RWY ") + ink::qt(sheet.source.runway), ink::type(ink::small, true));
 }
 
-/// Miles of the DME, and those to the threshold below.
+/// Miles of the DME, and below them how far it is from the fix to the threshold.
 void Profile::paintScale() {
     const double row = groundLine() + 8;
     for (int mile = static_cast<int>(farthest); mile >= descent.thresholdDme; --mile) {
@@ -128,6 +138,17 @@ void Profile::paintScale() {
     label(area.right() - 16, row + 4,
           ink::qt(sheet.chart.identifier(Slot::localizer)) + QStringLiteral(" DME"),
           ink::type(ink::small), Qt::AlignRight);
+    const double line = area.bottom() - 22;
+    const double from = x(descent.fixDme());
+    const double to = x(descent.thresholdDme);
+    painter.setPen(ink::pen(ink::hair));
+    painter.drawLine(QPointF(from, line), QPointF(to, line));
+    for (const double end : {from, to})
+        painter.drawLine(QPointF(end, line - 8), QPointF(end, line + 8));
+    const QString miles =
+        ink::qt(oneDecimal(descent.fixDme() - descent.thresholdDme)) + QStringLiteral(" NM");
+    painter.fillRect(QRectF((from + to) / 2 - 50, line - 12, 100, 24), look::paper);
+    label((from + to) / 2, line - 14, miles, ink::type(ink::small));
 }
 
 /// The cross that marks the final approach fix, and what is there.
@@ -141,24 +162,44 @@ void Profile::paintFinalFix() {
           ink::type(ink::small));
 }
 
-void Profile::paintBeacons() {
+std::vector<Profile::Beacon> Profile::beaconsOnCourse() const {
+    std::vector<Beacon> found;
     for (const Slot slot : {Slot::ndb1, Slot::ndb2, Slot::vor1, Slot::vor2}) {
         const Point way = sheet.plane.station(slot) - sheet.plane.station(Slot::localizer);
-        const double bearing = turnBetween(circle(sheet.plane.finalCourse() + 180), courseOf(way));
-        const double away = sheet.plane.miles(lengthOf(way));
-        const double dme = away * std::cos(bearing * std::acos(-1) / 180);
-        const double beside = away * std::sin(bearing * std::acos(-1) / 180);
-        if (std::abs(beside) > onCourseMiles || dme < descent.thresholdDme + 0.3 ||
-            dme > descent.fixDme() - 0.3)
-            continue;
-        const double altitude = descent.altitudeAt(dme);
+        const FromStation seen{courseOf(way), sheet.plane.miles(lengthOf(way))};
+        const double dme = -seen.alongTrack(sheet.plane.finalCourse());
+        if (std::abs(seen.crossTrack(sheet.plane.finalCourse())) < onCourseMiles &&
+            dme > descent.thresholdDme + apart && dme < descent.fixDme() - apart)
+            found.push_back({slot, dme});
+    }
+    return found;
+}
+
+void Profile::paintBeacons() {
+    for (const Beacon& beacon : beacons) {
+        const double altitude = descent.altitudeAt(beacon.dme);
+        const double at = x(beacon.dme);
         painter.setPen(ink::pen(ink::hair));
-        painter.drawLine(QPointF(x(dme), y(altitude) - 46), QPointF(x(dme), groundLine()));
-        label(x(dme) + 8, y(altitude) - 72, ink::qt(sheet.chart.identifier(slot)),
-              ink::type(ink::small, true), Qt::AlignLeft);
-        label(x(dme) + 8, y(altitude) - 46, ink::feet(std::round(altitude / 10) * 10),
+        painter.drawLine(QPointF(at, y(altitude) - 46), QPointF(at, groundLine()));
+        label(
+            at + 8, y(altitude) - 72,
+            ink::qt(sheet.chart.identifier(beacon.slot) + (hasDme(beacon.slot) ? " VOR" : " NDB")),
+            ink::type(ink::small, true), Qt::AlignLeft);
+        label(at + 8, y(altitude) - 46, ink::feet(std::round(altitude / 10) * 10),
               ink::type(ink::small), Qt::AlignLeft);
     }
+}
+
+/// Below the path, between the lines of the beacons.
+double Profile::placeOfCourse() const {
+    for (const double share : {0.5, 0.6, 0.4, 0.7, 0.3}) {
+        const double dme = descent.thresholdDme + share * (descent.fixDme() - descent.thresholdDme);
+        if (std::none_of(beacons.begin(), beacons.end(), [&](const Beacon& beacon) {
+                return std::abs(x(beacon.dme) - x(dme)) < courseWidth / 2;
+            }))
+            return dme;
+    }
+    return (descent.fixDme() + descent.thresholdDme) / 2;
 }
 
 void Profile::paintWords() {
@@ -168,7 +209,7 @@ void Profile::paintWords() {
     if (plan.joinAltitude != descent.altitude)
         label(x(descent.fixDme()) - 14, y(descent.altitude) + 6, ink::feet(descent.altitude),
               ink::type(ink::value, true), Qt::AlignRight);
-    const double middle = (descent.fixDme() + descent.thresholdDme) / 2;
+    const double middle = placeOfCourse();
     const QLineF path(at(descent.fixDme(), descent.altitude),
                       at(descent.thresholdDme, descent.elevation));
     painter.save();

@@ -34,6 +34,16 @@ void paintTable(QPainter& painter, const QRectF& place, const QStringList& capti
                          QPointF(place.right(), place.top() + i * row));
 }
 
+bool hasStationsBeyond(const ApproachSheet& sheet) {
+    const QSizeF size = sheet_parts::plan.size() * sheet_parts::twips;
+    for (std::size_t slot = 0; slot < slotCount; ++slot) {
+        const Point at = sheet.plane.station(static_cast<Slot>(slot));
+        if (!QRectF(QPointF(), size).contains(at.x, at.y))
+            return true;
+    }
+    return false;
+}
+
 QString minutes(int seconds) {
     return QStringLiteral("%1:%2").arg(seconds / 60).arg(seconds % 60, 2, 10, QLatin1Char('0'));
 }
@@ -66,14 +76,15 @@ void paintTables(QPainter& painter, const QRectF& place, const ApproachSheet& sh
 }
 
 void paintNotes(QPainter& painter, const QRectF& place, const ApproachSheet& sheet) {
-    QString notes = QStringLiteral(
-        "All directions are true. Altitudes are made for training with this trainer's session "
-        "\"%1\"; "
-        "obstacles and minima are not considered. The trainer's DME measures from 6000 ft "
-        "throughout: near a station it reads more than this chart.");
-    notes = notes.arg(ink::qt(sheet.source.session));
-    if (sheet.source.note)
-        notes += QLatin1Char(' ') + ink::qt(*sheet.source.note);
+    QString notes =
+        QStringLiteral("All directions are true. Altitudes, and the localizer's identifier and "
+                       "frequency, are made for training with the session \"%1\"; obstacles and "
+                       "minima are not considered. The trainer's DME measures from 6000 ft "
+                       "throughout: near a station it reads more than this chart.")
+            .arg(ink::qt(sheet.source.session));
+    if (hasStationsBeyond(sheet))
+        notes +=
+            QStringLiteral(" Stations beyond the plan: direction and distance from the threshold.");
     ink::text(painter, place.adjusted(16, 4, -16, -4),
               Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap, notes, ink::type(ink::small));
 }
