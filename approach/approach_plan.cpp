@@ -20,6 +20,7 @@ constexpr double shortestMark = 1; ///< NM of a leg that has room for its course
 constexpr double longMark = 2.4;   ///< NM of a leg that has room for its altitude, too
 constexpr double steepest = 400;   ///< feet a mile before the final approach fix
 constexpr double onTheLine = 0.02; ///< NM beside the final course that are none
+constexpr double atTheFix = 0.1;   ///< NM between a beacon and the fix that it marks
 constexpr double beyondFix = 1;    ///< NM that a cross radial goes on behind its fix
 
 std::string degreesText(double course) {
@@ -261,6 +262,9 @@ void PlanBuilder::checkDescent() const {
 void PlanBuilder::placeFinalFix() {
     const double dme = plan.descent.fixDme();
     PlanFix fix{onFinal(dme), {"FAF", name(Slot::localizer) + " D" + oneDecimal(dme)}, true};
+    for (const Slot beacon : {Slot::ndb1, Slot::ndb2})
+        if (plane.miles(lengthOf(plane.station(beacon) - fix.at)) < atTheFix)
+            fix.lines.front() += " " + name(beacon);
     if (source.cross) {
         const Point station = plane.station(*source.cross);
         const double radial = courseOf(fix.at - station);

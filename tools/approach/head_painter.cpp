@@ -28,7 +28,10 @@ QString procedureText(const ApproachSheet& sheet) {
             return ink::qt("DME arc " + oneDecimal(arc->distance) + " NM " +
                            sheet.chart.identifier(arc->station));
         if (const auto* hold = std::get_if<LegInHolding>(&leg.way))
-            return ink::qt("Holding " + sheet.chart.identifier(hold->fix));
+            return QStringLiteral("Holding %1 %2, %3 turns, %4 min")
+                .arg(ink::qt(sheet.chart.identifier(hold->fix)), degrees(hold->inbound),
+                     hold->right ? QStringLiteral("right") : QStringLiteral("left"),
+                     ink::qt(oneDecimal(hold->minutes)));
     }
     return ink::qt("VOR " + sheet.chart.identifier(sheet.source.initialStation) + " transition");
 }
