@@ -110,6 +110,35 @@ TEST(ApproachPlan, TheLeadRadialIsTheOneThatTheFlightSpeaksOf) {
     }
 }
 
+/// The edges of a way: left, top, right, bottom; y grows downwards, to the south.
+std::vector<double> edgesOf(const std::vector<Point>& way) {
+    std::vector<double> edges{1e9, 1e9, -1e9, -1e9};
+    for (const Point at : way)
+        edges = {std::min(edges[0], at.x), std::min(edges[1], at.y), std::max(edges[2], at.x),
+                 std::max(edges[3], at.y)};
+    return edges;
+}
+
+TEST(TrackPen, TurnsToTheSideThatIsAskedFor) {
+    const auto isAbout = [](double left, double top, double right, double bottom) {
+        using testing::DoubleNear;
+        return testing::ElementsAre(DoubleNear(left, 0.01), DoubleNear(top, 0.01),
+                                    DoubleNear(right, 0.01), DoubleNear(bottom, 0.01));
+    };
+    EXPECT_THAT(edgesOf(racetrack({0, 0}, 0, true, 4, 1)), isAbout(0, -1, 2, 5));
+    EXPECT_THAT(edgesOf(racetrack({0, 0}, 90, false, 4, 1)), isAbout(-5, -2, 1, 0));
+    for (const bool right : {true, false}) {
+        TrackPen pen({0, 0}, 0);
+        pen.turnTo({10, -1}, right, 1); // from the top of a right turn straight to the east
+        EXPECT_NEAR(pen.course, right ? 90 : 79.6, 0.1);
+        EXPECT_THAT(edgesOf(pen.track()), right ? isAbout(0, -1, 10, 0) : isAbout(-2, -1, 10, 1));
+    }
+    TrackPen corner({0, 0}, 0);
+    corner.roundCorner({0, -5}, 270, 1);
+    corner.straight(3);
+    EXPECT_THAT(edgesOf(corner.track()), isAbout(-4, -5, 0, 0));
+}
+
 /// By hand: three degrees are 318.4 feet a mile, 637 feet a minute at 120 knots.
 TEST(Descent, LeadsFromTheFixToFiftyFeetAboveTheThreshold) {
     const Descent descent{2.2, 300, 2000};

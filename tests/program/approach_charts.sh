@@ -17,7 +17,7 @@ for document in $documents; do
     [ -s "$file" ] || { fail "missing" && continue; }
     [ "$(stat -c %s "$file")" -lt 100000 ] || fail "$(stat -c %s "$file") bytes"
     info=$(pdfinfo "$file")
-    grep -q '^Pages: *1$' <<<"$info" && grep -q 'A5' <<<"$info" || fail "not one sheet of A5"
+    [[ $info =~ Pages:\ +1$'\n' && $info == *A5* ]] || fail "not one sheet of A5"
     text=$(pdftotext -layout "$file" - | tr -s ' ')
     grep -q 'NOT FOR NAVIGATIONAL PURPOSES - INFORMATION ONLY' <<<"$text" || fail "no warning"
     stations=$(sed -n "/^name = \"${document:0:4}\"/,/^threshold/p" "$3" |
