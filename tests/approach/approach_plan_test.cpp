@@ -85,6 +85,28 @@ TEST_P(PlanOnChart, TheRecordedFlightFollowsItsWayAllTheWay) {
     }
     for (std::size_t i = 0; i + 1 < drawn.plan.track.size(); ++i)
         EXPECT_LT(drawn.plane->miles(distanceTo(flown, drawn.plan.track[i])), 0.4) << i;
+    for (const PlanMark& mark : drawn.plan.marks)
+        EXPECT_LT(drawn.plane->miles(std::min(distanceTo(drawn.plan.track, mark.at),
+                                              distanceTo(drawn.plan.hold, mark.at))),
+                  0.01)
+            << mark.text;
+}
+
+/// Of the turns between two strokes, in degrees; the right is positive.
+std::vector<double> turnsOf(const std::vector<Point>& way) {
+    std::vector<double> turns;
+    for (std::size_t i = 2; i < way.size(); ++i)
+        turns.push_back(
+            turnBetween(courseOf(way[i - 1] - way[i - 2]), courseOf(way[i] - way[i - 1])));
+    return turns;
+}
+
+TEST_P(PlanOnChart, ItsWayTurnsWithoutACornerAndMissedToTheSideThatIsSaid) {
+    const double corner = drawn.plan.hold.empty() ? 6 : 90; // the holding makes it
+    for (const double turn : turnsOf(drawn.plan.track))
+        EXPECT_LT(std::abs(turn), corner);
+    for (const double turn : turnsOf(drawn.plan.missed))
+        EXPECT_EQ(turn > 0, drawn.source.missed.right.value_or(turn > 0)) << turn;
 }
 
 INSTANTIATE_TEST_SUITE_P(Charts, PlanOnChart, testing::ValuesIn(placesOfCharts));
