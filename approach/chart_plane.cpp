@@ -33,9 +33,10 @@ ChartPlane::ChartPlane(const SessionFile& session, std::int16_t twipsPerMile, Ch
     showLocalizer(picture, true);
 }
 
-Point ChartPlane::place(const GeoPosition& position) {
+Point ChartPlane::place(const GeoPosition& position) const {
+    MapView own = view; // a copy, as placing leaves traces in the view
     ChartPlace place;
-    view.placeOnChart(position, 0, place);
+    own.placeOnChart(position, 0, place);
     return place.wide;
 }
 

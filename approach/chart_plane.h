@@ -22,7 +22,9 @@ class ChartPlane {
     ChartPlane& operator=(const ChartPlane&) = delete;
 
     [[nodiscard]] Point station(Slot slot) const { return inSlot(stations, slot).place.wide; }
-    [[nodiscard]] Point place(const GeoPosition& position);
+    [[nodiscard]] Point place(const GeoPosition& position) const;
+    /// The centre of the session's chart.
+    [[nodiscard]] GeoPosition centre() const { return toPlain(view.mapCenter); }
     [[nodiscard]] double twips(double miles) const { return miles * view.plot.mapScaleTwips; }
     [[nodiscard]] double miles(double twips) const { return twips / view.plot.mapScaleTwips; }
     /// The course on which the localizer is approached, degrees.

@@ -20,7 +20,7 @@ struct DrawnApproach {
           words(text.empty() ? readFileBytes(file, 1 << 16) : text),
           session(readSession(
               readFileBytes(sessionPath(sessionOf(words, file) + ".ts"), largestSession))) {
-        const PlanWindow window{26800, 20400, 3000, 1600};
+        const PlanWindow window{26800, 20400, 3300, 1600};
         framing = framePlan(source, chart, session, window);
         plane = std::make_unique<ChartPlane>(session, framing.twipsPerMile, framing.centre);
         plan = planOf(source, chart, *plane);

@@ -65,7 +65,7 @@ void paintCells(QPainter& painter, const QRectF& place, const ApproachSheet& she
         {0.22, "FAF",
          ink::qt("D" + oneDecimal(descent.fixDme())) + QStringLiteral("  ") +
              ink::feet(descent.altitude) + QStringLiteral(" ft")},
-        {0.16, "Threshold", ink::feet(descent.elevation) + QStringLiteral(" ft")},
+        {0.16, "Threshold elevation", ink::feet(descent.elevation) + QStringLiteral(" ft")},
     };
     painter.setPen(ink::pen(ink::thin));
     painter.drawLine(place.topLeft(), place.topRight());
@@ -82,7 +82,9 @@ void paintCells(QPainter& painter, const QRectF& place, const ApproachSheet& she
 QString missedText(const ApproachSheet& sheet) {
     const MissedApproach& missed = sheet.source.missed;
     const QString station = ink::qt(sheet.chart.identifier(missed.station));
-    const QString climb = QStringLiteral("Climb on %1 ").arg(degrees(sheet.plane.finalCourse()));
+    const QString climb = QStringLiteral("At D%1 (threshold) climb on %2 ")
+                              .arg(ink::qt(oneDecimal(sheet.plan.descent.thresholdDme)),
+                                   degrees(sheet.plane.finalCourse()));
     const QString altitude = ink::feet(missed.altitude) + QStringLiteral(" ft");
     if (!missed.right)
         return climb + QStringLiteral("to %1, %2.").arg(station, altitude);

@@ -52,7 +52,7 @@ void drawChart(const std::string& file, const std::string& folder) {
     const ApproachSource source = readApproach(text, file, chart);
     const PlanFraming framing =
         framePlan(source, chart, session,
-                  {plan.width() * twips, plan.height() * twips, 150 * twips, 80 * twips});
+                  {plan.width() * twips, plan.height() * twips, 165 * twips, 80 * twips});
     const ChartPlane plane(session, framing.twipsPerMile, framing.centre);
     const ApproachPlan way = planOf(source, chart, plane);
     OutputFile output(folder + "/" + documentOf(source));

@@ -1,5 +1,6 @@
 #include "tools/approach/plan_painter.h"
 
+#include "tools/approach/graticule.h"
 #include "tools/approach/plan_labels.h"
 #include "tools/approach/profile_painter.h"
 #include "tools/approach/sheet_ink.h"
@@ -7,8 +8,7 @@
 #include "window/chart/chart_overlays.h"
 #include "window/chart/chart_symbols.h"
 
-#include <algorithm>
-#include <cmath>
+#include <array>
 
 namespace tarnel {
 
@@ -30,11 +30,13 @@ class PlanPainter {
           frame(place.width(), place.width() * sheet_parts::twips, 1, ChartMedium::sheet),
           symbolFrame(symbolPaper, symbolPaper * sheet_parts::twips, 1, ChartMedium::sheet),
           scaleBar(frame, of.plane.twips(1) / sheet_parts::twips),
+          edgeMarks(graticule(of.plane, window, plates())),
           letterings(planLettering(plan, frame, window, drawnThings())) {}
 
     void paint();
 
   private:
+    [[nodiscard]] std::array<Box, 2> plates() const;
     [[nodiscard]] PlanObstacles drawnThings() const;
     [[nodiscard]] PlanObstacles obstaclesOfLabels() const;
     [[nodiscard]] QPolygonF way(const std::vector<Point>& points) const;
@@ -55,6 +57,7 @@ class PlanPainter {
     ChartFrame frame;
     ChartFrame symbolFrame;
     ScaleBar scaleBar;
+    std::vector<GraticuleMark> edgeMarks;
     std::vector<LetteringOnLine> letterings;
 };
 
@@ -65,6 +68,14 @@ QPolygonF PlanPainter::way(const std::vector<Point>& points) const {
     return line;
 }
 
+/// Those of the scale bar and the north arrow.
+std::array<Box, 2> PlanPainter::plates() const {
+    std::array<Box, 2> both{scaleBar.plate, NorthArrow(frame).plate};
+    for (Box& plate : both)
+        plate.top += belowTheSquare();
+    return both;
+}
+
 /// What stands on the plan whatever the lettering does.
 PlanObstacles PlanPainter::drawnThings() const {
     PlanObstacles things;
@@ -73,10 +84,10 @@ PlanObstacles PlanPainter::drawnThings() const {
         things.areas.push_back(
             Box::about(frame.spot(sheet.plane.station(static_cast<Slot>(slot))), {across, across}));
     }
-    for (Box plate : {scaleBar.plate, NorthArrow(frame).plate}) {
-        plate.top += belowTheSquare();
+    for (const Box& plate : plates())
         things.areas.push_back(plate);
-    }
+    for (const GraticuleMark& mark : edgeMarks)
+        things.areas.push_back(mark.text);
     for (const std::vector<Point>* line : {&plan.track, &plan.missed, &plan.hold})
         for (std::size_t i = 1; i < line->size(); ++i)
             things.lines.push_back({frame.spot((*line)[i - 1]), frame.spot((*line)[i])});
@@ -171,6 +182,7 @@ void PlanPainter::paintTexts() {
 }
 
 void PlanPainter::paintOverlays() {
+    paintGraticule(painter, edgeMarks);
     painter.save();
     painter.translate(0, belowTheSquare());
     paintScaleBar(painter, frame, scaleBar, QStringLiteral("NM"));
