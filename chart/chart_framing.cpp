@@ -13,14 +13,8 @@ namespace tarnel {
 
 namespace {
 
-/// A VOR's rose; the label of any station finds its place within or beside it.
-constexpr double stationRoom = 560;
 constexpr double featherRoom = 150; ///< more than half its width there
 constexpr double featherMiles = 8;  ///< from the localizer to where an approach is intercepted
-
-/// Paper that is kept free for the switches above and for a starting aircraft below.
-constexpr double freeAbove = 450;
-constexpr double freeBelow = 850;
 
 /// The chart measures from its centre, so its offsets change a little when the centre moves.
 constexpr int rounds = 4;
@@ -64,13 +58,14 @@ Box boxAt(double scale, std::span<const Extent> extents) {
     return box;
 }
 
-std::int16_t largestScale(std::span<const Extent> extents, double size) {
+std::int16_t largestScale(std::span<const Extent> extents, const FramedPaper& paper) {
     std::int16_t fitting = 1;
     std::int16_t tooLarge = *std::rbegin(MapView::offeredScales) + 1;
     while (tooLarge - fitting > 1) {
         const auto tried = static_cast<std::int16_t>((fitting + tooLarge) / 2);
         const Box box = boxAt(tried, extents);
-        const bool fits = box.width() <= size && box.height() <= size - freeAbove - freeBelow;
+        const bool fits = box.width() <= paper.size &&
+                          box.height() <= paper.size - paper.freeAbove - paper.freeBelow;
         (fits ? fitting : tooLarge) = tried;
     }
     return fitting;
@@ -87,22 +82,23 @@ SplitPosition moved(const SplitPosition& centre, double right, double down, doub
 std::vector<FramedPlace> framedStations(const Stations& stations, double locCourse) {
     std::vector<FramedPlace> places;
     for (const Station& station : stations)
-        places.push_back({toPlain(station.position), stationRoom});
+        places.push_back({toPlain(station.position), framedStationRoom});
     const SplitPosition& localizer = inSlot(stations, Slot::localizer).position;
     places.push_back({DeadReckon(localizer, featherMiles, locCourse).plain, featherRoom});
     return places;
 }
 
-ChartFraming framingOf(std::span<const FramedPlace> places, double size) {
+ChartFraming framingOf(std::span<const FramedPlace> places, const FramedPaper& paper) {
     ChartFraming framing{toSplit(places.front().position)};
     for (int round = 0; round < rounds; ++round) {
         const std::vector<Extent> extents = extentsFrom(framing.centre, places);
         if (extents.empty())
             break;
-        framing.scale = largestScale(extents, size);
+        framing.scale = largestScale(extents, paper);
         const Box box = boxAt(framing.scale, extents);
-        framing.centre = moved(framing.centre, (box.left + box.right) / 2,
-                               (box.top + box.bottom - freeAbove + freeBelow) / 2, framing.scale);
+        framing.centre =
+            moved(framing.centre, (box.left + box.right) / 2,
+                  (box.top + box.bottom - paper.freeAbove + paper.freeBelow) / 2, framing.scale);
     }
     return framing;
 }

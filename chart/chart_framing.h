@@ -20,8 +20,23 @@ struct ChartFraming {
     std::int16_t scale = 250; ///< twips per NM, 1 to 1000
 };
 
-/// The room that an aircraft takes on a framed chart.
+/// The room that an aircraft takes on a framed chart, and that of a VOR's rose; the label of any
+/// station finds its place within or beside it.
 constexpr double framedAircraftRoom = 350;
+constexpr double framedStationRoom = 560;
+
+/// The paper of a framed chart, in twips: how wide and high it is, and what is kept free at its
+/// upper and lower edges; without other words for the switches above and a starting aircraft below.
+struct FramedPaper {
+    double size = 0;
+    double freeAbove = 450;
+    double freeBelow = 850;
+};
+
+/// A sheet on which nothing but the scale and the arrow to the north stand over the paper.
+[[nodiscard]] constexpr FramedPaper printedPaper(double size) {
+    return {size, 100, 560};
+}
 
 /// How far above the lower edge a new flight begins, in twips: in the strip of paper that a framing
 /// leaves free below what it shows.
@@ -31,9 +46,9 @@ constexpr double framedStartHeight = 500;
 /// `locCourse`: the degrees on which the feather leaves the localizer.
 [[nodiscard]] std::vector<FramedPlace> framedStations(const Stations& stations, double locCourse);
 
-/// The largest north-up chart of `size` twips that shows all of `places`, clear of what stands over
-/// the paper's upper and lower edges. Places more than the whole paper apart at 1 twip per NM are
-/// cut off at the edges. `places` must not be empty.
-[[nodiscard]] ChartFraming framingOf(std::span<const FramedPlace> places, double size);
+/// The largest north-up chart that shows all of `places`, clear of what stands over the paper's
+/// upper and lower edges. Places more than the whole paper apart at 1 twip per NM are cut off at
+/// the edges. `places` must not be empty.
+[[nodiscard]] ChartFraming framingOf(std::span<const FramedPlace> places, const FramedPaper& paper);
 
 } // namespace tarnel

@@ -67,7 +67,7 @@ void ChartSheet::frameStations(std::span<const GeoPosition> aircraftPlaces) {
     std::vector<FramedPlace> places = framedStations(scene.stations, given.receivers.c_LocCrs1);
     for (const GeoPosition& position : aircraftPlaces)
         places.push_back({position, framedAircraftRoom});
-    const ChartFraming framing = framingOf(places, scene.picture.size);
+    const ChartFraming framing = framingOf(places, {scene.picture.size});
     showChart(framing.centre, framing.scale);
 }
 

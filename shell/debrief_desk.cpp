@@ -158,7 +158,7 @@ void DebriefDesk::frame() const {
         const Slot station = choiceOf(*held).station;
         places.push_back({inSlot(samples.front().traceStations, station), framedFixRoom});
     }
-    const ChartFraming framing = framingOf(places, given.sim.picture.size);
+    const ChartFraming framing = framingOf(places, {given.sim.picture.size});
     given.sim.showChart(framing.centre, framing.scale);
 }
 

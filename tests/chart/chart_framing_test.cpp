@@ -65,7 +65,7 @@ bool allShown(const Layout& layout, const ChartFraming& framing, int zoomed) {
 TEST(ChartFraming, ShowsAllStationsAndTheApproachAsLargeAsTheyFit) {
     for (const Layout& layout : layouts) {
         const ChartFraming framing =
-            framingOf(framedStations(stationsOf(layout), layout.locCourse), paper);
+            framingOf(framedStations(stationsOf(layout), layout.locCourse), {paper});
         EXPECT_TRUE(allShown(layout, framing, 0)) << layout.name << ' ' << framing.scale;
         EXPECT_FALSE(allShown(layout, framing, framing.scale / 10)) << layout.name;
         EXPECT_LE(framing.scale, 1000) << layout.name;
@@ -74,7 +74,7 @@ TEST(ChartFraming, ShowsAllStationsAndTheApproachAsLargeAsTheyFit) {
 
 TEST(ChartFraming, ASinglePlaceStandsInTheFreePaperAtTheLargestScale) {
     const FramedPlace place{{48, 11}, 300};
-    const ChartFraming framing = framingOf({&place, 1}, paper);
+    const ChartFraming framing = framingOf({&place, 1}, {paper});
     EXPECT_EQ(framing.scale, 1000);
     const Point at = placed(framing, place.position, 0);
     EXPECT_NEAR(at.x, paper / 2, 15);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tools/course/printed_question.h"
+#include "tools/printed/printed_question.h"
 
 #include <QByteArray>
 

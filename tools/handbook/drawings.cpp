@@ -1,11 +1,18 @@
 #include "tools/handbook/drawings.h"
 
+#include "tools/output/output_file.h"
+
 #include <QBuffer>
 #include <QPainter>
 #include <QSvgGenerator>
 
+#include <functional>
+
 namespace tarnel {
 
+namespace {
+
+/// What `paint` paints into a square of so many units.
 QByteArray drawing(double side, const std::function<void(QPainter&)>& paint) {
     QByteArray bytes;
     QBuffer buffer(&bytes);
@@ -18,6 +25,28 @@ QByteArray drawing(double side, const std::function<void(QPainter&)>& paint) {
         paint(painter);
     }
     return bytes;
+}
+
+} // namespace
+
+QByteArray dialDrawing(InstrumentPainter& dials, const InstrumentPicture& picture) {
+    constexpr double units = 480;
+    return drawing(units, [&](QPainter& painter) { dials.paint(painter, picture, units); });
+}
+
+QByteArray pictureDrawing(const QPicture& picture, double units) {
+    return drawing(units, [&](QPainter& painter) {
+        // A picture is drawn in the size that it has on paper, whatever its own resolution.
+        const double dots = double(painter.device()->logicalDpiX()) / picture.logicalDpiX();
+        painter.scale(1 / dots, 1 / dots);
+        painter.drawPicture(0, 0, picture);
+    });
+}
+
+void writeFile(const std::string& file, const QByteArray& bytes) {
+    OutputFile output(file);
+    output.write(bytes.toStdString());
+    output.close();
 }
 
 } // namespace tarnel

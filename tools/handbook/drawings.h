@@ -1,14 +1,22 @@
 #pragma once
 
+#include "instruments/instrument_picture.h"
+#include "window/dials/instrument_painter.h"
+
 #include <QByteArray>
+#include <QPicture>
 
-#include <functional>
-
-class QPainter;
+#include <string>
 
 namespace tarnel {
 
-/// What `paint` paints into a square of so many units, as an SVG.
-[[nodiscard]] QByteArray drawing(double side, const std::function<void(QPainter&)>& paint);
+/// A dial as an SVG.
+[[nodiscard]] QByteArray dialDrawing(InstrumentPainter& dials, const InstrumentPicture& picture);
+
+/// A picture, so many units wide and high, as an SVG.
+[[nodiscard]] QByteArray pictureDrawing(const QPicture& picture, double units);
+
+/// Throws OutputError.
+void writeFile(const std::string& file, const QByteArray& bytes);
 
 } // namespace tarnel

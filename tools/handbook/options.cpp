@@ -11,6 +11,8 @@ HandbookCommand commandOf(const std::string& word) {
         return HandbookCommand::sections;
     if (word == "figures")
         return HandbookCommand::figures;
+    if (word == "plates")
+        return HandbookCommand::plates;
     throw UsageError("no command: " + word);
 }
 

@@ -5,11 +5,11 @@
 
 namespace tarnel {
 
-enum class HandbookCommand { help, sections, figures };
+enum class HandbookCommand { help, sections, figures, plates };
 
 struct HandbookOptions {
     HandbookCommand command = HandbookCommand::help;
-    std::vector<std::string> sources; ///< plans of figures
+    std::vector<std::string> sources; ///< plans of figures, or courses
     std::string out;                  ///< a folder
     bool german = false;
 };

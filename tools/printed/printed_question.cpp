@@ -1,25 +1,13 @@
-#include "tools/course/printed_question.h"
+#include "tools/printed/printed_question.h"
 
-#include "chart/chart_framing.h"
 #include "exercises/exercise_catalogue.h"
 #include "flights/plan_error.h"
-#include "window/chart/chart_painter.h"
+#include "tools/printed/sheet_chart.h"
 #include "window/widgets/text_of.h"
-
-#include <QPainter>
 
 namespace tarnel {
 
 namespace {
-
-/// The chart of a trainer as lines and areas.
-QPicture chartOf(const UserControl2& simulation, const StringTable& texts, double side) {
-    constexpr double finely = 8; // places of lettering in a unit
-    QPicture picture;
-    QPainter painter(&picture);
-    ChartPainter(simulation, texts, ChartMedium::sheet).paint(painter, side, finely);
-    return picture;
-}
 
 void showAircraft(ScriptedFlight& flight, bool shown) {
     UserControl2& simulation = flight.form().UserControl11;
@@ -27,17 +15,13 @@ void showAircraft(ScriptedFlight& flight, bool shown) {
     simulation.c_TraceEN = static_cast<std::int16_t>(shown ? 1 : 0);
 }
 
-/// Shows a flight and what the question speaks of, as large as it fits.
-void frameFlight(UserControl2& simulation, const std::vector<FlightRow>& rows,
-                 const std::vector<GeoPosition>& stations) {
-    std::vector<FramedPlace> places;
-    places.reserve(rows.size() + stations.size());
+/// Where the aircraft was, moment by moment.
+std::vector<GeoPosition> wayOf(const std::vector<FlightRow>& rows) {
+    std::vector<GeoPosition> way;
+    way.reserve(rows.size());
     for (const FlightRow& row : rows)
-        places.push_back({{row.latitude, row.longitude}, framedAircraftRoom});
-    for (const GeoPosition& station : stations)
-        places.push_back({station, framedAircraftRoom});
-    const ChartFraming framing = framingOf(places, simulation.picture.size);
-    simulation.showChart(framing.centre, framing.scale);
+        way.push_back({row.latitude, row.longitude});
+    return way;
 }
 
 /// Two ways are stored with a plus around each.
@@ -124,15 +108,15 @@ PrintedQuestion Printing::take(const Situation& situation) {
     const GeoPosition asked{pilot.now().latitude, pilot.now().longitude};
     form.UserControl11.frameStations(kind.askedOnChart ? std::vector{asked}
                                                        : std::vector<GeoPosition>{});
-    question.chart = chartOf(form.UserControl11, texts, PrintedQuestion::chartUnits);
+    question.chart = sheetChart(form.UserControl11, texts, PrintedQuestion::chartUnits);
     showAircraft(flight, true);
     try {
         source.questions->solve(pilot, situation);
     } catch (const LostPilot& lost) {
         throw PlanError(source.file, situation.line, lost.what());
     }
-    frameFlight(form.UserControl11, pilot.rows(), stationsOf(situation));
-    question.flown = chartOf(form.UserControl11, texts, PrintedQuestion::solutionUnits);
+    frameOnSheet(form.UserControl11, wayOf(pilot.rows()), stationsOf(situation));
+    question.flown = sheetChart(form.UserControl11, texts, PrintedQuestion::solutionUnits);
 
     const auto exercise = kind.make(texts, draw);
     exercise->take(source.questions->ask(
