@@ -13,12 +13,37 @@ WARNING = {
           "rechtweisend.",
     "en": "For training with the trainer only, not for navigation. All directions are true.",
 }
+HOW_TO = {"de": "Zu diesem Buch", "en": "About this book"}
+HOW_TO_READ = {
+    "de": (
+        "Jeder Abschnitt steht auf der Seite, die das Menü „Buch“ des Trainers aufschlägt. "
+        "Dazwischen stehen Tafeln mit Übungen: rechts drei Lagen mit ihren Anzeigen und Fragen, "
+        "auf der Rückseite die geflogenen Lösungen. Wo nur eine Seite frei ist, stehen Fragen und "
+        "Lösungen beisammen.",
+        "Lesen Sie zuerst die Anzeigen, legen Sie sich auf eine Antwort fest und blättern Sie dann "
+        "um. Alle Lagen lassen sich im Trainer nachfliegen: Sie stehen im Menü „Übungen“.",
+    ),
+    "en": (
+        "Each section stands on the page at which the trainer’s menu “Book” opens it. Between "
+        "the sections there are plates of exercises: on the right three situations with their "
+        "dials and questions, overleaf the solutions as flown. Where only one page is free, "
+        "questions and solutions stand together.",
+        "Read the dials first, commit yourself to an answer, then turn the page. Every situation "
+        "can be flown in the trainer: they are in the menu “Exercises”.",
+    ),
+}
 
 
 def cover(language, picture):
     return (f'<div class="cover"><h1>{TITLE[language]}</h1>'
             f'<p class="about">{ABOUT[language]}</p><img src="{picture.as_uri()}">'
             f'<p class="about">{WARNING[language]}</p></div>')
+
+
+def about_plates(language):
+    """What is behind the cover."""
+    paragraphs = "".join(f"<p>{text}</p>" for text in HOW_TO_READ[language])
+    return f'<div class="inside"><h2>{HOW_TO[language]}</h2>{paragraphs}</div>'
 
 
 def contents(language, sections):

@@ -12,6 +12,7 @@ import weasyprint
 
 import front_matter
 from markdown_pages import SourceError, Writer
+from plates import Plates
 
 INDEX = "bookIndex"  # made of the entries in all others
 
@@ -47,21 +48,16 @@ class Book:
         self.document = source.render(stylesheets=[self.style])
         self.pages += self.document.pages
 
-    def blank_to(self, page):
-        """Leaves pages free, so that the next one has the number `page`."""
-        while len(self.pages) + 1 < page:
-            self.append('<div class="blank"></div>')
-
     def write(self, path):
         self.document.copy(self.pages).write_pdf(path)
 
 
-def set_sections(book, sections, writer):
+def set_sections(book, sections, writer, plates):
     """Sets them all, and raises what is wrong with any of them."""
     wrong = []
     for page, together in itertools.groupby(sections, key=lambda section: section.page):
         try:
-            make_room(book, page, wrong)
+            make_room(book, page, plates, wrong)
             set_together(book, page, list(together), writer)
         except SourceError as error:
             wrong.append(str(error))
@@ -69,12 +65,12 @@ def set_sections(book, sections, writer):
         raise SystemExit("\n".join(wrong))
 
 
-def make_room(book, page, wrong):
+def make_room(book, page, plates, wrong):
     over = len(book.pages) + 1 - page
     if over > 0:
         wrong.append(f"{book.sections[-1].path}: too long by {over} pages")
         del book.pages[page - 1:]
-    book.blank_to(page)
+    plates.fill(book, page, book.sections[-1] if book.sections else None)
 
 
 def set_together(book, page, sections, writer):
@@ -95,7 +91,7 @@ def body_of(section, writer, book):
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
-    for name in ("language", "sources", "table", "figures", "style", "out"):
+    for name in ("language", "sources", "table", "plates", "figures", "style", "out"):
         parser.add_argument(f"--{name}", required=True)
     given = parser.parse_args()
     table = json.loads(pathlib.Path(given.table).read_text(encoding="utf-8"))
@@ -105,10 +101,13 @@ def main():
     sections = [section for section in sections if section.path.exists() or section.name == INDEX]
     figures = pathlib.Path(given.figures).resolve()
     book = Book(given.language, weasyprint.CSS(given.style))
-    book.append(front_matter.cover(given.language, next(figures.glob("*-left.svg"))))
-    book.blank_to(3)
+    book.append(front_matter.cover(given.language, next(figures.glob("adf-position-left.svg"))))
+    book.append(front_matter.about_plates(given.language))
     book.append(front_matter.contents(given.language, sections))
-    set_sections(book, sections, writer)
+    plates = Plates(pathlib.Path(given.plates), figures, given.language, sections)
+    set_sections(book, sections, writer, plates)
+    if plates.notes:
+        print(f"{given.out}: {plates.notes} pages are free for notes")
     pathlib.Path(given.out).parent.mkdir(parents=True, exist_ok=True)
     book.write(given.out)
 

@@ -1,6 +1,8 @@
 #include "tools/handbook/drawings.h"
 
+#include "look/panel_look.h"
 #include "tools/output/output_file.h"
+#include "window/widgets/numeral_shapes.h"
 
 #include <QBuffer>
 #include <QPainter>
@@ -27,11 +29,20 @@ QByteArray drawing(double side, const std::function<void(QPainter&)>& paint) {
     return bytes;
 }
 
+/// Gives numerals their edge, which no painter can give to text.
+QByteArray edged(QByteArray drawn) {
+    const QByteArray colour = look::shapeEdge.name().toUtf8();
+    const QByteArray text = "<text fill=\"" + colour + "\" fill-opacity=\"1\" stroke=";
+    return drawn.replace(text + "\"none\"", text + '"' + colour +
+                                                "\" stroke-linejoin=\"round\" stroke-width=\"" +
+                                                QByteArray::number(numeralTextEdge) + '"');
+}
+
 } // namespace
 
 QByteArray dialDrawing(InstrumentPainter& dials, const InstrumentPicture& picture) {
     constexpr double units = 480;
-    return drawing(units, [&](QPainter& painter) { dials.paint(painter, picture, units); });
+    return edged(drawing(units, [&](QPainter& painter) { dials.paint(painter, picture, units); }));
 }
 
 QByteArray pictureDrawing(const QPicture& picture, double units) {

@@ -10,7 +10,7 @@
 
 namespace tarnel {
 
-/// A dial as an SVG.
+/// A dial as an SVG, by a painter whose numerals are text.
 [[nodiscard]] QByteArray dialDrawing(InstrumentPainter& dials, const InstrumentPicture& picture);
 
 /// A picture, so many units wide and high, as an SVG.

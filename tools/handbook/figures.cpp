@@ -64,7 +64,7 @@ void drawFigures(const std::string& plan, const std::string& folder, const Strin
                [&] { places.push_back(form.UserControl11.aircraft.published()); });
     frameOnSheet(form.UserControl11, places, stationsInUse(form, flight.plan()));
     PictureStore pictures(QString::fromStdString(applicationFolder));
-    InstrumentPainter dials(pictures);
+    InstrumentPainter dials(pictures, Numerals::text);
     const std::string name = folder + "/" + std::filesystem::path(plan).stem().string();
     writeFile(name + "-left.svg", dialDrawing(dials, form.inst2.instrument.picture));
     writeFile(name + "-right.svg", dialDrawing(dials, form.inst3.instrument.picture));

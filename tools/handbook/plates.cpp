@@ -50,7 +50,7 @@ void drawPlates(const std::string& source, const std::string& folder, Language l
     const std::vector<PrintedQuestion> questions =
         printedQuestions(course, language, applicationFolder);
     PictureStore pictures(QString::fromStdString(applicationFolder));
-    InstrumentPainter dials(pictures);
+    InstrumentPainter dials(pictures, Numerals::text);
     const std::string name = std::filesystem::path(source).stem().string();
     QJsonArray situations;
     for (std::size_t i = 0; i < questions.size(); ++i) {

@@ -118,6 +118,22 @@ void paintNumerals(const Scene& scene, NumeralShapes& numerals) {
     }
 }
 
+void writeNumerals(const Scene& scene) {
+    for (const Label& numeral : scene.picture.Label1) {
+        if (!numeral.visible)
+            continue;
+        const NumeralText text = NumeralShapes::text(numeral, scene.picture.size, scene.scale);
+        scene.painter.save();
+        scene.painter.setTransform(text.place, true);
+        scene.painter.setFont(text.font);
+        for (const QColor& colour : {look::shapeEdge, look::ticks}) {
+            scene.painter.setPen(colour);
+            scene.painter.drawText(text.start, QString::fromStdString(numeral.caption));
+        }
+        scene.painter.restore();
+    }
+}
+
 void paintHeadingBug(const Scene& scene) {
     if (hasHeadingBug(scene.picture.kind))
         drawRaised(scene, scene.shapes.headingBug(), look::headingBug);
@@ -240,7 +256,10 @@ void InstrumentPainter::paint(QPainter& painter, const InstrumentPicture& pictur
     paintSecondNeedle(scene);
     paintFirstNeedle(scene);
     paintDeviation(scene);
-    paintNumerals(scene, numerals);
+    if (numeralsAs == Numerals::text)
+        writeNumerals(scene);
+    else
+        paintNumerals(scene, numerals);
     paintHub(scene);
     paintAircraft(scene);
     paintFlags(scene);
