@@ -21,14 +21,15 @@ HOW_TO_READ = {
         "auf der Rückseite die geflogenen Lösungen. Wo nur eine Seite frei ist, stehen Fragen und "
         "Lösungen beisammen.",
         "Lesen Sie zuerst die Anzeigen, legen Sie sich auf eine Antwort fest und blättern Sie dann "
-        "um. Alle Lagen lassen sich im Trainer nachfliegen: Sie stehen im Menü „Übungen“.",
+        "um. Auf der Karte beginnt die Spur dort, wo gefragt wurde. Alle Lagen lassen sich im Trainer nachfliegen: Sie stehen im Menü „Übungen“.",
     ),
     "en": (
         "Each section stands on the page at which the trainer’s menu “Book” opens it. Between "
         "the sections there are plates of exercises: on the right three situations with their "
         "dials and questions, overleaf the solutions as flown. Where only one page is free, "
         "questions and solutions stand together.",
-        "Read the dials first, commit yourself to an answer, then turn the page. Every situation "
+        "Read the dials first, commit yourself to an answer, then turn the page. On the chart the "
+        "track begins where the question was asked. Every situation "
         "can be flown in the trainer: they are in the menu “Exercises”.",
     ),
 }

@@ -109,24 +109,30 @@ class Plates:
         return f'<div class="plate">{heading}{rows}</div>'
 
     def solutions(self, situations, page):
-        rows = "".join(
-            f'<div class="situation"><div class="number">{number}</div>'
-            f'{self.picture(situation, "flown")}'
-            f'<div class="words">{task(title, situation)}{answers_of(situation)}</div></div>'
-            for number, (title, situation) in enumerate(situations, 1))
+        rows = "".join(self.solution(number, each) for number, each in enumerate(situations, 1))
         heading = self.heading(self.words["solutions"], "solution",
                                self.link("questions", "plate", page))
         return f'<div class="plate">{heading}{rows}</div>'
 
+    def solution(self, number, titled):
+        title, situation = titled
+        return (f'<div class="situation"><div class="number">{number}</div>'
+                f'{self.picture(situation, "flown")}'
+                f'<div class="words">{task(title, situation)}{table_of(situation)}</div></div>')
+
     def solved(self, situations):
         """Questions and solutions together, on a page that has none behind it."""
-        rows = "".join(
-            f'<div class="situation solved"><div class="number">{number}</div>'
-            f'<div class="words">{task(title, situation)}<div class="pictures">'
-            f'{self.dials(situation)}{self.picture(situation, "flown")}</div>'
-            f'{answers_of(situation)}</div></div>'
-            for number, (title, situation) in enumerate(situations, 1))
+        rows = "".join(self.solved_one(number, each) for number, each in enumerate(situations, 1))
         return f'<div class="plate">{self.heading(self.words["solved"], "plate")}{rows}</div>'
+
+    def solved_one(self, number, titled):
+        title, situation = titled
+        dials = self.dials(situation)
+        if not dials:
+            return self.solution(number, titled)
+        return (f'<div class="situation solved"><div class="number">{number}</div>'
+                f'<div class="words">{task(title, situation)}<div class="pictures">{dials}'
+                f'{self.picture(situation, "flown")}</div>{answers_of(situation)}</div></div>')
 
     def asked(self, situation):
         """The dials, or the chart where that is asked."""
@@ -165,8 +171,14 @@ def room_for(row):
     return f'<p class="offers">{" ".join(parts) or "<span class=line></span>"}</p>'
 
 
-def answers_of(situation):
+def table_of(situation):
     rows = "".join(f"<tr><td>{html.escape(row['prompt'])}</td>"
                    f"<td class='answer'>{html.escape(row['solution'])}</td></tr>"
                    for row in situation["rows"])
     return f"<table>{rows}</table>"
+
+
+def answers_of(situation):
+    rows = "".join(f"<p>{html.escape(row['prompt'])} <b>{html.escape(row['solution'])}</b></p>"
+                   for row in situation["rows"])
+    return f'<div class="answers">{rows}</div>'
