@@ -38,7 +38,7 @@ class Plates:
                         for path in sorted(figures.glob("*.plates.json"))}
         self.text = table.read_text(encoding="utf-8")
         self.behind = tomllib.loads(self.text)
-        self.check({section.name for section in sections} | {CONTENTS})
+        self.check(sections | {CONTENTS})
         self.count = 0
         self.notes = 0  # pages for which no situation was left
 

@@ -104,7 +104,8 @@ def main():
     book.append(front_matter.cover(given.language, next(figures.glob("adf-position-left.svg"))))
     book.append(front_matter.about_plates(given.language))
     book.append(front_matter.contents(given.language, sections))
-    plates = Plates(pathlib.Path(given.plates), figures, given.language, sections)
+    plates = Plates(pathlib.Path(given.plates), figures, given.language,
+                    {row["name"] for row in table})
     set_sections(book, sections, writer, plates)
     if plates.notes:
         print(f"{given.out}: {plates.notes} pages are free for notes")
