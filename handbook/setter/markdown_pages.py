@@ -12,6 +12,7 @@ BOXES = {
     "en": {"Remember": "rule", "Example": "example", "Common mistake": "mistake"},
 }
 PAGE = {"de": "Seite", "en": "page"}
+LINE = 85  # characters of a full line, about
 INDEX_ENTRY = re.compile(r"\s*\{index:([^}]*)\}")
 
 
@@ -101,18 +102,27 @@ class Writer:
 
 
 def kept_together(tokens):
-    """A heading stands in one box with the block behind it, so that no page ends between them."""
+    """A heading stands in one box with the block behind it, so that no page ends between them, and a
+    line that leads over with what it leads to."""
     kept = []
     ends = 0  # of the block behind a heading, counted in `tokens`
     for i, token in enumerate(tokens):
+        leads = token.type == "paragraph_open" and token.tag == "p" and is_lead(tokens[i + 1])
+        if leads:
+            token.attrSet("class", "leads")
         if token.type == "heading_open":
-            kept.append(raw('<div class="together">'))
+            lead = tokens[i + 3].type == "paragraph_open" and is_lead(tokens[i + 4])
+            kept.append(raw(f'<div class="together{" leads" if lead else ""}">'))
             ends = end_of_block(tokens, i + 3)
         kept.append(token)
         if ends and i == ends:
             kept.append(raw("</div>"))
             ends = 0
     return kept
+
+
+def is_lead(inline):
+    return inline.content.endswith(":") or len(inline.content) < LINE
 
 
 def end_of_block(tokens, first):
