@@ -58,7 +58,17 @@ std::optional<std::string> LogFolder::read(const std::string& name) const {
 
 void LogFolder::remove(const std::string& name) const {
     std::error_code ignored;
-    fs::remove(folder + flightFolder + name, ignored);
+    if (!name.empty())
+        fs::remove(folder + flightFolder + name, ignored);
+}
+
+std::set<std::string> LogFolder::sessions() const {
+    std::set<std::string> names;
+    std::error_code failure;
+    for (fs::directory_iterator entry(folder + flightFolder, failure), end;
+         !failure && entry != end; entry.increment(failure))
+        names.insert(entry->path().filename().string());
+    return names;
 }
 
 void LogFolder::removeAllSessions() const {

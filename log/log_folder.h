@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <set>
 #include <string>
 
 namespace tarnel {
@@ -20,6 +21,8 @@ class LogFolder {
     [[nodiscard]] std::string store(const std::string& session, std::int64_t when) const;
     [[nodiscard]] std::optional<std::string> read(const std::string& name) const;
     void remove(const std::string& name) const;
+    /// The names of all files that lie among the sessions.
+    [[nodiscard]] std::set<std::string> sessions() const;
     void removeAllSessions() const;
 
     /// Gives the folder, damaged as its log is, another name beside it. That name.

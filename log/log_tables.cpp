@@ -21,6 +21,7 @@ std::span<const std::vector<const char*>> logMigrations() {
          " tolerance REAL, verdict INTEGER NOT NULL, weight REAL NOT NULL, first INTEGER NOT NULL,"
          " last INTEGER NOT NULL, turn INTEGER NOT NULL, PRIMARY KEY(flight, place))"
          " WITHOUT ROWID"},
+        {"ALTER TABLE flights ADD COLUMN fingerprint INTEGER NOT NULL DEFAULT 0"},
     };
     return steps;
 }

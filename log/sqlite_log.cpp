@@ -7,6 +7,7 @@
 #include <QThread>
 
 #include <map>
+#include <set>
 
 namespace tarnel {
 
@@ -59,6 +60,21 @@ std::optional<Finding> findingIn(const QSqlQuery& row) {
                    .turn = row.value(9).toInt()};
 }
 
+/// The file of a flight's session; empty if there is no such flight.
+std::string fileOf(LogDatabase& log, std::int64_t flight) {
+    QSqlQuery rows =
+        log.run(QStringLiteral("SELECT file FROM flights WHERE id = ?"), {whole(flight)});
+    return LogDatabase::next(rows) ? rows.value(0).toString().toStdString() : std::string();
+}
+
+/// The flight that is kept already; 0 for none.
+std::int64_t sameAs(LogDatabase& log, const LoggedFlight& flight) {
+    QSqlQuery rows = log.run(QStringLiteral("SELECT id FROM flights WHERE task = ? AND"
+                                            " fingerprint = ? AND fingerprint <> 0"),
+                             {text(flight.taskKey), whole(flight.fingerprint)});
+    return LogDatabase::next(rows) ? rows.value(0).toLongLong() : 0;
+}
+
 } // namespace
 
 SqliteLog::SqliteLog(std::string path) : folder(std::move(path)) {}
@@ -72,8 +88,29 @@ LogDatabase& SqliteLog::database() {
     if (!open) {
         folder.prepare();
         open = std::make_unique<LogDatabase>(folder.database());
+        removeOrphans(*open);
     }
     return *open;
+}
+
+/// The sessions that a killed program left without a row. Who writes one holds the log, so none
+/// that is about to get its row is taken for one. What can't be removed now stays for the next
+/// opening.
+void SqliteLog::removeOrphans(LogDatabase& log) const try {
+    const auto orphans = [&] {
+        std::set<std::string> names = folder.sessions();
+        QSqlQuery rows = log.run(QStringLiteral("SELECT file FROM flights"));
+        while (LogDatabase::next(rows))
+            names.erase(rows.value(0).toString().toStdString());
+        return names;
+    };
+    if (orphans().empty())
+        return;
+    log.together([&] {
+        for (const std::string& name : orphans())
+            folder.remove(name);
+    });
+} catch (const LogFailure&) {
 }
 
 /// Does `work` with the database, and if that shows that it is damaged, once more with a new one.
@@ -193,40 +230,57 @@ std::vector<QuestionStanding> SqliteLog::standings(const std::string& courseKey,
     });
 }
 
-std::int64_t SqliteLog::insert(LogDatabase& log, const LoggedFlight& flight,
-                               const std::string& file, std::size_t bytes) {
-    std::int64_t id = 0;
-    log.together([&] {
-        id = log.run(QStringLiteral("INSERT INTO flights(at, task, title, attempt, bytes, pinned,"
-                                    " file) VALUES(?, ?, ?, (SELECT COALESCE(MAX(attempt), 0) + 1"
-                                    " FROM flights WHERE task = ?), ?, ?, ?)"),
-                     {whole(flight.when), text(flight.taskKey), text(flight.title),
-                      text(flight.taskKey), static_cast<qlonglong>(bytes), flight.pinned,
-                      text(file)})
+/// In the place of the row that the flight's number says, or in a new one.
+std::int64_t SqliteLog::put(LogDatabase& log, const LoggedFlight& flight, const std::string& file,
+                            std::size_t bytes) {
+    const QVariantList values = {
+        whole(flight.when), text(flight.title),        static_cast<qlonglong>(bytes),
+        text(file),         whole(flight.fingerprint), text(flight.taskKey)};
+    std::int64_t id = flight.id;
+    if (log.run(QStringLiteral("UPDATE flights SET at = ?, title = ?, bytes = ?, file = ?,"
+                               " fingerprint = ? WHERE task = ? AND id = ?"),
+                values + QVariantList{whole(id)})
+            .numRowsAffected() == 0)
+        id = log.run(QStringLiteral("INSERT INTO flights(at, title, bytes, file, fingerprint, task,"
+                                    " attempt, pinned) VALUES(?, ?, ?, ?, ?, ?, (SELECT"
+                                    " COALESCE(MAX(attempt), 0) + 1 FROM flights WHERE task = ?),"
+                                    " ?)"),
+                     values + QVariantList{text(flight.taskKey), flight.pinned})
                  .lastInsertId()
                  .toLongLong();
-        int place = 0;
-        for (const Finding& finding : flight.findings)
-            log.run(QStringLiteral("INSERT INTO findings VALUES(?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"),
-                    {whole(id), place++, text(std::string(nameOfFinding(finding.kind))),
-                     finding.value, number(finding.expected), number(finding.tolerance),
-                     static_cast<int>(finding.verdict), finding.weight, finding.samples.first,
-                     finding.samples.last, finding.turn});
-    });
+    log.run(QStringLiteral("DELETE FROM findings WHERE flight = ?"), {whole(id)});
+    int place = 0;
+    for (const Finding& finding : flight.findings)
+        log.run(QStringLiteral("INSERT INTO findings VALUES(?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"),
+                {whole(id), place++, text(std::string(nameOfFinding(finding.kind))), finding.value,
+                 number(finding.expected), number(finding.tolerance),
+                 static_cast<int>(finding.verdict), finding.weight, finding.samples.first,
+                 finding.samples.last, finding.turn});
     return id;
 }
 
-/// The file comes first: a row in the log always has one.
+/// The file is written while the log is held, and before its row is stored: a row always has one.
 std::int64_t SqliteLog::add(const LoggedFlight& flight, const std::string& session,
                             const FlightLimits& limits) {
     const std::int64_t id = run([&](LogDatabase& log) {
-        const std::string file = folder.store(session, flight.when);
+        std::int64_t kept = 0;
+        std::string before; // the file of what is replaced
+        std::string file;
         try {
-            return insert(log, flight, file, session.size());
+            log.together([&] {
+                if ((kept = sameAs(log, flight)) != 0)
+                    return;
+                before = fileOf(log, flight.id);
+                file = folder.store(session, flight.when);
+                kept = put(log, flight, file, session.size());
+            });
         } catch (const LogFailure&) {
             folder.remove(file);
             throw;
         }
+        if (kept == flight.id)
+            folder.remove(before);
+        return kept;
     });
     prune(limits);
     return id;
@@ -262,13 +316,7 @@ std::vector<LoggedFlight> SqliteLog::flights() {
 }
 
 std::optional<std::string> SqliteLog::session(std::int64_t flight) {
-    return run([&](LogDatabase& log) -> std::optional<std::string> {
-        QSqlQuery rows =
-            log.run(QStringLiteral("SELECT file FROM flights WHERE id = ?"), {whole(flight)});
-        if (!LogDatabase::next(rows))
-            return {};
-        return folder.read(rows.value(0).toString().toStdString());
-    });
+    return run([&](LogDatabase& log) { return folder.read(fileOf(log, flight)); });
 }
 
 void SqliteLog::pin(std::int64_t flight, bool pinned) {
@@ -281,12 +329,7 @@ void SqliteLog::pin(std::int64_t flight, bool pinned) {
 /// The row goes first: a row in the log always has its file.
 void SqliteLog::remove(std::int64_t flight) {
     run([&](LogDatabase& log) {
-        QSqlQuery rows =
-            log.run(QStringLiteral("SELECT file FROM flights WHERE id = ?"), {whole(flight)});
-        if (!LogDatabase::next(rows))
-            return;
-        const std::string file = rows.value(0).toString().toStdString();
-        rows.finish();
+        const std::string file = fileOf(log, flight);
         log.run(QStringLiteral("DELETE FROM flights WHERE id = ?"), {whole(flight)});
         folder.remove(file);
     });
@@ -297,15 +340,18 @@ void SqliteLog::prune(const FlightLimits& limits) {
         remove(flight);
 }
 
-/// Nothing of it can be read in the file afterwards.
+/// Nothing of it can be read in the files afterwards; another program that is reading hinders that.
 void SqliteLog::clear() {
     run([&](LogDatabase& log) {
         log.together([&] {
-            for (const char* table : {"findings", "flights", "answers", "courses"})
+            for (const char* table :
+                 {"findings", "flights", "answers", "courses", "sqlite_sequence"})
                 log.run(QStringLiteral("DELETE FROM %1").arg(QLatin1String(table)));
         });
         log.run(QStringLiteral("VACUUM"));
-        log.run(QStringLiteral("PRAGMA wal_checkpoint(TRUNCATE)"));
+        QSqlQuery written = log.run(QStringLiteral("PRAGMA wal_checkpoint(TRUNCATE)"));
+        if (!LogDatabase::next(written) || written.value(0).toInt() != 0)
+            throw LogFailure(LogTrouble::busy, folder.database());
     });
     folder.removeAllSessions();
     folder.removeSetAside();

@@ -39,8 +39,9 @@ class SqliteLog : public TrainingLog {
     template <class Work>
     auto run(Work work);
     void replaceDamaged();
-    std::int64_t insert(LogDatabase& log, const LoggedFlight& flight, const std::string& file,
-                        std::size_t bytes);
+    void removeOrphans(LogDatabase& log) const;
+    [[nodiscard]] std::int64_t put(LogDatabase& log, const LoggedFlight& flight,
+                                   const std::string& file, std::size_t bytes);
 
     LogFolder folder;
     std::unique_ptr<LogDatabase> open; ///< null until it is needed

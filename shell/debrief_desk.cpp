@@ -17,7 +17,7 @@ constexpr double framedFixRoom = 350;    ///< twips
 
 DebriefDesk::DebriefDesk(DebriefControls& debriefControls, Given what)
     : controls(debriefControls), given(std::move(what)) {
-    controls.limits.select(static_cast<int>(strictness));
+    controls.limits.select(static_cast<int>(limits));
     controls.item.onClick = given.button.onClick = [this] { open(); };
     controls.close.onClick = [this] { close(); };
     controls.flyAgain.onClick = [this] {
@@ -26,7 +26,7 @@ DebriefDesk::DebriefDesk(DebriefControls& debriefControls, Given what)
     };
     controls.compare.onClick = [this] { touch(); };
     controls.limits.onClick = [this] {
-        strictness = static_cast<Strictness>(controls.limits.index());
+        limits = static_cast<Strictness>(controls.limits.index());
         judgeAll();
     };
     controls.task.onClick = [this] {
@@ -51,8 +51,28 @@ bool DebriefDesk::mayOpen() const {
 void DebriefDesk::open() {
     if (!mayOpen())
         return;
-    begin();
-    const std::optional<Task> known = given.knownTask();
+    if (!lastTask)
+        attempts.clear();
+    begin(given.knownTask());
+}
+
+void DebriefDesk::open(std::vector<Attempt> flights, const std::optional<Task>& task) {
+    if (shown)
+        end();
+    if (!mayOpen())
+        return;
+    attempts = std::move(flights);
+    flown = attempts.back().number;
+    lastTask = task;
+    begin(task);
+}
+
+void DebriefDesk::begin(const std::optional<Task>& known) {
+    given.replay.stop();
+    const UserControl2& sim = given.sim;
+    before = {sim.view.mapCenter, sim.c_MAPscale, given.lock.value(), sim.presentSampleIndex()};
+    flight = sim.recording.changes();
+    shown = true;
     asked = known ? choiceOf(*known) : given.proposal();
     choosing = true;
     held.reset();
@@ -60,14 +80,6 @@ void DebriefDesk::open() {
         hold(*known);
     updateControls();
     changed();
-}
-
-void DebriefDesk::begin() {
-    given.replay.stop();
-    const UserControl2& sim = given.sim;
-    before = {sim.view.mapCenter, sim.c_MAPscale, given.lock.value(), sim.presentSampleIndex()};
-    flight = sim.recording.changes();
-    shown = true;
 }
 
 void DebriefDesk::end() {
@@ -95,7 +107,7 @@ void DebriefDesk::choose(const TaskChoice& next) {
 
 /// Another task begins a new row of attempts.
 void DebriefDesk::hold(const Task& next) {
-    if (!lastTask || *lastTask != next) {
+    if (lastTask && *lastTask != next) {
         attempts.clear();
         flown = 0;
     }
@@ -134,7 +146,7 @@ void DebriefDesk::judgeAll() {
         looked = attempts.back().debrief.findings[*chosen];
     chosen.reset();
     for (Attempt& each : attempts)
-        each.debrief = judge(each.samples, *held, strictness);
+        each.debrief = judge(each.samples, *held, limits);
     const std::vector<Finding>& findings = attempts.back().debrief.findings;
     for (std::size_t i = 0; looked && i < findings.size(); ++i)
         if (findings[i].kind == looked->kind && findings[i].turn == looked->turn)

@@ -50,6 +50,9 @@ class DebriefDesk {
     [[nodiscard]] bool isOpen() const { return shown; }
     /// Opens the debrief of the flight in memory, at its task or to choose one.
     void open();
+    /// The same for a flight that was just loaded: the last of `flights`, which are attempts at
+    /// `task`, the oldest first, at most `mostAttempts`.
+    void open(std::vector<Attempt> flights, const std::optional<Task>& task);
     /// Takes the trainer back to where it was.
     void close();
 
@@ -59,6 +62,7 @@ class DebriefDesk {
     void choose(const TaskChoice& next);
     [[nodiscard]] bool hasReference() const { return !given.reference().empty(); }
 
+    [[nodiscard]] Strictness strictness() const { return limits; }
     /// The task and the flight that is looked at; null before a task is known.
     [[nodiscard]] const Task* task() const { return held ? &*held : nullptr; }
     [[nodiscard]] const Attempt* attempt() const { return held ? &attempts.back() : nullptr; }
@@ -91,7 +95,7 @@ class DebriefDesk {
 
   private:
     [[nodiscard]] bool mayOpen() const;
-    void begin();
+    void begin(const std::optional<Task>& known);
     void end();
     void hold(const Task& next);
     bool takeFlight();
@@ -107,8 +111,8 @@ class DebriefDesk {
     bool choosing = false;
     TaskChoice asked;
     std::optional<Task> held;     ///< of the flight that is shown
-    std::optional<Task> lastTask; ///< that the attempts were flown at
-    Strictness strictness = Strictness::standard;
+    std::optional<Task> lastTask; ///< that the attempts were flown at, if it is known
+    Strictness limits = Strictness::standard;
     std::vector<Attempt> attempts; ///< at that task, the one looked at last
     int flown = 0;                 ///< at that task
     std::optional<std::size_t> chosen;

@@ -2,7 +2,6 @@
 
 #include "panel/needle_sources.h"
 #include "persistence/file_bytes.h"
-#include "shell/question_task.h"
 
 #include <cmath>
 #include <optional>
@@ -35,6 +34,10 @@ Form1::Form1(const StringTable& table, OutsideWorld& world, std::string applicat
       QAform1(state, exerciseSurroundings(table, world)),
       flightDesk(state, boxes, UserControl11, world),
       training(QAform1, exercise, courses, boxes, world),
+      flown({UserControl11, flight, exercise, QAform1, practice,
+             [this](const std::string& path) { return referenceName(path, referencePlaces()); }}),
+      flightLog({UserControl11, training, boxes, flightDesk.keeper, flown, debrief,
+                 fileMenu.loadSession, [this] { return referencePlaces(); }}),
       documents(UserControl11, fileMenu.loadSession, practice, boxes, world) {
     UserControl11.clockSeed = [&world] { return world.clockSeed(); };
     connectDesks();
@@ -68,36 +71,21 @@ ExerciseStage Form1::exerciseStage() {
             .boxes = boxes};
 }
 
+ReferencePlaces Form1::referencePlaces() {
+    return {UserControl11.c_MainAppPath, courses.place(), texts};
+}
+
 DebriefDesk::Given Form1::debriefGiven() {
     return {.sim = UserControl11,
             .replay = replay,
             .lock = replayPage.lock,
             .button = practicePanel.debrief,
             .mayShow = [this] { return !flight.flies() && !exercise.awaitsAnswer(); },
-            .ownFlight =
-                [this] {
-                    return !flight.flies() &&
-                           (exercise.studentHasFlown() || practice.hasOwnFlight());
-                },
-            .knownTask = [this]() -> std::optional<Task> {
-                const std::span<const Sample> example = exampleFlight();
-                if (exercise.runs() && QAform1.posedRecord())
-                    return taskOf(static_cast<ExerciseType>(QAform1.c_QAtype.get()),
-                                  *QAform1.posedRecord(), example);
-                if (example.empty())
-                    return {};
-                return ReferenceTask{{example.begin(), example.end()}};
-            },
+            .ownFlight = [this] { return flown.isOwn(); },
+            .knownTask = [this] { return flown.task(); },
             .proposal = [this] { return likelyTask(); },
-            .reference = [this] { return exampleFlight(); },
+            .reference = [this] { return flown.reference(); },
             .flyAgain = [this] { flyAgain(); }};
-}
-
-/// What the student flies after; without samples in a flight of his own making.
-std::span<const Sample> Form1::exampleFlight() const {
-    if (!exercise.runs() && !practice.practises())
-        return {};
-    return practice.practisedFlight();
 }
 
 /// The station and the course that the right instrument shows.
@@ -114,6 +102,8 @@ TaskChoice Form1::likelyTask() {
 void Form1::flyAgain() {
     if (exercise.studentFlies())
         return exercise.flyAgain();
+    if (debrief.task())
+        flown.flyAgain(*debrief.task());
     replayPage.lock.set(1);
     UserControl11.c_HscrollRepeatValue = 1;
     replay.followBar();
@@ -135,16 +125,24 @@ void Form1::connectDesks() {
     for (std::function<void()>* changed : {&replay.changed, &flight.changed, &stationDesk.changed,
                                            &exercise.changed, &debrief.changed})
         *changed = [this] { usable.update(); };
-    flight.onStart = [this] { exercise.flightStarts(); };
+    flight.onStart = [this] {
+        flightLog.flightStarts();
+        exercise.flightStarts();
+    };
     flight.onStop = [this] {
         if (practice.practises() || exercise.studentFlies())
             UserControl11.c_TrackDelta = 3;
+        flightLog.flightRests();
     };
+    practice.onLeave = [this] { flown.drop(); };
     files.connectMenu();
 }
 
 void Form1::connectSimulation() {
-    UserControl11.placedByHand = [this] { StopReplay(); };
+    UserControl11.placedByHand = [this] {
+        StopReplay();
+        flown.drop();
+    };
     UserControl11.practicePanelSet = [this](std::int16_t panel) { practice.showPanel(panel); };
     UserControl11.headingDrawn = [this](std::int16_t heading) { coupling.setHeadingBug(heading); };
 }

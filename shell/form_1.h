@@ -15,7 +15,9 @@
 #include "shell/exercise_conduct.h"
 #include "shell/file_desk.h"
 #include "shell/flight_desk.h"
+#include "shell/flight_log.h"
 #include "shell/flight_switch.h"
+#include "shell/flown_task.h"
 #include "shell/outside_world.h"
 #include "shell/practice_desk.h"
 #include "shell/reference_guard.h"
@@ -78,10 +80,10 @@ class Form1 : public TrainerControls, public PanelControls {
   private:
     FileSurroundings fileSurroundings();
     ExerciseStage exerciseStage();
+    ReferencePlaces referencePlaces();
     DebriefDesk::Given debriefGiven();
     void flyAgain();
     TaskChoice likelyTask();
-    [[nodiscard]] std::span<const Sample> exampleFlight() const;
 
   public:
     FileDesk files{fileSurroundings()};
@@ -100,8 +102,10 @@ class Form1 : public TrainerControls, public PanelControls {
     ExerciseConduct exercise{QAform1, exerciseStage()};
     CourseDesk courses{boxes, exercise, exerciseMenu.ownCourses};
     TrainingDesk training;
+    FlownTask flown;
     DebriefControls debriefControls{state};
     DebriefDesk debrief{debriefControls, debriefGiven()};
+    FlightLog flightLog;
     DocumentDesk documents;
 
   private:

@@ -1,6 +1,7 @@
 #include "shell/memory_log.h"
 
 #include <algorithm>
+#include <functional>
 
 namespace tarnel {
 
@@ -50,15 +51,22 @@ std::vector<QuestionStanding> MemoryLog::standings(const std::string& courseKey,
 
 std::int64_t MemoryLog::add(const LoggedFlight& flight, const std::string& session,
                             const FlightLimits& limits) {
-    Kept& kept = flown[++lastFlight];
-    kept = {flight, session};
-    kept.flight.id = lastFlight;
-    kept.flight.bytes = static_cast<std::int64_t>(session.size());
-    kept.flight.attempt = 1;
+    int attempts = 0;
     for (const auto& [id, other] : flown)
-        if (id != lastFlight && other.flight.taskKey == flight.taskKey)
-            kept.flight.attempt = std::max(kept.flight.attempt, other.flight.attempt + 1);
-    const std::int64_t id = lastFlight;
+        if (other.flight.taskKey == flight.taskKey) {
+            if (flight.fingerprint != 0 && other.flight.fingerprint == flight.fingerprint)
+                return id;
+            attempts = std::max(attempts, other.flight.attempt);
+        }
+    const auto before = flown.find(flight.id);
+    const bool replaces = before != flown.end() && before->second.flight.taskKey == flight.taskKey;
+    const LoggedFlight old = replaces ? before->second.flight : LoggedFlight();
+    const std::int64_t id = replaces ? flight.id : ++lastFlight;
+    LoggedFlight& kept = (flown[id] = {flight, session}).flight;
+    kept.id = id;
+    kept.bytes = static_cast<std::int64_t>(session.size());
+    kept.attempt = replaces ? old.attempt : attempts + 1;
+    kept.pinned = replaces ? old.pinned : flight.pinned;
     prune(limits);
     return id;
 }
@@ -69,6 +77,7 @@ std::vector<LoggedFlight> MemoryLog::flights() {
     for (const auto& [id, kept] : flown)
         all.push_back(kept.flight);
     std::ranges::reverse(all);
+    std::ranges::stable_sort(all, std::ranges::greater(), &LoggedFlight::when);
     return all;
 }
 

@@ -43,6 +43,7 @@ bool PracticeDesk::load(const std::string& path) {
 void PracticeDesk::leave() {
     practising = false;
     sim.c_TrackDelta = 0;
+    onLeave();
 }
 
 std::string PracticeDesk::beside(const std::string& comment, bool untouched) {

@@ -33,12 +33,15 @@ class PracticeDesk {
     void leave();
     /// The flight that was loaded last, element 0 its sample 1: what the student's own is held to.
     [[nodiscard]] const std::vector<Sample>& practisedFlight() const { return example; }
+    /// Its file.
+    [[nodiscard]] const std::string& practisedFile() const { return practisedPath; }
     /// What is to be read where the flight has `comment`; `untouched` before it is flown or played.
     [[nodiscard]] std::string beside(const std::string& comment, bool untouched);
     /// The states of the panel: hidden, nothing kept yet, kept, called back.
     void showPanel(std::int16_t state);
 
     std::function<void(bool read)> onLoad;
+    std::function<void()> onLeave; ///< something else is flown from here on
 
   private:
     void keep();

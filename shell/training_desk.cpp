@@ -96,15 +96,9 @@ void TrainingDesk::note(const JudgedRow& judged) {
     with([&](TrainingLog& target) { target.add(row); });
 }
 
-std::optional<std::int64_t> TrainingDesk::keepFlight(const std::string& taskKey,
-                                                     const std::string& title,
-                                                     std::vector<Finding> findings,
+std::optional<std::int64_t> TrainingDesk::keepFlight(LoggedFlight flight,
                                                      const std::string& session) {
-    LoggedFlight flight;
     flight.when = now();
-    flight.taskKey = taskKey;
-    flight.title = title;
-    flight.findings = std::move(findings);
     std::optional<std::int64_t> id;
     with([&](TrainingLog& target) { id = target.add(flight, session, limits()); });
     return id;

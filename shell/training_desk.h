@@ -32,9 +32,7 @@ class TrainingDesk {
     void tellSetAside(const std::string& path);
 
     /// Keeps a flight that was judged. Its number; nothing if it can't be kept.
-    std::optional<std::int64_t> keepFlight(const std::string& taskKey, const std::string& title,
-                                           std::vector<Finding> findings,
-                                           const std::string& session);
+    std::optional<std::int64_t> keepFlight(LoggedFlight flight, const std::string& session);
     [[nodiscard]] FlightLimits limits() const;
     /// As the user sets them; flights that are too many go at once.
     void setLimits(const FlightLimits& limits);

@@ -12,7 +12,7 @@ std::vector<std::int64_t> flightsToLetGo(const std::vector<LoggedFlight>& flight
             continue;
         ++count;
         bytes += flight.bytes;
-        if (count > limits.most || (bytes > limits.mostBytes && count > 1))
+        if (count > 1 && (count > limits.most || bytes > limits.mostBytes))
             gone.push_back(flight.id);
     }
     return gone;

@@ -45,14 +45,15 @@ struct AnsweredRow : AnswerFacts {
 
 /// A flight that was judged, without its samples.
 struct LoggedFlight {
-    std::int64_t id = 0;           ///< given by the log
-    std::int64_t when = 0;         ///< milliseconds since 1970 UTC
-    std::string taskKey;           ///< the same for attempts at the same task
-    std::string title;             ///< the task in words
-    int attempt = 1;               ///< at that task, counted by the log
-    std::vector<Finding> findings; ///< worst first
-    std::int64_t bytes = 0;        ///< of its session file
-    bool pinned = false;           ///< it stays, however many come
+    std::int64_t id = 0;                ///< given by the log
+    std::int64_t when = 0;              ///< milliseconds since 1970 UTC
+    std::string taskKey = {};           ///< the same for attempts at the same task
+    std::int64_t fingerprint = 0;       ///< tells flights at a task apart; 0 if it is not known
+    std::string title = {};             ///< the task in words
+    int attempt = 1;                    ///< at that task, counted by the log
+    std::vector<Finding> findings = {}; ///< worst first
+    std::int64_t bytes = 0;             ///< of its session file
+    bool pinned = false;                ///< it stays, however many come
 };
 
 /// How many flights are kept, and how large they are together, besides those that are pinned.
@@ -99,7 +100,9 @@ class TrainingLog {
                                                                   ExerciseType exercise) = 0;
 
     /// Keeps a flight with the bytes of its session, and lets older ones go that are too many or
-    /// too large together. Its number in the log.
+    /// too large together. Its number in the log. One with a number takes the place of the flight
+    /// that has it, if that is still there and of the same task; one that is there already, by its
+    /// fingerprint, is not kept twice.
     virtual std::int64_t add(const LoggedFlight& flight, const std::string& session,
                              const FlightLimits& limits) = 0;
     /// The newest first.
@@ -116,7 +119,7 @@ class TrainingLog {
 };
 
 /// The flights that are too many or too large together, of `flights` (the newest first): the
-/// oldest, but never the newest, nor one that is pinned.
+/// oldest, but none that is pinned, and never the newest of the others, whatever the limits.
 [[nodiscard]] std::vector<std::int64_t> flightsToLetGo(const std::vector<LoggedFlight>& flights,
                                                        const FlightLimits& limits);
 

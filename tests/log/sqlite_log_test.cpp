@@ -1,4 +1,5 @@
 #include "log/finding_names.h"
+#include "log/log_tables.h"
 #include "log_fixture.h"
 #include "persistence/file_bytes.h"
 #include "shell/memory_log.h"
@@ -115,12 +116,40 @@ TEST_P(AnyLog, KeepsFlightsToNumberAndSizeButNeverLosesWhatIsPinned) {
     fly("arc", 4, "fourth", {.most = 2});
     EXPECT_THAT(kept(), ElementsAre(4, 3, 1));
     EXPECT_EQ(log->session(second), std::nullopt);
-    log->prune({.most = 200, .mostBytes = 8});
-    EXPECT_THAT(kept(), ElementsAre(4, 1)) << "the newest stays, however large";
+    log->prune({.most = 0});
+    EXPECT_THAT(kept(), ElementsAre(4, 1));
+    log->prune({.most = 200, .mostBytes = 1});
+    EXPECT_THAT(kept(), ElementsAre(4, 1)) << "the newest stays, whatever the limits";
     log->remove(first);
     EXPECT_THAT(kept(), ElementsAre(4));
     if (GetParam()) {
         EXPECT_EQ(std::distance(fs::directory_iterator(path() + "/flights"), {}), 1);
+    }
+}
+
+TEST_P(AnyLog, KeepsAFlightOnceAndItsLongerFormInItsPlace) {
+    LoggedFlight flight{.when = 1, .taskKey = "hold", .fingerprint = INT64_MIN + 7};
+    const std::int64_t first = log->add(flight, "short", {});
+    log->pin(first, true);
+    EXPECT_EQ(log->add(flight, "other bytes", {}), first);
+    flight = {.id = first, .when = 2, .taskKey = "arc", .fingerprint = INT64_MIN + 7};
+    EXPECT_NE(log->add(flight, "held to something else", {}), first);
+    flight = {.id = first, .when = 9, .taskKey = "hold", .fingerprint = 8, .findings = {{}}};
+    EXPECT_EQ(log->add(flight, "longer", {}), first);
+    reopen();
+    const LoggedFlight kept = log->flights()[0];
+    EXPECT_EQ(log->session(first), "longer");
+    EXPECT_EQ(kept.when, 9);
+    EXPECT_EQ(kept.bytes, 6);
+    EXPECT_EQ(kept.attempt, 1);
+    EXPECT_TRUE(kept.pinned);
+    EXPECT_EQ(kept.findings.size(), 1U);
+    EXPECT_EQ(log->add(flight, "the same again", {}), first);
+    log->remove(first);
+    EXPECT_NE(log->add(flight, "flown on", {}), 0);
+    EXPECT_EQ(log->flights().size(), 2U);
+    if (GetParam()) {
+        EXPECT_EQ(std::distance(fs::directory_iterator(path() + "/flights"), {}), 2);
     }
 }
 
@@ -261,7 +290,7 @@ TEST_F(SqliteLogTest, ChangesNothingInALogOfANewerProgram) {
     EXPECT_TRUE(aside.empty());
     EXPECT_EQ(readFileBytes(path() + "/log.sqlite", 1 << 24), before);
     EXPECT_TRUE(!fs::exists(path() + "/flights") || fs::is_empty(path() + "/flights"));
-    alter("PRAGMA user_version = 1");
+    alter("PRAGMA user_version = 2");
     EXPECT_EQ(answersIn(*noting()), 1U);
 }
 
@@ -305,12 +334,38 @@ TEST_F(SqliteLogTest, TakesWhatSeveralProgramsWriteAtOnce) {
     EXPECT_EQ(answersIn(log), static_cast<std::size_t>(programs * answers));
 }
 
+TEST_F(SqliteLogTest, TakesALogOverThatAnOlderProgramWrote) {
+    fs::create_directories(path() + "/flights");
+    std::ofstream(path() + "/flights/1.ts") << "session";
+    std::ofstream(path() + "/flights/2.ts") << "left behind by a program that was killed";
+    for (const char* statement : logMigrations()[0])
+        alter(statement);
+    alter("INSERT INTO flights VALUES(4, 1, 'Holding', 'Holding MUN', 2, 7, 1, '1.ts')");
+    alter("INSERT INTO findings VALUES(4, 0, 'largestDeviation', 2, NULL, 1, 1, 1, 0, 9, 0)");
+    alter("PRAGMA user_version = 1");
+    SqliteLog log(path());
+    ASSERT_EQ(log.flights().size(), 1U);
+    const LoggedFlight old = log.flights()[0];
+    EXPECT_EQ(old.findings.size(), 1U);
+    EXPECT_EQ(log.session(old.id), "session");
+    EXPECT_FALSE(fs::exists(path() + "/flights/2.ts"));
+    EXPECT_NE(log.add(old, "not known to be the same", {}), 0);
+    const std::int64_t next = log.add({.taskKey = "Holding", .fingerprint = 5}, "new", {});
+    EXPECT_EQ(log.flights()[1].attempt + log.flights()[0].attempt, 5);
+    EXPECT_EQ(SqliteLog(path()).session(next), "new");
+}
+
 TEST_F(SqliteLogTest, DeletesEverythingToTheLastByte) {
     write("no log");
     SqliteLog log(path());
-    log.add(answer(1, 1, 0, true));
-    log.add(LoggedFlight{.taskKey = "hold", .title = "Holding", .findings = {}}, "session", {});
     log.clear();
+    const auto empty = fs::file_size(path() + "/log.sqlite");
+    for (int i = 0; i < 200; ++i)
+        log.add(answer(i, i, 0, true));
+    log.add(LoggedFlight{.taskKey = "hold", .title = "Holding", .findings = {}}, "session", {});
+    const SqliteLog other(path()); // another program
+    log.clear();
+    EXPECT_EQ(fs::file_size(path() + "/log.sqlite"), empty);
     EXPECT_EQ(answersIn(log), 0U);
     EXPECT_TRUE(log.flights().empty() && log.courses().empty());
     for (const auto& entry : fs::recursive_directory_iterator(folder.at))

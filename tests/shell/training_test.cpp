@@ -164,7 +164,7 @@ TEST_F(TrainingTest, KeepsFlightsWithinTheLimitsOfTheUser) {
     form->training.setLimits({.most = 2, .mostBytes = std::int64_t{3} << 20});
     EXPECT_EQ(form->training.limits().mostBytes, std::int64_t{3} << 20);
     for (const char* session : {"a", "b", "c"})
-        EXPECT_TRUE(form->training.keepFlight("task", "Holding", {}, session));
+        EXPECT_TRUE(form->training.keepFlight({.taskKey = "task", .title = "Holding"}, session));
     EXPECT_EQ(log->flights().size(), 2U);
     form->training.setLimits({.most = 1});
     EXPECT_EQ(log->flights().size(), 1U);

@@ -1,9 +1,8 @@
 #include "window/debrief/finding_rows.h"
 
 #include "shell/finding_text.h"
+#include "shell/task_text.h"
 #include "window/widgets/text_of.h"
-
-#include <QStringList>
 
 #include <algorithm>
 
@@ -20,10 +19,6 @@ const Finding* sameIn(const Attempt& attempt, const Finding& finding) {
         return other.kind == finding.kind && other.turn == finding.turn;
     });
     return found == all.end() ? nullptr : &*found;
-}
-
-QString degrees(int course, const StringTable& texts) {
-    return QString::number(course).rightJustified(3, '0') + textOf(texts, Text::unitDegreeSign);
 }
 
 } // namespace
@@ -55,36 +50,15 @@ QString taskTitle(const DebriefModel& model) {
     const StringTable& texts = model.boxes.texts;
     if (!model.desk.task() || model.desk.choosesTask())
         return textOf(texts, Text::debrief);
-    if (std::holds_alternative<WindTask>(*model.desk.task()))
-        return textOf(texts, Text::taskWind);
-    return textOf(texts, nameOf(choiceOf(*model.desk.task()).kind));
+    return QString::fromStdString(taskName(*model.desk.task(), texts));
 }
 
 QString taskDetail(const DebriefModel& model) {
-    const StringTable& texts = model.boxes.texts;
     if (!model.desk.task())
         return {};
-    const TaskChoice task = choiceOf(*model.desk.task());
-    if (task.kind == TaskKind::reference)
-        return {};
-    QStringList parts{QString::fromStdString(model.sim.slot(task.station).name)};
-    const auto add = [&](Text name, const QString& value) {
-        parts << textOf(texts, name) + QLatin1Char(' ') + value;
-    };
-    switch (task.kind) {
-    case TaskKind::holding:
-        parts << textOf(texts, task.side == HoldingSide::left ? Text::taskLeft : Text::taskRight);
-        add(Text::taskInbound, degrees(task.course, texts));
-        break;
-    case TaskKind::arc:
-        add(Text::taskDistance, QString::number(task.distance));
-        parts << textOf(texts, task.clockwise ? Text::taskClockwise : Text::taskAnticlockwise);
-        add(Text::taskFinal, degrees(task.course, texts));
-        break;
-    default:
-        parts << degrees(task.course, texts);
-    }
-    return parts.join(QStringLiteral(", "));
+    const Task& task = *model.desk.task();
+    return QString::fromStdString(
+        taskDetail(task, model.sim.slot(choiceOf(task).station).name, model.boxes.texts));
 }
 
 QString attemptName(const Attempt& attempt, const StringTable& texts) {

@@ -11,7 +11,6 @@
 #include "window/debrief/debrief_layer.h"
 #include "window/debrief/debrief_page.h"
 #include "window/debrief/debrief_plot.h"
-#include "window/debrief/finding_rows.h"
 #include "window/dials/floating_gyro.h"
 #include "window/frame/file_opener.h"
 #include "window/frame/flight_signs.h"
@@ -27,8 +26,6 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QMenuBar>
-
-#include <filesystem>
 
 namespace tarnel {
 
@@ -150,20 +147,7 @@ void MainWindow::makeDesk() {
     debriefPlot->hide();
     chart->setLayer(std::make_unique<DebriefLayer>(debriefModel()));
     connectExports(debriefModel());
-    form.debrief.onJudged = [this](const Attempt& attempt) { keepJudged(attempt); };
     gyro = new additional_DG(form, form.exercise, form.boxes, pictures, this);
-}
-
-/// A flight goes into the log with what was found. Attempts at a task go by its words and the file
-/// in which it stands.
-void MainWindow::keepJudged(const Attempt& attempt) {
-    const DebriefModel model = debriefModel();
-    const std::string title =
-        (taskTitle(model) + QLatin1Char(' ') + taskDetail(model)).trimmed().toStdString();
-    const std::string file =
-        std::filesystem::path(form.UserControl11.c_SessionFileName.get()).filename().string();
-    form.training.keepFlight(title + '\n' + file, title, attempt.debrief.findings,
-                             form.UserControl11.sessionBytes());
 }
 
 /// The page is made when it is first asked for, and covers all but the status bar.
@@ -175,7 +159,11 @@ void MainWindow::makeProgress() {
                  .boxes = form.boxes,
                  .texts = form.texts,
                  .sentence =
-                     [this](const Finding& finding) { return findingText(finding, form.texts); }},
+                     [this](const Finding& finding) { return findingText(finding, form.texts); },
+                 .openFlights =
+                     [this](const std::vector<std::int64_t>& flights) {
+                         return form.flightLog.open(flights);
+                     }},
                 desk);
             progress->onClose = [this] { coverDesk(false); };
             layOut();
@@ -297,6 +285,7 @@ void MainWindow::keyPressEvent(QKeyEvent* event) {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
+    form.guarded([this] { form.StopFly(); });
     if (!form.flightDesk.mayClose()) {
         event->ignore();
         return;

@@ -67,7 +67,6 @@ class MainWindow : public QMainWindow {
     [[nodiscard]] DebriefModel debriefModel();
     void makeDesk();
     void makeProgress();
-    void keepJudged(const Attempt& attempt);
     void coverDesk(bool covered);
     void layOut();
     void layOutDebrief(const WindowLayout& layout);

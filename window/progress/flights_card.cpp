@@ -97,14 +97,12 @@ void FlightsCard::addRow(const LoggedFlight& flight) {
         row->addWidget(pinned);
     }
     row->addWidget(score);
-    if (model.openFlights) {
-        QPushButton* link = linkButton(textOf(model.texts, Text::debrief), this);
-        link->setAccessibleName(link->text() + QStringLiteral(": ") +
-                                QString::fromStdString(flight.title));
-        connect(link, &QPushButton::clicked, this,
-                [this, id = flight.id] { model.openFlights({id}); });
-        row->addWidget(link);
-    }
+    QPushButton* link = linkButton(textOf(model.texts, Text::debrief), this);
+    link->setObjectName(QStringLiteral("OpenLatest%1").arg(flight.id));
+    link->setAccessibleName(link->text() + QStringLiteral(": ") +
+                            QString::fromStdString(flight.title));
+    connect(link, &QPushButton::clicked, this, [this, id = flight.id] { onOpen({id}); });
+    row->addWidget(link);
     rows->addLayout(row, 1);
 }
 

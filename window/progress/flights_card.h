@@ -22,6 +22,7 @@ class FlightsCard : public QWidget {
     void show(const std::vector<LoggedFlight>& flights);
 
     std::function<void()> onAllFlights;
+    std::function<void(const std::vector<std::int64_t>& flights)> onOpen;
 
   protected:
     void paintEvent(QPaintEvent* event) override;

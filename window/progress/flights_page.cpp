@@ -66,7 +66,7 @@ QHBoxLayout* FlightsPage::makeButtons() {
         std::vector<std::int64_t> ids;
         for (const LoggedFlight& flight : selected())
             ids.push_back(flight.id);
-        model.openFlights(ids);
+        onOpen(ids);
     };
     open = button(Text::debrief, "OpenFlight", openSelected);
     compare = button(Text::compareFlights, "CompareFlights", openSelected);
@@ -78,8 +78,6 @@ QHBoxLayout* FlightsPage::makeButtons() {
         line->addWidget(each);
     line->addStretch();
     line->addWidget(button(Text::backToProgress, "BackToProgress", [this] { onBack(); }));
-    open->setVisible(model.openFlights != nullptr);
-    compare->setVisible(model.openFlights != nullptr);
     return line;
 }
 

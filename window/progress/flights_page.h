@@ -27,6 +27,7 @@ class FlightsPage : public QWidget {
     /// Something has changed in the log.
     std::function<void()> onChange;
     std::function<void()> onBack;
+    std::function<void(const std::vector<std::int64_t>& flights)> onOpen;
 
   protected:
     void paintEvent(QPaintEvent* event) override;

@@ -21,8 +21,10 @@ struct ProgressModel {
     std::function<std::string(const Finding&)> sentence = [](const Finding&) {
         return std::string();
     };
-    /// Opens the debrief of a flight, or of several over one another. None without it.
-    std::function<void(const std::vector<std::int64_t>&)> openFlights = {};
+    /// Opens the debrief of a flight, or of several over one another. False, with a box, if it
+    /// can't.
+    std::function<bool(const std::vector<std::int64_t>&)> openFlights =
+        [](const std::vector<std::int64_t>&) { return false; };
     /// Milliseconds since 1970 UTC.
     std::function<std::int64_t()> clock = [] { return QDateTime::currentMSecsSinceEpoch(); };
 };

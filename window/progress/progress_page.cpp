@@ -59,6 +59,8 @@ ProgressPage::ProgressPage(ProgressModel progressModel, QWidget* parent)
     all = new FlightsPage(model, this);
     all->onBack = [this] { showFlights(false); };
     all->onChange = [this] { reload(); };
+    all->onOpen =
+        latest->onOpen = [this](const std::vector<std::int64_t>& ids) { openFlights(ids); };
     pages->addWidget(all);
 }
 
@@ -230,6 +232,16 @@ void ProgressPage::practise(const std::string& courseKey, ExerciseType exercise,
                             std::optional<Text> spot) {
     close();
     model.boxes.guarded([&] { model.training.practise(courseKey, exercise, spot); });
+}
+
+/// The page makes room for the debrief; without one it stays.
+void ProgressPage::openFlights(const std::vector<std::int64_t>& ids) {
+    bool opened = false;
+    model.boxes.guarded([&] { opened = model.openFlights(ids); });
+    if (opened)
+        close();
+    else
+        reload();
 }
 
 const LoggedCourse* ProgressPage::course() const {

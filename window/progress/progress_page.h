@@ -63,6 +63,7 @@ class ProgressPage : public QWidget {
     void followCourses();
     void show(const TimeSpans& shownSpans);
     void showChosen();
+    void openFlights(const std::vector<std::int64_t>& ids);
     void close();
 
     ProgressModel model;
