@@ -12,7 +12,7 @@ namespace {
 
 // The poles have no value in Mercator sailing.
 constexpr DegreesRule latitudeRule{FileField::latitude, 89};
-constexpr DegreesRule longitudeRule{FileField::longitude, 360};
+constexpr DegreesRule longitudeRule{FileField::longitude, farthestLongitude};
 constexpr DegreesRule headingRule{FileField::heading, 360};
 constexpr DegreesRule courseRule{FileField::localizerCourse, 360};
 

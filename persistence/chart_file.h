@@ -17,8 +17,8 @@ struct ChartFile : StationBlock {
 
 /// Reads the bytes of a `.map` file, plain or enciphered: one value a line, by position, lines
 /// ended by CR LF or LF. A file that does not begin with ":v1" starts at the station states. A map
-/// scale outside 0.5 to 4 is left out. Longitudes go to 360, as those of a flight over the date
-/// line run on. Never throws on bad content: what stood before the first wrong line is kept.
+/// scale outside 0.5 to 4 is left out. Longitudes run on to `farthestLongitude`. Never throws on
+/// bad content: what stood before the first wrong line is kept.
 [[nodiscard]] ChartFile readChart(std::string bytes);
 
 /// How the longitude of the aircraft is written. Earlier installations write it with the minutes of

@@ -16,6 +16,10 @@ struct DegreesRule {
     double limit;
 };
 
+/// Longitudes run on over the date line and the zero meridian, so that those of a flight never
+/// jump: half a turn beyond a whole one. Degrees, to either side.
+constexpr double farthestLongitude = 540;
+
 /// A whole number, from `least` to `most`.
 struct WholeRule {
     FileField expected;

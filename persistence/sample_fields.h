@@ -10,7 +10,7 @@ namespace tarnel {
 /// What the fields of a sample may hold.
 struct SampleRules {
     static constexpr DegreesRule latitude{FileField::latitude, 89};
-    static constexpr DegreesRule longitude{FileField::longitude, 360};
+    static constexpr DegreesRule longitude{FileField::longitude, farthestLongitude};
     // A course that was recorded in the heading-up view is a sum of two and not brought into 360.
     static constexpr DegreesRule degrees{FileField::degrees, 32767};
     static constexpr WholeRule whole{FileField::wholeNumber,

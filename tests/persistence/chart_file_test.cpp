@@ -139,7 +139,7 @@ TEST(ChartReader, NamesTheLineThatIsWrong) {
         {13, ":n3:,3", FileField::ndbState},       {14, "n4", FileField::ndbState},
         {16, ":mc:,32768", FileField::mapCentre},  {16, ":mc:,one", FileField::mapCentre},
         {17, ":ms:,wide", FileField::mapScale},    {18, "90", FileField::latitude},
-        {18, "48,25", FileField::latitude},        {19, "360.1", FileField::longitude},
+        {18, "48,25", FileField::latitude},        {19, "540.1", FileField::longitude},
         {19, "nan", FileField::longitude},         {20, "east", FileField::heading},
         {20, "-361", FileField::heading},          {21, "1e999", FileField::longitude},
         {22, "-89.5", FileField::latitude},        {31, "", FileField::localizerCourse},
@@ -178,7 +178,7 @@ TEST(ChartWriter, WritesEveryLineByteForByte) {
     const std::string plain = joinLines(expected, lineCount);
     EXPECT_EQ(writeChart(chart, {}), plain);
     EXPECT_EQ(writeChart(chart, 7), encipheredChart(plain));
-    chart.aircraft = GeoPosition{48.5, -360}; // the minutes don't lead out of what can be read
+    chart.aircraft = GeoPosition{48.5, -540}; // the minutes don't lead out of what can be read
     EXPECT_FALSE(readChart(writeChart(chart, {})).problem);
 }
 

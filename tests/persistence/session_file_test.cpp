@@ -135,7 +135,7 @@ TEST(SessionFile, NamesTheLineThatIsWrong) {
         {20, "48,25", FileField::latitude},      {21, "inf", FileField::longitude},
         {22, "1e5", FileField::degrees},         {23, "32768", FileField::wholeNumber},
         {24, "1e300", FileField::wholeNumber},   {25, "", FileField::airspeed},
-        {30, "-361", FileField::longitude},      {44, "nan", FileField::degrees},
+        {30, "-541", FileField::longitude},      {44, "nan", FileField::degrees},
         {58, "--", FileField::wholeNumber},      {59, "101", FileField::commentIndex},
         {59, "-2", FileField::commentIndex},
     };
@@ -265,7 +265,7 @@ Sample anySample() {
     Sample sample = sampleOfLines();
     const auto any16 = [] { return *rc::gen::arbitrary<std::int16_t>(); };
     sample.traceLat = anyDegrees(89);
-    sample.traceLon = anyDegrees(360);
+    sample.traceLon = anyDegrees(540);
     sample.traceHeading = anyDegrees(360);
     sample.traceObsI2 = anyDegrees(720);
     sample.traceTAS = *rc::gen::inRange<std::int16_t>(0, 1001);
@@ -273,7 +273,7 @@ Sample anySample() {
     sample.traceHDGbug = any16();
     sample.traceComment = *rc::gen::inRange<std::int16_t>(-1, 101);
     for (GeoPosition& station : sample.traceStations)
-        station = {anyDegrees(89), anyDegrees(360)};
+        station = {anyDegrees(89), anyDegrees(540)};
     return sample;
 }
 
