@@ -3,6 +3,7 @@
 #include "chart/chart_framing.h"
 #include "core/number_text.h"
 #include "core/station_geometry.h"
+#include "persistence/line_source.h"
 
 #include <algorithm>
 #include <cmath>
@@ -66,7 +67,8 @@ void frame(ChartFile& chart, double size) {
 
 bool fitsChart(const GeoPosition& place) {
     constexpr double farthest = 89;
-    return std::abs(place.latitude) <= farthest && !(place.latitude > -1 && place.latitude < 0);
+    return std::abs(place.latitude) <= farthest && !(place.latitude > -1 && place.latitude < 0) &&
+           std::abs(place.longitude) <= farthestLongitude;
 }
 
 std::string frequencyText(const Navaid& navaid) {
@@ -90,10 +92,11 @@ std::optional<ChartFile> chartOf(const NavaidIndex& navaids, const StationChoice
             chart.stations[i] = describe(navaids[*choice[i]]);
             places.push_back(&*chart.stations[i].position);
         }
-    const auto fits = [](const GeoPosition* place) { return fitsChart(*place); };
-    if (places.empty() || !std::ranges::all_of(places, fits))
+    if (places.empty())
         return {};
     makeLongitudesRunOn(places);
+    if (!std::ranges::all_of(places, [](const GeoPosition* place) { return fitsChart(*place); }))
+        return {};
     if (const auto& localizer = inSlot(choice, Slot::localizer))
         chart.locCourse = wholeDegrees(navaids[*localizer].course + wayAround);
     placeEmptySlots(chart, *places.front());

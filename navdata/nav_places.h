@@ -6,7 +6,7 @@
 
 namespace tarnel {
 
-enum class NavProgram { flightGear, xPlane, ourAirports };
+enum class NavProgram { flightGear, xPlane, ourAirports, other };
 
 /// The folders of a computer below which navigation data may lie.
 struct NavFolders {

@@ -101,10 +101,12 @@ bool NavaidIndex::sameStation(std::size_t one, std::size_t other) const {
 
 std::vector<NearNavaid> NavaidIndex::nearest(const GeoPosition& place, NavaidKind kind,
                                              std::size_t most) const {
+    constexpr double farthest = 500; // NM
     std::vector<NearNavaid> found;
     for (std::size_t i = 0; i < all.size(); ++i)
         if (all[i].kind == kind && fitsChart(all[i].position))
-            found.push_back({i, greatCircleDistance(place, all[i].position)});
+            if (const double far = greatCircleDistance(place, all[i].position); far <= farthest)
+                found.push_back({i, far});
     const auto order = [this](const NearNavaid& near) {
         return std::make_tuple(std::round(near.distance), !all[near.index].hasDme, near.distance,
                                near.index);

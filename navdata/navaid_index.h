@@ -39,8 +39,9 @@ class NavaidIndex {
     /// NDBs and localizers, each by identifier. At most `most`; none for no words.
     [[nodiscard]] std::vector<std::size_t> search(std::string_view words, std::size_t most) const;
 
-    /// The stations of a kind that a chart can hold, the nearest first: of those as far in whole NM
-    /// the ones with a DME, then the nearer. Of a station that stands there twice the first.
+    /// The stations of a kind within 500 NM that a chart can hold, the nearest first: of those as
+    /// far in whole NM the ones with a DME, then the nearer. Of a station that stands there twice
+    /// the first.
     [[nodiscard]] std::vector<NearNavaid> nearest(const GeoPosition& place, NavaidKind kind,
                                                   std::size_t most) const;
 
