@@ -29,6 +29,21 @@ void ChartDesk::open(const std::string& path) {
     loadFrom(path, fileRequest::ask);
 }
 
+bool ChartDesk::saveAndOpen(const ChartFile& chart, const std::string& name) {
+    const auto path = given.picker.pathFor(FileRequest::saveChart, fileRequest::ask, name, {});
+    if (!path)
+        return false;
+    try {
+        saveFileBytes(*path,
+                      writeChart(chart, given.picker.keyToSave(), AircraftLongitude::asItIs));
+    } catch (const RunTimeError& error) {
+        given.messages.fileFailed(FileRequest::saveChart, *path, error);
+        return false;
+    }
+    open(*path);
+    return true;
+}
+
 /// Reads and checks first: a file with a wrong line changes nothing.
 void ChartDesk::loadFrom(const std::string& path, std::int16_t how) {
     try {

@@ -42,6 +42,9 @@ class ChartDesk {
     void save();
     /// Loads a chart that the user picked elsewhere, as his pick in the dialog does.
     void open(const std::string& path);
+    /// Saves a chart that was made outside the simulation where the user wants it, proposing
+    /// `name`, and loads it from there. False if he changed his mind or it could not be saved.
+    bool saveAndOpen(const ChartFile& chart, const std::string& name);
 
     /// What a chart and a session tell of the stations and the map.
     void describeStations(StationBlock& block) const;

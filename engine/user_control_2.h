@@ -85,6 +85,9 @@ class UserControl2 : public SimulationProperties {
 
     // Files.
     void openChart(const std::string& path) { charts.open(path); }
+    bool saveAndOpenChart(const ChartFile& chart, const std::string& name) {
+        return charts.saveAndOpen(chart, name);
+    }
     void openSession(const std::string& path) { sessions.open(path); }
     bool loadByName(const std::string& path) { return sessions.loadByName(path); }
     void takeFlight(const SessionFile& flight, const ReferenceTrack& track) {

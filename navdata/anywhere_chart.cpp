@@ -72,7 +72,7 @@ bool fitsChart(const GeoPosition& place) {
 }
 
 std::string frequencyText(const Navaid& navaid) {
-    const bool isNdb = navaid.kind == NavaidKind::ndb;
+    const bool isNdb = navaid.kind == NavaidKind::beacon;
     if (!navaid.frequency)
         return "---.--";
     constexpr int kilohertzPerHundredth = 10;

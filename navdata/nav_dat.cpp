@@ -155,9 +155,9 @@ class NavDatReader {
     void readRow(int code, Row& row) {
         switch (code) {
         case ndbRow:
-            return takeEnRoute(NavaidKind::ndb, row);
+            return takeEnRoute(NavaidKind::beacon, row);
         case vorRow:
-            return takeEnRoute(NavaidKind::vor, row);
+            return takeEnRoute(NavaidKind::omnirange, row);
         case localizerOfIls:
         case localizerAlone:
             return takeLocalizer(row);
@@ -178,14 +178,14 @@ class NavDatReader {
         navaid.identifier = navIdentifier(common.identifier);
         navaid.position = common.position;
         navaid.frequency =
-            navFrequency(common.frequency, kind == NavaidKind::ndb ? 1 : tenKilohertz, kind);
+            navFrequency(common.frequency, kind == NavaidKind::beacon ? 1 : tenKilohertz, kind);
         return navaid;
     }
 
     void takeEnRoute(NavaidKind kind, Row& row) {
         const Common common = takeCommon(row);
         Navaid navaid = begun(kind, common);
-        if (kind == NavaidKind::vor)
+        if (kind == NavaidKind::omnirange)
             navaid.variation = navNumber(common.special, NavField::course);
         if (hasRegions()) {
             const std::string_view airport = row.field();
@@ -194,7 +194,7 @@ class NavDatReader {
             (void)row.field();
         }
         navaid.name = navName(row.rest());
-        navaid.hasDme = kind == NavaidKind::vor && endsInDme(navaid.name);
+        navaid.hasDme = kind == NavaidKind::omnirange && endsInDme(navaid.name);
         data.navaids.push_back(std::move(navaid));
     }
 
@@ -218,7 +218,7 @@ class NavDatReader {
     /// DMEs stand beside their VOR or at the other end of their runway.
     [[nodiscard]] bool standsByDme(const Navaid& navaid) const {
         constexpr double farthest = 5; // NM
-        if (navaid.kind == NavaidKind::ndb)
+        if (navaid.kind == NavaidKind::beacon)
             return false;
         const auto [first, last] = dmes.equal_range(navaid.identifier);
         return std::any_of(first, last, [&](const auto& dme) {

@@ -7,11 +7,12 @@
 
 namespace tarnel {
 
-enum class NavaidKind { vor, ndb, localizer };
+/// VORs, NDBs and localizers.
+enum class NavaidKind { omnirange, beacon, localizer };
 
 /// A radio station as navigation data tell of it, as far as a chart can show it.
 struct Navaid {
-    NavaidKind kind = NavaidKind::vor;
+    NavaidKind kind = NavaidKind::omnirange;
     std::string identifier;
     std::string name;
     std::string airport; ///< its identifier, "EDDM"; empty en route or where the data don't say

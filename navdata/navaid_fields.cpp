@@ -53,7 +53,7 @@ GeoPosition navPosition(std::string_view latitude, std::string_view longitude) {
 }
 
 double navFrequency(std::string_view field, double unit, NavaidKind kind) {
-    return within(kind == NavaidKind::ndb ? mediumWave : vhf,
+    return within(kind == NavaidKind::beacon ? mediumWave : vhf,
                   unit * navNumber(field, NavField::frequency), NavField::frequency);
 }
 

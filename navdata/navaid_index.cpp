@@ -127,7 +127,7 @@ std::vector<NearNavaid> NavaidIndex::nearest(const GeoPosition& place, NavaidKin
 NavaidKind kindOf(Slot slot) {
     if (slot == Slot::localizer)
         return NavaidKind::localizer;
-    return hasDme(slot) ? NavaidKind::vor : NavaidKind::ndb;
+    return hasDme(slot) ? NavaidKind::omnirange : NavaidKind::beacon;
 }
 
 StationChoice proposeStations(const NavaidIndex& navaids, const GeoPosition& place) {
@@ -138,8 +138,8 @@ StationChoice proposeStations(const NavaidIndex& navaids, const GeoPosition& pla
         for (const NearNavaid& navaid : near)
             inSlot(choice, *slot++) = navaid.index;
     };
-    fill(NavaidKind::vor, {Slot::vor1, Slot::vor2});
-    fill(NavaidKind::ndb, {Slot::ndb1, Slot::ndb2});
+    fill(NavaidKind::omnirange, {Slot::vor1, Slot::vor2});
+    fill(NavaidKind::beacon, {Slot::ndb1, Slot::ndb2});
     fill(NavaidKind::localizer, {Slot::localizer});
     return choice;
 }

@@ -115,7 +115,7 @@ void take(const Table& row, std::vector<Navaid>& found) {
     if (!isNdb && !kind.starts_with("VOR"))
         return; // a TACAN or a DME alone
     Navaid navaid;
-    navaid.kind = isNdb ? NavaidKind::ndb : NavaidKind::vor;
+    navaid.kind = isNdb ? NavaidKind::beacon : NavaidKind::omnirange;
     navaid.identifier = navIdentifier(row[ident]);
     navaid.name = navName(row[name]);
     navaid.airport = navName(row[airport]);

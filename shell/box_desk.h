@@ -20,6 +20,7 @@ class BoxDesk {
     /// Asks a question that is answered by yes or no.
     [[nodiscard]] bool confirm(Text title, Text question);
     [[nodiscard]] std::optional<std::string> chooseFile(const FileQuestion& question);
+    [[nodiscard]] NavFolders navFolders() const { return outside.navFolders(); }
     /// No timer procedure runs while a box is up.
     [[nodiscard]] bool up() const { return boxUp; }
 

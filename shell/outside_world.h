@@ -1,6 +1,7 @@
 #pragma once
 
 #include "exercises/settings_store.h"
+#include "navdata/nav_places.h"
 
 #include <cstdint>
 #include <optional>
@@ -43,6 +44,8 @@ class OutsideWorld {
     }
     /// Where draws by chance start from; a world without a clock lets them go on.
     virtual std::optional<std::uint32_t> clockSeed() { return {}; }
+    /// Where programs keep their navigation data; nowhere in a world without them.
+    [[nodiscard]] virtual NavFolders navFolders() const { return {}; }
     /// Where the statistics are kept; without a place of their own they end with the program.
     virtual SettingsStore& settings() { return memory; }
 

@@ -53,6 +53,36 @@ Text expectedName(FileField field) {
     return Text::expectedNoFurtherSample;
 }
 
+Text expectedName(NavField field) {
+    switch (field) {
+    case NavField::fileKind:
+        return Text::navFileKind;
+    case NavField::version:
+        return Text::navVersion;
+    case NavField::rowCode:
+        return Text::navRowCode;
+    case NavField::packed:
+        return Text::navPacked;
+    case NavField::quoteEnd:
+        return Text::navQuoteEnd;
+    case NavField::fields:
+        return Text::navFields;
+    case NavField::latitude:
+        return Text::expectedLatitude;
+    case NavField::longitude:
+        return Text::expectedLongitude;
+    case NavField::frequency:
+        return Text::navFrequency;
+    case NavField::course:
+        return Text::navDegrees;
+    case NavField::identifier:
+        return Text::expectedIdentifier;
+    case NavField::lastRow:
+        break;
+    }
+    return Text::navLastRow;
+}
+
 } // namespace
 
 std::string problemText(const StringTable& texts, const FileProblem& problem) {
@@ -63,6 +93,11 @@ std::string problemText(const StringTable& texts, const FileProblem& problem) {
         problem.endOfFile ? filledIn(texts[Text::fileEndsBefore], {line}) + "\n" : std::string();
     const std::string expected(texts[expectedName(problem.expected)]);
     return ends + filledIn(texts[Text::lineExpected], {line, expected});
+}
+
+std::string problemText(const StringTable& texts, const NavProblem& problem) {
+    return filledIn(texts[Text::lineExpected], {numberText(std::int64_t{problem.line}),
+                                                texts[expectedName(problem.expected)]});
 }
 
 } // namespace tarnel

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "navdata/nav_data.h"
 #include "persistence/file_problem.h"
 #include "strings/string_table.h"
 
@@ -9,5 +10,7 @@ namespace tarnel {
 
 /// Where a chart or session file is wrong, and what should stand there.
 [[nodiscard]] std::string problemText(const StringTable& texts, const FileProblem& problem);
+/// The same of navigation data.
+[[nodiscard]] std::string problemText(const StringTable& texts, const NavProblem& problem);
 
 } // namespace tarnel

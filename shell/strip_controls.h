@@ -123,14 +123,15 @@ struct FileMenu {
     CommandButton loadOldSession{state, "mnuLoadOLDSession", Text::loadOldSession};
     CommandButton saveSession{state, "mnuSaveSession", Text::saveSession};
     CommandButton saveSessionAs{state, "mnuSaveSessionAs", Text::saveSessionAs};
+    CommandButton newChart{state, "mnuNewChart", Text::newChart};
     CommandButton loadChart{state, "mnuloadchart", Text::loadChart};
     CommandButton saveChart{state, "mnuSaveChart", Text::saveChart};
     CommandButton saveChartAs{state, "mnuSaveChartAs", Text::saveChartAs};
     CheckBox encipher{state, "fencrypt", Text::encipherFiles};
 
-    [[nodiscard]] std::array<CommandButton*, 8> items() {
-        return {&newSession,    &loadSession, &loadOldSession, &saveSession,
-                &saveSessionAs, &loadChart,   &saveChart,      &saveChartAs};
+    [[nodiscard]] std::array<CommandButton*, 9> items() {
+        return {&newSession, &loadSession, &loadOldSession, &saveSession, &saveSessionAs,
+                &newChart,   &loadChart,   &saveChart,      &saveChartAs};
     }
 };
 

@@ -58,7 +58,7 @@ TEST(NavDat, RowsAreReadAsTheirVersionHasThem) {
     EXPECT_FALSE(old.refused);
     EXPECT_EQ(old.wrongRows, 0);
     ASSERT_EQ(old.navaids.size(), 4U);
-    EXPECT_THAT(old.navaids, ElementsAre(Field(&Navaid::kind, NavaidKind::ndb),
+    EXPECT_THAT(old.navaids, ElementsAre(Field(&Navaid::kind, NavaidKind::beacon),
                                          Field(&Navaid::variation, 1.5), Field(&Navaid::hasDme, 0),
                                          Field(&Navaid::kind, NavaidKind::localizer)));
     EXPECT_EQ(old.navaids[0].frequency, 382);

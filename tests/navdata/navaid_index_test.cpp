@@ -33,11 +33,11 @@ TEST(NavaidIndex, FindsByTheBeginningsOfIdentifiersAirportsAndNames) {
     Navaid localizer = station(NavaidKind::localizer, "INUE", {49.5, 11.1}, "ILS-cat-III");
     localizer.airport = "EDDN";
     localizer.runway = "28";
-    const NavaidIndex index({station(NavaidKind::ndb, "NURX", {49, 11}, "Roth"),
-                             station(NavaidKind::vor, "NUB", {49.5, 11}, "NUERNBERG VOR-DME"),
-                             station(NavaidKind::ndb, "NUR", {49, 11}, "Bad N\xC3\xBCrnberg"),
+    const NavaidIndex index({station(NavaidKind::beacon, "NURX", {49, 11}, "Roth"),
+                             station(NavaidKind::omnirange, "NUB", {49.5, 11}, "NUERNBERG VOR-DME"),
+                             station(NavaidKind::beacon, "NUR", {49, 11}, "Bad N\xC3\xBCrnberg"),
                              localizer,
-                             station(NavaidKind::vor, "LDZ", {51, 19},
+                             station(NavaidKind::omnirange, "LDZ", {51, 19},
                                      "\xC5\x81\xC3\xB3"
                                      "d\xC5\xBA")});
     EXPECT_THAT(found(index, "nur"), ElementsAre("NUR", "NURX", "NUB"));
@@ -52,17 +52,17 @@ TEST(NavaidIndex, FindsByTheBeginningsOfIdentifiersAirportsAndNames) {
 
 TEST(NavaidIndex, ProposesTheNearestByGreatCircleOverTheDateLineToo) {
     const NavaidIndex index({
-        station(NavaidKind::vor, "FAR", {-17, 177}, "VOR-DME"),
-        station(NavaidKind::vor, "OVER", {-17.5, -179.9}),
-        station(NavaidKind::vor, "HERE", {-17.6, 179.8}),
-        station(NavaidKind::vor, "HERE", {-17.601, 179.8}),
-        station(NavaidKind::vor, "MEASURES", {-17.605, 179.8}, "VOR-DME"),
-        station(NavaidKind::ndb, "ONLY", {-17, 179}, "", 310),
+        station(NavaidKind::omnirange, "FAR", {-17, 177}, "VOR-DME"),
+        station(NavaidKind::omnirange, "OVER", {-17.5, -179.9}),
+        station(NavaidKind::omnirange, "HERE", {-17.6, 179.8}),
+        station(NavaidKind::omnirange, "HERE", {-17.601, 179.8}),
+        station(NavaidKind::omnirange, "MEASURES", {-17.605, 179.8}, "VOR-DME"),
+        station(NavaidKind::beacon, "ONLY", {-17, 179}, "", 310),
         station(NavaidKind::localizer, "ISUV", {-18, 178.5}),
     });
     const StationChoice choice = proposeStations(index, {-17.6, 179.8});
     EXPECT_THAT(choice, ElementsAre(4, 2, 5, std::nullopt, 6));
-    const auto near = index.nearest({-17.6, 179.8}, NavaidKind::vor, 10);
+    const auto near = index.nearest({-17.6, 179.8}, NavaidKind::omnirange, 10);
     ASSERT_EQ(near.size(), 4U);
     EXPECT_EQ(index[near[2].index].identifier, "OVER");
     EXPECT_NEAR(near[2].distance, 18.14, 0.05);
@@ -79,10 +79,10 @@ class AnywhereChart : public testing::Test {
                                longitude > 180 ? longitude - 360 : longitude};
         };
         localizer.position = at(0, 0.1);
-        index = NavaidIndex({station(NavaidKind::vor, "AAA", at(0, 0), "VOR-DME", 113800),
-                             station(NavaidKind::vor, "BBB", at(0.2, 0.3), "", 116050),
-                             station(NavaidKind::ndb, "C", at(-0.2, 0.1), "", 382.4),
-                             station(NavaidKind::ndb, "D", at(0.1, -0.2), "", 1690), localizer});
+        index = NavaidIndex({station(NavaidKind::omnirange, "AAA", at(0, 0), "VOR-DME", 113800),
+                             station(NavaidKind::omnirange, "BBB", at(0.2, 0.3), "", 116050),
+                             station(NavaidKind::beacon, "C", at(-0.2, 0.1), "", 382.4),
+                             station(NavaidKind::beacon, "D", at(0.1, -0.2), "", 1690), localizer});
         return chartOf(index, proposeStations(index, place), paper);
     }
 

@@ -21,6 +21,7 @@ struct NotedWorld : OutsideWorld {
     std::optional<std::string> chosen;    ///< for each file that is asked for
     bool hasReader = true;                ///< of documents
     std::function<void()> behind = [] {}; ///< looks at what stands behind a box
+    NavFolders navigation;                ///< where navigation data may lie
     std::int64_t seconds = 1767225600;    ///< a clock that goes on at each look
 
     void messageBox(BoxKind, const std::string& title, const std::string& text) override {
@@ -39,6 +40,7 @@ struct NotedWorld : OutsideWorld {
         opened.push_back(path.substr(path.rfind('/') + 1) + " " + std::to_string(page));
         return hasReader;
     }
+    [[nodiscard]] NavFolders navFolders() const override { return navigation; }
     std::int64_t secondsNow() override { return ++seconds; }
 };
 

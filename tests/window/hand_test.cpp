@@ -62,6 +62,7 @@ class HandStudent : public Student {
                   {"centre", told(toPlain(form->UserControl11.view.mapCenter).latitude)},
                   {"open", told(window->isVisible())},
                   {"progress", told(window->findChild<QWidget*>("Progress") != nullptr)},
+                  {"finder", told(window->findChild<QWidget*>("ChartFinder") != nullptr)},
                   {"debrief", told(form->debrief.isOpen(), form->debrief.choosesTask())},
                   {"choice", told(form->debrief.choice().course)},
                   {"box", world.boxes.empty() ? "" : world.boxes.back()},
@@ -202,7 +203,7 @@ TEST_F(HandStudent, EveryItemOfTheMenusDoesWhatItIsNamedFor) {
     std::string rows =
         "mnuNewSession c_TraceBufferMax=1 mnuLoadSession file=loadts "
         "mnuLoadOLDSession file=loadts mnuSaveSession file=savets mnuSaveSessionAs file=savets "
-        "mnuloadchart file=loadmap mnuSaveChart file=savemap mnuSaveChartAs file=savemap "
+        "mnuNewChart finder=1 mnuloadchart file=loadmap mnuSaveChart file=savemap mnuSaveChartAs file=savemap "
         "fencrypt c_doEncrypt=-1 mnuExit open=0 placed/mnuUndo latitude=48.3011 "
         "placed/mnuUndo/mnuRedo latitude=48.36 editChart c_mapedit=1 adfpos exercise=5 "
         "qdm exercise=6 qdr exercise=7 hsipos2 exercise=1 mnuAltitude large=01 hldhsi exercise=3 "

@@ -4,6 +4,7 @@
 #include "paper/plates.h"
 #include "shell/finding_text.h"
 #include "window/chart/chart_controls.h"
+#include "window/chart/chart_finder_dialog.h"
 #include "window/chart/chart_view.h"
 #include "window/chart/comment_card.h"
 #include "window/chart/station_editing.h"
@@ -54,6 +55,7 @@ MainWindow::MainWindow(Form1& owner)
                            [this, name] { form.boxes.pictureMissing(name.toStdString()); });
     };
     makeMenus();
+    makeNewChart();
     makeDesk();
     opener = new FileOpener(form.files, form.boxes, *this);
     flightSigns = new FlightSigns(form.flightDesk, form.flight, form.exercise, form.UserControl11,
@@ -88,6 +90,16 @@ void MainWindow::makeMenus() {
                 .pressKey = [this](char letter) { form.pressKey(letter); },
                 .exit = [this] { close(); }},
                binding);
+}
+
+void MainWindow::makeNewChart() {
+    form.fileMenu.newChart.onClick = [this] {
+        form.boxes.pause();
+        auto* dialog =
+            new ChartFinderDialog(form.UserControl11, form.boxes, form.boxes.navFolders(), this);
+        dialog->setAttribute(Qt::WA_DeleteOnClose);
+        dialog->open();
+    };
 }
 
 StripModel MainWindow::stripModel() {

@@ -61,6 +61,7 @@ class MainWindow : public QMainWindow {
 
   private:
     void makeMenus();
+    void makeNewChart();
     [[nodiscard]] StripModel stripModel();
     [[nodiscard]] InstrumentPanelModel panelModel();
     [[nodiscard]] QuizModel quizModel();

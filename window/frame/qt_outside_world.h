@@ -23,6 +23,7 @@ class QtOutsideWorld : public OutsideWorld {
     std::int64_t millisecondsNow() override;
     std::string localTime(std::int64_t seconds, const std::string& format) override;
     std::optional<std::uint32_t> clockSeed() override;
+    [[nodiscard]] NavFolders navFolders() const override { return usersNavFolders(); }
     SettingsStore& settings() override { return kept; }
 
     /// The window that boxes belong to; without one they stand alone.
