@@ -13,6 +13,9 @@
 
 namespace tarnel {
 
+/// The flown seconds between two samples.
+constexpr double secondsPerSample = 4.0 / 3;
+
 /// The whole state of a flight at one moment.
 struct Sample {
 #define FIELD(name, type, rule, value) type name{};

@@ -110,7 +110,4 @@ struct Debrief {
 [[nodiscard]] Debrief judge(std::span<const Sample> flight, const Task& task,
                             Strictness strictness);
 
-/// The flown seconds between two samples.
-constexpr double secondsPerSample = 4.0 / 3;
-
 } // namespace tarnel

@@ -2,7 +2,7 @@
 
 namespace tarnel {
 
-/// What a line of a chart or session file has to hold.
+/// What a line of a chart, a session or a track has to hold.
 enum class FileField {
     key,        ///< of an enciphered file, a whole number from 1 to 99
     identifier, ///< of at most `longestStationText` characters
@@ -15,15 +15,25 @@ enum class FileField {
     longitude,
     heading,
     localizerCourse,
-    wholeNumber,      ///< of 16 bits
-    degrees,          ///< an angle that may go round several times
-    airspeed,         ///< 0 to 1000 kt
-    windSpeed,        ///< up to 500 kt
-    commentIndex,     ///< -1 to 100
-    sampleEnd,        ///< the line behind the fields of a sample
-    comment,          ///< of at most `Comments::longestText` characters
-    noFurtherComment, ///< there are 101 already
-    noFurtherSample,  ///< there are 6,000 already
+    wholeNumber,         ///< of 16 bits
+    degrees,             ///< an angle that may go round several times
+    airspeed,            ///< 0 to 1000 kt
+    windSpeed,           ///< up to 500 kt
+    commentIndex,        ///< -1 to 100
+    sampleEnd,           ///< the line behind the fields of a sample
+    comment,             ///< of at most `Comments::longestText` characters
+    noFurtherComment,    ///< there are 101 already
+    noFurtherSample,     ///< there are 6,000 already
+    gpx,                 ///< XML without a fault, from "gpx" on and without a document type
+    trackColumns,        ///< names of columns, time and position among them
+    time,                ///< of a point of a track
+    laterTime,           ///< not before that of the point before
+    nearTime,            ///< at most a minute behind it
+    groundSpeed,         ///< at most 500 kt from the point before
+    practiseArea,        ///< a latitude of at most 70 degrees
+    trackPoint,          ///< of a track, which needs two
+    flight,              ///< faster than 30 kt
+    noFurtherTrackPoint, ///< there are 100,000 already
 };
 
 /// Where a file is wrong.

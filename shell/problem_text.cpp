@@ -47,6 +47,26 @@ Text expectedName(FileField field) {
         return Text::expectedComment;
     case FileField::noFurtherComment:
         return Text::expectedNoFurtherComment;
+    case FileField::gpx:
+        return Text::expectedGpx;
+    case FileField::trackColumns:
+        return Text::expectedTrackColumns;
+    case FileField::time:
+        return Text::expectedTime;
+    case FileField::laterTime:
+        return Text::expectedLaterTime;
+    case FileField::nearTime:
+        return Text::expectedNearTime;
+    case FileField::groundSpeed:
+        return Text::expectedGroundSpeed;
+    case FileField::practiseArea:
+        return Text::expectedPractiseArea;
+    case FileField::trackPoint:
+        return Text::expectedTrackPoint;
+    case FileField::flight:
+        return Text::expectedFlight;
+    case FileField::noFurtherTrackPoint:
+        return Text::expectedNoFurtherTrackPoint;
     case FileField::noFurtherSample:
         break;
     }

@@ -8,7 +8,7 @@
 
 namespace tarnel {
 
-/// Where a chart or session file is wrong, and what should stand there.
+/// Where a chart, a session or a track is wrong, and what should stand there.
 [[nodiscard]] std::string problemText(const StringTable& texts, const FileProblem& problem);
 /// The same of navigation data.
 [[nodiscard]] std::string problemText(const StringTable& texts, const NavProblem& problem);

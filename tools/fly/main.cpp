@@ -10,7 +10,10 @@
 #include "tools/fly/picture_output.h"
 #include "tools/output/output_file.h"
 #include "tools/output/tool_run.h"
+#include "tracks/flown_track.h"
+#include "tracks/track_writer.h"
 
+#include <filesystem>
 #include <iostream>
 #include <optional>
 #include <vector>
@@ -20,20 +23,22 @@ namespace {
 using namespace tarnel;
 
 constexpr auto usage =
-    "Usage: tarnel-fly PLAN [--csv FILE] [--session FILE] [--picture FILE]\n"
-    "                  [--debrief] [--until SECONDS] [--language de|en]\n"
+    "Usage: tarnel-fly PLAN [--csv FILE] [--session FILE] [--track FILE]...\n"
+    "                  [--picture FILE] [--debrief] [--until SECONDS]\n"
+    "                  [--language de|en]\n"
     "Flies a plan without showing a window.\n"
     "\n"
     "  --csv FILE        write a table with a line for each tick\n"
     "  --session FILE    write the flight as a session that the trainer opens\n"
+    "  --track FILE      write the flight for other programs, as its name ends: .gpx, .kml, .csv\n"
     "  --picture FILE    write the window as it stands at the end, such as window.png\n"
     "  --debrief         print what was right and wrong, by the plan's [task], worst first\n"
     "  --until SECONDS   end the flight there, if the plan does not end earlier\n"
     "  --language de|en  of the picture and the debrief; English without it\n"
     "  --help            this text\n"
     "\n"
-    "FILE may be - for standard output, and none of the files that are read. Without an output a "
-    "summary is printed.\n";
+    "FILE may be - for standard output, unless it is a track, and none of the files that are read. "
+    "Without an output a summary is printed.\n";
 
 void flyTo(ScriptedFlight& flight, const FlyOptions& options) {
     std::optional<OutputFile> table;
@@ -55,18 +60,35 @@ void writeSession(UserControl2& simulation, const std::string& file) {
     output.close();
 }
 
+/// The same plan gives the same bytes each time, so its flight begins at a fixed moment: the first
+/// of 2000.
+void writeTracks(UserControl2& simulation, const FlyOptions& options) {
+    constexpr std::int64_t start = 946'684'800;
+    const Track track = flownTrack(simulation.session().samples,
+                                   std::filesystem::path(options.plan).stem().string(), start);
+    for (const std::string& file : options.tracks) {
+        OutputFile output(file);
+        output.write(writeTrack(track, formatOf(file).value_or(TrackFormat::gpx)));
+        output.close();
+    }
+}
+
 /// Refuses an output that is one of the inputs or another output, before anything is flown.
 void checkOutputs(const FlyOptions& options, const FlightPlan& plan) {
     std::vector<std::string> taken = {options.plan, applicationFolder() + "/default.map"};
     if (plan.chart)
         taken.push_back(*plan.chart);
-    for (const auto& output : {options.csv, options.session, options.picture}) {
-        if (!output || isStream(*output))
+    std::vector<std::string> outputs = options.tracks;
+    for (const auto& output : {options.csv, options.session, options.picture})
+        if (output)
+            outputs.push_back(*output);
+    for (const std::string& output : outputs) {
+        if (isStream(output))
             continue;
         for (const std::string& file : taken)
-            if (isSameFile(*output, file))
-                throw OutputError(*output, "it is read or written in the same call");
-        taken.push_back(*output);
+            if (isSameFile(output, file))
+                throw OutputError(output, "it is read or written in the same call");
+        taken.push_back(output);
     }
 }
 
@@ -84,6 +106,7 @@ ExitStatus run(const FlyOptions& options) {
     flyTo(flight, options);
     if (options.session)
         writeSession(flight.form().UserControl11, *options.session);
+    writeTracks(flight.form().UserControl11, options);
     if (options.picture)
         writePicture(flight.form(), *options.picture);
     if (options.debrief)

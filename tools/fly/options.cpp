@@ -4,6 +4,7 @@
 #include "flights/flight_plan.h"
 #include "tools/output/output_file.h"
 #include "tools/output/tool_run.h"
+#include "tracks/track_writer.h"
 
 namespace tarnel {
 
@@ -24,6 +25,13 @@ bool isGerman(const std::string& word) {
     return word == "de";
 }
 
+const std::string& trackFrom(const std::string& word) {
+    if (!formatOf(word))
+        throw UsageError("--track takes a file that ends in .gpx, .kml or .csv, not '" + word +
+                         "'");
+    return word;
+}
+
 void takeOption(FlyOptions& options, const std::string& name, const std::string& value) {
     if (name == "--csv")
         options.csv = value;
@@ -31,6 +39,8 @@ void takeOption(FlyOptions& options, const std::string& name, const std::string&
         options.picture = value;
     else if (name == "--session")
         options.session = value;
+    else if (name == "--track")
+        options.tracks.push_back(trackFrom(value));
     else if (name == "--until")
         options.until = secondsFrom(value);
     else if (name == "--language")

@@ -12,12 +12,15 @@ struct FlyOptions {
     std::optional<std::string> csv;
     std::optional<std::string> picture;
     std::optional<std::string> session;
-    std::optional<double> until; ///< seconds
-    bool debrief = false;        ///< to standard output
+    std::vector<std::string> tracks; ///< each with an ending that tells its format
+    std::optional<double> until;     ///< seconds
+    bool debrief = false;            ///< to standard output
     bool german = false;
     bool help = false;
 
-    [[nodiscard]] bool hasOutput() const { return csv || picture || session || debrief; }
+    [[nodiscard]] bool hasOutput() const {
+        return csv || picture || session || debrief || !tracks.empty();
+    }
 };
 
 /// Reads the words behind the program's name. Throws UsageError.
