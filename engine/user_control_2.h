@@ -73,6 +73,8 @@ class UserControl2 : public SimulationProperties {
 
     // The flight in memory.
     [[nodiscard]] std::int16_t presentSampleIndex() const { return tape.presentSampleIndex(); }
+    /// Whether more than a situation is in memory.
+    [[nodiscard]] bool hasFlight() const { return tape.flown(); }
     [[nodiscard]] bool inReplay() const { return tape.inReplay(); }
     void markFreshStart() { recorder.markFreshStart(); }
     void dropRecording() { newSession.dropRecording(); }

@@ -32,7 +32,7 @@ enum class FileField {
     groundSpeed,         ///< at most 500 kt from the point before
     practiseArea,        ///< a latitude of at most 70 degrees
     trackPoint,          ///< of a track, which needs two
-    flight,              ///< faster than 30 kt
+    flight,              ///< faster than 50 kt
     noFurtherTrackPoint, ///< there are 100,000 already
 };
 

@@ -45,6 +45,11 @@ std::string lowerExtension(const fs::path& file) {
     return extension;
 }
 
+bool isTrack(const fs::path& file) {
+    const std::string extension = lowerExtension(file);
+    return extension == ".gpx" || extension == ".csv";
+}
+
 } // namespace
 
 void FileDesk::connectMenu() {
@@ -92,16 +97,20 @@ void FileDesk::openFile(const std::string& path) {
                       BoxKind::notice);
     else if (lowerExtension(file) == ".map")
         at.sim.openChart(path);
+    else if (isTrack(file))
+        openTrack(path);
     else
         openSession(path);
 }
 
 std::optional<std::string> FileDesk::chooseFile(FileRequest request, const std::string& present) {
     const auto text = [this](Text id) { return std::string(at.boxes.texts[id]); };
+    const fs::path file = portablePath(present);
+    const bool aside = liesBelow(file, portablePath(at.sim.c_ScratchPath) / "track");
     return at.boxes.chooseFile(
         {.saves = request == FileRequest::saveChart || request == FileRequest::saveSession,
          .title = text(titleOf(request)),
-         .present = present,
+         .present = aside ? file.filename().string() : present,
          .folder = at.sim.c_MainAppPath,
          .filter = text(isChart(request) ? Text::chartFilter : Text::sessionFilter),
          .extension = isChart(request) ? "map" : "ts"});

@@ -11,6 +11,7 @@
 #include "shell/replay_deck.h"
 #include "shell/trainer_controls.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -38,9 +39,11 @@ class FileDesk : public SimulationMessages {
 
     /// Opens a session that the user picked outside the menus, as the menu does.
     void openSession(const std::string& path);
-    /// Opens a chart (".map") or a session that the user picked outside the menus, as the menus do.
-    /// In flight and in an exercise a box asks him to end it first.
+    /// Opens a chart (".map"), a track (".gpx", ".csv") or a session that the user picked outside
+    /// the menus, as the menus do. In flight and in an exercise a box asks him to end it first.
     void openFile(const std::string& path);
+
+    std::function<void(const std::string& path)> openTrack;
 
     void bufferWarning(BufferWarning warning) override;
     std::optional<std::string> chooseFile(FileRequest request, const std::string& present) override;

@@ -8,7 +8,6 @@ namespace tarnel {
 namespace {
 
 /// Miles from any DME at which a flight ends.
-constexpr double practiseAreaLimit = 80.0;
 
 } // namespace
 

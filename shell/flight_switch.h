@@ -9,6 +9,9 @@
 
 namespace tarnel {
 
+/// NM from a DME beyond which no flight is possible.
+constexpr double practiseAreaLimit = 80.0;
+
 /// `FlightSwitch`: starts and stops the flight, and says how fast it goes.
 class FlightSwitch {
   public:

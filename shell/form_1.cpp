@@ -33,6 +33,7 @@ Form1::Form1(const StringTable& table, OutsideWorld& world, std::string applicat
       boxes(table, world),
       QAform1(state, exerciseSurroundings(table, world)),
       flightDesk(state, boxes, UserControl11, world),
+      tracks(UserControl11, fileMenu, boxes, practice, world),
       training(QAform1, exercise, courses, boxes, world),
       flown({UserControl11, flight, exercise, QAform1, practice,
              [this](const std::string& path) { return referenceName(path, referencePlaces()); }}),
@@ -135,6 +136,7 @@ void Form1::connectDesks() {
         flightLog.flightRests();
     };
     practice.onLeave = [this] { flown.drop(); };
+    files.openTrack = [this](const std::string& path) { tracks.flyAlong(path); };
     files.connectMenu();
 }
 

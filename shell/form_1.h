@@ -24,6 +24,7 @@
 #include "shell/replay_deck.h"
 #include "shell/station_desk.h"
 #include "shell/status_readouts.h"
+#include "shell/track_desk.h"
 #include "shell/trainer_controls.h"
 #include "shell/training_desk.h"
 #include "shell/usable_controls.h"
@@ -99,6 +100,7 @@ class Form1 : public TrainerControls, public PanelControls {
     CommentStrip comments{UserControl11, commentPanel, boxes};
     FlightDesk flightDesk;
     PracticeDesk practice{UserControl11, *this, flightDesk.keeper, texts};
+    TrackDesk tracks;
     ExerciseConduct exercise{QAform1, exerciseStage()};
     CourseDesk courses{boxes, exercise, exerciseMenu.ownCourses};
     TrainingDesk training;

@@ -17,8 +17,8 @@ struct FileQuestion {
     std::string title;
     std::string present;   ///< the path now, or a bare name
     std::string folder;    ///< where to look if `present` is in no folder
-    std::string filter;    ///< "name|pattern"
-    std::string extension; ///< without a dot
+    std::string filter;    ///< "name (*.ending)", with ";;" between several
+    std::string extension; ///< of the first filter, without a dot
 };
 
 /// What the trainer needs of the world around it: a window shows boxes, a test writes them down.

@@ -22,11 +22,16 @@ PracticeDesk::PracticeDesk(UserControl2& simulation, TrainerControls& controls,
 }
 
 void PracticeDesk::open(const std::string& name, bool practised) {
-    if (!load(shippedSession(sim.c_MainAppPath, name, texts, practised)))
-        return;
+    openFile(shippedSession(sim.c_MainAppPath, name, texts, practised), practised);
+}
+
+bool PracticeDesk::openFile(const std::string& path, bool practised) {
+    if (!load(path))
+        return false;
     strip.chartPage.trace.set(1);
     practising = practised;
     sim.c_TrackDelta = practising ? 1 : 0;
+    return true;
 }
 
 bool PracticeDesk::load(const std::string& path) {

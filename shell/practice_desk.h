@@ -26,6 +26,8 @@ class PracticeDesk {
     [[nodiscard]] bool hasOwnFlight() const { return practising && own; }
     /// Loads a session of the program's own, to be practised or only to be looked at.
     void open(const std::string& name, bool practised);
+    /// The same with the session at `path`. False, with a box, if it can't be read.
+    bool openFile(const std::string& path, bool practised);
     /// Loads the session that is practised from now on. False, with a box, if it can't be read.
     bool load(const std::string& path);
     /// The session at `path` is practised from now on, whether or not it can be read.

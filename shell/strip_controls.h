@@ -114,7 +114,8 @@ struct PracticePanel {
     CommandButton debrief{state, "Debrief", Text::debrief, Text::debriefTip};
 };
 
-/// The items of the file menu. They rest while the aircraft flies.
+/// The items of the file menu. They rest while the aircraft flies, and the export as long as there
+/// is no flight.
 struct FileMenu {
     explicit FileMenu(FormState& form) : state(form) {}
     FormState& state;
@@ -127,11 +128,13 @@ struct FileMenu {
     CommandButton loadChart{state, "mnuloadchart", Text::loadChart};
     CommandButton saveChart{state, "mnuSaveChart", Text::saveChart};
     CommandButton saveChartAs{state, "mnuSaveChartAs", Text::saveChartAs};
+    CommandButton exportFlight{state, "mnuExportFlight", Text::exportTrack};
+    CommandButton flyAlong{state, "mnuFlyAlong", Text::flyAlong};
     CheckBox encipher{state, "fencrypt", Text::encipherFiles};
 
-    [[nodiscard]] std::array<CommandButton*, 9> items() {
+    [[nodiscard]] std::array<CommandButton*, 10> items() {
         return {&newSession, &loadSession, &loadOldSession, &saveSession, &saveSessionAs,
-                &newChart,   &loadChart,   &saveChart,      &saveChartAs};
+                &newChart,   &loadChart,   &saveChart,      &saveChartAs, &flyAlong};
     }
 };
 

@@ -57,6 +57,7 @@ void UsableControls::updateMenus() {
 }
 
 void UsableControls::followHistory() {
+    strip.fileMenu.exportFlight.setEnabled(free() && sim.hasFlight());
     const bool may = free() && !debrief.isOpen();
     strip.editMenu.undo.setEnabled(may && sim.history.undoable());
     strip.editMenu.redo.setEnabled(may && sim.history.redoable());

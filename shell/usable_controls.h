@@ -30,7 +30,7 @@ class UsableControls {
     /// To be called after each change of what it depends on.
     void update();
     /// A step of the tick: at rest and outside of exercises and debriefs, what was done can be
-    /// taken back.
+    /// taken back; a flight can be exported once there is one.
     void followHistory();
 
   private:

@@ -71,11 +71,11 @@ Columns columnsOf(std::string_view line, char separator) {
             return true;
         };
         const std::string_view unit(end, name.end());
-        const bool inFeet = unit.find("f") != none;
+        const bool inFeet = unit.find('f') != none;
         if (takes(columns.time, timeWords) || takes(columns.latitude, latitudeWords) ||
             takes(columns.longitude, longitudeWords))
             continue;
-        if ((inFeet || unit.find("m") != none) && takes(columns.altitude, altitudeWords))
+        if ((inFeet || unit.find('m') != none) && takes(columns.altitude, altitudeWords))
             columns.feet = inFeet ? 1 : feetPerMetre;
     }
     return columns;

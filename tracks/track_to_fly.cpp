@@ -14,7 +14,7 @@ namespace {
 
 constexpr double longestGap = 60; ///< seconds
 constexpr double fastest = 500;   ///< knots
-constexpr double slowest = 30;    ///< knots
+constexpr double slowest = 50;    ///< knots, as the autopilot flies
 constexpr double farthestNorth = 70;
 
 [[noreturn]] void fail(const TrackPoint& point, FileField expected) {
@@ -43,40 +43,52 @@ TrackMoment between(const TrackPoint& from, const TrackPoint& to, double seconds
     return moment;
 }
 
-/// Course and speed of `moment` on its way to `next`. A place that stays keeps its course.
-void moveOn(TrackMoment& moment, const GeoPosition& next) {
+/// Knots over the ground along `leg`, which takes so many samples.
+double speedAlong(const CourseDistance& leg, std::size_t samples) {
     constexpr double secondsPerHour = 3600;
-    CourseDistance leg;
-    if (moment.position != next)
-        leg = CourseAndDistance(moment.position, next);
-    moment.speed = leg.distance / secondsPerSample * secondsPerHour;
-    if (leg.distance > 0)
-        moment.course = circle(leg.course);
+    return leg.distance / (secondsPerSample * static_cast<double>(samples)) * secondsPerHour;
 }
 
-/// The track from sample to sample; the last one moves on as it came. Throws the problem of a point
-/// that is reached too fast.
+CourseDistance legBetween(const TrackMoment& from, const TrackMoment& to) {
+    if (from.position == to.position)
+        return {};
+    return CourseAndDistance(from.position, to.position);
+}
+
+/// The places of the track from sample to sample. Throws the problem of a point that is reached too
+/// fast.
 std::vector<TrackMoment> sampled(const std::vector<TrackPoint>& points) {
     std::vector<TrackMoment> moments;
     std::size_t next = 1;
-    const double first = points.front().seconds;
-    for (int i = 0; next < points.size(); ++i) {
-        const double seconds = first + secondsPerSample * i;
+    while (next < points.size()) {
+        const double seconds =
+            points.front().seconds + secondsPerSample * static_cast<double>(moments.size());
         while (next < points.size() && points[next].seconds < seconds)
             ++next;
         if (next == points.size())
             break;
         moments.push_back(between(points[next - 1], points[next], seconds));
-        if (i == 0)
-            continue;
-        TrackMoment& before = moments[moments.size() - 2];
-        moveOn(before, moments.back().position);
-        if (before.speed > fastest)
+        if (moments.size() > 1 &&
+            speedAlong(legBetween(*(moments.end() - 2), moments.back()), 1) > fastest)
             fail(points[next], FileField::groundSpeed);
-        moments.back().course = before.course;
-        moments.back().speed = before.speed;
     }
     return moments;
+}
+
+/// Course and speed of each moment, from two samples before it to two behind it, as the positions
+/// of a receiver waver. Who stands keeps his course.
+void findMotion(std::vector<TrackMoment>& moments) {
+    constexpr std::size_t around = 2;
+    double course = 0;
+    for (std::size_t i = 0; i < moments.size(); ++i) {
+        const std::size_t from = i < around ? 0 : i - around;
+        const std::size_t to = std::min(i + around, moments.size() - 1);
+        const CourseDistance leg = legBetween(moments[from], moments[to]);
+        if (leg.distance > 0)
+            course = circle(leg.course);
+        moments[i].course = course;
+        moments[i].speed = to > from ? speedAlong(leg, to - from) : 0;
+    }
 }
 
 /// Leaves out what is no flight, at both ends.
@@ -95,6 +107,7 @@ TrackToFly trackToFly(const Track& track) {
     TrackToFly found;
     if (!track.points.empty())
         found.moments = sampled(track.points);
+    findMotion(found.moments);
     keepFlight(found.moments);
     if (found.moments.size() < 2)
         throw FileProblem{track.points.empty() ? 1 : track.points.back().line, FileField::flight,

@@ -20,8 +20,8 @@ struct TrackToFly {
     bool cut = false;                 ///< the track goes on behind what a recording holds
 };
 
-/// `track` from sample to sample, straight between its points. What is slower than 30 knots at its
-/// beginning and its end is left out: nobody taxies in the trainer. It is cut where a recording
+/// `track` from sample to sample, straight between its points. What is slower than 50 knots at its
+/// beginning and its end is left out, as the trainer flies no slower. It is cut where a recording
 /// ends.
 ///
 /// Throws the FileProblem of the first point that can't be followed: more than a minute behind the

@@ -156,7 +156,9 @@ TEST(TracksToFly, HaveAPlaceForEachSampleOfTheFlight) {
     EXPECT_NEAR(leg.course + 360, 300, 0.05);
     EXPECT_NEAR(found.moments[100].course, 300, 0.05);
     EXPECT_NEAR(found.moments[100].speed, 120, 0.2);
-    EXPECT_NEAR(found.moments.back().speed, 90, 2);
+    EXPECT_NEAR(found.moments[400].speed, 90, 0.2);
+    EXPECT_GE(found.moments.front().speed, 50);
+    EXPECT_GE(found.moments.back().speed, 50);
 }
 
 TEST(TracksToFly, AreRefusedOrCutWhereNobodyCanFollow) {
@@ -168,7 +170,7 @@ TEST(TracksToFly, AreRefusedOrCutWhereNobodyCanFollow) {
     EXPECT_EQ(problem(gap.fly(100, 10, 1)), (FileProblem{11, FileField::nearTime}));
     EXPECT_EQ(problem(TrackBeingFlown().fly(100, 20, 2).fly(520, 20, 2)),
               (FileProblem{12, FileField::groundSpeed}));
-    EXPECT_EQ(problem(TrackBeingFlown().fly(20, 20, 2)), (FileProblem{10, FileField::flight}));
+    EXPECT_EQ(problem(TrackBeingFlown().fly(48, 20, 2)), (FileProblem{10, FileField::flight}));
     TrackBeingFlown polar;
     polar.place.latitude = 70.01;
     EXPECT_EQ(problem(polar.fly(100, 20, 2)), (FileProblem{1, FileField::practiseArea}));

@@ -178,6 +178,18 @@ TEST_F(DialogTest, TheShippedChartIsSavedUnderAnotherNameOnly) {
     EXPECT_EQ(form->UserControl11.c_ChartFileName.get(), mine.toStdString() + ".map");
     EXPECT_TRUE(QFile::exists(mine + QStringLiteral(".map")));
     EXPECT_EQ(read(QStringLiteral(TARNEL_APPLICATION_FOLDER "/default.map")), shipped);
+    form->startButton.click();
+    fly(8);
+    form->startButton.click();
+    fly(0);
+    const QString flight = folder.filePath(QStringLiteral("flight.v2"));
+    EXPECT_TRUE(trigger("mnuExportFlight", [&](QFileDialog& dialog) {
+        dialog.selectFile(flight + QStringLiteral(".gpx"));
+        dialog.selectNameFilter(dialog.nameFilters().at(1));
+        emit dialog.filterSelected(dialog.nameFilters().at(1));
+        static_cast<QDialog&>(dialog).accept();
+    }));
+    EXPECT_TRUE(read(flight + QStringLiteral(".kml")).contains("gx:Track"));
     EXPECT_FALSE(trigger("mnuSaveChart", [](QFileDialog& dialog) { dialog.reject(); }));
     EXPECT_TRUE(trigger("mnuSaveSession", [&](QFileDialog& dialog) {
         EXPECT_EQ(dialog.directory().canonicalPath(), QDir(folder.path()).canonicalPath());

@@ -202,6 +202,7 @@ TEST_F(HandStudent, EveryControlReachesTheModel) {
 TEST_F(HandStudent, EveryItemOfTheMenusDoesWhatItIsNamedFor) {
     std::string rows =
         "mnuNewSession c_TraceBufferMax=1 mnuLoadSession file=loadts "
+        "mnuExportFlight file=savegpx mnuFlyAlong file=loadgpx "
         "mnuLoadOLDSession file=loadts mnuSaveSession file=savets mnuSaveSessionAs file=savets "
         "mnuNewChart finder=1 mnuloadchart file=loadmap mnuSaveChart file=savemap mnuSaveChartAs file=savemap "
         "fencrypt c_doEncrypt=-1 mnuExit open=0 placed/mnuUndo latitude=48.3011 "

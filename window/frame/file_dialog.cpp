@@ -2,6 +2,7 @@
 
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QStandardPaths>
 
 namespace tarnel {
@@ -26,6 +27,25 @@ QString documents() {
     return QFileInfo(folder).isDir() ? folder : QDir::homePath();
 }
 
+/// The ending that a filter, "name (*.ending)", stands for.
+QString endingOf(const QString& filter) {
+    return filter.section(QStringLiteral("*."), 1, 1).section(QRegularExpression("[ )]"), 0, 0);
+}
+
+/// The name has the ending of the filter that is chosen.
+void followFilter(QFileDialog& dialog) {
+    QObject::connect(
+        &dialog, &QFileDialog::filterSelected, &dialog, [&dialog](const QString& filter) {
+            dialog.setDefaultSuffix(endingOf(filter));
+            const QStringList files = dialog.selectedFiles();
+            if (files.size() != 1)
+                return;
+            const QFileInfo file(files.constFirst());
+            if (!file.suffix().isEmpty())
+                dialog.selectFile(file.completeBaseName() + QLatin1Char('.') + endingOf(filter));
+        });
+}
+
 } // namespace
 
 QString FileDialog::folderFor(const FileQuestion& question) const {
@@ -44,6 +64,8 @@ std::optional<std::string> FileDialog::ask(const FileQuestion& question, QWidget
     dialog.setDefaultSuffix(QString::fromStdString(question.extension));
     dialog.setAcceptMode(question.saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(question.saves ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    if (question.saves)
+        followFilter(dialog);
     const QFileInfo present(QString::fromStdString(question.present));
     if (question.saves || present.isFile())
         dialog.selectFile(present.fileName());

@@ -12,7 +12,8 @@ namespace tarnel {
 
 /// `FileDialog`: asks for files in the system's dialog. It opens in the folder of the present file,
 /// else where the last file was picked, else among the program's own files for loading and among
-/// the user's documents for saving. A save asks before it takes the name of a file that is there.
+/// the user's documents for saving. A save asks before it takes the name of a file that is there,
+/// and with another of several filters the name gets its ending.
 class FileDialog {
   public:
     std::optional<std::string> ask(const FileQuestion& question, QWidget* parent);

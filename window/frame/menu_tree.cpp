@@ -108,6 +108,9 @@ void MenuBuilder::buildFile() {
     binding.bind(model.flights.menu, *flights->menuAction());
     FlightSigns::fillMenu(model.flights, model.boxes, *flights);
     file->addSeparator();
+    bound(*file, items.exportFlight);
+    bound(*file, items.flyAlong);
+    file->addSeparator();
     bound(*file, items.newChart);
     bound(*file, items.loadChart);
     bound(*file, items.saveChart);
