@@ -1,10 +1,13 @@
 // tarnel-approach: the approach charts of the menu, each drawn from its session and a source.
 
 #include "approach/plan_framing.h"
+#include "core/run_time_error.h"
 #include "flights/plan_error.h"
 #include "persistence/file_bytes.h"
 #include "shell/application_folder.h"
 #include "shell/documents.h"
+#include "strings/cause_text.h"
+#include "strings/string_table.h"
 #include "tools/approach/approach_sheet.h"
 #include "tools/output/output_file.h"
 #include "tools/output/tool_run.h"
@@ -25,10 +28,20 @@ constexpr auto usage = "Usage: tarnel-approach SOURCE... --out FOLDER\n"
 
 constexpr std::size_t largestSource = 1 << 16;
 
+std::string readInput(const std::string& path, std::size_t limit) {
+    try {
+        return readFileBytes(path, limit);
+    } catch (const RunTimeError& error) {
+        throw PlanError(path, 0,
+                        "a file that can be read: " +
+                            std::string(causeText(englishTable(), error.cause())));
+    }
+}
+
 SessionFile readSessionOf(const std::string& text, const std::string& file) {
     const std::string path =
         applicationFolder() + "/default/sessions/" + sessionOf(text, file) + ".ts";
-    SessionFile session = readSession(readFileBytes(path, largestSession));
+    SessionFile session = readSession(readInput(path, largestSession));
     if (session.samples.empty())
         throw PlanError(file, 0, "a session with a flight: " + path);
     return session;
@@ -46,7 +59,7 @@ std::string documentOf(const ApproachSource& source) {
 
 void drawChart(const std::string& file, const std::string& folder) {
     using namespace sheet_parts;
-    const std::string text = readFileBytes(file, largestSource);
+    const std::string text = readInput(file, largestSource);
     const SessionFile session = readSessionOf(text, file);
     const AuthoredChart chart = chartOf(session);
     const ApproachSource source = readApproach(text, file, chart);
