@@ -203,7 +203,7 @@ double Profile::placeOfCourse() const {
 }
 
 void Profile::paintWords() {
-    const double level = y(plan.joinAltitude) - 36;
+    const double level = y(plan.joinAltitude) - 42;
     label(x(farthest), level, ink::feet(plan.joinAltitude), ink::type(ink::value, true),
           Qt::AlignLeft);
     if (plan.joinAltitude != descent.altitude)

@@ -67,7 +67,7 @@ void paintTables(QPainter& painter, const QRectF& place, const ApproachSheet& sh
         rates.push_back({QString::number(rate.knots), QString::number(rate.feetPerMinute),
                          minutes(rate.seconds)});
     paintTable(painter, {inner.right() - half, inner.top(), half, inner.height()},
-               {QStringLiteral("Ground speed"), QStringLiteral("Descent ft/min"),
+               {QStringLiteral("Ground speed kt"), QStringLiteral("Descent ft/min"),
                 QStringLiteral("FAF to threshold")},
                rates);
     painter.setPen(ink::pen(ink::hair));
