@@ -17,7 +17,6 @@ constexpr double turnRadius = knots / (60 * std::numbers::pi); ///< NM, three de
 constexpr double feetInMile = 1852 / 0.3048;
 constexpr double joinMiles = 1.5;  ///< along the final course, where it is met without a cut
 constexpr double shortestMark = 1; ///< NM of a leg that has room for its course
-constexpr double longMark = 2.4;   ///< NM of a leg that has room for its altitude, too
 constexpr double steepest = 400;   ///< feet a mile before the final approach fix
 constexpr double onTheLine = 0.02; ///< NM beside the final course that are none
 constexpr double atTheFix = 0.1;   ///< NM between a beacon and the fix that it marks
@@ -113,13 +112,12 @@ void PlanBuilder::mark(Point from, Point to, const std::string& altitude) {
     const double course = courseOf(way);
     if (miles >= shortestMark)
         plan.marks.push_back({from + onCourse(course, lengthOf(way) / 2), course,
-                              degreesText(course) + (miles < longMark ? "" : altitude),
-                              lengthOf(way)});
+                              degreesText(course), altitude, lengthOf(way)});
 }
 
 /// Straight to a place, and round it if it is known how it goes on there.
 void PlanBuilder::straightLeg(Point end, std::optional<double> next, int altitude) {
-    mark(pen.at(), end, "  " + std::to_string(altitude));
+    mark(pen.at(), end, std::to_string(altitude));
     if (next)
         pen.roundCorner(end, *next, radius());
     else
@@ -164,10 +162,10 @@ void PlanBuilder::fly(const LegInHolding& leg, std::size_t index) {
     const Point fix = plane.station(leg.fix);
     const Point outbound = onCourse(leg.inbound + (leg.right ? 90 : -90), 2 * radius());
     const Point middle = onCourse(leg.inbound, -plane.twips(leg.minutes * knots / 120));
-    plan.marks.push_back({fix + middle, leg.inbound, degreesText(leg.inbound), 0});
-    plan.marks.push_back(
-        {fix + middle + outbound, circle(leg.inbound + 180),
-         degreesText(leg.inbound + 180) + "  " + std::to_string(source.legs[index].altitude)});
+    plan.marks.push_back({fix + middle, leg.inbound, degreesText(leg.inbound), "", 0});
+    plan.marks.push_back({fix + middle + outbound, circle(leg.inbound + 180),
+                          degreesText(leg.inbound + 180),
+                          std::to_string(source.legs[index].altitude), 0});
 }
 
 /// Inbound on the radial, and with a turn away from the station onto the arc.
@@ -214,9 +212,8 @@ void PlanBuilder::fly(const LegOnArc& leg, std::size_t index) {
 
     const double middle = first + hand * swept / 2;
     plan.marks.push_back({placeFrom(leg.station, middle, leg.distance), circle(middle + hand * 90),
-                          "D" + oneDecimal(leg.distance) + " " + name(leg.station) + "  " +
-                              std::to_string(source.legs[index].altitude),
-                          0});
+                          "D" + oneDecimal(leg.distance) + " " + name(leg.station),
+                          std::to_string(source.legs[index].altitude), 0});
     plan.radials.push_back({leg.station, station,
                             placeFrom(leg.station, source.initialRadial, leg.distance),
                             source.initialRadial, "R-" + threeDigits(source.initialRadial)});
@@ -231,7 +228,7 @@ void PlanBuilder::intercept() {
     const Point corner =
         localizer() + onCourse(finalCourse(), at.along + std::abs(at.right / std::tan(angle)));
     if (source.cut)
-        mark(pen.at(), corner, "  " + std::to_string(source.legs.back().altitude));
+        mark(pen.at(), corner, std::to_string(source.legs.back().altitude));
     pen.roundCorner(corner, finalCourse(), radius());
 }
 

@@ -23,7 +23,8 @@ struct PlanMark {
     Point at;
     double course = 0;
     std::string text;
-    double leg = 0; ///< the length of the straight leg that it may be moved along, `at` its middle
+    std::string altitude; ///< said behind the text where the leg has room for it; may be empty
+    double leg = 0;       ///< of a straight leg with `at` in its middle, its length
 };
 
 /// A radial that tells a place on the way.

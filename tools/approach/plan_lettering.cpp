@@ -30,8 +30,22 @@ QTransform placing(const LetteringOnLine& lettering) {
     return placed;
 }
 
+double widthOf(const QString& words, bool isFlown) {
+    return QFontMetricsF(ink::type(ink::body, isFlown)).horizontalAdvance(words) + 12;
+}
+
+/// With its altitude, unless that makes it longer than its leg.
+QString wordsOf(const PlanMark& mark) {
+    const QString course = ink::qt(mark.text);
+    if (mark.altitude.empty())
+        return course;
+    const QString both = course + QStringLiteral("  ") + ink::qt(mark.altitude);
+    const bool fits = mark.leg == 0 || widthOf(both, true) < mark.leg / sheet_parts::twips;
+    return fits ? both : course;
+}
+
 LetteringOnLine lettered(Spot on, double course, const QString& words, bool isFlown, bool above) {
-    const double width = QFontMetricsF(ink::type(ink::body, isFlown)).horizontalAdvance(words) + 12;
+    const double width = widthOf(words, isFlown);
     double turn = turnBetween(90, course);
     if (std::abs(turn) > 90)
         turn += turn > 0 ? -180 : 180;
@@ -100,7 +114,7 @@ std::vector<LetteringOnLine> planLettering(const ApproachPlan& plan, const Chart
         BestPlace place(all);
         for (const double share : legPlaces)
             place.tryBothSides(frame.spot(mark.at + onCourse(mark.course, share * mark.leg)),
-                               mark.course, ink::qt(mark.text), true);
+                               mark.course, wordsOf(mark), true);
         take(place.best);
     }
     for (const PlanRadial& radial : plan.radials) {
