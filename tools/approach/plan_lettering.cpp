@@ -36,10 +36,10 @@ double widthOf(const QString& words, bool isFlown) {
 
 /// With its altitude, unless that makes it longer than its leg.
 QString wordsOf(const PlanMark& mark) {
-    const QString course = ink::qt(mark.text);
+    QString course = ink::qt(mark.text);
     if (mark.altitude.empty())
         return course;
-    const QString both = course + QStringLiteral("  ") + ink::qt(mark.altitude);
+    QString both = course + QStringLiteral("  ") + ink::qt(mark.altitude);
     const bool fits = mark.leg == 0 || widthOf(both, true) < mark.leg / sheet_parts::twips;
     return fits ? both : course;
 }
