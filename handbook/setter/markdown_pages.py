@@ -84,7 +84,7 @@ class Writer:
         """Pictures of one paragraph stand side by side, above what they show."""
         shown = "".join(self.picture(image) for image in images)
         captions = [image.content.strip() for image in images if image.content]
-        caption = " ".join(each if each[-1] in ".:!?" else each + "." for each in captions)
+        caption = " ".join(each if each[-1] in ".:!?,;" else each + "." for each in captions)
         if not caption:
             self.refuse("a figure without words")
         row = "row three" if len(images) > 2 else "row"
@@ -107,11 +107,11 @@ def kept_together(tokens):
     kept = []
     ends = 0  # of the block behind a heading, counted in `tokens`
     for i, token in enumerate(tokens):
-        leads = token.type == "paragraph_open" and token.tag == "p" and is_lead(tokens[i + 1])
-        if leads:
+        if (token.type == "paragraph_open" and tokens[i + 1].content.endswith(":")
+                and tokens[i - 1].type != "heading_close"):
             token.attrSet("class", "leads")
         if token.type == "heading_open":
-            lead = tokens[i + 3].type == "paragraph_open" and is_lead(tokens[i + 4])
+            lead = tokens[i + 3].type == "paragraph_open" and len(tokens[i + 4].content) < LINE
             kept.append(raw(f'<div class="together{" leads" if lead else ""}">'))
             ends = end_of_block(tokens, i + 3)
         kept.append(token)
@@ -119,10 +119,6 @@ def kept_together(tokens):
             kept.append(raw("</div>"))
             ends = 0
     return kept
-
-
-def is_lead(inline):
-    return inline.content.endswith(":") or len(inline.content) < LINE
 
 
 def end_of_block(tokens, first):

@@ -41,6 +41,11 @@ void draw(const PrintedQuestion& question, InstrumentPainter& dials, const std::
     writeFile(stem + "-flown.svg", pictureDrawing(question.flown, PrintedQuestion::solutionUnits));
 }
 
+/// What stands behind the course in a situation's name.
+std::string numberOf(std::size_t situation) {
+    return (situation < 10 ? "-0" : "-") + std::to_string(situation);
+}
+
 } // namespace
 
 void drawPlates(const std::string& source, const std::string& folder, Language language,
@@ -51,17 +56,17 @@ void drawPlates(const std::string& source, const std::string& folder, Language l
         printedQuestions(course, language, applicationFolder);
     PictureStore pictures(QString::fromStdString(applicationFolder));
     InstrumentPainter dials(pictures, Numerals::text);
-    const std::string name = std::filesystem::path(source).stem().string();
+    const std::filesystem::path stem =
+        std::filesystem::path(folder) / std::filesystem::path(source).stem();
     QJsonArray situations;
     for (std::size_t i = 0; i < questions.size(); ++i) {
-        const std::string number = std::to_string(i + 1);
-        const std::string situation = name + (number.size() < 2 ? "-0" : "-") + number;
-        draw(questions[i], dials, folder + "/" + situation);
+        const std::string situation = stem.filename().string() + numberOf(i + 1);
+        draw(questions[i], dials, stem.string() + numberOf(i + 1));
         situations.append(wordsOf(questions[i], QString::fromStdString(situation)));
     }
     const StringTable& texts = language == Language::german ? germanTable() : englishTable();
     const ExerciseKind& exercise = *exerciseOf(static_cast<int>(course.kind->type));
-    writeFile(folder + "/" + name + ".plates.json",
+    writeFile(stem.string() + ".plates.json",
               QJsonDocument(
                   QJsonObject{{"title", textOf(texts, exercise.title)}, {"situations", situations}})
                   .toJson());
