@@ -92,7 +92,8 @@ class Plates:
         return drawn
 
     def heading(self, what, anchor, link=""):
-        return (f'<h1 id="{anchor}{self.count}">{self.words["plate"]} {self.count} '
+        name = f'{self.words["plate"]} {self.count}'
+        return (f'<h1 id="{anchor}{self.count}" title="{name} {what}">{name} '
                 f'<span class="what">{what}</span>{link}</h1>')
 
     def link(self, what, anchor, page):
