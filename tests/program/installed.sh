@@ -14,10 +14,14 @@ fail() {
 "$1" --install "$2" --prefix "$folder/usr" >"$folder/log" || fail "not installed"
 for tool in tarnel-fly tarnel-course; do
     "$folder/usr/bin/$tool" --help >"$folder/usage" || fail "$tool does not run"
-    page=$folder/usr/share/man/man1/$tool.1
+    page=$folder/$tool.1
+    gunzip -c "$folder/usr/share/man/man1/$tool.1.gz" >"$page" || fail "$tool has no manual page"
     grep -o -- '--[a-z]*' "$folder/usage" | while read -r option; do
         grep -qF -- "${option//-/\\-}" "$page" || fail "$page lacks $option"
     done || exit 1
+done
+for program in "$folder"/usr/bin/*; do
+    [ -s "$folder/usr/share/man/man1/${program##*/}.1.gz" ] || fail "${program##*/} has no manual page"
 done
 mkdir "$folder/mine" && cp "$3" "$folder/mine" && cd "$folder/mine" || exit 1
 "$folder/usr/bin/tarnel-course" build ./*.toml || fail "not built"

@@ -89,14 +89,18 @@ void paintDots(QPainter& painter, int side) {
 
 } // namespace
 
-QImage paintIcon(int side) {
-    QImage picture = deepPicture({side, side});
-    QPainter painter(&picture);
+void paintIcon(QPainter& painter, int side) {
     useHalfSideUnits(painter, side);
     paintGround(painter);
     paintRose(painter, side);
     paintDots(painter, side);
     paintCourse(painter, side);
+}
+
+QImage paintIcon(int side) {
+    QImage picture = deepPicture({side, side});
+    QPainter painter(&picture);
+    paintIcon(painter, side);
     painter.end();
     return dithered(picture);
 }

@@ -1,4 +1,5 @@
-// paint_pictures OUTDIR: paints every picture of the program into a folder.
+// paint_pictures OUTDIR ICONDIR: paints every picture of the program into a folder, and the icons
+// of an installation into another.
 
 #include "core/run_time_error.h"
 #include "persistence/save_file.h"
@@ -12,6 +13,9 @@
 #include <QDir>
 #include <QGuiApplication>
 #include <QImageWriter>
+#ifdef TARNEL_SVG
+#include <QSvgGenerator>
+#endif
 
 #include <cstdio>
 #include <stdexcept>
@@ -42,8 +46,12 @@ class PictureFolder {
             writer.setQuality(jpgQuality);
         if (!writer.write(picture))
             fail(name, writer.errorString());
+        write(name, bytes.data());
+    }
+
+    void write(const QString& name, const QByteArray& bytes) const {
         try {
-            saveFileBytes(folder.filePath(name).toStdString(), bytes.data().toStdString());
+            saveFileBytes(folder.filePath(name).toStdString(), bytes.toStdString());
         } catch (const RunTimeError& error) {
             fail(folder.filePath(name), QString::fromUtf8(error.what()));
         }
@@ -93,18 +101,31 @@ void writeDigits(const PictureFolder& folder, const QString& colourWord, const Q
 }
 
 void writeIcons(const PictureFolder& folder) {
-    folder.write("tarnel.png", paintIcon(256));
-    folder.write("tarnel_64.png", paintIcon(64));
-    folder.write("tarnel_32.png", paintIcon(32));
+    for (const int side : {16, 22, 24, 32, 48, 64, 128, 256, 512})
+        folder.write(QStringLiteral("tarnel_%1.png").arg(side), paintIcon(side));
+#ifdef TARNEL_SVG
+    constexpr int drawnSide = 256;
+    QBuffer bytes;
+    QSvgGenerator drawing;
+    drawing.setOutputDevice(&bytes);
+    drawing.setSize({drawnSide, drawnSide});
+    drawing.setViewBox(QRect(0, 0, drawnSide, drawnSide));
+    drawing.setTitle(QStringLiteral("Tarnel"));
+    QPainter painter(&drawing);
+    paintIcon(painter, drawnSide);
+    painter.end();
+    folder.write("tarnel.svg", bytes.data());
+#endif
 }
 
-void paintPictures(const QString& path) {
+void paintPictures(const QString& path, const QString& icons) {
     const PictureFolder folder(path);
     writeFaces(folder);
     writeKnobs(folder);
     writeDigits(folder, "amber", look::setByYou);
     writeDigits(folder, "green", look::measured);
-    writeIcons(folder);
+    folder.write("tarnel.png", paintIcon(256));
+    writeIcons(PictureFolder(icons));
 }
 
 } // namespace
@@ -124,12 +145,12 @@ int main(int argc, char** argv) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
     const QStringList arguments = QGuiApplication::arguments();
-    if (arguments.size() != 2) {
-        std::fputs("usage: paint_pictures OUTDIR\n", stderr);
+    if (arguments.size() != 3) {
+        std::fputs("usage: paint_pictures OUTDIR ICONDIR\n", stderr);
         return exitUsage;
     }
     try {
-        tarnel::paintPictures(arguments.at(1));
+        tarnel::paintPictures(arguments.at(1), arguments.at(2));
     } catch (const std::runtime_error& error) {
         std::fprintf(stderr, "paint_pictures: %s\n", error.what());
         return exitUnwritable;
