@@ -1,4 +1,3 @@
-#include "window/frame/document_reader.h"
 #include "window/frame/qt_outside_world.h"
 #include "window/frame/window_place.h"
 #include "window/student_fixture.h"
@@ -96,22 +95,6 @@ TEST_F(DropTest, ADroppedFileOpensOrSaysWhyNot) {
     EXPECT_TRUE(world.boxes.empty());
     EXPECT_TRUE(drop({QUrl::fromLocalFile(folder.filePath(QStringLiteral("gone.map")))}));
     EXPECT_THAT(world.boxes, testing::ElementsAre(testing::HasSubstr("gone.map")));
-}
-
-TEST(DocumentReaderTest, APdfReaderIsToldThePage) {
-    const QTemporaryDir folder;
-    const QString reader = folder.filePath(QStringLiteral("evince"));
-    const QString told = folder.filePath(QStringLiteral("told"));
-    write(reader, "#!/bin/sh\nprintf '%s|' \"$@\" >" + told.toUtf8() + ".new\n/bin/mv " +
-                      told.toUtf8() + ".new " + told.toUtf8() + "\n");
-    QFile::setPermissions(reader, QFile::ReadOwner | QFile::ExeOwner);
-    const QByteArray path = qgetenv("PATH");
-    qputenv("PATH", folder.path().toUtf8());
-    const bool opened = openInReader(QStringLiteral("/books/my book.pdf"), 26);
-    qputenv("PATH", path);
-    EXPECT_TRUE(opened);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return QFile::exists(told); }));
-    EXPECT_EQ(read(told), "--page-index=26|/books/my book.pdf|");
 }
 
 TEST(WindowPlace, OutlivesTheProgram) {

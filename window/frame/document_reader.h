@@ -4,8 +4,8 @@
 
 namespace tarnel {
 
-/// Opens a document in the program that the desktop has for it; at a page above 0 in a PDF reader
-/// that can be told the page, if there is one. False if no program opens it.
+/// Opens a PDF document in the user's reader, at a page if that is above 0 and the reader can be
+/// told; without a reader in whatever the desktop opens it with. False if nothing does.
 bool openInReader(const QString& path, int page);
 
 } // namespace tarnel
