@@ -1,0 +1,27 @@
+// tarnel-help SOURCES OUT: makes the pages of the help.
+
+#include "tools/help/help_builder.h"
+#include "tools/output/tool_run.h"
+
+#include <QGuiApplication>
+
+namespace {
+
+using namespace tarnel;
+
+constexpr auto usage = "Usage: tarnel-help SOURCES OUT\n"
+                       "Makes the pages of the help as HTML from the Markdown in SOURCES.\n";
+
+} // namespace
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication application(argc, argv);
+    return runTool("tarnel-help", usage, [&] {
+        const QStringList words = QGuiApplication::arguments();
+        if (words.size() != 3)
+            throw UsageError("a folder of sources and one for the pages are needed");
+        buildHelp(words[1], words[2]);
+        return done;
+    });
+}
