@@ -65,7 +65,8 @@ int emptyTimer() {
 
 int trainer(const std::function<void(Form1&)>& prepare) {
     const QTemporaryDir scratch;
-    QtOutsideWorld outside(scratch.filePath(QStringLiteral("settings.ini")).toStdString());
+    QtOutsideWorld outside(englishTable(),
+                           scratch.filePath(QStringLiteral("settings.ini")).toStdString());
     dressApplication(englishTable(), QString::fromStdString(applicationFolder()));
     Form1 form(englishTable(), outside, applicationFolder());
     MainWindow window(form);
@@ -145,7 +146,8 @@ int emptyPaint(const QElapsedTimer& started) {
 int trainerPaint(const QElapsedTimer& started) {
     return firstPaint(started, [](const std::function<int()>& painted) {
         const QTemporaryDir scratch;
-        QtOutsideWorld outside(scratch.filePath(QStringLiteral("settings.ini")).toStdString());
+        QtOutsideWorld outside(englishTable(),
+                               scratch.filePath(QStringLiteral("settings.ini")).toStdString());
         const std::string folder = applicationFolder();
         dressApplication(englishTable(), QString::fromStdString(folder));
         Form1 form(englishTable(), outside, folder);

@@ -1,45 +1,64 @@
 #include "shell/document_desk.h"
 
+#include "core/rounding.h"
 #include "shell/documents.h"
-#include "shell/shipped_session.h"
 #include "shell/text_format.h"
 
 #include <filesystem>
 
 namespace tarnel {
 
-DocumentDesk::DocumentDesk(UserControl2& simulation, const CommandButton& loadSessionItem,
+namespace {
+
+bool exists(const std::string& path) {
+    std::error_code failure;
+    return std::filesystem::exists(path, failure);
+}
+
+} // namespace
+
+DocumentDesk::DocumentDesk(UserControl2& simulation, TrainerControls& controls,
                            PracticeDesk& practiceDesk, BoxDesk& boxDesk, OutsideWorld& world)
     : sim(simulation),
-      loadSession(loadSessionItem),
+      loadSession(controls.fileMenu.loadSession),
       practice(practiceDesk),
       boxes(boxDesk),
-      outside(world) {}
+      outside(world),
+      bookForm(controls.state, *this, boxDesk.texts),
+      chartForm(controls.state, *this, boxDesk.texts) {}
 
-std::string DocumentDesk::inApplicationFolder(const char* german, const char* other) const {
-    return sim.c_MainAppPath.get() + "/" + (boxes.texts.isGerman() ? german : other);
+std::string DocumentDesk::inApplicationFolder(const std::string& name) const {
+    return sim.c_MainAppPath.get() + "/" + name;
 }
 
-bool DocumentDesk::open(const std::string& path, int page) {
-    if (outside.openDocument(path, page))
+std::string DocumentDesk::helpFile(const std::string& page) const {
+    return inApplicationFolder((boxes.texts.isGerman() ? "Hilfe/de/" : "Hilfe/en/") + page +
+                               ".html");
+}
+
+/// False, with a box, if it is missing.
+bool DocumentDesk::isThere(const std::string& path) {
+    if (exists(path))
         return true;
-    boxes.show(Text::windowTitle, filledIn(boxes.texts[Text::noReader], {path}));
-    return false;
-}
-
-/// False, with a box, if it is missing or nothing opens it.
-bool DocumentDesk::openShipped(const char* german, const char* other) {
-    const std::string path = inApplicationFolder(german, other);
-    if (std::filesystem::exists(path))
-        return open(path, 0);
     boxes.show(Text::windowTitle, filledIn(boxes.texts[Text::documentMissing], {path}));
     return false;
 }
 
-void DocumentDesk::openBook(int page) {
-    const std::string path = inApplicationFolder("Buch/buch.pdf", "Buch/buch_en.pdf");
-    if (std::filesystem::exists(path))
-        open(path, page);
+/// False, with a box, if there is no reader.
+bool DocumentDesk::openDocument(const std::string& path, int page) {
+    if (outside.openDocument(path, page))
+        return true;
+    boxes.show(Text::noReaderTitle, std::string(boxes.texts[Text::noReader]) + "\n" +
+                                        std::string(boxes.texts[Text::noReaderInstall]) + "\n" +
+                                        filledIn(boxes.texts[Text::noReaderPath], {path}));
+    return false;
+}
+
+void DocumentDesk::OpenBook(double page) {
+    const std::string path =
+        inApplicationFolder(boxes.texts.isGerman() ? "Buch/buch.pdf" : "Buch/buch_en.pdf");
+    if (exists(path))
+        openDocument(path, toInt16(page));
     else
         boxes.show(Text::bookMissingTitle, std::string(boxes.texts[Text::bookMissing]) + "\n" +
                                                std::string(boxes.texts[Text::bookMissingInstall]));
@@ -48,14 +67,34 @@ void DocumentDesk::openBook(int page) {
 /// In flight and in an exercise the chart opens without its session.
 void DocumentDesk::openApproachChart(std::size_t index) {
     const ApproachChart& chart = approachCharts()[index];
-    boxes.show(Text::chartNoticeTitle, std::string(boxes.texts[Text::chartNotice]),
+    boxes.show(Text::chartNoticeTitle,
+               std::string(boxes.texts[Text::chartOrigin]) + "\n\n" +
+                   std::string(boxes.texts[Text::chartNotice]),
                BoxKind::notice);
-    const std::string file = std::string("default/charts/") + chart.document;
-    if (!openShipped(file.c_str(), file.c_str()) || !loadSession.enabled())
-        return;
-    if (std::filesystem::exists(
-            shippedSession(sim.c_MainAppPath, chart.session, boxes.texts, false)))
+    const std::string path = inApplicationFolder(std::string("default/charts/") + chart.document);
+    if (isThere(path) && openDocument(path, 0) && loadSession.enabled())
         practice.open(chart.session, false);
+}
+
+void DocumentDesk::openHelp(const std::string& page) {
+    const std::string path = helpFile(page);
+    const std::string shown = exists(path) ? path : helpFile(helpContentsPage);
+    if (isThere(shown))
+        outside.showHelp(shown);
+}
+
+void DocumentDesk::openInBrowser(const std::string& page) {
+    const std::string path = helpFile(page);
+    if (isThere(path) && !outside.openInBrowser(path))
+        boxes.show(Text::windowTitle, filledIn(boxes.texts[Text::noBrowser], {path}));
+}
+
+void DocumentDesk::openUserGuide() {
+    openInBrowser(helpContentsPage);
+}
+
+void DocumentDesk::openProductPage() {
+    openInBrowser(helpProductPage);
 }
 
 void DocumentDesk::showAbout() {

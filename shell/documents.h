@@ -28,6 +28,10 @@ struct BookChapter {
 /// The chapters in the order of their menu. The first item of all opens page 0 of the table.
 [[nodiscard]] std::span<const BookChapter> bookChapters();
 
+/// The pages of the help that the menus name themselves; each lies in the folder of its language.
+constexpr const char* helpContentsPage = "index";
+constexpr const char* helpProductPage = "tarnel";
+
 /// The indexes of the pages that hold the book's abbreviations and its index.
 constexpr int abbreviationsPage = 63;
 constexpr int bookIndexPage = 64;

@@ -39,7 +39,7 @@ Form1::Form1(const StringTable& table, OutsideWorld& world, std::string applicat
              [this](const std::string& path) { return referenceName(path, referencePlaces()); }}),
       flightLog({UserControl11, training, boxes, flightDesk.keeper, flown, debrief,
                  fileMenu.loadSession, [this] { return referencePlaces(); }}),
-      documents(UserControl11, fileMenu.loadSession, practice, boxes, world) {
+      documents(UserControl11, *this, practice, boxes, world) {
     UserControl11.clockSeed = [&world] { return world.clockSeed(); };
     connectDesks();
     connectSimulation();

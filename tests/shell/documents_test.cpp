@@ -32,26 +32,42 @@ class DocumentsTest : public testing::Test {
     Form1 form{englishTable(), world, withChart(folder)};
 };
 
-TEST_F(DocumentsTest, TheBookOpensInTheLanguageAndItsAbsenceLeavesTheFlightAlone) {
+TEST_F(DocumentsTest, WhatIsMissingIsToldAndTheFlightGoesOn) {
+    using testing::ElementsAre, testing::HasSubstr;
     form.startButton.click();
-    form.documents.openBook(26);
-    EXPECT_THAT(world.boxes, testing::ElementsAre(testing::HasSubstr("The book was not found")));
+    form.documents.OpenBook(26);
+    form.documents.openApproachChart(2);
+    form.documents.openHelp("radios");
+    form.documents.openProductPage();
+    EXPECT_THAT(world.boxes,
+                ElementsAre("Tarnel - Book: The book was not found !\nPlease install Tarnel again "
+                            "with the book, or have it set by \"handbook/make\".",
+                            HasSubstr("\n\nNOT FOR NAVIGATIONAL PURPOSES - INFORMATION ONLY"),
+                            HasSubstr("eddr111app[1].pdf"), HasSubstr("Hilfe/en/index.html"),
+                            HasSubstr("Hilfe/en/tarnel.html")));
     EXPECT_TRUE(world.opened.empty());
-    put("Buch/buch_en.pdf");
-    form.documents.openBook(26);
-    form.documents.openBook(0);
-    EXPECT_THAT(world.opened, testing::ElementsAre("buch_en.pdf 26", "buch_en.pdf 0"));
-    EXPECT_TRUE(form.flight.flies());
+    for (const char* file : {"Buch/buch_en.pdf", "default/charts/eddr111app[1].pdf",
+                             "Hilfe/en/index.html", "Hilfe/en/radios.html"})
+        put(file);
+    form.documents.openHelp("radios");
+    form.documents.openHelp("no such page");
+    form.documents.OpenBook(26);
+    world.boxes.clear();
     world.hasReader = false;
-    form.documents.openBook(0);
-    EXPECT_THAT(world.boxes.back(), testing::HasSubstr("No program"));
+    form.documents.bookForm.open(2);
+    form.documents.chartForm.open(2);
+    form.documents.openUserGuide();
+    EXPECT_THAT(world.opened,
+                ElementsAre("Hilfe/en/radios.html as help", "Hilfe/en/index.html as help",
+                            "buch_en.pdf 26", "buch_en.pdf 26", "eddr111app[1].pdf 0",
+                            "Hilfe/en/index.html in the browser"));
+    EXPECT_THAT(world.boxes, ElementsAre(HasSubstr("Tarnel - PDF reader not found: No PDF"),
+                                         HasSubstr("Tarnel - Approach Charts: "),
+                                         HasSubstr("[1].pdf"), HasSubstr("index.html")));
+    EXPECT_TRUE(form.flight.flies());
 }
 
 TEST_F(DocumentsTest, AnApproachChartBringsItsSessionAtRestOnly) {
-    form.documents.openApproachChart(2);
-    ASSERT_EQ(world.boxes.size(), 2U);
-    EXPECT_THAT(world.boxes[0], testing::HasSubstr("NOT FOR NAVIGATIONAL PURPOSES"));
-    EXPECT_THAT(world.boxes[1], testing::HasSubstr("eddr111app[1].pdf"));
     put("default/charts/eddr111app[1].pdf");
     const std::string german = put("default/sessions/orient eddr 27.ts", session());
     form.startButton.click();
@@ -59,13 +75,15 @@ TEST_F(DocumentsTest, AnApproachChartBringsItsSessionAtRestOnly) {
     EXPECT_EQ(shownSession(), "New Session.ts");
     EXPECT_TRUE(form.flight.flies());
     form.startButton.click();
+    form.chartPage.trace.set(0);
     form.documents.openApproachChart(2);
     EXPECT_EQ(shownSession(), german);
+    EXPECT_EQ(form.UserControl11.c_TraceEN, 1);
     const std::string english = put("default/sessions/e-orient eddr 27.ts", session());
     form.documents.openApproachChart(2);
     EXPECT_EQ(shownSession(), english);
     EXPECT_EQ(world.opened.size(), 3U);
-    EXPECT_EQ(world.boxes.size(), 5U);
+    EXPECT_EQ(world.boxes.size(), 3U);
 }
 
 TEST_F(DocumentsTest, FilesFromOutsideOpenAsTheirNamesSayAndOnlyAtRest) {

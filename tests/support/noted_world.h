@@ -41,6 +41,13 @@ struct NotedWorld : OutsideWorld {
         return hasReader;
     }
     [[nodiscard]] NavFolders navFolders() const override { return navigation; }
+    bool openInBrowser(const std::string& path) override {
+        opened.push_back(path.substr(path.find("Hilfe")) + " in the browser");
+        return hasReader;
+    }
+    void showHelp(const std::string& path) override {
+        opened.push_back(path.substr(path.find("Hilfe")) + " as help");
+    }
     std::int64_t secondsNow() override { return ++seconds; }
 };
 

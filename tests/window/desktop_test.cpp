@@ -50,8 +50,6 @@ TEST_F(MenuTest, FilesAndExercisesRestInFlightAndInAnExercise) {
         EXPECT_FALSE(opens(name)) << name;
     EXPECT_TRUE(opens("mnufile") &&
                 opens("mnuOption")); // the flight pauses for what they have left
-    item("userguide").trigger();
-    EXPECT_THAT(world.boxes, testing::ElementsAre(testing::HasSubstr("guide_en.pdf")));
     EXPECT_TRUE(form->flight.flies());
     click("Command6");
     EXPECT_TRUE(opens("vorprac"));
@@ -103,13 +101,13 @@ TEST(WindowPlace, OutlivesTheProgram) {
     QWidget window;
     {
         FileSettings settings(file);
-        EXPECT_FALSE(takePlace(window, settings));
+        EXPECT_FALSE(takePlace(window, settings, "place"));
         QWidget before;
         before.setGeometry(60, 50, 500, 400);
-        keepPlace(before, settings);
+        keepPlace(before, settings, "place");
     }
     const FileSettings settings(file);
-    EXPECT_TRUE(takePlace(window, settings));
+    EXPECT_TRUE(takePlace(window, settings, "place"));
     EXPECT_EQ(window.geometry(), QRect(60, 50, 500, 400));
 }
 
@@ -118,7 +116,7 @@ class DialogTest : public MenuTest {
   protected:
     void openWithDialogs() {
         outside = std::make_unique<QtOutsideWorld>(
-            folder.filePath(QStringLiteral("settings.ini")).toStdString());
+            englishTable(), folder.filePath(QStringLiteral("settings.ini")).toStdString());
         form = std::make_unique<Form1>(englishTable(), *outside, TARNEL_APPLICATION_FOLDER);
         window = std::make_unique<MainWindow>(*form);
         outside->setParent(window.get());

@@ -28,9 +28,7 @@ class HandStudent : public Student {
             if (entry.path().filename() != "Buch")
                 std::filesystem::create_symlink(entry.path(), folder.at / entry.path().filename());
         std::filesystem::create_directory(folder.at / "Buch");
-        for (const char* name :
-             {"Buch/buch_en.pdf", "help_en.html", "guide_en.pdf", "tarnel_en.html"})
-            std::ofstream(folder.at / name) << '-';
+        std::ofstream(folder.at / "Buch/buch_en.pdf") << '-';
         applicationFolder = folder.path;
     }
     void openBehindAFlight() {
@@ -65,6 +63,7 @@ class HandStudent : public Student {
                   {"finder", told(window->findChild<QWidget*>("ChartFinder") != nullptr)},
                   {"debrief", told(form->debrief.isOpen(), form->debrief.choosesTask())},
                   {"choice", told(form->debrief.choice().course)},
+                  {"forms", told(form->documents.bookForm.shown, form->documents.chartForm.shown)},
                   {"box", world.boxes.empty() ? "" : world.boxes.back()},
                   {"opened", world.opened.empty() ? "" : world.opened.back()},
                   {"asked", world.asked.empty() ? "" : world.asked.back()}};
@@ -213,8 +212,8 @@ TEST_F(HandStudent, EveryItemOfTheMenusDoesWhatItIsNamedFor) {
         "intro1 c_SessionFileName=e-introduction1.ts intro2 c_SessionFileName=e-introduction2.ts "
         "bookStart opened=buch_en.pdf0 pdf31 opened=buch_en.pdf30 "
         "bookAbbreviations opened=buch_en.pdf250 bookIndex opened=buch_en.pdf251 "
-        "hilfeindex opened=help_en.html0 userguide opened=guide_en.pdf0 webqxr "
-        "opened=tarnel_en.html0 "
+        "hilfeindex opened=ashelp userguide opened=en/index.htmlinthebrowser "
+        "webqxr opened=en/tarnel.htmlinthebrowser frmBuchPDF forms=10 frmJeppPDF forms=01 "
         "eddk box=eddk eddl box=eddl eddr box=eddr edds box=edds edma box=edma lime box=lime "
         "lkkv box=lkkv lkpr box=lkpr lowg box=lowg "
         "test box=Tarnel headingUp c_MAPnorthUP=0 headingUp/northUp c_MAPnorthUP=1 "

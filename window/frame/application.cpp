@@ -30,6 +30,7 @@ namespace {
 /// The share of a large screen that the window takes at first; on a small one it takes all.
 constexpr double shareOfScreen = 0.86;
 constexpr QSize smallScreen{1366, 860};
+constexpr const char* windowPlace = "place";
 constexpr int otherHangs = 1;
 constexpr int usageIsWrong = 2;
 
@@ -87,7 +88,7 @@ int runApplication(int argc, char** argv, const StringTable& texts) {
     if (start != SingleInstance::Start::first)
         return leaveToOther(texts, start);
     installPanelAccessibility();
-    QtOutsideWorld outside;
+    QtOutsideWorld outside(texts);
     Form1 form(texts, outside, folder);
     form.courses.setFolder(userCourses());
     form.training.useLog([](TrainingDesk& desk) {
@@ -108,8 +109,8 @@ int runApplication(int argc, char** argv, const StringTable& texts) {
         showAgain(window);
         openIn(path);
     };
-    window.onClose = [&] { keepPlace(window, outside.settings()); };
-    if (takePlace(window, outside.settings()))
+    window.onClose = [&] { keepPlace(window, outside.settings(), windowPlace); };
+    if (takePlace(window, outside.settings(), windowPlace))
         window.show();
     else
         openOnScreen(window);

@@ -9,6 +9,7 @@
 #include "window/radios/nav_module.h"
 #include "window/radios/stopwatch_module.h"
 #include "window/widgets/cover_plate.h"
+#include "window/widgets/help_page.h"
 
 #include <QPainter>
 
@@ -72,12 +73,18 @@ void InstrumentPanel::makeModules(FormBinding& binding, PictureStore& pictures,
     modules = {nav1, nav2, adf, dme, stopwatch, autopilot};
     for (ModuleFrame* module : modules)
         module->guard = guard;
-    nav1->setObjectName(QStringLiteral("NAVControlFace1"));
-    nav2->setObjectName(QStringLiteral("NAVControlFace2"));
-    adf->setObjectName(QStringLiteral("ADFControlFace1"));
-    dme->setObjectName(QStringLiteral("DMEControlFace1"));
-    stopwatch->setObjectName(QStringLiteral("tvsmtimer1"));
-    autopilot->setObjectName(QStringLiteral("APControlFace1"));
+    nameModules();
+}
+
+void InstrumentPanel::nameModules() {
+    constexpr std::pair<const char*, const char*> namesAndHelp[] = {
+        {"NAVControlFace1", "radios"}, {"NAVControlFace2", "radios"}, {"ADFControlFace1", "radios"},
+        {"DMEControlFace1", "radios"}, {"tvsmtimer1", "stopwatch"},   {"APControlFace1", "flight"},
+    };
+    for (std::size_t i = 0; i < modules.size(); ++i) {
+        modules[i]->setObjectName(QString::fromLatin1(namesAndHelp[i].first));
+        setHelpPage(*modules[i], namesAndHelp[i].second);
+    }
 }
 
 void InstrumentPanel::layOutChannelLamp(std::size_t position, const QRect& bezel) {

@@ -56,6 +56,7 @@ class InstrumentPanel : public QWidget {
   private:
     void makeInstruments(FormBinding& binding, PictureStore& pictures, const ModelGuard& guard);
     void makeModules(FormBinding& binding, PictureStore& pictures, const ModelGuard& guard);
+    void nameModules();
     [[nodiscard]] SpokenStations stationsOf(const InstrumentPosition& position) const;
     void coverInstruments();
     void showChannelLamps();

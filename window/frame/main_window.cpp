@@ -17,14 +17,16 @@
 #include "window/frame/flight_signs.h"
 #include "window/frame/instrument_panel.h"
 #include "window/frame/menu_tree.h"
+#include "window/frame/pdf_form_window.h"
 #include "window/frame/status_panels.h"
 #include "window/progress/progress_page.h"
 #include "window/quiz/quiz_panel.h"
 #include "window/strip/control_strip.h"
+#include "window/widgets/help_page.h"
 #include "window/widgets/style_sheet.h"
 
+#include <QApplication>
 #include <QCloseEvent>
-#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QMenuBar>
 
@@ -88,6 +90,7 @@ void MainWindow::makeMenus() {
                 .documents = form.documents,
                 .boxes = form.boxes,
                 .pressKey = [this](char letter) { form.pressKey(letter); },
+                .help = [this] { openHelp(); },
                 .exit = [this] { close(); }},
                binding);
 }
@@ -160,6 +163,30 @@ void MainWindow::makeDesk() {
     chart->setLayer(std::make_unique<DebriefLayer>(debriefModel()));
     connectExports(debriefModel());
     gyro = new additional_DG(form, form.exercise, form.boxes, pictures, this);
+    bookForm = new PdfFormWindow(form.documents.bookForm, form.boxes, binding, *this);
+    chartForm = new PdfFormWindow(form.documents.chartForm, form.boxes, binding, *this);
+    makeHelpPages();
+}
+
+/// Parts within these may have pages of their own.
+void MainWindow::makeHelpPages() {
+    setHelpPage(*chart, "chart");
+    setHelpPage(*strip, "flight");
+    setHelpPage(*comment, "comments");
+    setHelpPage(*panel, "instruments");
+    setHelpPage(*gyro, "instruments");
+    setHelpPage(*quiz, "exercises");
+    setHelpPage(*debriefCard, "debrief");
+    setHelpPage(*debriefPlot, "debrief");
+}
+
+/// Where nothing has the keyboard, the page is that of what has come over the desk.
+void MainWindow::openHelp() {
+    QString page = helpPageOf(QApplication::focusWidget());
+    for (const QWidget* part : std::initializer_list<const QWidget*>{progress, debriefCard, quiz})
+        if (page.isEmpty() && part && part->isVisible())
+            page = helpPageOf(part);
+    form.documents.openHelp(page.toStdString());
 }
 
 /// The page is made when it is first asked for, and covers all but the status bar.
@@ -177,6 +204,7 @@ void MainWindow::makeProgress() {
                          return form.flightLog.open(flights);
                      }},
                 desk);
+            setHelpPage(*progress, "progress");
             progress->onClose = [this] { coverDesk(false); };
             layOut();
         }
@@ -347,6 +375,8 @@ void MainWindow::refresh() {
     panel->refresh();
     debriefPlot->refresh();
     gyro->refresh();
+    bookForm->refresh();
+    chartForm->refresh();
     flightSigns->refresh();
 }
 

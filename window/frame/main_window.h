@@ -24,6 +24,7 @@ class ControlStrip;
 class FileOpener;
 class FlightSigns;
 class InstrumentPanel;
+class PdfFormWindow;
 class ProgressPage;
 class QuizPanel;
 struct DebriefModel;
@@ -68,6 +69,8 @@ class MainWindow : public QMainWindow {
     [[nodiscard]] DebriefModel debriefModel();
     void makeDesk();
     void makeProgress();
+    void makeHelpPages();
+    void openHelp();
     void coverDesk(bool covered);
     void layOut();
     void layOutDebrief(const WindowLayout& layout);
@@ -98,6 +101,8 @@ class MainWindow : public QMainWindow {
     StatusPanels* status = nullptr;
     additional_DG* gyro = nullptr;
     CouplingPulse pulse;
+    PdfFormWindow* bookForm = nullptr;
+    PdfFormWindow* chartForm = nullptr;
     QTimer simulationTimer;
     QTimer autopilotTimer;
     QTimer replayTimer;

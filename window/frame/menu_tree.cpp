@@ -195,7 +195,7 @@ void MenuBuilder::bookChapter(QMenu& parent, const BookChapter& chapter, int& pa
         const QString name = QString::fromLatin1(chapter.name) + QString::number(id - first + 1);
         opening(*list, name, static_cast<Text>(id),
                 [&desk = model.documents, number = model.boxes.texts.bookPage(page)] {
-                    desk.openBook(number);
+                    desk.OpenBook(number);
                 });
     }
 }
@@ -206,12 +206,16 @@ void MenuBuilder::approaches(QMenu& parent) {
     for (std::size_t i = 0; i < charts.size(); ++i)
         opening(*list, QString::fromLatin1(charts[i].document).left(4), charts[i].name,
                 [&desk = model.documents, i] { desk.openApproachChart(i); });
+    list->addSeparator();
+    binding.bind(model.documents.chartForm.shown,
+                 *entry(*list, "frmJeppPDF", text(Text::chartForm)));
 }
 
 void MenuBuilder::buildBook() {
     QMenu* book = menu(bar, "mnubuch", Text::menuBook);
     opening(*book, QStringLiteral("bookStart"), Text::bookStart,
-            [&desk = model.documents] { desk.openBook(0); });
+            [&desk = model.documents] { desk.OpenBook(0); });
+    binding.bind(model.documents.bookForm.shown, *entry(*book, "frmBuchPDF", text(Text::bookForm)));
     book->addSeparator();
     int page = 0;
     for (const BookChapter& chapter : bookChapters())
@@ -280,9 +284,10 @@ void MenuBuilder::buildHelp() {
     QMenu* help = menu(bar, "mnuhelp", Text::menuHelp);
     DocumentDesk* desk = &model.documents;
     const auto page = [this, desk](int index) {
-        return [desk, number = model.boxes.texts.bookPage(index)] { desk->openBook(number); };
+        return [desk, number = model.boxes.texts.bookPage(index)] { desk->OpenBook(number); };
     };
-    opening(*help, QStringLiteral("hilfeindex"), Text::helpIndex, [desk] { desk->openHelp(); });
+    opening(*help, QStringLiteral("hilfeindex"), Text::helpIndex, model.help)
+        ->setShortcut(QKeySequence::HelpContents);
     QMenu* introduction = menu(*help, "intromain", Text::introduction);
     bound(*introduction, model.controls.exerciseMenu.introduction1);
     bound(*introduction, model.controls.exerciseMenu.introduction2);

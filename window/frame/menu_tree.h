@@ -27,6 +27,7 @@ struct MenuModel {
     DocumentDesk& documents;
     BoxDesk& boxes;
     std::function<void(char)> pressKey;
+    std::function<void()> help; ///< shows the page of what has the keyboard
     std::function<void()> exit;
 };
 

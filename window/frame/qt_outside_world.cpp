@@ -1,14 +1,32 @@
 #include "window/frame/qt_outside_world.h"
 
 #include "window/frame/document_reader.h"
+#include "window/frame/window_place.h"
+#include "window/help/help_window.h"
 
 #include <QApplication>
 #include <QDateTime>
+#include <QDesktopServices>
 #include <QMessageBox>
+#include <QUrl>
 
 #include <chrono>
 
 namespace tarnel {
+
+namespace {
+
+constexpr const char* helpPlace = "help";
+
+} // namespace
+
+QtOutsideWorld::QtOutsideWorld(const StringTable& table, std::string settingsFile)
+    : texts(table), kept(std::move(settingsFile)) {}
+
+QtOutsideWorld::~QtOutsideWorld() {
+    if (help && help->isVisible())
+        keepPlace(*help, kept, helpPlace);
+}
 
 /// The dialog that is open, else the window.
 QWidget* QtOutsideWorld::front() const {
@@ -39,6 +57,19 @@ std::optional<std::string> QtOutsideWorld::chooseFile(const FileQuestion& questi
 
 bool QtOutsideWorld::openDocument(const std::string& path, int page) {
     return openInReader(QString::fromStdString(path), page);
+}
+
+bool QtOutsideWorld::openInBrowser(const std::string& path) {
+    return QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(path)));
+}
+
+void QtOutsideWorld::showHelp(const std::string& path) {
+    if (!help) {
+        help = std::make_unique<HelpWindow>(texts);
+        help->onClose = [this] { keepPlace(*help, kept, helpPlace); };
+        takePlace(*help, kept, helpPlace);
+    }
+    help->open(QString::fromStdString(path));
 }
 
 std::int64_t QtOutsideWorld::secondsNow() {

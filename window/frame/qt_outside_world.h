@@ -1,24 +1,32 @@
 #pragma once
 
 #include "shell/outside_world.h"
+#include "strings/string_table.h"
 #include "window/frame/file_dialog.h"
 #include "window/frame/file_settings.h"
 
 #include <QPointer>
 #include <QWidget>
 
+#include <memory>
+
 namespace tarnel {
+
+class HelpWindow;
 
 /// `QtOutsideWorld`: boxes and dialogs over the main window, the clock, and the settings of a file.
 class QtOutsideWorld : public OutsideWorld {
   public:
-    explicit QtOutsideWorld(std::string settingsFile = userSettingsFile())
-        : kept(std::move(settingsFile)) {}
+    explicit QtOutsideWorld(const StringTable& table,
+                            std::string settingsFile = userSettingsFile());
+    ~QtOutsideWorld() override;
 
     void messageBox(BoxKind kind, const std::string& title, const std::string& text) override;
     bool ask(const std::string& title, const std::string& text) override;
     std::optional<std::string> chooseFile(const FileQuestion& question) override;
     bool openDocument(const std::string& path, int page) override;
+    bool openInBrowser(const std::string& path) override;
+    void showHelp(const std::string& path) override;
     std::int64_t secondsNow() override;
     std::int64_t millisecondsNow() override;
     std::string localTime(std::int64_t seconds, const std::string& format) override;
@@ -32,9 +40,11 @@ class QtOutsideWorld : public OutsideWorld {
   private:
     [[nodiscard]] QWidget* front() const;
 
+    const StringTable& texts;
     QPointer<QWidget> parent;
     FileDialog files;
     FileSettings kept;
+    std::unique_ptr<HelpWindow> help; ///< made when it is first asked for
 };
 
 } // namespace tarnel

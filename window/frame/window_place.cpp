@@ -10,16 +10,15 @@ namespace {
 
 constexpr const char* application = "tarnel";
 constexpr const char* section = "window";
-constexpr const char* key = "place";
 
 } // namespace
 
-void keepPlace(const QWidget& window, SettingsStore& settings) {
+void keepPlace(const QWidget& window, SettingsStore& settings, const char* key) {
     settings.setValue(application, section, key, window.saveGeometry().toBase64().toStdString());
     settings.flush();
 }
 
-bool takePlace(QWidget& window, const SettingsStore& settings) {
+bool takePlace(QWidget& window, const SettingsStore& settings, const char* key) {
     const std::string kept = settings.value(application, section, key, {});
     return !kept.empty() &&
            window.restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(kept)));

@@ -7,6 +7,7 @@
 #include "window/strip/strip_tabs.h"
 #include "window/strip/strip_wind_page.h"
 #include "window/widgets/card.h"
+#include "window/widgets/help_page.h"
 #include "window/widgets/icons.h"
 #include "window/widgets/segment_row.h"
 
@@ -29,6 +30,9 @@ constexpr int gapInRow = 5;
 
 /// Narrower strips do without the words before the speeds and the read-outs.
 constexpr int roomForCaptions = 420;
+
+/// The help of the pages, in their order.
+constexpr const char* pageHelp[] = {"chart", "replay", "chart", "radios"};
 
 } // namespace
 
@@ -90,6 +94,9 @@ QHBoxLayout* ControlStrip::makeTabRow() {
     row->setSpacing(0);
     auto* tabs = new StripTabs(this);
     binding.bind(pageOptions(), *tabs);
+    const auto follow = [tabs](int page) { setHelpPage(*tabs, pageHelp[page]); };
+    connect(tabs, &QTabBar::currentChanged, tabs, follow);
+    follow(tabs->currentIndex());
     row->addWidget(tabs);
     row->addStretch(1);
     addReadout(*row, Text::autopilotSpeed, model.controls.speedReadout, Text::unitKnots);
@@ -120,8 +127,10 @@ QScrollArea* ControlStrip::makePages() {
     stack = new QStackedWidget;
     pages = {new StripChartPage(model, binding, stack), new StripReplayPage(model, binding, stack),
              new StripWindPage(model, binding, stack), new StripStationPage(model, binding, stack)};
-    for (StripPage* page : pages)
-        stack->addWidget(page);
+    for (std::size_t i = 0; i < pages.size(); ++i) {
+        setHelpPage(*pages[i], pageHelp[i]);
+        stack->addWidget(pages[i]);
+    }
     scroll->setWidget(stack);
     return scroll;
 }
