@@ -55,41 +55,47 @@ constexpr std::array kinds = {Word<Kind>{"line", Kind::line}, Word<Kind>{"holdin
                               Word<Kind>{"arc", Kind::arc}, Word<Kind>{"wind", Kind::wind},
                               Word<Kind>{"reference", Kind::reference}};
 
-double course(PlanTable& table, std::string_view key) {
-    return table.whole(key, plan_limits::direction).value_or(0);
+/// What each task has: a course over a station.
+struct CourseOver {
+    Slot station = Slot::vor1;
+    double degrees = 0;
+};
+
+template <std::size_t count>
+CourseOver readCourse(PlanTable& table, const std::array<Word<Slot>, count>& offered,
+                      const char* key = "course") {
+    CourseOver read;
+    read.station = oneOf(table, "station", offered).value_or(read.station);
+    read.degrees = table.whole(key, plan_limits::direction).value_or(0);
+    table.need("station");
+    table.need(key);
+    return read;
 }
 
 LineTask readLine(PlanTable& table) {
-    LineTask task;
-    task.station = oneOf(table, "station", stations).value_or(task.station);
-    task.course = course(table, "course");
+    const CourseOver over = readCourse(table, stations);
+    LineTask task{.station = over.station, .course = over.degrees};
     task.inbound = oneOf(table, "way", ways).value_or(true);
     task.cut = table.number("cut", plan_limits::cut);
     task.joins = table.truth("joins").value_or(task.cut.has_value());
-    for (const char* key : {"station", "course"})
-        table.need(key);
     return task;
 }
 
 HoldTask readHolding(PlanTable& table) {
-    HoldTask task;
-    task.fix = oneOf(table, "station", stations).value_or(task.fix);
-    task.inbound = course(table, "course");
+    const CourseOver over = readCourse(table, stations);
+    HoldTask task{.fix = over.station, .inbound = over.degrees};
     task.side = oneOf(table, "turns", sides).value_or(task.side);
     task.minutes = table.number("minutes", plan_limits::legMinutes).value_or(task.minutes);
-    for (const char* key : {"station", "course"})
-        table.need(key);
     return task;
 }
 
 ArcTask readArc(PlanTable& table) {
-    ArcTask task;
-    task.station = oneOf(table, "station", dmeStations).value_or(task.station);
+    const CourseOver over = readCourse(table, dmeStations, "final");
+    ArcTask task{.station = over.station, .final = over.degrees};
     task.distance = table.number("distance", plan_limits::arcDistance).value_or(0);
     task.clockwise = oneOf(table, "sense", senses).value_or(true);
-    task.final = course(table, "final");
     task.inbound = oneOf(table, "way", ways).value_or(true);
-    for (const char* key : {"station", "distance", "sense", "final"})
+    for (const char* key : {"distance", "sense"})
         table.need(key);
     return task;
 }
