@@ -170,12 +170,8 @@ void ArcFlight::judgeLead() {
     if (lead) {
         const auto [least, most] = std::minmax({leadOfBook(), leadInWind()});
         const double flown = hand * turnBetween(path.from(lead->first).radial, finalRadial());
-        Finding& turn =
-            judgement.between(FindingKind::leadRadial, flown, {least, most},
-                              judgement.limit(Limit::leadRadial), {lead->first, lead->last});
-        // Told as the radials that the pilot sees.
-        turn.value = path.from(lead->first).radial;
-        turn.expected = circle(finalRadial() - hand * *turn.expected);
+        judgement.between(FindingKind::leadRadial, flown, {least, most},
+                          judgement.limit(Limit::leadRadial), {lead->first, lead->last});
     }
     if (established < 0) {
         judgement.fault(FindingKind::neverEstablished, {ends, path.last()});
@@ -211,7 +207,8 @@ void ArcFlight::drawLine() {
         arc.points.push_back(placeOn(path.place(), {circle(from + hand * turned), overGround}));
     arc.points.push_back(placeOn(path.place(), {finalRadial(), overGround}));
     judgement.told.lines.push_back(std::move(arc));
-    judgement.told.lines.push_back(final.line());
+    judgement.told.lines.push_back(final.corridor(final.established(judgement), final.farthest()));
+    judgement.told.lines.push_back(final.line(final.farthest()));
 }
 
 void ArcFlight::judge() {

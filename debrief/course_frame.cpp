@@ -55,13 +55,36 @@ Series& CourseFrame::plot(Judgement& judgement) const {
                             });
 }
 
-TaskLine CourseFrame::line() const {
-    double farthest = 1;
+void CourseFrame::plotDistance(Judgement& judgement) const {
+    if (path.isBeacon())
+        judgement.series(SeriesKind::offLine, FindingUnit::nauticalMiles,
+                         [this](int i) { return -cross(i); });
+    else
+        judgement.series(SeriesKind::distance, FindingUnit::nauticalMiles,
+                         [this](int i) { return path.dme(i); });
+}
+
+double CourseFrame::farthest() const {
+    double miles = 1;
     for (int i = 0; i < path.size(); ++i)
-        farthest = std::max(farthest, path.from(i).distance);
-    const GeoPosition far = placeOn(path.place(), {circle(course + (inbound ? 180 : 0)), farthest});
+        miles = std::max(miles, path.from(i).distance);
+    return miles;
+}
+
+GeoPosition CourseFrame::placeAside(double degrees, double miles) const {
+    const double away = course + (inbound ? 180 : 0);
+    return placeOn(path.place(), {circle(away + degrees), miles});
+}
+
+TaskLine CourseFrame::line(double miles) const {
+    const GeoPosition far = placeAside(0, miles);
     return {TaskLineKind::line,
             inbound ? std::vector{far, path.place()} : std::vector{path.place(), far}};
+}
+
+TaskLine CourseFrame::corridor(double degrees, double miles) const {
+    return {TaskLineKind::corridor,
+            {path.place(), placeAside(-degrees, miles), placeAside(degrees, miles), path.place()}};
 }
 
 } // namespace tarnel

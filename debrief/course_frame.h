@@ -41,11 +41,19 @@ class CourseFrame {
 
     /// The needle's series; beyond a quarter of a circle it has no value.
     Series& plot(Judgement& judgement) const;
-    /// The line from the station as far as it is flown.
-    [[nodiscard]] TaskLine line() const;
+    /// The DME's distance, or where the station has none, how far off the line it is.
+    void plotDistance(Judgement& judgement) const;
+    /// NM from the station, at least one.
+    [[nodiscard]] double farthest() const;
+    /// The line on its side of the station, so many miles long.
+    [[nodiscard]] TaskLine line(double miles) const;
+    /// What lies within so many degrees of it.
+    [[nodiscard]] TaskLine corridor(double degrees, double miles) const;
 
   private:
     [[nodiscard]] bool isOnLine(int i, double within) const;
+    /// On this side of the station, so many degrees right of the line.
+    [[nodiscard]] GeoPosition placeAside(double degrees, double miles) const;
 };
 
 } // namespace tarnel

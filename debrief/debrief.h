@@ -25,7 +25,6 @@ enum class FindingKind {
 
 enum class FindingUnit {
     degrees, ///< an angle; a correction is positive to the right
-    bearing, ///< 0 up to 360
     nauticalMiles,
     seconds,
     percent,
@@ -85,8 +84,8 @@ struct Series {
     std::vector<Band> bands;
 };
 
-/// A line of the task on the chart.
-enum class TaskLineKind { line, racetrack, arc, reference };
+/// A line of the task on the chart; a corridor is the outline of what a needle's limits allow.
+enum class TaskLineKind { line, racetrack, arc, reference, corridor };
 struct TaskLine {
     TaskLineKind kind{};
     std::vector<GeoPosition> points;

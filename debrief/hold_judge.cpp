@@ -444,6 +444,9 @@ void HoldFlight::drawLine() {
     TaskLine line{TaskLineKind::racetrack, {}};
     for (const FromStation& point : track->points)
         line.points.push_back(placeOn(path.place(), point));
+    const double farthest = std::ranges::max(track->points, {}, &FromStation::distance).distance;
+    judgement.told.lines.push_back(frame.corridor(frame.kept(judgement), farthest));
+    judgement.told.lines.push_back(frame.line(farthest));
     judgement.told.lines.push_back(std::move(line));
 }
 
@@ -452,7 +455,7 @@ void HoldFlight::judge() {
     const int there = std::max(arrived, 0);
     track = racetrackOf(task, path.wind(there), path.tas(there));
     frame.plot(judgement);
-    plotDistance(judgement, path);
+    frame.plotDistance(judgement);
     plotHeading(judgement, path);
     drawLine();
     const std::vector<double> over = arrived < 0 ? std::vector<double>() : crossings(arrived);

@@ -92,13 +92,8 @@ Series& Judgement::series(SeriesKind kind, FindingUnit unit,
 }
 
 void plotHeading(Judgement& judgement, const FlownPath& path) {
-    judgement.series(SeriesKind::heading, FindingUnit::bearing,
+    judgement.series(SeriesKind::heading, FindingUnit::degrees,
                      [&](int i) { return path.heading(i); });
-}
-
-void plotDistance(Judgement& judgement, const FlownPath& path) {
-    judgement.series(SeriesKind::distance, FindingUnit::nauticalMiles,
-                     [&](int i) { return path.dme(i); });
 }
 
 } // namespace tarnel

@@ -47,8 +47,7 @@ class Judgement {
     Finding& add(FindingKind kind, double value, SampleSpan samples);
 };
 
-/// The debrief's last series: what the dial shows of heading and DME.
+/// The debrief's last series: what the dial shows of the heading.
 void plotHeading(Judgement& judgement, const FlownPath& path);
-void plotDistance(Judgement& judgement, const FlownPath& path);
 
 } // namespace tarnel

@@ -220,9 +220,10 @@ void LineFlight::judgeTrack() {
 void LineFlight::judge() {
     findLegs();
     frame.plot(judgement);
-    plotDistance(judgement, path);
+    frame.plotDistance(judgement);
     plotHeading(judgement, path);
-    judgement.told.lines.push_back(frame.line());
+    judgement.told.lines.push_back(frame.corridor(frame.kept(judgement), frame.farthest()));
+    judgement.told.lines.push_back(frame.line(frame.farthest()));
     judgeDirection();
     const bool unseen = passesUnseen();
     if (joined < 0) {

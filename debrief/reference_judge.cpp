@@ -80,7 +80,7 @@ void judgeReference(std::span<const Sample> flight, const ReferenceTask& task,
         return;
     const SampleSpan all{0, static_cast<int>(count) - 1};
     distances.bands.push_back({all, 0, farthest});
-    judgement.series(SeriesKind::heading, FindingUnit::bearing,
+    judgement.series(SeriesKind::heading, FindingUnit::degrees,
                      [&](int i) { return flight[static_cast<std::size_t>(i)].traceHeading; });
     judgement.series(SeriesKind::speed, FindingUnit::knots, [&](int i) {
         return std::optional<double>(flight[static_cast<std::size_t>(i)].traceTAS);

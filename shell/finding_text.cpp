@@ -2,7 +2,6 @@
 
 #include "core/number_text.h"
 #include "core/rounding.h"
-#include "core/station_geometry.h"
 #include "shell/text_format.h"
 
 #include <array>
@@ -12,12 +11,14 @@ namespace tarnel {
 
 namespace {
 
-Text sentenceOf(FindingKind kind) {
+Text sentenceOf(const Finding& finding) {
     static constexpr Text sentences[] = {
 #define FINDING(name, unit, limit, text) Text::text,
 #include "debrief/findings.def"
     };
-    return sentences[static_cast<std::size_t>(kind)];
+    if (finding.kind == FindingKind::leadRadial && finding.value < 0)
+        return Text::findingLeadBehind;
+    return sentences[static_cast<std::size_t>(finding.kind)];
 }
 
 bool isCorrection(FindingKind kind) {
@@ -36,8 +37,6 @@ std::string entryText(double value, const StringTable& texts) {
 
 /// Without the unit; whole numbers but for miles and small angles.
 std::string digitsOf(double value, FindingUnit unit, const StringTable& texts) {
-    if (unit == FindingUnit::bearing)
-        return threeDigits(value);
     constexpr double small = 10;
     const int decimals = unit == FindingUnit::nauticalMiles                        ? 2
                          : unit == FindingUnit::degrees && std::abs(value) < small ? 1
@@ -59,6 +58,8 @@ std::string withUnit(const std::string& digits, FindingUnit unit, const StringTa
 
 std::string valueOf(const Finding& finding, double value, const StringTable& texts) {
     const FindingUnit unit = unitOf(finding.kind);
+    if (finding.kind == FindingKind::leadRadial)
+        return valueText(std::abs(value), unit, texts);
     if (!isCorrection(finding.kind))
         return valueText(value, unit, texts);
     const double size = roundTo(std::abs(value), 0);
@@ -82,6 +83,13 @@ Text wrongBeside(const Finding& finding) {
     }
 }
 
+/// Who leads by more turns before he should.
+std::string leadVerdict(const Finding& finding, const StringTable& texts) {
+    const double early = finding.value - finding.expected.value_or(0);
+    return filledIn(texts[early > 0 ? Text::verdictEarlyBy : Text::verdictLateBy],
+                    {valueText(std::abs(early), FindingUnit::degrees, texts)});
+}
+
 /// What is wrong with a value that is larger than the greatest allowed.
 Text wrongBeyond(const Finding& finding) {
     if (finding.kind == FindingKind::interceptAngle)
@@ -101,7 +109,7 @@ Text wrongBeyond(const Finding& finding) {
 
 std::string findingText(const Finding& finding, const StringTable& texts) {
     std::string said =
-        filledIn(texts[sentenceOf(finding.kind)], {valueOf(finding, finding.value, texts)});
+        filledIn(texts[sentenceOf(finding)], {valueOf(finding, finding.value, texts)});
     if (finding.verdict == Verdict::open)
         return said;
     if (finding.expected && finding.tolerance)
@@ -122,6 +130,8 @@ std::string findingText(const Finding& finding, const StringTable& texts) {
 std::string verdictText(const Finding& finding, const StringTable& texts) {
     if (finding.verdict == Verdict::open)
         return "";
+    if (finding.verdict == Verdict::wrong && finding.kind == FindingKind::leadRadial)
+        return leadVerdict(finding, texts);
     const Text word = finding.verdict == Verdict::right ? Text::verdictRight
                       : finding.expected                ? wrongBeside(finding)
                       : finding.tolerance               ? wrongBeyond(finding)
@@ -149,7 +159,6 @@ std::string unitText(FindingUnit unit, const StringTable& texts) {
         return std::string(texts[Text::unitSecondSign]);
     case FindingUnit::percent:
         return std::string(texts[Text::unitPercent]);
-    case FindingUnit::bearing:
     case FindingUnit::count:
     case FindingUnit::side:
     case FindingUnit::entry:

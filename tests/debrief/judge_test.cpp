@@ -95,8 +95,17 @@ TEST(Judge, TellsWhereTheNeedleAndTheLineWere) {
     ASSERT_EQ(needle.bands.size(), 1U);
     EXPECT_EQ(needle.bands[0].high, 7.5);
     EXPECT_NEAR(*debrief.series[1].values[0], std::hypot(16, 3, 0.9875), 0.01);
-    ASSERT_EQ(debrief.lines.size(), 1U);
-    EXPECT_EQ(debrief.lines[0].points.back(), flown.samples[0].traceStations[0]);
+    ASSERT_EQ(debrief.lines.size(), 2U);
+    EXPECT_EQ(debrief.lines[1].points.back(), flown.samples[0].traceStations[0]);
+    for (const int edge : {1, 2}) {
+        const FromStation seen =
+            fromStation(debrief.lines[1].points.back(), debrief.lines[0].points[edge]);
+        EXPECT_NEAR(seen.radial, edge == 1 ? 262.5 : 277.5, 0.01) << "as wide as the band";
+        EXPECT_NEAR(seen.distance, std::hypot(16, 3), 0.01);
+    }
+    const LineTask onBeacon{.station = Slot::ndb1, .course = 90};
+    const Series& beside = judge(flown.samples, onBeacon, Strictness::standard).series[1];
+    EXPECT_EQ(beside.kind, SeriesKind::offLine);
     EXPECT_TRUE(judge({}, LineTask{}, Strictness::standard).findings.empty());
 }
 
@@ -334,18 +343,21 @@ TEST(FindingText, SaysItAsAnInstructorDoes) {
                verdictText(finding, germanTable());
     };
     EXPECT_EQ(said(inboundTime, 48.2, 60, 10), "Inbound leg 48 s, should be 60 s ± 10: too short | "
-                                               "Anflugschenkel 48 s, soll 60 s ± 10: zu kurz");
+                                               "Inbound-Zeit 48 s, soll 60 s ± 10: zu kurz");
     EXPECT_EQ(said(correctionOut, -32, -17, 5),
               "Outbound correction 32° left, should be 17° left ± 5: too large | "
-              "Vorhalt im Abflug 32° links, soll 17° links ± 5: zu groß");
+              "Vorhaltewinkel outbound 32° links, soll 17° links ± 5: zu groß");
     EXPECT_EQ(said(entry, 0, 2, {}), "Entry: direct, should be offset: wrong | "
-                                     "Einflug: direkt, soll offset: falsch");
+                                     "Entry: Direct, soll Offset: falsch");
     EXPECT_EQ(said(arcOutside, 1.25, {}, 1),
               "Up to 1.25 NM outside the arc, at most 1 NM: too far | "
               "Bis zu 1,25 NM außerhalb des Bogens, höchstens 1 NM: zu weit");
-    EXPECT_EQ(said(leadRadial, 7, 3, 2),
-              "Turned onto the final at radial 007, should be 003 ± 2: wrong | "
-              "Am Radial 007 zum Endkurs eingedreht, soll 003 ± 2: falsch");
+    EXPECT_EQ(said(leadRadial, 9.5, 6, 2),
+              "Turned onto the final 9.5° before its radial, should be 6° ± 2: 3.5° early | "
+              "Zum Endkurs 9,5° vor dessen Radial eingedreht, soll 6° ± 2: 3,5° zu früh");
+    EXPECT_EQ(said(leadRadial, -2, 6, 2),
+              "Turned onto the final 2° past its radial, should be 6° ± 2: 8° late | "
+              "Zum Endkurs 2° hinter dessen Radial eingedreht, soll 6° ± 2: 8° zu spät");
 }
 
 } // namespace

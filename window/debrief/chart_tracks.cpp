@@ -43,15 +43,14 @@ std::vector<QPolygonF> outsideOf(std::span<const QPointF> path, const std::vecto
     return parts;
 }
 
-/// What is allowed to either side, if that is a distance.
-double corridorOf(const Debrief& debrief) {
+std::optional<ChartTracks::Allowed> allowedIn(const Debrief& debrief) {
     for (const Series& series : debrief.series) {
-        const bool across =
-            series.kind == SeriesKind::offReference || series.kind == SeriesKind::offArc;
+        const bool across = series.kind == SeriesKind::offReference ||
+                            series.kind == SeriesKind::offArc || series.kind == SeriesKind::needle;
         if (across && !series.bands.empty())
-            return series.bands.front().high;
+            return ChartTracks::Allowed{series.bands.front().high, series.unit};
     }
-    return 0;
+    return {};
 }
 
 } // namespace
@@ -59,12 +58,15 @@ double corridorOf(const Debrief& debrief) {
 ChartTracks layOutTracks(const Attempt& attempt, std::span<const Attempt> earlier,
                          std::optional<SampleSpan> chosen, const OnPaper& place) {
     ChartTracks tracks;
-    tracks.corridor = corridorOf(attempt.debrief);
+    tracks.allowed = allowedIn(attempt.debrief);
     for (const TaskLine& line : attempt.debrief.lines) {
         ChartTracks::TaskCurve curve{line.kind, {}};
         for (const GeoPosition& point : line.points)
             append(curve.points, place(point));
-        tracks.task.push_back(std::move(curve));
+        if (line.kind == TaskLineKind::corridor)
+            tracks.corridors.push_back(std::move(curve.points));
+        else
+            tracks.task.push_back(std::move(curve));
     }
     const std::vector<QPointF> path = pathOf(attempt, place);
     tracks.own = curveOf(path);

@@ -19,7 +19,13 @@ struct ChartTracks {
         QPolygonF points;
     };
     std::vector<TaskCurve> task;
-    double corridor = 0; ///< NM to either side of the task's curves that are allowed; 0 for none
+    /// What is allowed to either side of the task's curves: NM, or degrees within its corridors.
+    struct Allowed {
+        double value = 0;
+        FindingUnit unit{};
+    };
+    std::optional<Allowed> allowed;
+    std::vector<QPolygonF> corridors;
     QPolygonF own;
     std::vector<QPolygonF> outside; ///< the parts of it that keep some limit not
     QPolygonF chosen;               ///< the part that the finding speaks of; empty without one

@@ -112,10 +112,10 @@ std::vector<DebriefLayer::Entry> DebriefLayer::entries(double side) const {
         all.push_back({Swatch::outside, textOf(texts, outside), {}});
     if (!tracks.task.empty()) {
         QString name = textOf(texts, Text::debriefReference);
-        if (tracks.corridor > 0)
+        if (tracks.allowed)
             name = textOf(texts, Text::debriefReferenceWithin)
-                       .arg(tracks.corridor, 0, 'g', 2)
-                       .replace(QLatin1Char('.'), textOf(texts, Text::decimalMark));
+                       .arg(QString::fromStdString(
+                           valueText(tracks.allowed->value, tracks.allowed->unit, texts)));
         all.push_back({Swatch::task, name, {}});
     }
     return all;
@@ -146,15 +146,25 @@ Box DebriefLayer::foot(const LayerPlace& place) {
     return footBox;
 }
 
-void DebriefLayer::paintTask(QPainter& painter, double pixelsPerMile) const {
+/// What is allowed: along a line as wide as the needle's limits are there, along a curve all the
+/// way.
+void DebriefLayer::paintCorridors(QPainter& painter, double pixelsPerMile) const {
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(look::onPaper(corridorInk, corridorOpacity));
+    for (const QPolygonF& corridor : tracks.corridors)
+        painter.drawPolygon(corridor);
     painter.setBrush(Qt::NoBrush);
-    for (const ChartTracks::TaskCurve& curve : tracks.task) {
-        if (tracks.corridor > 0 && curve.kind != TaskLineKind::line) {
-            painter.setPen(roundPen(look::onPaper(corridorInk, corridorOpacity),
-                                    2 * tracks.corridor * pixelsPerMile));
+    if (!tracks.allowed || tracks.allowed->unit != FindingUnit::nauticalMiles)
+        return;
+    painter.setPen(roundPen(look::onPaper(corridorInk, corridorOpacity),
+                            2 * tracks.allowed->value * pixelsPerMile));
+    for (const ChartTracks::TaskCurve& curve : tracks.task)
+        if (curve.kind != TaskLineKind::line)
             painter.drawPolyline(curve.points);
-        }
-    }
+}
+
+void DebriefLayer::paintTask(QPainter& painter) const {
+    painter.setBrush(Qt::NoBrush);
     for (const ChartTracks::TaskCurve& curve : tracks.task) {
         QPen pen = roundPen(taskInk, taskWidth);
         if (curve.kind == TaskLineKind::line) {
@@ -172,7 +182,8 @@ void DebriefLayer::paintTask(QPainter& painter, double pixelsPerMile) const {
 void DebriefLayer::paintLines(QPainter& painter, const LayerPlace& place) {
     layOut(place);
     painter.setBrush(Qt::NoBrush);
-    paintTask(painter, place.pixelsPerMile);
+    paintCorridors(painter, place.pixelsPerMile);
+    paintTask(painter);
     for (std::size_t i = 0; i < tracks.earlier.size(); ++i) {
         painter.setPen(earlierPen(i));
         painter.drawPolyline(tracks.earlier[i]);
@@ -236,7 +247,7 @@ void DebriefLayer::paintSwatch(QPainter& painter, Swatch swatch, QPointF from, Q
     case Swatch::outside:
         return paintOutside(painter, {from, to}, outsideInk, Qt::white, outsideWidth);
     case Swatch::task:
-        if (tracks.corridor > 0)
+        if (tracks.allowed)
             painter.fillRect(QRectF(from, to).adjusted(0, -6, 0, 6),
                              look::onPaper(corridorInk, 2 * corridorOpacity));
         painter.setPen(roundPen(taskInk, taskWidth));

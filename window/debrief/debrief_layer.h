@@ -44,7 +44,8 @@ class DebriefLayer : public ChartLayer {
     void layOut(const LayerPlace& place);
     void layOutLegend(const LayerPlace& place);
     [[nodiscard]] std::vector<Entry> entries(double side) const;
-    void paintTask(QPainter& painter, double pixelsPerMile) const;
+    void paintCorridors(QPainter& painter, double pixelsPerMile) const;
+    void paintTask(QPainter& painter) const;
     void paintSwatch(QPainter& painter, Swatch swatch, QPointF from, QPointF to) const;
 
     DebriefModel model;

@@ -56,9 +56,14 @@ QString numberOf(double value) {
     return QString::number(rounded, 'g', 4);
 }
 
+/// Whether a value is said as a size and a side.
+bool hasSide(const Series& series) {
+    return series.kind == SeriesKind::needle || series.kind == SeriesKind::offLine;
+}
+
 /// A label at a side of the middle says which.
 QString labelOf(const Series& series, double value, const StringTable& texts) {
-    if (series.kind != SeriesKind::needle || value == 0)
+    if (!hasSide(series) || value == 0)
         return (value < 0 ? QStringLiteral("−") : QString()) + numberOf(value);
     const QString side = textOf(texts, value > 0 ? Text::sideRight : Text::sideLeft);
     return numberOf(value) + QLatin1Char(' ') + side.left(1).toUpper();
@@ -115,14 +120,14 @@ PlotReading readingOf(const Series& series, std::optional<double> value, const S
     if (!value)
         return {QStringLiteral("---"), unit};
     const double size = std::abs(*value);
-    if (series.kind == SeriesKind::needle && size > 0)
+    if (hasSide(series) && size > 0)
         unit += QLatin1Char(' ') + textOf(texts, *value > 0 ? Text::sideRight : Text::sideLeft);
     if (series.kind == SeriesKind::heading) {
         const int heading = static_cast<int>(std::lround(size)) % 360;
         return {QString::number(heading == 0 ? 360 : heading).rightJustified(3, '0'), unit};
     }
     if (series.unit == FindingUnit::nauticalMiles)
-        return {(*value <= -0.005 ? QStringLiteral("-") : QString()) +
+        return {(*value <= -0.005 && !hasSide(series) ? QStringLiteral("-") : QString()) +
                     QString::number(size, 'f', size < 9.995 ? 2 : 1),
                 unit};
     return {QString::number(std::lround(size)).rightJustified(2, '0'), unit};
