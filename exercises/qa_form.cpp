@@ -230,6 +230,11 @@ void QAform::showSolution(ExercisePanel& panel) {
     panel.reveal(*exercise);
 }
 
+void QAform::giveUp() {
+    if (ExercisePanel* panel = activePanel(); panel && posed())
+        panel->reveal(*exercise);
+}
+
 void QAform::flyQuestion(ExercisePanel& panel) {
     constexpr std::int16_t trackDelta = 3;
     if (&panel != activePanel())

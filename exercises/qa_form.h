@@ -81,6 +81,9 @@ class QAform {
     /// What there is to be asked again of an exercise with these questions. Without a log: nothing.
     std::function<MistakeRound(const Course&, ExerciseType, const std::vector<std::int64_t>&)>
         mistakes;
+    /// The rows that are open show what is right and can't be answered any more, as behind the
+    /// solution; the student's flight goes on.
+    void giveUp();
     /// Shows the next question of the running exercise.
     void DisplayQuestion();
     /// Reads the study file of that name for the current type. What can't be read is told in the

@@ -15,6 +15,7 @@ class ChartDisplay {
 
     /// Both boxes that hide the aircraft show the same. Without it there are no trace and vectors.
     void setHidden(bool hidden);
+    [[nodiscard]] bool hidden() const { return hideOn; }
     /// Off, the wind triangle, the turns ahead.
     void stepVectors();
     /// The next of the radial-line displays: the centre radial, the lines beside it, none.

@@ -21,6 +21,7 @@ DebriefDesk::DebriefDesk(DebriefControls& debriefControls, Given what)
     controls.item.onClick = given.button.onClick = [this] { open(); };
     controls.close.onClick = [this] { close(); };
     controls.flyAgain.onClick = [this] {
+        showAsBefore();
         end();
         given.flyAgain();
     };
@@ -44,12 +45,12 @@ DebriefDesk::DebriefDesk(DebriefControls& debriefControls, Given what)
 }
 
 bool DebriefDesk::mayOpen() const {
-    return !shown && given.sim.stopped() && given.mayShow() &&
+    return !shown && given.sim.stopped() && (given.mayShow() || given.ownFlight()) &&
            static_cast<std::size_t>(given.sim.c_TraceBufferMax) >= fewestSamples;
 }
 
 void DebriefDesk::open() {
-    if (!mayOpen())
+    if (!mayOpen() || !(given.mayShow() || given.giveUp()))
         return;
     if (!lastTask)
         attempts.clear();
@@ -70,7 +71,10 @@ void DebriefDesk::open(std::vector<Attempt> flights, const std::optional<Task>& 
 void DebriefDesk::begin(const std::optional<Task>& known) {
     given.replay.stop();
     const UserControl2& sim = given.sim;
-    before = {sim.view.mapCenter, sim.c_MAPscale, given.lock.value(), sim.presentSampleIndex()};
+    before = {sim.view.mapCenter, sim.c_MAPscale, given.lock.value(), given.display.hidden(),
+              sim.presentSampleIndex()};
+    if (before.hidden)
+        given.display.setHidden(false);
     flight = sim.recording.changes();
     shown = true;
     asked = known ? choiceOf(*known) : given.proposal();
@@ -80,6 +84,12 @@ void DebriefDesk::begin(const std::optional<Task>& known) {
         hold(*known);
     updateControls();
     changed();
+}
+
+void DebriefDesk::showAsBefore() const {
+    given.sim.showChart(before.centre, before.scale);
+    if (before.hidden)
+        given.display.setHidden(true);
 }
 
 void DebriefDesk::end() {
@@ -93,7 +103,7 @@ void DebriefDesk::close() {
     if (!shown)
         return;
     given.replay.stop();
-    given.sim.showChart(before.centre, before.scale);
+    showAsBefore();
     if (given.sim.presentSampleIndex() != before.sample)
         given.replay.goTo(before.sample);
     end();

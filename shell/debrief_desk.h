@@ -2,6 +2,7 @@
 
 #include "debrief/debrief.h"
 #include "engine/user_control_2.h"
+#include "shell/chart_display.h"
 #include "shell/debrief_controls.h"
 #include "shell/replay_deck.h"
 #include "shell/task_choice.h"
@@ -30,10 +31,13 @@ class DebriefDesk {
     struct Given {
         UserControl2& sim;
         ReplayDeck& replay;
+        ChartDisplay& display;
         CheckBox& lock;        ///< of the instruments
         CommandButton& button; ///< that opens it after a flight of one's own
         /// Whether nothing would be told that a question asks for.
         std::function<bool()> mayShow;
+        /// Asks whether a question that stands open may be told, and gives it up then.
+        std::function<bool()> giveUp;
         /// Whether the student has flown what is in memory at a question or a practice flight.
         std::function<bool()> ownFlight;
         /// The task that the flight in memory was flown at, if it had one.
@@ -48,7 +52,8 @@ class DebriefDesk {
     DebriefDesk(DebriefControls& debriefControls, Given what);
 
     [[nodiscard]] bool isOpen() const { return shown; }
-    /// Opens the debrief of the flight in memory, at its task or to choose one.
+    /// Opens the debrief of the flight in memory, at its task or to choose one. That of a flight of
+    /// the student's own at a question asks first where it would tell an answer.
     void open();
     /// The same for a flight that was just loaded: the last of `flights`, which are attempts at
     /// `task`, the oldest first, at most `mostAttempts`.
@@ -96,6 +101,7 @@ class DebriefDesk {
   private:
     [[nodiscard]] bool mayOpen() const;
     void begin(const std::optional<Task>& known);
+    void showAsBefore() const;
     void end();
     void hold(const Task& next);
     bool takeFlight();
@@ -122,6 +128,7 @@ class DebriefDesk {
         SplitPosition centre;
         std::int16_t scale = 0;
         int lock = 0;
+        bool hidden = false; ///< the aircraft
         std::int16_t sample = 1;
     } before; ///< it was opened
 };

@@ -50,8 +50,12 @@ bool ExerciseConduct::awaitsAnswer() const {
 }
 
 void ExerciseConduct::flyAgain() {
-    if (studentFlies())
-        letStudentFly();
+    if (!studentFlies())
+        return;
+    letStudentFly();
+    // At once, as the next tick unlocks, and what is unlocked is written over.
+    stage.replay.followBar();
+    stage.coupling.push();
 }
 
 void ExerciseConduct::flightStarts() {

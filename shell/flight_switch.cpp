@@ -11,9 +11,8 @@ namespace {
 
 } // namespace
 
-FlightSwitch::FlightSwitch(UserControl2& simulation, TrainerControls& controls, ReplayDeck& deck,
-                           const StringTable& table)
-    : sim(simulation), strip(controls), replay(deck), texts(table) {
+FlightSwitch::FlightSwitch(UserControl2& simulation, TrainerControls& controls, ReplayDeck& deck)
+    : sim(simulation), strip(controls), replay(deck) {
     strip.startButton.onClick = [this] { flying ? stop() : start(); };
     strip.rateReal.onClick = [this] { setRate(333); };
     strip.rateHalf.onClick = [this] { setRate(666); };
@@ -29,7 +28,7 @@ void FlightSwitch::start() {
     strip.stationPage.edit.set(0);
     restOrFly();
     sim.c_TimerEN = 1;
-    show(Text::stopSim, Text::stopSimTip, Text::panelTraining);
+    show(Text::stopSim, Text::stopSimTip);
 }
 
 void FlightSwitch::stop() {
@@ -39,14 +38,13 @@ void FlightSwitch::stop() {
     restOrFly();
     sim.c_TimerEN = 0;
     replay.standAtNewest();
-    show(Text::startSim, Text::startSimTip, Text::panelPause);
+    show(Text::startSim, Text::startSimTip);
     onStop();
 }
 
-void FlightSwitch::show(Text caption, Text tip, Text mode) {
+void FlightSwitch::show(Text caption, Text tip) {
     strip.startButton.setCaption(caption);
     strip.startButton.setTip(tip);
-    strip.modePanel.setText(std::string(texts[mode]));
 }
 
 void FlightSwitch::restOrFly() {

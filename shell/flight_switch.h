@@ -15,8 +15,7 @@ constexpr double practiseAreaLimit = 80.0;
 /// `FlightSwitch`: starts and stops the flight, and says how fast it goes.
 class FlightSwitch {
   public:
-    FlightSwitch(UserControl2& simulation, TrainerControls& controls, ReplayDeck& deck,
-                 const StringTable& table);
+    FlightSwitch(UserControl2& simulation, TrainerControls& controls, ReplayDeck& deck);
 
     [[nodiscard]] bool flies() const { return flying; }
     void start();
@@ -32,13 +31,12 @@ class FlightSwitch {
 
   private:
     void setRate(std::int16_t milliseconds) { sim.c_TimerSIMrate = milliseconds; }
-    void show(Text caption, Text tip, Text mode);
+    void show(Text caption, Text tip);
     void restOrFly();
 
     UserControl2& sim;
     TrainerControls& strip;
     ReplayDeck& replay;
-    const StringTable& texts;
     bool flying = false;
 };
 

@@ -79,9 +79,17 @@ ReferencePlaces Form1::referencePlaces() {
 DebriefDesk::Given Form1::debriefGiven() {
     return {.sim = UserControl11,
             .replay = replay,
+            .display = display,
             .lock = replayPage.lock,
             .button = practicePanel.debrief,
             .mayShow = [this] { return !flight.flies() && !exercise.awaitsAnswer(); },
+            .giveUp =
+                [this] {
+                    const bool wanted = boxes.confirm(Text::debrief, Text::debriefGivesUpQuestion);
+                    if (wanted)
+                        QAform1.giveUp();
+                    return wanted;
+                },
             .ownFlight = [this] { return flown.isOwn(); },
             .knownTask = [this] { return flown.task(); },
             .proposal = [this] { return likelyTask(); },
@@ -125,7 +133,10 @@ void Form1::connectDesks() {
     };
     for (std::function<void()>* changed : {&replay.changed, &flight.changed, &stationDesk.changed,
                                            &exercise.changed, &debrief.changed})
-        *changed = [this] { usable.update(); };
+        *changed = [this] {
+            usable.update();
+            showMode();
+        };
     flight.onStart = [this] {
         flightLog.flightStarts();
         exercise.flightStarts();

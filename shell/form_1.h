@@ -93,7 +93,7 @@ class Form1 : public TrainerControls, public PanelControls {
     PanelCoupling coupling{UserControl11, *this};
     InstrumentPositions positions{UserControl11, *this, texts};
     ReplayDeck replay{UserControl11, replayPage};
-    FlightSwitch flight{UserControl11, *this, replay, texts};
+    FlightSwitch flight{UserControl11, *this, replay};
     ChartDisplay display{UserControl11, *this, texts};
     WindDesk windDesk{UserControl11, *this, display, texts};
     StationDesk stationDesk{UserControl11, stationPage, boxes, replay, display};
@@ -125,6 +125,7 @@ class Form1 : public TrainerControls, public PanelControls {
     void guardPractiseArea();
     void guardReference();
     void showState();
+    void showMode();
     void showComment();
     void letGo();
 

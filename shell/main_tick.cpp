@@ -43,6 +43,13 @@ void Form1::showState() {
     usable.followHistory();
 }
 
+void Form1::showMode() {
+    const Text mode = debrief.isOpen() ? Text::debriefMode
+                      : flight.flies() ? Text::panelTraining
+                                       : Text::panelPause;
+    modePanel.setText(std::string(texts[mode]));
+}
+
 void Form1::guardPractiseArea() {
     if (!flight.leftPractiseArea())
         return;

@@ -60,7 +60,7 @@ void Form1::setPanelDefaults() {
     windPanel.setText(std::string(texts[Text::panelWindOff]));
     hidePanel.setText(std::string(texts[Text::panelHideOff]));
     vectorsPanel.setText(std::string(texts[Text::panelVectorsOff]));
-    modePanel.setText(std::string(texts[Text::panelPause]));
+    showMode();
     chartPage.trace.set(1);
     pages.replay.choose();
     replayPage.stop.show();

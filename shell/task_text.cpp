@@ -1,7 +1,9 @@
 #include "shell/task_text.h"
 
 #include "core/number_text.h"
+#include "shell/finding_text.h"
 #include "shell/task_choice.h"
+#include "shell/text_format.h"
 
 namespace tarnel {
 
@@ -23,25 +25,25 @@ std::string taskDetail(const Task& task, const std::string& station, const Strin
     const TaskChoice choice = choiceOf(task);
     if (choice.kind == TaskKind::reference)
         return {};
+    const std::string course = degrees(choice.course, texts);
     std::string detail = station;
-    const auto add = [&](Text word) { detail.append(", ").append(texts[word]); };
+    const auto add = [&](const std::string& part) { detail.append(" · ").append(part); };
     switch (choice.kind) {
     case TaskKind::holding:
-        add(choice.side == HoldingSide::left ? Text::taskLeft : Text::taskRight);
-        add(Text::taskInbound);
-        detail += ' ';
+        add(std::string(
+            texts[choice.side == HoldingSide::left ? Text::taskTurnsLeft : Text::taskTurnsRight]));
+        add(filledIn(texts[Text::taskInboundOn], {course}));
         break;
     case TaskKind::arc:
-        add(Text::taskDistance);
-        detail.append(" ").append(numberText(choice.distance));
-        add(choice.clockwise ? Text::taskClockwise : Text::taskAnticlockwise);
-        add(Text::taskFinal);
-        detail += ' ';
+        add(std::string(texts[Text::taskDistance]) + ' ' +
+            valueText(choice.distance, FindingUnit::nauticalMiles, texts));
+        add(std::string(texts[choice.clockwise ? Text::taskClockwise : Text::taskAnticlockwise]));
+        add(filledIn(texts[Text::taskFinalOn], {course}));
         break;
     default:
-        detail += ", ";
+        add(course);
     }
-    return detail + degrees(choice.course, texts);
+    return detail;
 }
 
 } // namespace tarnel

@@ -24,7 +24,7 @@ namespace tarnel {
 namespace {
 
 constexpr int partGap = 4;
-constexpr int actionGap = 6;
+constexpr int actionGap = 4;
 
 } // namespace
 
@@ -50,6 +50,9 @@ QLayout* DebriefCard::makeHead() {
     detail->setProperty("secondary", true);
     detail->setMinimumWidth(1);
     row->addWidget(detail, 1);
+    earlier = new QLabel(this);
+    earlier->setProperty("secondary", true);
+    row->addWidget(earlier);
     score = new QLabel(this);
     score->setObjectName(QStringLiteral("DebriefScore"));
     score->setProperty("readout", true);
@@ -83,7 +86,9 @@ QLayout* DebriefCard::makeActions(FormBinding& binding) {
     auto* row = new WrapLayout(WrapLayout::Manner::flowing, actionGap, actionGap);
     QPushButton* again = button(model.controls.flyAgain, binding);
     again->setProperty("primary", true);
+    again->setProperty("quiz", true);
     again->setIcon(signIcon(Sign::play, Qt::white));
+    connect(again, &QPushButton::clicked, this, [this] { onFlyAgain(); });
     row->addWidget(again);
     auto* compare = new QPushButton(this);
     compare->setProperty("toggle", true);
@@ -97,13 +102,16 @@ QLayout* DebriefCard::makeActions(FormBinding& binding) {
         binding.bind(*way, *ways->addAction(textOf(model.boxes.texts, *way->caption())));
     exported->setMenu(ways);
     row->addWidget(exported);
-    row->addWidget(button(model.controls.task, binding));
+    auto* last = new QHBoxLayout; // they go to the next line together
+    last->setSpacing(actionGap);
+    last->addWidget(button(model.controls.task, binding));
     auto* limits = new QComboBox(this);
     limits->setProperty("quiz", true);
     limits->setAccessibleName(textOf(model.boxes.texts, Text::debriefLimits));
     binding.bind(model.controls.limits, *limits);
-    row->addWidget(limits);
-    row->addWidget(button(model.controls.close, binding));
+    last->addWidget(limits);
+    last->addWidget(button(model.controls.close, binding));
+    row->addLayout(last);
     return row;
 }
 
@@ -116,6 +124,8 @@ void DebriefCard::refresh() {
     const Attempt* attempt = model.desk.choosesTask() ? nullptr : model.desk.attempt();
     detail->setText(attempt ? taskDetail(model) : QString());
     score->setText(attempt ? scoreOf(*attempt, texts) : QString());
+    const bool compares = attempt && !model.desk.compared().empty();
+    earlier->setText(compares ? earlierScoreOf(model.desk.compared().front(), texts) : QString());
     chooser->refresh();
     if (attempt)
         showFindings();

@@ -5,6 +5,8 @@
 
 #include <QWidget>
 
+#include <functional>
+
 class QComboBox;
 class QLabel;
 class QMenu;
@@ -23,6 +25,8 @@ class DebriefCard : public QWidget {
 
   public:
     DebriefCard(const DebriefModel& debriefModel, FormBinding& links, QWidget* parent = nullptr);
+
+    std::function<void()> onFlyAgain; ///< the keyboard is wanted where the flight starts
 
     void refresh();
     /// Gives the keyboard to what is used first.
@@ -46,6 +50,7 @@ class DebriefCard : public QWidget {
     DebriefModel model;
     QLabel* title = nullptr;
     QLabel* detail = nullptr;
+    QLabel* earlier = nullptr; ///< the score of the first attempt beside it
     QLabel* score = nullptr;
     QStackedWidget* pages = nullptr;
     FindingList* findings = nullptr;

@@ -21,6 +21,20 @@ const Finding* sameIn(const Attempt& attempt, const Finding& finding) {
     return found == all.end() ? nullptr : &*found;
 }
 
+struct Score {
+    int right = 0;
+    int all = 0;
+};
+
+Score countOf(const Attempt& attempt) {
+    Score score;
+    for (const Finding& finding : attempt.debrief.findings) {
+        score.right += finding.verdict == Verdict::right ? 1 : 0;
+        score.all += finding.verdict == Verdict::open ? 0 : 1;
+    }
+    return score;
+}
+
 } // namespace
 
 std::vector<FindingRow> findingRows(const DebriefDesk& desk, const StringTable& texts) {
@@ -66,13 +80,16 @@ QString attemptName(const Attempt& attempt, const StringTable& texts) {
 }
 
 QString scoreOf(const Attempt& attempt, const StringTable& texts) {
-    int right = 0;
-    int all = 0;
-    for (const Finding& finding : attempt.debrief.findings) {
-        right += finding.verdict == Verdict::right ? 1 : 0;
-        all += finding.verdict == Verdict::open ? 0 : 1;
-    }
-    return textOf(texts, Text::debriefScore).arg(right).arg(all);
+    const Score score = countOf(attempt);
+    return textOf(texts, Text::debriefScore).arg(score.right).arg(score.all);
+}
+
+QString earlierScoreOf(const Attempt& attempt, const StringTable& texts) {
+    const Score score = countOf(attempt);
+    return textOf(texts, Text::debriefEarlierScore)
+        .arg(attemptName(attempt, texts))
+        .arg(score.right)
+        .arg(score.all);
 }
 
 double secondsAt(const Attempt& attempt, int sample) {

@@ -30,6 +30,8 @@ struct FindingRow {
 [[nodiscard]] QString attemptName(const Attempt& attempt, const StringTable& texts);
 /// How many findings were right, of how many that can be.
 [[nodiscard]] QString scoreOf(const Attempt& attempt, const StringTable& texts);
+/// The same of an attempt before, by its name.
+[[nodiscard]] QString earlierScoreOf(const Attempt& attempt, const StringTable& texts);
 /// The flight's time at a sample, such as "07:40".
 [[nodiscard]] QString timeAt(const Attempt& attempt, int sample);
 /// The same in seconds.

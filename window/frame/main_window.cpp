@@ -25,6 +25,7 @@
 #include "window/widgets/help_page.h"
 #include "window/widgets/style_sheet.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
@@ -162,6 +163,7 @@ void MainWindow::makeDesk() {
     debriefPlot->hide();
     chart->setLayer(std::make_unique<DebriefLayer>(debriefModel()));
     connectExports(debriefModel());
+    debriefCard->onFlyAgain = [this] { beforeDebrief = nullptr; };
     gyro = new additional_DG(form, form.exercise, form.boxes, pictures, this);
     bookForm = new PdfFormWindow(form.documents.bookForm, form.boxes, binding, *this);
     chartForm = new PdfFormWindow(form.documents.chartForm, form.boxes, binding, *this);
@@ -305,10 +307,18 @@ void MainWindow::followDebrief() {
     layOut();
     if (shownDebrief)
         debriefCard->takeKeyboard();
-    else if (beforeDebrief)
+    else if (beforeDebrief && beforeDebrief->isVisible())
         beforeDebrief->setFocus(Qt::OtherFocusReason);
-    else if (focusWidget())
-        focusWidget()->clearFocus();
+    else
+        focusStart();
+}
+
+/// Strip and quiz each have a button that starts.
+void MainWindow::focusStart() {
+    const std::string name(form.startButton.name());
+    for (auto* start : findChildren<QAbstractButton*>(QString::fromStdString(name)))
+        if (start->isVisible())
+            start->setFocus(Qt::OtherFocusReason);
 }
 
 void MainWindow::resizeEvent(QResizeEvent* event) {

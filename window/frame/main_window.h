@@ -75,6 +75,7 @@ class MainWindow : public QMainWindow {
     void layOut();
     void layOutDebrief(const WindowLayout& layout);
     void followDebrief();
+    void focusStart();
     [[nodiscard]] ColumnWishes columnWishes() const;
     void couplingTick();
     void followClocks();

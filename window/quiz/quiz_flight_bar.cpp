@@ -59,10 +59,6 @@ QLayout* QuizFlightBar::makeReplayRow(FormBinding& binding) {
     keepPlace(*clock);
     binding.bind(model.controls.replayPage.clock, *clock);
     row->addWidget(clock);
-    auto* debrief = new QPushButton(this);
-    debrief->setProperty("quiz", true);
-    binding.bind(model.controls.practicePanel.debrief, *debrief);
-    row->addWidget(debrief);
     backButton = new QPushButton(this);
     backButton->setProperty("quiz", true);
     keepPlace(*backButton);

@@ -131,9 +131,9 @@ QWidget* QuizFrame::makeRows(FormBinding& binding) {
 
 /// Leaving stands apart at the right.
 QHBoxLayout* QuizFrame::makeButtons(FormBinding& binding) {
+    next = button(asked.nextButton, binding);
     solution = button(asked.solutionButton, binding);
     fly = button(asked.flyButton, binding);
-    next = button(asked.nextButton, binding);
     cancel = button(asked.cancelButton, binding);
     auto* line = new QHBoxLayout;
     line->setSpacing(buttonGap);

@@ -109,8 +109,10 @@ void QuizPanel::followQuestion() {
         announce(*active);
     else if (closed && !folded)
         announce(closed->verdictLabel());
-    if (folds)
+    const bool flies = model.exercise.studentFlies();
+    if (folds || (flies && !flew))
         flightAwaitsFocus = true;
+    flew = flies;
     if (folded)
         focusFlight();
     else if (isNew || unfolded || closed)

@@ -61,6 +61,7 @@ class QuizPanel : public QWidget {
     int tallest = 0; ///< of the questions of this exercise, at the present width
     int tallestWidth = 0;
     bool folded = false;
+    bool flew = false; ///< the student, when last looked
     bool flightAwaitsFocus = false;
     std::uint64_t question = 0;
     std::vector<bool> wasOpen; ///< by row
