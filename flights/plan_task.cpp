@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <array>
 #include <filesystem>
+#include <initializer_list>
 #include <utility>
 
 namespace tarnel {
@@ -67,9 +68,13 @@ CourseOver readCourse(PlanTable& table, const std::array<Word<Slot>, count>& off
     CourseOver read;
     read.station = oneOf(table, "station", offered).value_or(read.station);
     read.degrees = table.whole(key, plan_limits::direction).value_or(0);
-    table.need("station");
-    table.need(key);
     return read;
+}
+
+/// Behind all that is read, so that a wrong value is told before a missing one.
+void needAll(PlanTable& table, std::initializer_list<const char*> keys) {
+    for (const char* key : keys)
+        table.need(key);
 }
 
 LineTask readLine(PlanTable& table) {
@@ -78,6 +83,7 @@ LineTask readLine(PlanTable& table) {
     task.inbound = oneOf(table, "way", ways).value_or(true);
     task.cut = table.number("cut", plan_limits::cut);
     task.joins = table.truth("joins").value_or(task.cut.has_value());
+    needAll(table, {"station", "course"});
     return task;
 }
 
@@ -86,6 +92,7 @@ HoldTask readHolding(PlanTable& table) {
     HoldTask task{.fix = over.station, .inbound = over.degrees};
     task.side = oneOf(table, "turns", sides).value_or(task.side);
     task.minutes = table.number("minutes", plan_limits::legMinutes).value_or(task.minutes);
+    needAll(table, {"station", "course"});
     return task;
 }
 
@@ -95,8 +102,7 @@ ArcTask readArc(PlanTable& table) {
     task.distance = table.number("distance", plan_limits::arcDistance).value_or(0);
     task.clockwise = oneOf(table, "sense", senses).value_or(true);
     task.inbound = oneOf(table, "way", ways).value_or(true);
-    for (const char* key : {"distance", "sense"})
-        table.need(key);
+    needAll(table, {"station", "distance", "sense", "final"});
     return task;
 }
 

@@ -147,6 +147,7 @@ TEST_F(DebriefView, MarksWhatIsOutsideOnChartAndPlotByMoreThanColour) {
     const QPointF inBand(layout.xAt(4), row.bands.front().center().y());
     const QPointF beyond(inBand.x(), row.frame.top() + 3);
     EXPECT_GT(qGray(plotted.pixel(inBand.toPoint())), qGray(plotted.pixel(beyond.toPoint())) + 10);
+    EXPECT_EQ(row.bands.front().top(), row.yAt(row.series->bands.front().high));
 }
 
 TEST_F(DebriefView, ComparesAttemptsAndExportsWhatIsShown) {
@@ -167,9 +168,11 @@ TEST_F(DebriefView, ComparesAttemptsAndExportsWhatIsShown) {
     EXPECT_EQ(log->flights()[0].attempt, 2);
     EXPECT_EQ(log->flights()[0].findings, findings());
     EXPECT_EQ(*log->session(log->flights()[0].id), form->UserControl11.sessionBytes());
-    const std::size_t curves = plot().laidOut().rows[0].earlier.size();
-    EXPECT_GT(curves, 0U);
-    EXPECT_FALSE(list().rows()[0].earlier.isEmpty());
+    const PlotRow& row = plot().laidOut().rows[0];
+    const auto& values = form->debrief.compared()[0].debrief.series[0].values;
+    ASSERT_EQ(row.earlier.size(), 1U);
+    EXPECT_EQ(row.earlier[0].back().back().y(), row.yAt(*values.back())) << "its own end";
+    EXPECT_TRUE(list().rows()[0].earlier.startsWith("#1 "));
     const auto exported = [this](CommandButton& way, const char* name) {
         world.chosen = folder.path + "/" + name;
         way.click();
@@ -177,6 +180,11 @@ TEST_F(DebriefView, ComparesAttemptsAndExportsWhatIsShown) {
     };
     DebriefControls& ways = form->debriefControls;
     EXPECT_TRUE(exported(ways.exportPage, "page.pdf").starts_with("%PDF"));
+    const std::string read = folder.path + "/page.txt";
+    ASSERT_EQ(std::system(("pdftotext " + *world.chosen + " " + read).c_str()), 0);
+    const QString printed = QString::fromStdString(readFileBytes(read, 1 << 20)).simplified();
+    for (const FindingRow& finding : list().rows())
+        EXPECT_TRUE(printed.contains(finding.sentence)) << finding.sentence.toStdString();
     EXPECT_TRUE(exported(ways.exportValues, "values.csv").find("#1 ") != std::string::npos);
     const std::string png = exported(ways.exportPicture, "picture.png");
     const QImage page = QImage::fromData(
@@ -220,6 +228,17 @@ TEST_F(DebriefView, TellsNothingOfAQuestionThatIsNotAnswered) {
     settle();
     for (const auto& row : panel.rows)
         EXPECT_NE(row->state(), RowState::open) << "the debrief has told it";
+}
+
+TEST_F(DebriefView, ShadesOnTheChartWhatANeedleAllows) {
+    practise();
+    openDebrief();
+    form->debriefControls.task.click();
+    form->debrief.choose({.kind = TaskKind::trackTo, .station = Slot::ndb1, .course = 90});
+    form->debriefControls.judge.click();
+    settle();
+    const QImage chart = picture(*window->findChild<ChartView*>());
+    EXPECT_GT(countOf(chart, look::onPaper(look::rgb(0x5C6875), 0.08).rgb()), 500);
 }
 
 TEST_F(DebriefView, HasRoomInEveryWindowAndBothLanguages) {
