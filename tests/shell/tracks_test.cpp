@@ -77,7 +77,7 @@ TEST_F(TracksTest, ATrackIsPractisedFromWhereItTakesOff) {
     EXPECT_EQ(sim().recording.at(20).traceTAS, 120);
     EXPECT_EQ(told(sim().c_ApHours2, sim().c_ApMinutes2, sim().c_ApSeconds2), "0 0 0");
     EXPECT_THAT(form->commentPanel.comment.text(),
-                HasSubstr("track \"home\", 1 min 0 s: it begins on course 030° at"));
+                HasSubstr("Track \"home\", 1 min 0 s: from course 030°, "));
     form->startButton.click();
     form->APControlFace1.c_HDG = 75;
     form->APControlFace1.c_TAS = 120;
