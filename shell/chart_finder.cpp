@@ -200,7 +200,10 @@ std::string ChartFinder::offerText(std::size_t station) const {
     const StringTable& texts = boxes.texts;
     const Navaid& navaid = index[station];
     const StationLine line = lineOf(station);
-    std::string text = line.identifier + ", " + line.name + ", " + line.kind + " " + line.frequency;
+    std::string text = line.identifier + ", ";
+    if (line.name != line.identifier)
+        text += line.name + ", ";
+    text += line.kind + " " + line.frequency;
     if (navaid.kind == NavaidKind::localizer)
         text += ", " + filledIn(texts[Text::navCourse], {threeDigits(navaid.course)});
     const GeoPosition& from = index[*middle].position;
@@ -230,7 +233,7 @@ std::string ChartFinder::variations() const {
         if (degrees == 0)
             continue;
         list += list.empty() ? "" : ", ";
-        list += index[*station].identifier + (degrees > 0 ? " -" : " +") +
+        list += index[*station].identifier + (degrees > 0 ? " −" : " +") +
                 numberText(std::int64_t{std::abs(degrees)}) + "°";
     }
     return list;

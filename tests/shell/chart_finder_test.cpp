@@ -40,7 +40,7 @@ TEST_F(ChartFinderTest, ProposesFiveStationsThatCanBeExchangedAndMakesAChartOfTh
     EXPECT_EQ(finder.offerText(*finder.stations()[4]),
               "OES, LOWS 15, LOC 109.90 MHz, course 157°, 0 NM");
     EXPECT_EQ(finder.offerText(*finder.stations()[2]), "SI, SALZBURG NDB, NDB 410 kHz, 3 NM, 334°");
-    EXPECT_THAT(finder.notes(), HasSubstr("SBG -2°, LNZ -2°."));
+    EXPECT_THAT(finder.notes(), HasSubstr("SBG −2°, LNZ −2°."));
 
     const auto munich = finder.offers(Slot::vor2).back();
     EXPECT_EQ(finder.lineOf(munich).kind, "VOR");

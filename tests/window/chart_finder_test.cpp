@@ -47,7 +47,7 @@ TEST_F(ChartFinderDialogTest, MakesAChartByKeysAlone) {
     press(Qt::Key_Tab);
     EXPECT_EQ(dialog()->focusWidget(), &in<QComboBox>("NavSlot1"));
     press(Qt::Key_Down);
-    EXPECT_TRUE(in<QComboBox>("NavSlot1").currentText().startsWith("LNZ"));
+    EXPECT_TRUE(in<QComboBox>("NavSlot1").currentText().startsWith("MUN"));
     EXPECT_TRUE(in<QComboBox>("NavSlot2").currentText().startsWith("SBG"));
     press(Qt::Key_Tab, 5);
     EXPECT_EQ(dialog()->focusWidget(), &in<QPushButton>("OKButton"));
@@ -58,7 +58,7 @@ TEST_F(ChartFinderDialogTest, MakesAChartByKeysAlone) {
     settle();
     QTest::qWait(1);
     EXPECT_EQ(dialog(), nullptr);
-    EXPECT_EQ(form->UserControl11.slot(Slot::vor1).name.get(), "LNZ");
+    EXPECT_EQ(form->UserControl11.slot(Slot::vor1).name.get(), "MUN");
 }
 
 TEST_F(ChartFinderDialogTest, AsksForAFileWhereNoneIsFound) {

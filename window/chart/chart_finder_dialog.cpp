@@ -252,6 +252,7 @@ void ChartFinderDialog::showHits() {
             hits->setItem(row, i, new QTableWidgetItem(plain(*cells[i])));
     }
     searchNote->setText(plain(finder.searchNote()));
+    searchNote->setVisible(!searchNote->text().isEmpty());
     if (hits->rowCount() > 0)
         hits->setCurrentCell(0, 0);
     else

@@ -144,6 +144,9 @@ QPushButton[link="true"]:disabled { color: $unit; }
 QTableWidget { background: transparent; color: $ink; outline: none;
   selection-background-color: $tint; selection-color: $ink; }
 QTableWidget#FlightList:focus { border: 1px solid $accent; }
+QTableWidget#NavHits { background: $paper; border: 1px solid $line; border-radius: {5}px; }
+QTableWidget#NavHits:focus { border-color: $accent; }
+QTableWidget#NavHits::item { padding: 0 {6}px; }
 QHeaderView, QHeaderView::section { background: transparent; border: none; }
 QHeaderView::section { color: $ink; padding: {4}px {8}px; font-size: {12}px; }
 QLabel[moduleCaption="true"] { color: $caption; font-size: {12}px; font-weight: bold; }
