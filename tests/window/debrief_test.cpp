@@ -1,5 +1,6 @@
 #include "look/look.h"
 #include "persistence/file_bytes.h"
+#include "shell/finding_text.h"
 #include "shell/memory_log.h"
 #include "support/temporary_folder.h"
 #include "window/chart/chart_view.h"
@@ -172,7 +173,13 @@ TEST_F(DebriefView, ComparesAttemptsAndExportsWhatIsShown) {
     const auto& values = form->debrief.compared()[0].debrief.series[0].values;
     ASSERT_EQ(row.earlier.size(), 1U);
     EXPECT_EQ(row.earlier[0].back().back().y(), row.yAt(*values.back())) << "its own end";
-    EXPECT_TRUE(list().rows()[0].earlier.startsWith("#1 "));
+    for (std::size_t i = 0; i < findings().size(); ++i) {
+        const auto& before = form->debrief.compared()[0].debrief.findings;
+        const auto same = std::ranges::find(before, findings()[i].kind, &Finding::kind);
+        ASSERT_NE(same, before.end());
+        EXPECT_EQ(list().rows()[i].earlier.toStdString(),
+                  "#1 " + valueText(same->value, unitOf(same->kind), englishTable()));
+    }
     const auto exported = [this](CommandButton& way, const char* name) {
         world.chosen = folder.path + "/" + name;
         way.click();
