@@ -41,7 +41,8 @@ void fill(const std::string& folder) {
                         static_cast<int>(Text::spotRadial) + i % 39, i % 3 != 0,
                         5000 + i % 20'000});
         for (int i = 0; i < flights; ++i) {
-            tables.run(QStringLiteral("INSERT INTO flights VALUES(?, ?, 'hold', 'Holding', ?,"
+            tables.run(QStringLiteral("INSERT INTO flights(id, at, task, title, attempt, bytes,"
+                                      " pinned, file) VALUES(?, ?, 'hold', 'Holding', ?,"
                                       " 20000, 0, 'none')"),
                        {i + 1, minute(60 * i), i});
             for (int place = 0; place < 7; ++place)
@@ -59,9 +60,9 @@ void bareQueries(LogDatabase& tables) {
          {std::pair{"SELECT at, asked, course, exercise, question, place, spot, correct, took"
                     " FROM answers ORDER BY id",
                     9},
-          std::pair{"SELECT id, at, task, title, attempt, bytes, pinned FROM flights"
+          std::pair{"SELECT id, at, task, title, attempt, bytes, pinned, fingerprint FROM flights"
                     " ORDER BY at DESC, id DESC",
-                    7},
+                    8},
           std::pair{"SELECT flight, kind, value, expected, tolerance, verdict, weight, first, last,"
                     " turn FROM findings ORDER BY flight, place",
                     10}}) {

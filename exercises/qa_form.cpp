@@ -144,6 +144,7 @@ bool QAform::followRound(ExercisePanel& shown) {
     round.reset();
     shown.mistakesBox.set(0);
     shown.setNotice(std::string(texts[begins ? Text::noMistakes : Text::mistakesAllRight]));
+    onRoundOver();
     return false;
 }
 

@@ -84,6 +84,8 @@ class QAform {
     /// The rows that are open show what is right and can't be answered any more, as behind the
     /// solution; the student's flight goes on.
     void giveUp();
+    /// A round of them is over, and nothing stands on the panel but the word of it.
+    std::function<void()> onRoundOver = [] {};
     /// Shows the next question of the running exercise.
     void DisplayQuestion();
     /// Reads the study file of that name for the current type. What can't be read is told in the

@@ -290,13 +290,16 @@ std::vector<LoggedFlight> SqliteLog::flights() {
     return run([](LogDatabase& log) {
         std::vector<LoggedFlight> found;
         std::map<std::int64_t, std::size_t> placeOf;
-        QSqlQuery rows = log.run(QStringLiteral("SELECT id, at, task, title, attempt, bytes, pinned"
-                                                " FROM flights ORDER BY at DESC, id DESC"));
+        QSqlQuery rows =
+            log.run(QStringLiteral("SELECT id, at, task, title, attempt, bytes, pinned,"
+                                   " fingerprint FROM flights"
+                                   " ORDER BY at DESC, id DESC"));
         while (LogDatabase::next(rows)) {
             placeOf[rows.value(0).toLongLong()] = found.size();
             found.push_back({.id = rows.value(0).toLongLong(),
                              .when = rows.value(1).toLongLong(),
                              .taskKey = rows.value(2).toString().toStdString(),
+                             .fingerprint = rows.value(7).toLongLong(),
                              .title = rows.value(3).toString().toStdString(),
                              .attempt = rows.value(4).toInt(),
                              .findings = {},

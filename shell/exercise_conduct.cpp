@@ -140,6 +140,7 @@ void ExerciseConduct::leave() {
     restoreTrainer();
     stage.display.setHidden(false);
     changed();
+    onLeave();
 }
 
 /// Back from a flight or from the solution to the question.

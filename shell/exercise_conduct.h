@@ -66,6 +66,7 @@ class ExerciseConduct {
     void coverReadings();
 
     std::function<void()> changed; ///< what may be used
+    std::function<void()> onLeave; ///< the exercise has been left, and another one may start
 
   private:
     enum class Question { none, open, flown, solved };

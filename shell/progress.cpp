@@ -34,7 +34,10 @@ struct Counting {
             if (auto& all = times[span]; !all.empty()) {
                 const auto middle = all.begin() + static_cast<std::ptrdiff_t>(all.size() / 2);
                 std::ranges::nth_element(all, middle);
-                history[span].milliseconds = *middle;
+                const bool isEven = all.size() % 2 == 0;
+                const std::int64_t below =
+                    isEven ? *std::max_element(all.begin(), middle) : *middle;
+                history[span].milliseconds = (below + *middle) / 2;
             }
         return {exercise, std::move(history), lastAsked};
     }

@@ -14,7 +14,8 @@ namespace tarnel {
 struct Tally {
     int asked = 0;
     int right = 0;
-    std::int64_t milliseconds = 0; ///< that an answer took, the middle value; 0 without answers
+    std::int64_t milliseconds =
+        0; ///< that an answer took: the middle value, or the mean of the two; 0 without answers
 
     /// Rounded; nothing without answers.
     [[nodiscard]] std::optional<int> percent() const;

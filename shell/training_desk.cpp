@@ -1,14 +1,14 @@
 #include "shell/training_desk.h"
 
-#include "persistence/save_file.h"
 #include "shell/answers_csv.h"
+#include "shell/asked_file.h"
 #include "shell/text_format.h"
-#include "strings/cause_text.h"
 
 #include <algorithm>
 #include <charconv>
 #include <map>
 #include <tuple>
+#include <utility>
 
 namespace tarnel {
 
@@ -47,6 +47,8 @@ TrainingDesk::TrainingDesk(QAform& exercises, ExerciseConduct& conduct, CourseDe
                            const std::vector<std::int64_t>& questions) {
         return roundOf(course, type, questions);
     };
+    form.onRoundOver = [this] { roundEnds(); };
+    exercise.onLeave = [this] { goOn(); };
 }
 
 bool TrainingDesk::with(const std::function<void(TrainingLog&)>& work) {
@@ -143,6 +145,39 @@ void TrainingDesk::practise(const std::string& courseKey, ExerciseType type,
     wantedSpot.reset();
 }
 
+void TrainingDesk::practiseAll(const std::string& courseKey,
+                               const std::vector<ExerciseType>& exercises) {
+    if (exercise.runs())
+        return;
+    ahead = {courseKey, {}, true};
+    for (const ExerciseType type : exercises)
+        if (mistakesOf(courseKey, type) > 0)
+            ahead.exercises.push_back(type);
+    if (ahead.exercises.empty())
+        boxes.show(Text::practiseMistakes, std::string(boxes.texts[Text::noMistakesAnywhere]),
+                   BoxKind::notice);
+    goOn();
+}
+
+/// The last exercise stays up and tells that all is done.
+void TrainingDesk::roundEnds() {
+    if (ahead.exercises.empty() || !form.activePanel())
+        return;
+    ahead.goesOn = true;
+    form.activePanel()->cancelButton.click();
+}
+
+/// Who leaves before the end of a round has had enough.
+void TrainingDesk::goOn() {
+    if (!std::exchange(ahead.goesOn, false) || ahead.exercises.empty())
+        return ahead.exercises.clear();
+    const ExerciseType next = ahead.exercises.front();
+    ahead.exercises.erase(ahead.exercises.begin());
+    ahead.runs = true;
+    practise(ahead.course, next);
+    ahead.runs = false;
+}
+
 int TrainingDesk::mistakesOf(const std::string& courseKey, ExerciseType type) {
     int count = 0;
     with([&](TrainingLog& target) {
@@ -158,7 +193,7 @@ MistakeRound TrainingDesk::roundOf(const Course& course, ExerciseType type,
     with([&](TrainingLog& target) {
         round = wantedSpot ? spotRound(target, course, type, questions, *wantedSpot)
                            : MistakeRound(questions, target.standings(course.statisticPrefix, type),
-                                          now());
+                                          ahead.runs ? 0 : now());
     });
     return round;
 }
@@ -190,23 +225,21 @@ MistakeRound TrainingDesk::spotRound(TrainingLog& target, const Course& course, 
 }
 
 void TrainingDesk::exportAnswers() {
-    const auto path = boxes.chooseFile({.saves = true,
-                                        .title = std::string(boxes.texts[Text::exportAnswers]),
-                                        .present = std::string(boxes.texts[Text::answersFile]),
-                                        .folder = {},
-                                        .filter = std::string(boxes.texts[Text::csvFilter]),
-                                        .extension = "csv"});
-    if (!path)
-        return;
-    std::string bytes;
-    if (!with([&](TrainingLog& target) { bytes = answersCsv(target, boxes.texts, outside); }))
-        return;
-    try {
-        saveFileBytes(*path, bytes);
-    } catch (const RunTimeError& error) {
-        boxes.show(Text::errorTitle,
-                   *path + "\n" + std::string(causeText(boxes.texts, error.cause())));
-    }
+    writeAskedFile(boxes,
+                   {.saves = true,
+                    .title = std::string(boxes.texts[Text::exportAnswers]),
+                    .present = std::string(boxes.texts[Text::answersFile]),
+                    .folder = {},
+                    .filter = std::string(boxes.texts[Text::csvFilter]),
+                    .extension = "csv"},
+                   [this]() -> std::optional<std::string> {
+                       std::string bytes;
+                       if (!with([&](TrainingLog& target) {
+                               bytes = answersCsv(target, boxes.texts, outside);
+                           }))
+                           return {};
+                       return bytes;
+                   });
 }
 
 bool TrainingDesk::deleteEverything() {

@@ -11,6 +11,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace tarnel {
 
@@ -41,7 +42,11 @@ class TrainingDesk {
     /// those that went wrong first. Does nothing while the exercises rest, or for a course that is
     /// gone.
     void practise(const std::string& courseKey, ExerciseType type, std::optional<Text> spot = {});
-    /// How many questions such a start would ask at present.
+    /// The same for one after the other of these exercises of a course, and only for what went
+    /// wrong the last time; the next one starts when all of one was right. A box tells if nothing
+    /// went wrong.
+    void practiseAll(const std::string& courseKey, const std::vector<ExerciseType>& exercises);
+    /// How many questions of an exercise went wrong the last time.
     [[nodiscard]] int mistakesOf(const std::string& courseKey, ExerciseType type);
 
     /// Writes all answers into a file that the user picks, with commas between the values.
@@ -51,6 +56,8 @@ class TrainingDesk {
 
   private:
     void note(const JudgedRow& row);
+    void roundEnds();
+    void goOn();
     void tell(const LogFailure& failure);
     MistakeRound roundOf(const Course& course, ExerciseType type,
                          const std::vector<std::int64_t>& questions);
@@ -67,8 +74,14 @@ class TrainingDesk {
     std::unique_ptr<TrainingLog> log; ///< null until it is needed
     std::optional<LogTrouble> told;   ///< the trouble that was told last and still lasts
     std::optional<Text> wantedSpot;   ///< of the exercise that is about to start
-    std::int64_t asked = 0;           ///< when the question was put up
-    std::int64_t answering = 0;       ///< since when its present row is answered
+    struct {
+        std::string course;
+        std::vector<ExerciseType> exercises; ///< that are still to come
+        bool goesOn = false;                 ///< with the next one when the present one is left
+        bool runs = false;                   ///< an exercise of it is about to start
+    } ahead;                                 ///< in the mistakes of all exercises
+    std::int64_t asked = 0;                  ///< when the question was put up
+    std::int64_t answering = 0;              ///< since when its present row is answered
 };
 
 } // namespace tarnel

@@ -7,6 +7,7 @@
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
+#include <filesystem>
 #include <iostream>
 #include <random>
 #include <sys/wait.h>
@@ -100,8 +101,13 @@ TEST(KilledLogs, LoseNothingThatWasToldAsSaved) {
         EXPECT_GE(found[program], reported[program]) << program;
         saved += reported[program];
     }
-    for (const LoggedFlight& flight : log.flights())
+    std::ptrdiff_t flights = 0;
+    for (const LoggedFlight& flight : log.flights()) {
         EXPECT_TRUE(log.session(flight.id)) << "a flight in the list can be opened";
+        ++flights;
+    }
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(path + "/flights"), {}), flights)
+        << "no session is left behind";
     EXPECT_FALSE(damaged);
     std::cout << kills << " kills, " << saved << " answers told as saved\n";
 }

@@ -36,8 +36,8 @@ TEST(ProgressCounts, HaveAMiddleTimeAndARoundedShare) {
     const struct {
         std::vector<std::int64_t> times;
         std::int64_t middle;
-    } medians[] = {{{}, 0},        {{5}, 5},          {{9, 1}, 9},
-                   {{9, 1, 2}, 2}, {{4, 1, 3, 2}, 3}, {{7, 7, 1, 900'000, 1, 8}, 7}};
+    } medians[] = {{{}, 0},        {{5}, 5},          {{9, 1}, 5},
+                   {{9, 1, 2}, 2}, {{4, 1, 3, 2}, 2}, {{7, 7, 1, 900'000, 1, 8}, 7}};
     for (const auto& [times, middle] : medians) {
         MemoryLog log;
         for (const std::int64_t took : times) {

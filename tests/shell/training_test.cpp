@@ -61,6 +61,14 @@ class TrainingTest : public TrainerWithFiles {
         couple();
     }
     void turnLeft(bool rightly) { panel().rows[2]->options[rightly ? 0 : 2]->click(); }
+    void answerAll() {
+        auto& headings = panel().rows[0]->options;
+        (*std::ranges::find(headings, 10, [](const auto& offered) {
+            return std::atoi(offered->text().c_str());
+        }))->click();
+        for (const auto& [row, right] : {std::pair{1U, 0U}, std::pair{2U, 0U}, std::pair{3U, 1U}})
+            panel().rows[row]->options[right]->click();
+    }
     void next() {
         panel().nextButton.click();
         couple();
@@ -127,6 +135,46 @@ TEST_F(TrainingTest, PractisesWhatWentWrongInAllOfItOrInOneThing) {
     form->training.practise("", ExerciseType::qdm);
     couple();
     EXPECT_EQ(panel().place().number, 2);
+}
+
+TEST_F(TrainingTest, PractisesTheMistakesOfOneExerciseAfterTheOther) {
+    fs::copy(folder.path + "/default/study/e-qdm.sty", folder.path + "/default/study/e-qdr.sty");
+    const std::vector<ExerciseType> all = {ExerciseType::wind, ExerciseType::qdr,
+                                           ExerciseType::qdm};
+    form->training.practiseAll("", all);
+    EXPECT_THAT(world.boxes, ElementsAre(HasSubstr("Nothing went wrong")));
+    for (const ExerciseType type : {ExerciseType::qdm, ExerciseType::qdr}) {
+        form->training.practise("", type);
+        couple();
+        turnLeft(false); // question 1
+        leave();
+    }
+    const int type = form->inst3TypeList.index();
+    form->training.practiseAll("", all);
+    couple();
+    EXPECT_EQ(form->QAform1.c_QAtype, static_cast<int>(ExerciseType::qdr));
+    answerAll();
+    next();
+    couple();
+    EXPECT_EQ(form->QAform1.c_QAtype, static_cast<int>(ExerciseType::qdm)) << "the next one";
+    EXPECT_EQ(panel().place().number, 1);
+    answerAll();
+    next();
+    couple();
+    EXPECT_TRUE(form->exercise.runs());
+    EXPECT_EQ(panel().mistakesBox.value(), 0) << "all right";
+    leave();
+    EXPECT_FALSE(form->exercise.runs());
+    EXPECT_EQ(form->inst3TypeList.index(), type);
+
+    form->training.practise("", ExerciseType::qdr);
+    couple();
+    turnLeft(false);
+    leave();
+    form->training.practiseAll("", {ExerciseType::qdr, ExerciseType::qdr});
+    couple();
+    leave();
+    EXPECT_FALSE(form->exercise.runs()) << "left before its end";
 }
 
 TEST_F(TrainingTest, TellsOnceThatNothingCanBeKeptAndGoesOn) {

@@ -3,6 +3,7 @@
 
 #include <QComboBox>
 #include <QDateTime>
+#include <QImage>
 #include <QMenu>
 #include <QSpinBox>
 #include <QTableWidget>
@@ -174,6 +175,43 @@ TEST_F(ProgressStudent, KeepsHisFlightsInOrder) {
     window->findChild<QAction*>("DeleteLog")->trigger();
     EXPECT_TRUE(log->flights().empty());
     EXPECT_EQ(cell(0, 1), "not asked");
+}
+
+TEST_F(ProgressStudent, OpensFlightsThatHeFlewEarlierAloneAndOverOneAnother) {
+    begin(englishTable(), {1280, 800});
+    openPage();
+    LoggedFlight flight{.taskKey = "hold vor1 240 right 1\nMUN", .title = "Holding"};
+    for (const std::int64_t when : {1, 2, 3}) {
+        flight.when = QDateTime::currentMSecsSinceEpoch() + when;
+        log->add(flight, form->UserControl11.sessionBytes(), {});
+    }
+    click("SpanMonth"); // reads anew
+    click("OpenLatest23");
+    EXPECT_THAT(world.boxes, testing::ElementsAre(HasSubstr("The file of this flight is damaged")));
+    EXPECT_TRUE(page().isVisible());
+    click("AllFlights");
+    auto& list = find<QTableWidget>("FlightList");
+    for (const auto& [last, compares] : {std::pair{1, true}, std::pair{3, false}}) {
+        list.clearSelection();
+        list.setRangeSelected({0, 0, last, list.columnCount() - 1}, true);
+        settle();
+        EXPECT_EQ(find("CompareFlights").isEnabled(), compares) << "flights at one task alone";
+        EXPECT_FALSE(find("OpenFlight").isEnabled());
+    }
+    list.setRangeSelected({3, 0, 3, list.columnCount() - 1}, false);
+    settle();
+    click("CompareFlights");
+    EXPECT_FALSE(page().isVisible());
+    ASSERT_TRUE(form->debrief.attempt());
+    EXPECT_EQ(form->debrief.attempt()->number, 3);
+    EXPECT_EQ(form->debrief.compared().size(), 2U);
+    EXPECT_TRUE(findShown<QWidget>("DebriefCard").isVisible());
+
+    openPage();
+    world.chosen = (folder / "plot.png").string();
+    window->findChild<QAction*>("ExportPlot")->trigger();
+    const QWidget& plot = find<QWidget>("ProgressPlot");
+    EXPECT_EQ(QImage((folder / "plot.png").c_str()).size(), plot.size() * 2);
 }
 
 /// TARNEL_SHOTS names a folder for pictures of the page, to be looked at.

@@ -1,5 +1,6 @@
 #include "window/progress/progress_page.h"
 
+#include "shell/asked_file.h"
 #include "shell/memory_log.h"
 #include "window/progress/exercise_table.h"
 #include "window/progress/flights_card.h"
@@ -130,6 +131,16 @@ void ProgressPage::addMenu(QBoxLayout& line) {
         connect(item, &QAction::triggered, this, action);
     };
     entry(Text::exportAnswers, "ExportAnswers", [this] { model.training.exportAnswers(); });
+    entry(Text::exportPlot, "ExportPlot", [this] {
+        writeAskedFile(model.boxes,
+                       {.saves = true,
+                        .title = std::string(model.texts[Text::exportPlot]),
+                        .present = std::string(model.texts[Text::plotFile]),
+                        .folder = {},
+                        .filter = std::string(model.texts[Text::debriefPictureFilter]),
+                        .extension = "png"},
+                       [this] { return plot->picture().toStdString(); });
+    });
     entry(Text::deleteLog, "DeleteLog", [this] {
         if (model.training.deleteEverything())
             reload();
@@ -186,6 +197,15 @@ QWidget* ProgressPage::makeProgress() {
     spots->onPractiseMistakes = [this] {
         practise(course() ? course()->key : std::string(),
                  progress.exercises[static_cast<std::size_t>(table->chosen())].exercise, {});
+    };
+    spots->onPractiseAll = [this] {
+        std::vector<ExerciseType> weakestFirst;
+        for (const ExerciseProgress& each : progress.exercises)
+            weakestFirst.push_back(each.exercise);
+        close();
+        model.boxes.guarded([&] {
+            model.training.practiseAll(course() ? course()->key : std::string(), weakestFirst);
+        });
     };
     latest->onAllFlights = [this] { showFlights(true); };
     return body;

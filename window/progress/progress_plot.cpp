@@ -4,6 +4,7 @@
 #include "window/widgets/card.h"
 #include "window/widgets/text_of.h"
 
+#include <QBuffer>
 #include <QPainterPath>
 
 #include <algorithm>
@@ -51,6 +52,19 @@ void ProgressPlot::show(const ExerciseProgress& exercise, const ExerciseProgress
     axis.emplace(spans);
     setAccessibleName(spoken());
     update();
+}
+
+QByteArray ProgressPlot::picture() {
+    constexpr int sharpness = 2;
+    QImage image(size() * sharpness, QImage::Format_RGB32);
+    image.setDevicePixelRatio(sharpness);
+    image.fill(look::desktop);
+    render(&image);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "PNG");
+    return bytes;
 }
 
 /// What the curves show, for who can't see them.

@@ -20,6 +20,9 @@ class ProgressPlot : public QWidget {
     void show(const ExerciseProgress& exercise, const ExerciseProgress& all,
               const TimeSpans& spans);
 
+    /// As it is shown, as the bytes of a PNG of twice its size.
+    [[nodiscard]] QByteArray picture();
+
   protected:
     void paintEvent(QPaintEvent* event) override;
 

@@ -53,17 +53,24 @@ SpotsCard::SpotsCard(const StringTable& table, QWidget* parent) : QWidget(parent
     rows->setSpacing(0);
     column->addLayout(rows, 1);
     column->addWidget(hairline(this));
-    all = new QPushButton(textOf(texts, Text::practiseMistakes), this);
-    all->setObjectName(QStringLiteral("PractiseMistakes"));
-    all->setProperty("primary", true);
-    connect(all, &QPushButton::clicked, this, [this] { onPractiseMistakes(); });
+    chosen = new QPushButton(textOf(texts, Text::practiseMistakes), this);
+    chosen->setObjectName(QStringLiteral("PractiseMistakes"));
+    chosen->setProperty("primary", true);
+    connect(chosen, &QPushButton::clicked, this, [this] { onPractiseMistakes(); });
+    all = new QPushButton(textOf(texts, Text::practiseAllMistakes), this);
+    all->setObjectName(QStringLiteral("PractiseAllMistakes"));
+    all->setProperty("quiz", true);
+    all->setAccessibleName(textOf(texts, Text::practiseMistakes) + QStringLiteral(", ") +
+                           all->text());
+    connect(all, &QPushButton::clicked, this, [this] { onPractiseAll(); });
     count = new QLabel(this);
     count->setProperty("secondary", true);
     count->setWordWrap(true);
     auto* foot = new QHBoxLayout;
+    foot->addWidget(chosen);
     foot->addWidget(all);
-    foot->addSpacing(8);
-    foot->addWidget(count, 1);
+    foot->addStretch();
+    column->addWidget(count);
     column->addLayout(foot);
 }
 
@@ -81,7 +88,8 @@ void SpotsCard::show(const Progress& progress, ExerciseType exercise, int mistak
     rows->addStretch();
     const QString name = QString::fromStdString(exerciseName(exercise, texts));
     all->setEnabled(mayStart);
-    all->setAccessibleName(textOf(texts, Text::practiseMistakes) + QStringLiteral(", ") + name);
+    chosen->setEnabled(mayStart);
+    chosen->setAccessibleName(textOf(texts, Text::practiseMistakes) + QStringLiteral(", ") + name);
     count->setText(mistakes > 0 ? textOf(texts, Text::mistakesToTrain).arg(name).arg(mistakes)
                                 : textOf(texts, Text::restedToTrain).arg(name));
 }

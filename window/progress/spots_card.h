@@ -29,6 +29,7 @@ class SpotsCard : public QWidget {
 
     std::function<void(const SpotProgress&)> onPractise;
     std::function<void()> onPractiseMistakes;
+    std::function<void()> onPractiseAll;
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -42,6 +43,7 @@ class SpotsCard : public QWidget {
 
     const StringTable& texts;
     QVBoxLayout* rows = nullptr;
+    QPushButton* chosen = nullptr;
     QPushButton* all = nullptr;
     QLabel* count = nullptr;
 };
