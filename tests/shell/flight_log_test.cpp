@@ -121,6 +121,17 @@ TEST_F(FlightLogTest, BringsFlightsBackWithTheirTaskOneOverTheOther) {
     form->debriefControls.item.click();
     EXPECT_EQ(form->debrief.compared().size(), 2U);
     EXPECT_EQ(log->flights().size(), 4U);
+
+    openLogged({3});
+    const std::size_t before = form->flightDesk.keeper.flights().size();
+    openLogged({2});
+    EXPECT_EQ(form->flightDesk.keeper.flights().size(), before) << "one of the log is kept there";
+    form->debriefControls.close.click();
+    couple();
+    fly(40); // on, as he likes
+    EXPECT_EQ(log->flights().size(), 4U);
+    form->debriefControls.item.click();
+    EXPECT_TRUE(form->debrief.choosesTask());
 }
 
 TEST_F(FlightLogTest, TellsWhatIsGoneAndAsksForAnUnknownTask) {
