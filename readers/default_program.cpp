@@ -14,7 +14,7 @@ namespace {
 void addLists(std::vector<std::string>& lists, const std::string& folder,
               const DesktopFolders& folders) {
     for (const std::string& desktop : folders.desktops)
-        lists.push_back(folder + "/" + desktop + "-mimeapps.list");
+        lists.push_back(std::string(folder).append("/").append(desktop).append("-mimeapps.list"));
     lists.push_back(folder + "/mimeapps.list");
 }
 
@@ -32,7 +32,7 @@ std::optional<std::string> entryIn(const std::string& folder, std::string id) {
     std::error_code failure;
     std::size_t dash = 0;
     while (true) {
-        const std::string path = folder + "/applications/" + id;
+        const std::string path = std::string(folder).append("/applications/").append(id);
         if (std::filesystem::is_regular_file(path, failure))
             return path;
         dash = id.find('-', dash);

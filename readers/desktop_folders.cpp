@@ -63,9 +63,11 @@ std::optional<std::string> DesktopFolders::program(const std::string& name) cons
         return runs(name) ? std::optional(name) : std::nullopt;
     if (name.empty() || name.find('/') != std::string::npos)
         return {};
-    for (const std::string& folder : programs)
-        if (runs(folder + "/" + name))
-            return folder + "/" + name;
+    for (const std::string& folder : programs) {
+        std::string path = std::string(folder).append("/").append(name);
+        if (runs(path))
+            return path;
+    }
     return {};
 }
 

@@ -59,7 +59,7 @@ QVariant HelpView::loadResource(int type, const QUrl& name) {
 
 /// What the page says for the picture, else the name of its file.
 QString HelpView::wordsFor(const QUrl& picture) const {
-    const QString name = picture.fileName();
+    QString name = picture.fileName();
     const QString before = QStringLiteral("<img src=\"%1\" alt=\"").arg(name);
     const qsizetype at = page.indexOf(before);
     if (at < 0)
