@@ -58,7 +58,7 @@ void frame(ChartFile& chart, double size) {
     for (std::size_t i = 0; i < slotCount; ++i)
         stations[i].position = toSplit(*chart.stations[i].position);
     const ChartFraming framing =
-        framingOf(framedStations(stations, chart.locCourse.value_or(0)), size);
+        framingOf(framedStations(stations, chart.locCourse.value_or(0)), {size});
     chart.mapScaleTwips = std::max(framing.scale, smallest);
     chart.aircraft = toPlain(framing.centre);
 }
@@ -79,7 +79,7 @@ std::string frequencyText(const Navaid& navaid) {
     const double units = *navaid.frequency / (isNdb ? 1 : kilohertzPerHundredth);
     std::string text = zeroPadded(std::llround(units), 3);
     if (!isNdb)
-        text.insert(text.size() - 2, ".");
+        text.insert(text.end() - 2, '.');
     return text;
 }
 

@@ -31,8 +31,8 @@ class OutsideWorld {
     virtual bool ask(const std::string& /*title*/, const std::string& /*text*/) { return true; }
     /// The path that the user picks; nothing if he changes his mind, or where nobody is to ask.
     virtual std::optional<std::string> chooseFile(const FileQuestion&) { return {}; }
-    /// Opens a PDF document in the user's reader, at a page if that is above 0. False if there is no
-    /// reader.
+    /// Opens a PDF document in the user's reader, at a page if that is above 0. False if there is
+    /// no reader.
     virtual bool openDocument(const std::string& /*path*/, int /*page*/) { return true; }
     /// Opens an HTML page in the user's browser. False if there is none.
     virtual bool openInBrowser(const std::string& /*path*/) { return true; }
