@@ -3,6 +3,7 @@
 #include "flights/plan_error.h"
 #include "persistence/save_file.h"
 #include "tools/help/page_writer.h"
+#include "tools/help/panel_pictures.h"
 #include "tools/output/output_file.h"
 
 #include <QDir>
@@ -66,18 +67,27 @@ class HelpBuilder {
         PageBody body = writeBody(document);
         if (body.title.isEmpty())
             fail(file, 1, QStringLiteral("\"# \" and the title of the page"));
+        const QString language = file.section('.', 1, 1);
         for (const QString& link : body.links)
-            if (!sources.exists(fileOf(link, file.section('.', 1, 1)))) {
-                const qsizetype at = text.indexOf(QStringLiteral("](%1)").arg(link));
-                fail(file, text.left(at).count('\n') + 1,
+            if (!sources.exists(fileOf(link, language)))
+                fail(file, lineOf(text, link),
                      QStringLiteral("the name of a page, not \"%1\"").arg(link));
-            }
+        for (const QString& picture : body.pictures)
+            if (!out.exists(language + '/' + picture))
+                fail(file, lineOf(text, picture),
+                     QStringLiteral("the name of a picture, not \"%1\"").arg(picture));
         return body;
+    }
+
+    static qsizetype lineOf(const QString& text, const QString& target) {
+        return text.left(text.indexOf(QStringLiteral("](%1)").arg(target))).count('\n') + 1;
     }
 
     void buildLanguage(const QString& language) const {
         if (!out.mkpath(language))
             throw OutputError(out.filePath(language).toStdString(), "the folder can't be made");
+        paintPanels(language == QLatin1String("de") ? germanTable() : englishTable(),
+                    out.filePath(language));
         const QString contentsTitle = bodyOf(fileOf(contents, language)).title;
         for (const QString& file : sources.entryList({fileOf("*", language)}, QDir::Files)) {
             const QString page = file.section('.', 0, 0);

@@ -1,24 +1,25 @@
-// tarnel-help SOURCES OUT: makes the pages of the help.
+// tarnel-help SOURCES OUT: makes the pages of the help, and paints the pictures on them.
 
 #include "tools/help/help_builder.h"
 #include "tools/output/tool_run.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 
 namespace {
 
 using namespace tarnel;
 
 constexpr auto usage = "Usage: tarnel-help SOURCES OUT\n"
-                       "Makes the pages of the help as HTML from the Markdown in SOURCES.\n";
+                       "Makes the pages of the help as HTML from the Markdown in SOURCES, with\n"
+                       "pictures of the trainer's panels.\n";
 
 } // namespace
 
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QGuiApplication application(argc, argv);
+    const QApplication application(argc, argv);
     return runTool("tarnel-help", usage, [&] {
-        const QStringList words = QGuiApplication::arguments();
+        const QStringList words = QApplication::arguments();
         if (words.size() != 3)
             throw UsageError("a folder of sources and one for the pages are needed");
         buildHelp(words[1], words[2]);

@@ -88,12 +88,17 @@ class BodyWriter {
         return html;
     }
 
+    QString picture(const QTextImageFormat& format) {
+        body.pictures.append(format.name());
+        return QStringLiteral("<img src=\"%1\" alt=\"%2\">")
+            .arg(format.name().toHtmlEscaped(),
+                 format.stringProperty(QTextFormat::ImageAltText).toHtmlEscaped());
+    }
+
     QString fragment(const QTextFragment& part, bool heads) {
         const QTextCharFormat format = part.charFormat();
         if (format.isImageFormat())
-            return QStringLiteral("<img src=\"%1\" alt=\"%2\">")
-                .arg(format.toImageFormat().name().toHtmlEscaped(),
-                     format.stringProperty(QTextFormat::ImageAltText).toHtmlEscaped());
+            return picture(format.toImageFormat());
         QString html =
             part.text().toHtmlEscaped().replace(QChar::LineSeparator, QStringLiteral("<br>"));
         if (format.fontFixedPitch())

@@ -11,7 +11,8 @@ namespace tarnel {
 struct PageBody {
     QString title; ///< its first heading
     QString html;
-    QStringList links; ///< to other pages, by their names
+    QStringList links;    ///< to other pages, by their names
+    QStringList pictures; ///< by the names of their files
 };
 
 /// Writes a document as HTML that says what things are and leaves their looks to a style sheet:

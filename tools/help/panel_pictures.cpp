@@ -1,0 +1,200 @@
+#include "tools/help/panel_pictures.h"
+
+#include "flights/flight.h"
+#include "shell/application_folder.h"
+#include "shell/memory_log.h"
+#include "tools/output/output_file.h"
+#include "window/chart/chart_view.h"
+#include "window/chart/comment_card.h"
+#include "window/debrief/debrief_card.h"
+#include "window/debrief/debrief_plot.h"
+#include "window/dials/instrument_view.h"
+#include "window/frame/main_window.h"
+#include "window/progress/progress_page.h"
+#include "window/quiz/quiz_panel.h"
+#include "window/radios/autopilot_module.h"
+#include "window/radios/dme_module.h"
+#include "window/radios/nav_module.h"
+#include "window/radios/stopwatch_module.h"
+#include "window/strip/control_strip.h"
+#include "window/widgets/dressing.h"
+
+#include <QApplication>
+#include <QDateTime>
+#include <QDir>
+
+namespace tarnel {
+
+namespace {
+
+/// The trainer at some moment, with its window.
+class Stage {
+  public:
+    explicit Stage(const StringTable& texts) : form(texts, world, applicationFolder()) {}
+
+    void fly(int seconds) {
+        constexpr int ticksPerSecond = 3;
+        form.startButton.click();
+        for (int i = 0; i < seconds * ticksPerSecond; ++i) {
+            form.simulationTimer();
+            form.Timer1();
+        }
+        form.startButton.click();
+        form.Timer1();
+    }
+
+    void show(QSize size = {1280, 800}) {
+        dressApplication(form.texts, QString::fromStdString(applicationFolder()));
+        window = std::make_unique<MainWindow>(form);
+        window->resize(size);
+        window->show();
+        settle();
+    }
+
+    void settle() {
+        form.Timer1();
+        form.Timer1();
+        window->refresh();
+        QApplication::processEvents();
+    }
+
+    /// Where all parts of these kinds are that can be seen, as one.
+    template <class... Parts>
+    QRect placeOf() const {
+        QRect place;
+        for (const auto* part : window->findChildren<QWidget*>())
+            if (part->isVisible() && (... || dynamic_cast<const Parts*>(part)))
+                place |= QRect(part->mapTo(window.get(), QPoint()), part->size());
+        return place;
+    }
+
+    RecordingWorld world;
+    Form1 form;
+    std::unique_ptr<MainWindow> window;
+};
+
+/// Some weeks of answers by one who has trouble with entries.
+std::unique_ptr<TrainingLog> someAnswers(std::int64_t now) {
+    constexpr std::int64_t day = 86'400'000;
+    auto log = std::make_unique<MemoryLog>();
+    const auto answer = [&](ExerciseType exercise, Text spot, int days, int asked, int right) {
+        for (int i = 0; i < asked; ++i) {
+            AnsweredRow row;
+            row.when = row.asked = now - days * day - i;
+            row.exercise = exercise;
+            row.spot = spot;
+            row.question = i;
+            row.rows = 1;
+            row.right = i < right;
+            row.milliseconds = 9000 + 700 * i;
+            log->add(row);
+        }
+    };
+    for (int week = 0; week < 8; ++week) {
+        answer(ExerciseType::hsiHolding, Text::spotEntryOffsetLeft, week * 7, 6, 5 - week / 2);
+        answer(ExerciseType::qdm, Text::spotQdmTrend, week * 7 + 1, 8, 7 - week / 2);
+    }
+    return log;
+}
+
+constexpr int widest = 760; ///< pixels that the help's window has room for
+
+struct PanelPicture {
+    const char* name;
+    void (*prepare)(Stage& stage);
+    QRect (*part)(const Stage& stage);
+};
+
+void fliesToTheStation(Stage& stage) {
+    constexpr std::int16_t toTheStation = 115;
+    stage.form.coupling.setHeadingBug(toTheStation);
+    stage.fly(120);
+    stage.show();
+}
+
+template <InstrumentKind kind>
+void looksAtDial(Stage& stage) {
+    stage.form.SelectInst3(static_cast<std::int16_t>(kind));
+    fliesToTheStation(stage);
+}
+
+void replays(Stage& stage) {
+    fliesToTheStation(stage);
+    stage.form.pages.replay.choose();
+    stage.form.replayPage.bar.scrollTo(20);
+    stage.settle();
+}
+
+void writesComments(Stage& stage) {
+    fliesToTheStation(stage);
+    stage.form.commentPanel.write.click();
+    stage.settle();
+}
+
+void isAsked(Stage& stage) {
+    stage.show();
+    stage.form.exerciseMenu.exercises.front()->click();
+    stage.settle();
+}
+
+void isDebriefed(Stage& stage) {
+    fliesToTheStation(stage);
+    stage.form.debriefControls.item.click();
+    stage.settle();
+    stage.form.debriefControls.judge.click();
+    stage.settle();
+}
+
+void looksBack(Stage& stage) {
+    stage.form.training.useLog(
+        [](TrainingDesk&) { return someAnswers(QDateTime::currentMSecsSinceEpoch()); });
+    stage.show({960, 640});
+    stage.form.exerciseMenu.progress.click();
+    stage.settle();
+}
+
+template <class... Parts>
+QRect placeOf(const Stage& stage) {
+    return stage.placeOf<Parts...>();
+}
+
+QRect rightDial(const Stage& stage) {
+    const auto* dial = stage.window->findChild<QWidget*>(QStringLiteral("UserControl13_1"));
+    return {dial->mapTo(stage.window.get(), QPoint()), dial->size()};
+}
+
+constexpr PanelPicture pictures[] = {
+    {"chart", fliesToTheStation, placeOf<ChartView>},
+    {"strip", fliesToTheStation, placeOf<ControlStrip>},
+    {"autopilot", fliesToTheStation, placeOf<AutopilotModule>},
+    {"radios", fliesToTheStation, placeOf<NavModule, DmeModule>},
+    {"stopwatch", fliesToTheStation, placeOf<StopwatchModule>},
+    {"replay", replays, placeOf<ControlStrip>},
+    {"comments", writesComments, placeOf<CommentCard>},
+    {"rmi", looksAtDial<InstrumentKind::rmi>, rightDial},
+    {"adf", looksAtDial<InstrumentKind::adf>, rightDial},
+    {"hsi", looksAtDial<InstrumentKind::hsi>, rightDial},
+    {"vor", looksAtDial<InstrumentKind::vor>, rightDial},
+    {"dg", looksAtDial<InstrumentKind::dg>, rightDial},
+    {"exercise", isAsked, placeOf<QuizPanel>},
+    {"debrief", isDebriefed, placeOf<DebriefCard, DebriefPlot>},
+    {"progress", looksBack, placeOf<ProgressPage>},
+};
+
+} // namespace
+
+void paintPanels(const StringTable& texts, const QString& folder) {
+    for (const PanelPicture& picture : pictures) {
+        Stage stage(texts);
+        picture.prepare(stage);
+        const QString file = QDir(folder).filePath(QStringLiteral("%1.png").arg(picture.name));
+        const QRect part = picture.part(stage);
+        QPixmap painted = stage.window->grab(part);
+        if (part.width() > widest)
+            painted = painted.scaledToWidth(widest, Qt::SmoothTransformation);
+        if (part.isEmpty() || !painted.save(file))
+            throw OutputError(file.toStdString(), "the picture can't be painted");
+    }
+}
+
+} // namespace tarnel
