@@ -67,7 +67,7 @@ TEST_F(FlightLogTest, KeepsEachFlightAtATaskOnceHoweverItIsDebriefed) {
     practise(110, 20);
     EXPECT_THAT(kept(), ElementsAre()) << "too short to tell anything";
     flyTo(110, 40);
-    const char* const title = "Flight after the example adf practise 01";
+    const char* const title = "Flying after the example adf practise 01";
     EXPECT_THAT(kept(), ElementsAre(title + std::string(" 1!")));
     form->debriefControls.item.click();
     form->debriefControls.close.click();
@@ -117,7 +117,7 @@ TEST_F(FlightLogTest, BringsFlightsBackWithTheirTaskOneOverTheOther) {
 
     form->debriefControls.flyAgain.click();
     flyTo(60, 40);
-    EXPECT_EQ(kept()[0], "Flight after the example adf practise 01 4!");
+    EXPECT_EQ(kept()[0], "Flying after the example adf practise 01 4!");
     form->debriefControls.item.click();
     EXPECT_EQ(form->debrief.compared().size(), 2U);
     EXPECT_EQ(log->flights().size(), 4U);
