@@ -105,11 +105,21 @@ struct PanelPicture {
     QRect (*part)(const Stage& stage);
 };
 
-void fliesToTheStation(Stage& stage) {
+constexpr QSize lowWindow{1024, 768}; ///< nothing keeps room there that it does not need
+
+void flyToTheStation(Stage& stage, QSize size) {
     constexpr std::int16_t toTheStation = 115;
     stage.form.coupling.setHeadingBug(toTheStation);
     stage.fly(120);
-    stage.show();
+    stage.show(size);
+}
+
+void fliesToTheStation(Stage& stage) {
+    flyToTheStation(stage, {1280, 800});
+}
+
+void steersFromTheStrip(Stage& stage) {
+    flyToTheStation(stage, lowWindow);
 }
 
 template <InstrumentKind kind>
@@ -119,7 +129,7 @@ void looksAtDial(Stage& stage) {
 }
 
 void replays(Stage& stage) {
-    fliesToTheStation(stage);
+    flyToTheStation(stage, lowWindow);
     stage.form.pages.replay.choose();
     stage.form.replayPage.bar.scrollTo(20);
     stage.settle();
@@ -137,8 +147,14 @@ void isAsked(Stage& stage) {
     stage.settle();
 }
 
+/// A shipped flight over the task that its right instrument shows.
 void isDebriefed(Stage& stage) {
-    fliesToTheStation(stage);
+    constexpr std::size_t trackInWind = 4;
+    stage.form.exerciseMenu.vorPractice[trackInWind]->click();
+    stage.form.Timer1();
+    stage.form.StopReplay();
+    stage.form.replayPage.bar.scrollTo(stage.form.replayPage.bar.max());
+    stage.show();
     stage.form.debriefControls.item.click();
     stage.settle();
     stage.form.debriefControls.judge.click();
@@ -165,7 +181,7 @@ QRect rightDial(const Stage& stage) {
 
 constexpr PanelPicture pictures[] = {
     {"chart", fliesToTheStation, placeOf<ChartView>},
-    {"strip", fliesToTheStation, placeOf<ControlStrip>},
+    {"strip", steersFromTheStrip, placeOf<ControlStrip>},
     {"autopilot", fliesToTheStation, placeOf<AutopilotModule>},
     {"radios", fliesToTheStation, placeOf<NavModule, DmeModule>},
     {"stopwatch", fliesToTheStation, placeOf<StopwatchModule>},
@@ -177,7 +193,8 @@ constexpr PanelPicture pictures[] = {
     {"vor", looksAtDial<InstrumentKind::vor>, rightDial},
     {"dg", looksAtDial<InstrumentKind::dg>, rightDial},
     {"exercise", isAsked, placeOf<QuizPanel>},
-    {"debrief", isDebriefed, placeOf<DebriefCard, DebriefPlot>},
+    {"debrief", isDebriefed, placeOf<DebriefCard>},
+    {"debrief_plot", isDebriefed, placeOf<DebriefPlot>},
     {"progress", looksBack, placeOf<ProgressPage>},
 };
 
