@@ -21,14 +21,12 @@ set(CPACK_DEBIAN_UNSPECIFIED_PACKAGE_DEPENDS "libqt6sql6-sqlite, fonts-liberatio
 set(CPACK_DEBIAN_UNSPECIFIED_PACKAGE_RECOMMENDS "qt6-translations-l10n, qt6-wayland")
 set(CPACK_DEBIAN_UNSPECIFIED_PACKAGE_SUGGESTS "tarnel-handbook, pdf-viewer")
 set(CPACK_COMPONENT_UNSPECIFIED_DESCRIPTION
-  "trainer for instrument radio navigation
- A student flies a simulated aircraft over a chart of five stations and reads
- VOR, HSI, RMI, ADF, DME and gyro as in a real panel. Flights are recorded,
- replayed and debriefed; ten kinds of exercises ask for positions, holdings,
- interceptions and wind, and fly their solutions. German and English.")
+  "A student flies a simulated aircraft over a chart of five stations and reads
+VOR, HSI, RMI, ADF, DME and gyro as in a real panel. Flights are recorded,
+replayed and debriefed; ten kinds of exercises ask for positions, holdings,
+interceptions and wind, and fly their solutions. German and English.")
 set(CPACK_COMPONENT_HANDBOOK_DESCRIPTION
-  "handbook of the radio navigation trainer Tarnel
- A textbook of radio navigation in German and English, with figures that were
- flown in the trainer.")
+  "The handbook of the trainer: a textbook of radio navigation in German and English, with figures that were
+flown in the trainer.")
 
 include(CPack)
