@@ -105,7 +105,7 @@ FlightLog::read(const std::vector<std::int64_t>& flights) {
             if (std::ranges::count(flights, entry.id) == 0)
                 continue;
             std::optional<std::string> bytes = log.session(entry.id);
-            SessionFile session = bytes ? readSession(*std::move(bytes)) : SessionFile();
+            SessionFile session = bytes ? readSession(*bytes) : SessionFile();
             if (session.samples.size() < fewestSamples)
                 trouble = {bytes ? Text::flightFileDamaged : Text::flightFileGone, entry};
             kept.insert(kept.begin(), {std::move(entry), std::move(session)});
