@@ -26,7 +26,7 @@ VOR, HSI, RMI, ADF, DME and gyro as in a real panel. Flights are recorded,
 replayed and debriefed; ten kinds of exercises ask for positions, holdings,
 interceptions and wind, and fly their solutions. German and English.")
 set(CPACK_COMPONENT_HANDBOOK_DESCRIPTION
-  "The handbook of the trainer: a textbook of radio navigation in German and English, with figures that were
-flown in the trainer.")
+  "The handbook of the trainer: a textbook of radio navigation in German and
+English, with figures that were flown in the trainer.")
 
 include(CPack)
