@@ -104,7 +104,7 @@ TEST(Judge, TellsWhereTheNeedleAndTheLineWere) {
         EXPECT_NEAR(seen.distance, std::hypot(16, 3), 0.01);
     }
     const LineTask onBeacon{.station = Slot::ndb1, .course = 90};
-    const Series& beside = judge(flown.samples, onBeacon, Strictness::standard).series[1];
+    const Series beside = judge(flown.samples, onBeacon, Strictness::standard).series[1];
     EXPECT_EQ(beside.kind, SeriesKind::offLine);
     EXPECT_TRUE(judge({}, LineTask{}, Strictness::standard).findings.empty());
 }
