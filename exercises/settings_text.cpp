@@ -1,5 +1,7 @@
 #include "exercises/settings_text.h"
 
+#include "core/plain_text.h"
+
 #include <algorithm>
 #include <charconv>
 
@@ -8,7 +10,6 @@ namespace tarnel {
 namespace {
 
 constexpr int hexadecimal = 16;
-constexpr std::string_view blanks = " \t\r";
 
 /// What a backslash and a letter stand for in a value.
 struct Escape {
@@ -30,13 +31,6 @@ std::string twoDigits(char c) {
     constexpr std::string_view digits = "0123456789ABCDEF";
     const auto byte = static_cast<unsigned char>(c);
     return {digits[byte / hexadecimal], digits[byte % hexadecimal]};
-}
-
-std::string_view trimmed(std::string_view text) {
-    const auto first = text.find_first_not_of(blanks);
-    if (first == std::string_view::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
 
 std::string keyText(std::string_view key) {

@@ -1,5 +1,6 @@
 #include "navdata/nav_dat.h"
 
+#include "core/plain_text.h"
 #include "core/station_geometry.h"
 #include "navdata/navaid_fields.h"
 

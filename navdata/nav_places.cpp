@@ -1,5 +1,6 @@
 #include "navdata/nav_places.h"
 
+#include "core/plain_text.h"
 #include "core/run_time_error.h"
 #include "navdata/navaid_fields.h"
 #include "persistence/file_bytes.h"

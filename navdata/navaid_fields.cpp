@@ -1,6 +1,7 @@
 #include "navdata/navaid_fields.h"
 
 #include "core/number_text.h"
+#include "core/plain_text.h"
 #include "core/stations.h"
 #include "persistence/text_encoding.h"
 
@@ -29,14 +30,6 @@ bool isControl(char c) {
 }
 
 } // namespace
-
-std::string_view trimmed(std::string_view text) {
-    constexpr std::string_view blanks = " \t\r";
-    const std::size_t first = text.find_first_not_of(blanks);
-    if (first == std::string_view::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
-}
 
 double navNumber(std::string_view field, NavField expected) {
     const auto number = parseNumber(field);

@@ -19,8 +19,6 @@ namespace tarnel {
 [[nodiscard]] std::string navName(std::string_view field);
 /// One to `longestStationText` characters; no others than a chart's file can hold.
 [[nodiscard]] std::string navIdentifier(std::string_view field);
-/// `text` without blanks at its ends.
-[[nodiscard]] std::string_view trimmed(std::string_view text);
 
 /// Leaves the row in `line` out, as it does not hold `expected`.
 void leaveOut(NavData& data, int line, NavField expected);

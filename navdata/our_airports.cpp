@@ -1,5 +1,6 @@
 #include "navdata/our_airports.h"
 
+#include "core/plain_text.h"
 #include "core/station_geometry.h"
 #include "navdata/csv_records.h"
 #include "navdata/navaid_fields.h"

@@ -30,7 +30,7 @@ std::string unescaped(std::string_view value) {
     return text;
 }
 
-/// Splits a command line as the specification wants it. No code counts in quotes: there a percent
+/// Splits a command line by the rules of `Exec`. No code counts in quotes: there a percent
 /// sign comes out doubled.
 class LineSplitter {
   public:

@@ -1,5 +1,7 @@
 #include "readers/desktop_folders.h"
 
+#include "core/plain_text.h"
+
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
@@ -18,18 +20,11 @@ std::vector<std::string> parts(const std::string& list) {
     return all;
 }
 
-/// By the specification a path that does not begin at the root counts as none.
+/// A path that does not begin at the root counts as none.
 void add(std::vector<std::string>& folders, const std::string& list) {
     for (const std::string& folder : parts(list))
         if (folder.starts_with('/'))
             folders.push_back(folder);
-}
-
-std::string lowerCase(std::string text) {
-    std::ranges::transform(text, text.begin(), [](char sign) {
-        return sign >= 'A' && sign <= 'Z' ? static_cast<char>(sign - 'A' + 'a') : sign;
-    });
-    return text;
 }
 
 bool runs(const std::string& path) {

@@ -1,22 +1,12 @@
 #include "readers/key_file.h"
 
+#include "core/plain_text.h"
+
 #include <filesystem>
 #include <fstream>
 #include <string_view>
 
 namespace tarnel {
-
-namespace {
-
-std::string trimmed(std::string_view text) {
-    constexpr auto blanks = " \t\r";
-    const std::size_t first = text.find_first_not_of(blanks);
-    if (first == std::string_view::npos)
-        return {};
-    return std::string(text.substr(first, text.find_last_not_of(blanks) - first + 1));
-}
-
-} // namespace
 
 KeyGroup readKeyGroup(const std::string& path, const std::string& group) {
     KeyGroup keys;
@@ -26,7 +16,7 @@ KeyGroup readKeyGroup(const std::string& path, const std::string& group) {
     std::ifstream file(path, std::ios::binary);
     bool inGroup = false;
     for (std::string line; std::getline(file, line);) {
-        line = trimmed(line);
+        line = std::string(trimmed(line));
         const std::size_t sign = line.find('=');
         if (line.starts_with('['))
             inGroup = line == "[" + group + "]";

@@ -1,5 +1,6 @@
 #include "shell/file_desk.h"
 
+#include "core/plain_text.h"
 #include "engine/file_requests.h"
 #include "persistence/file_path.h"
 #include "shell/text_format.h"
@@ -39,10 +40,7 @@ bool liesBelow(const fs::path& path, const fs::path& folder) {
 }
 
 std::string lowerExtension(const fs::path& file) {
-    std::string extension = file.extension().string();
-    std::ranges::transform(extension, extension.begin(),
-                           [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-    return extension;
+    return lowerCase(file.extension().string());
 }
 
 bool isTrack(const fs::path& file) {

@@ -1,4 +1,5 @@
 #include "core/number_text.h"
+#include "core/plain_text.h"
 #include "persistence/line_source.h"
 #include "tracks/track_builder.h"
 #include "tracks/track_reader.h"
@@ -29,13 +30,6 @@ std::vector<std::string_view> fieldsOf(std::string_view line, char separator) {
     }
 }
 
-std::string lowerCase(std::string_view text) {
-    std::string lower(text);
-    std::ranges::transform(lower, lower.begin(),
-                           [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-    return lower;
-}
-
 /// Where in a line stands what.
 struct Columns {
     std::size_t time = none;
@@ -59,7 +53,7 @@ Columns columnsOf(std::string_view line, char separator) {
     Columns columns;
     const std::vector<std::string_view> names = fieldsOf(line, separator);
     for (std::size_t i = 0; i < names.size(); ++i) {
-        std::string name = lowerCase(names[i]);
+        std::string name = lowerCase(std::string(names[i]));
         name.erase(0, std::min(name.size(), name.find_first_not_of(' ')));
         const auto end =
             std::ranges::find_if_not(name, [](unsigned char c) { return std::islower(c) != 0; });

@@ -1,4 +1,5 @@
 #include "core/number_text.h"
+#include "core/plain_text.h"
 #include "tracks/track_builder.h"
 #include "tracks/track_reader.h"
 #include "tracks/track_time.h"
@@ -36,14 +37,6 @@ Element elementOf(Element parent, std::string_view tag) {
         if (place.parent == parent && place.tag == tag)
             return place.element;
     return Element::other;
-}
-
-std::string_view trimmed(std::string_view text) {
-    constexpr auto blanks = " \t\r\n";
-    const auto first = text.find_first_not_of(blanks);
-    if (first == std::string_view::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
 
 std::optional<double> attribute(const XML_Char** attributes, std::string_view wanted) {

@@ -1,6 +1,7 @@
 #include "tracks/track_writer.h"
 
 #include "core/number_text.h"
+#include "core/plain_text.h"
 #include "core/rounding.h"
 #include "persistence/text_encoding.h"
 #include "tracks/track_time.h"
@@ -149,9 +150,8 @@ std::string_view extensionOf(TrackFormat format) {
 
 std::optional<TrackFormat> formatOf(std::string_view fileName) {
     const auto dot = fileName.rfind('.');
-    std::string ending(dot == std::string_view::npos ? "" : fileName.substr(dot + 1));
-    std::ranges::transform(ending, ending.begin(),
-                           [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    const std::string ending =
+        lowerCase(std::string(dot == std::string_view::npos ? "" : fileName.substr(dot + 1)));
     for (const TrackFormat format : {TrackFormat::gpx, TrackFormat::kml, TrackFormat::csv})
         if (ending == extensionOf(format))
             return format;
