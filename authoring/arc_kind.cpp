@@ -97,13 +97,15 @@ StudyRecord ArcKind::ask(const FlownSituation& flown, Language language) const {
     const double degrees = turnBetween(turn.before, turn.after);
     StudyRecord record;
     const bool outbound = situation.at.distance < situation.arc;
-    record[qc] = worded(Phrase::arcTask,
-                        {same(flown.chart.identifier(situation.station)),
-                         same(threeDigits(situation.at.radial)),
-                         same(outbound ? "outbound" : "inbound"), number(situation.arc),
-                         worded(situation.clockwise ? Phrase::clockwise : Phrase::counterclockwise),
-                         same(threeDigits(situation.final))})
-                     .in(language);
+    record[qc] =
+        worded(Phrase::arcTask,
+               {same(flown.chart.identifier(situation.station)),
+                same(threeDigits(situation.at.radial)), same(outbound ? "outbound" : "inbound"),
+                situation.arc == std::floor(situation.arc) ? number(situation.arc)
+                                                           : tenths(situation.arc),
+                worded(situation.clockwise ? Phrase::clockwise : Phrase::counterclockwise),
+                same(threeDigits(situation.final))})
+            .in(language);
     record[ans1] = degrees > 0 ? "right" : "left";
     record[ans2] = threeDigits(turn.after);
     record[ans3] = threeDigits(leadRadial(flown));

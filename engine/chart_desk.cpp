@@ -56,6 +56,8 @@ void ChartDesk::loadFrom(const std::string& path, std::int16_t how) {
         apply(chart);
         given.files.c_ChartFileName.setIfChanged(path);
         namedByUser = how == fileRequest::ask ? given.picker.overwritable(path) : std::string();
+        if (how == fileRequest::ask)
+            given.messages.fileUsed(path);
     } catch (const RunTimeError& error) {
         given.messages.fileFailed(FileRequest::loadChart, path, error);
     }
@@ -145,6 +147,7 @@ void ChartDesk::save() {
         saveFileBytes(*path, writeChart(chart, given.picker.keyToSave()));
         files.c_ChartFileName.setIfChanged(*path);
         namedByUser = given.picker.overwritable(*path);
+        given.messages.fileUsed(*path);
     } catch (const RunTimeError& error) {
         given.messages.fileFailed(FileRequest::saveChart, *path, error);
     }

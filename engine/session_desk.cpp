@@ -49,6 +49,8 @@ bool SessionDesk::loadFrom(FileRequest request, const std::string& path, std::in
         const bool usable = !session.samples.empty();
         if (usable)
             take(session, request, path, how);
+        if (usable && how == fileRequest::ask)
+            given.messages.fileUsed(path);
         if (session.problem)
             given.messages.fileWrong(request, path, *session.problem, usable);
         return usable;
@@ -144,6 +146,7 @@ void SessionDesk::save() {
             given.recorder.markFreshStart();
         }
         given.session.version = version();
+        given.messages.fileUsed(*path);
     } catch (const RunTimeError& error) {
         given.messages.fileFailed(FileRequest::saveSession, *path, error);
     }

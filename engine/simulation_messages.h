@@ -32,6 +32,8 @@ class SimulationMessages {
     /// A file has a wrong line. It was `taken` up to there, or nothing was changed.
     virtual void fileWrong(FileRequest request, const std::string& path, const FileProblem& problem,
                            bool taken) = 0;
+    /// The user has opened or saved this file.
+    virtual void fileUsed(const std::string& /*path*/) {}
 };
 
 } // namespace tarnel

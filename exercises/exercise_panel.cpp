@@ -14,6 +14,7 @@ ExercisePanel::ExercisePanel(FormState& form, const PanelWidgets& widgets)
       notice(state, widgets.notice),
       task(state, widgets.task),
       known(state, widgets.known),
+      wind(state, "QuestionWind"),
       rule(state, widgets.rule),
       nextButton(state, widgets.next, Text::nextQuestion),
       solutionButton(state, widgets.solution, Text::showSolution),
@@ -61,6 +62,7 @@ void ExercisePanel::setPlace(QuestionPlace questionPlace, std::string_view of) {
 void ExercisePanel::ask(const Exercise& exercise) {
     task.setText(exercise.task());
     known.setText(exercise.known());
+    wind.setText({});
     rule.setText(exercise.rule());
     for (std::size_t i = 0; i < rows.size(); ++i) {
         const int row = static_cast<int>(i);
@@ -79,7 +81,7 @@ void ExercisePanel::reveal(const Exercise& exercise) {
 
 void ExercisePanel::clear() {
     questions.note();
-    for (TextPanel* text : std::initializer_list<TextPanel*>{&task, &known, &rule})
+    for (TextPanel* text : std::initializer_list<TextPanel*>{&task, &known, &wind, &rule})
         text->setText({});
     statistic.setText({});
     for (const auto& row : rows)
@@ -101,7 +103,7 @@ void ExercisePanel::setAnswerable(bool answerable) {
 
 std::vector<FormControl*> ExercisePanel::controls() {
     std::vector<FormControl*> all = {&frame, &statisticBox, &statistic, &notice,
-                                     &task,  &known,        &rule};
+                                     &task,  &known,        &wind,      &rule};
     for (const auto& row : rows) {
         const std::vector<FormControl*> widgets = row->controls();
         all.insert(all.end(), widgets.begin(), widgets.end());

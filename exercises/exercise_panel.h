@@ -56,6 +56,7 @@ class ExercisePanel {
     ColourLabel notice; ///< what is wrong with the study file, in place of a question or above it
     ColourLabel task;
     TextPanel known; ///< what is known besides the task
+    TextPanel wind;  ///< that the question is flown with, where it asks for other things
     TextPanel rule;  ///< of answering, where one must be known beforehand
     std::vector<std::unique_ptr<AnswerRow>> rows;
     CommandButton nextButton;

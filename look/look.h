@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/drawing_surface.h"
+#include "look/colours.h"
 
 #include <QColor>
 #include <QFont>
@@ -9,16 +10,10 @@
 #include <algorithm>
 #include <cmath>
 
-/// The palette and the measures of the window and of the pictures that are painted for it. Lengths
-/// are logical pixels unless they are called a share. What stands on the chart has its colours in
-/// `chartColour`.
+/// The measures of the window and of the pictures that are painted for it, and the colours that are
+/// the same by day and by night. Lengths are logical pixels unless they are called a share. What
+/// stands on the chart has its colours in `chartColour`.
 namespace tarnel::look {
-
-/// A colour from 0xRRGGBB.
-constexpr QColor rgb(unsigned hex) {
-    return {static_cast<int>(hex >> 16 & 0xFF), static_cast<int>(hex >> 8 & 0xFF),
-            static_cast<int>(hex & 0xFF)};
-}
 
 /// A colour of a drawing surface, 0xBBGGRR.
 constexpr QColor fromSurface(Colour colour) {
@@ -31,14 +26,6 @@ inline QColor faded(QColor colour, double opacity) {
     return colour;
 }
 
-/// What a colour of `opacity` looks like on white paper, itself opaque: much cheaper to paint.
-inline QColor onPaper(QColor colour, double opacity) {
-    const auto mixed = [opacity](int channel) {
-        return static_cast<int>(std::lround(255 - (255 - channel) * opacity));
-    };
-    return {mixed(colour.red()), mixed(colour.green()), mixed(colour.blue())};
-}
-
 /// A gradient from top to bottom: there is one light, and it stands above.
 inline QLinearGradient downward(double top, double bottom, QColor upper, QColor lower) {
     QLinearGradient gradient(0, top, 0, bottom);
@@ -46,20 +33,6 @@ inline QLinearGradient downward(double top, double bottom, QColor upper, QColor 
     gradient.setColorAt(1, lower);
     return gradient;
 }
-
-// Desktop. The accent means "act" and nothing else.
-inline constexpr QColor desktop = rgb(0xE8EBEE);
-inline constexpr QColor bars = rgb(0xF7F8F9);
-inline constexpr QColor card = rgb(0xFBFCFD);
-inline constexpr QColor line = rgb(0xC6CCD3);
-inline constexpr QColor hairline = rgb(0xDDE1E6);
-inline constexpr QColor ink = rgb(0x1B2128);
-inline constexpr QColor secondaryInk = rgb(0x55606B);
-inline constexpr QColor accent = rgb(0x1B5FAA);
-inline constexpr QColor right = rgb(0x1A7440);
-inline constexpr QColor wrong = rgb(0xB3261E);
-inline constexpr QColor exceeded = rgb(0xB05A00); ///< worse than before, outside a limit
-inline constexpr QColor solution = rgb(0x006080);
 
 // Dark panel: gradients from top to bottom.
 inline constexpr QColor panelTop = rgb(0x24292E);
@@ -87,6 +60,12 @@ inline constexpr QColor needleTwo = rgb(0x35D27B);
 
 // Chart.
 inline constexpr QColor paper = rgb(0xFFFFFF);
+
+/// What a colour of `opacity` looks like on the paper, itself opaque: much cheaper to paint.
+inline QColor onPaper(const QColor& colour, double opacity) {
+    return over(paper, colour, opacity);
+}
+
 inline constexpr QColor gridMile = rgb(0xF4F6F9);
 inline constexpr QColor gridFiveMiles = rgb(0xE7ECF1);
 inline constexpr QColor gridTenMiles = rgb(0xDCE3EA);
@@ -105,8 +84,8 @@ inline QFont font(double pixels, QFont::Weight weight = QFont::Normal) {
     return result;
 }
 
-/// How strongly a disabled control shows on the light side.
-inline constexpr double disabledOpacity = 0.4;
+/// The least side of what a pointer presses: WCAG 2.2, 2.5.8.
+inline constexpr int leastTarget = 24;
 
 // Spacing.
 inline constexpr int gap = 8; ///< outer margin, gutters, inset of the panel

@@ -6,6 +6,7 @@
 namespace tarnel::look {
 
 inline constexpr QColor panelAccent = rgb(0x5B9BD8);  ///< "act" on the dark panel: hover and focus
+inline constexpr QColor panelChosen = rgb(0x1B5FAA);  ///< "act": the ground of what is chosen
 inline constexpr QColor panelFocus = rgb(0x8CC4FF);   ///< the ring around what has the keyboard
 inline constexpr QColor panelRing = rgb(0x0E1113);    ///< the dark gap under a focus ring
 inline constexpr QColor deviationBar = rgb(0xFF8000); ///< of the VOR indicator
@@ -15,11 +16,12 @@ inline constexpr QColor shapeEdge = rgb(0x0B0C0D); ///< around needles, bug and 
 inline constexpr QColor hubRim = rgb(0x6A737C);
 inline constexpr QColor keyTop = rgb(0x474D55);
 inline constexpr QColor keyBottom = rgb(0x2D3238);
-inline constexpr QColor dimCaption = rgb(0x8B949D);
+inline constexpr QColor dimCaption = rgb(0xA0A9B2); ///< of what is locked or switched off
 
-/// How strongly what is locked or switched off still shows.
+/// How strongly what is locked or switched off still shows: knobs and marks, and digits, which have
+/// to be read.
 inline constexpr double dimmedOpacity = 0.4;
-inline constexpr double switchedOffOpacity = 0.55;
+inline constexpr double switchedOffOpacity = 0.62;
 
 /// Twips to a logical pixel at size 1.
 inline constexpr double twipsPerPixel = 15;

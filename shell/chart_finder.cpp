@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
+#include <utility>
 
 namespace tarnel {
 
@@ -62,8 +63,13 @@ std::optional<Slot> twinOf(Slot slot) {
 
 } // namespace
 
-ChartFinder::ChartFinder(UserControl2& simulation, BoxDesk& boxDesk, const NavFolders& navFolders)
-    : sim(simulation), boxes(boxDesk), folders(navFolders), found(findNavData(navFolders)) {
+ChartFinder::ChartFinder(UserControl2& simulation, BoxDesk& boxDesk, const NavFolders& navFolders,
+                         LongJob whileReading)
+    : sim(simulation),
+      boxes(boxDesk),
+      folders(navFolders),
+      longJob(std::move(whileReading)),
+      found(findNavData(navFolders)) {
     if (!found.empty())
         read(0);
 }
@@ -86,12 +92,13 @@ void ChartFinder::read(std::size_t place) {
 
 void ChartFinder::readOther() {
     const auto text = [this](Text id) { return std::string(boxes.texts[id]); };
-    const auto path = boxes.chooseFile({.saves = false,
-                                        .title = text(Text::chartFinderTitle),
-                                        .present = readOne ? found[*readOne].file.string() : "",
-                                        .folder = folders.downloads.string(),
-                                        .filter = text(Text::navDataFilter),
-                                        .extension = {}});
+    const auto path =
+        boxes.chooseFile({.saves = false,
+                          .title = text(Text::chartFinderTitle),
+                          .present = readOne ? found[*readOne].file.string() : "",
+                          .folder = folders.downloads.string(),
+                          .filter = text(Text::navDataFilter) + ";;" + text(Text::anyFileFilter),
+                          .extension = {}});
     if (!path)
         return;
     const NavPlace place{NavProgram::other, *path};
@@ -108,11 +115,16 @@ bool ChartFinder::readFile(const NavPlace& place) {
     const std::string path = place.file.string();
     std::string trouble;
     try {
-        NavData data = readNavData(readFileBytes(path, largestNavData));
-        if (!data.refused) {
+        NavData data;
+        longJob([&] {
+            data = readNavData(readFileBytes(path, largestNavData));
+            if (data.refused)
+                return;
             addRunways(data, place);
             index = NavaidIndex(std::move(data.navaids));
             data.navaids.clear();
+        });
+        if (!data.refused) {
             told = std::move(data);
             hitList.clear();
             middle.reset();

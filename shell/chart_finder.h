@@ -7,6 +7,7 @@
 #include "shell/box_desk.h"
 
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -17,8 +18,14 @@ namespace tarnel {
 /// data, around which station, and which five of them.
 class ChartFinder {
   public:
-    /// Looks for navigation data and reads the first that it finds.
-    ChartFinder(UserControl2& simulation, BoxDesk& boxDesk, const NavFolders& navFolders);
+    /// Runs a job that may take a second, and shows that it does.
+    using LongJob = std::function<void(const std::function<void()>& job)>;
+
+    /// Looks for navigation data and reads the first that it finds. Whatever is read is read by
+    /// `whileReading`.
+    ChartFinder(
+        UserControl2& simulation, BoxDesk& boxDesk, const NavFolders& navFolders,
+        LongJob whileReading = [](const auto& job) { job(); });
 
     // The data.
 
@@ -83,6 +90,7 @@ class ChartFinder {
     UserControl2& sim;
     BoxDesk& boxes;
     const NavFolders folders;
+    LongJob longJob;
     std::vector<NavPlace> found;
     std::optional<std::size_t> readOne; ///< into `found`
     NavData told;                       ///< of what was read, without its stations

@@ -2,6 +2,7 @@
 
 #include "core/rounding.h"
 #include "shell/documents.h"
+#include "shell/program_version.h"
 #include "shell/text_format.h"
 
 #include <filesystem>
@@ -24,8 +25,8 @@ DocumentDesk::DocumentDesk(UserControl2& simulation, TrainerControls& controls,
       practice(practiceDesk),
       boxes(boxDesk),
       outside(world),
-      bookForm(controls.state, *this, boxDesk.texts),
-      chartForm(controls.state, *this, boxDesk.texts) {}
+      bookForm(controls.state, *this, world.settings(), boxDesk.texts),
+      chartForm(controls.state, *this, world.settings(), boxDesk.texts) {}
 
 std::string DocumentDesk::inApplicationFolder(const std::string& name) const {
     return sim.c_MainAppPath.get() + "/" + name;
@@ -46,12 +47,15 @@ bool DocumentDesk::isThere(const std::string& path) {
 
 /// False, with a box, if there is no reader.
 bool DocumentDesk::openDocument(const std::string& path, int page) {
-    if (outside.openDocument(path, page))
-        return true;
-    boxes.show(Text::noReaderTitle, std::string(boxes.texts[Text::noReader]) + "\n" +
-                                        std::string(boxes.texts[Text::noReaderInstall]) + "\n" +
-                                        filledIn(boxes.texts[Text::noReaderPath], {path}));
-    return false;
+    const auto tell = [this, path] {
+        boxes.show(Text::noReaderTitle, std::string(boxes.texts[Text::noReader]) + "\n" +
+                                            std::string(boxes.texts[Text::noReaderInstall]) + "\n" +
+                                            filledIn(boxes.texts[Text::noReaderPath], {path}));
+    };
+    const bool opened = outside.openDocument(path, page, tell);
+    if (!opened)
+        tell();
+    return opened;
 }
 
 void DocumentDesk::OpenBook(double page) {
@@ -85,8 +89,11 @@ void DocumentDesk::openHelp(const std::string& page) {
 
 void DocumentDesk::openInBrowser(const std::string& page) {
     const std::string path = helpFile(page);
-    if (isThere(path) && !outside.openInBrowser(path))
+    const auto tell = [this, path] {
         boxes.show(Text::windowTitle, filledIn(boxes.texts[Text::noBrowser], {path}));
+    };
+    if (isThere(path) && !outside.openInBrowser(path, tell))
+        tell();
 }
 
 void DocumentDesk::openUserGuide() {
@@ -98,7 +105,11 @@ void DocumentDesk::openProductPage() {
 }
 
 void DocumentDesk::showAbout() {
-    boxes.show(Text::aboutTitle, std::string(boxes.texts[Text::aboutText]), BoxKind::notice);
+    std::string about = filledIn(boxes.texts[Text::aboutVersion], {programVersion()});
+    for (const Text paragraph :
+         {Text::aboutText, Text::aboutLicence, Text::aboutSources, Text::aboutLibraries})
+        about += "\n\n" + std::string(boxes.texts[paragraph]);
+    boxes.show(Text::aboutTitle, about, BoxKind::notice);
 }
 
 } // namespace tarnel

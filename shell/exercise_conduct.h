@@ -82,6 +82,7 @@ class ExerciseConduct {
     void letStudentFly();
     void loadSession();
     void switchFaces();
+    void tellWind();
 
     QAform& form;
     ExerciseStage stage;

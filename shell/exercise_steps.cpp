@@ -2,6 +2,7 @@
 #include "exercises/exercise_catalogue.h"
 #include "persistence/file_path.h"
 #include "shell/exercise_conduct.h"
+#include "shell/question_wind.h"
 #include "shell/text_format.h"
 
 #include <algorithm>
@@ -42,7 +43,15 @@ void ExerciseConduct::follow() {
         showSolution();
     if (wanted == ShowResult::studentFlies)
         letStudentFly();
+    tellWind();
     changed();
+}
+
+/// What the exercise on the wind gives, it says itself.
+void ExerciseConduct::tellWind() {
+    if (ExercisePanel* asked = form.activePanel();
+        asked && form.posed() && form.c_QAtype != static_cast<std::int16_t>(ExerciseType::wind))
+        asked->wind.setText(questionWind(stage.boxes.texts, stage.sim.wind, stage.sim.c_TAS));
 }
 
 /// The holding that the flight of the question flies; else the stations, and the aircraft where it

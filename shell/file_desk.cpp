@@ -105,12 +105,14 @@ std::optional<std::string> FileDesk::chooseFile(FileRequest request, const std::
     const auto text = [this](Text id) { return std::string(at.boxes.texts[id]); };
     const fs::path file = portablePath(present);
     const bool aside = liesBelow(file, portablePath(at.sim.c_ScratchPath) / "track");
+    const bool saves = request == FileRequest::saveChart || request == FileRequest::saveSession;
     return at.boxes.chooseFile(
-        {.saves = request == FileRequest::saveChart || request == FileRequest::saveSession,
+        {.saves = saves,
          .title = text(titleOf(request)),
          .present = aside ? file.filename().string() : present,
          .folder = at.sim.c_MainAppPath,
-         .filter = text(isChart(request) ? Text::chartFilter : Text::sessionFilter),
+         .filter = text(isChart(request) ? Text::chartFilter : Text::sessionFilter) +
+                   (saves ? "" : ";;" + text(Text::anyFileFilter)),
          .extension = isChart(request) ? "map" : "ts"});
 }
 
@@ -120,6 +122,11 @@ bool FileDesk::isShipped(const std::string& path) const {
     const fs::path application = fs::weakly_canonical(portablePath(at.sim.c_MainAppPath), ignored);
     const fs::path file = fs::weakly_canonical(portablePath(path), ignored);
     return liesBelow(file, application / "default") || file == application / "default.map";
+}
+
+void FileDesk::fileUsed(const std::string& path) {
+    if (onUsed)
+        onUsed(path);
 }
 
 /// A session that the user picked shows its trace.

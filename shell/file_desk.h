@@ -44,6 +44,8 @@ class FileDesk : public SimulationMessages {
     void openFile(const std::string& path);
 
     std::function<void(const std::string& path)> openTrack;
+    /// Called when the user has opened or saved a file.
+    std::function<void(const std::string& path)> onUsed;
 
     void bufferWarning(BufferWarning warning) override;
     std::optional<std::string> chooseFile(FileRequest request, const std::string& present) override;
@@ -53,6 +55,7 @@ class FileDesk : public SimulationMessages {
                     const RunTimeError& error) override;
     void fileWrong(FileRequest request, const std::string& path, const FileProblem& problem,
                    bool taken) override;
+    void fileUsed(const std::string& path) override;
 
   private:
     void newSession();

@@ -32,6 +32,7 @@ Form1::Form1(const StringTable& table, OutsideWorld& world, std::string applicat
       texts(table),
       boxes(table, world),
       QAform1(state, exerciseSurroundings(table, world)),
+      recentFiles(world.settings()),
       flightDesk(state, boxes, UserControl11, world),
       tracks(UserControl11, fileMenu, boxes, practice, world),
       training(QAform1, exercise, courses, boxes, world),
@@ -148,6 +149,8 @@ void Form1::connectDesks() {
     };
     practice.onLeave = [this] { flown.drop(); };
     files.openTrack = [this](const std::string& path) { tracks.flyAlong(path); };
+    files.onUsed = [this](const std::string& path) { recentFiles.note(path); };
+    tracks.onUsed = files.onUsed;
     files.connectMenu();
 }
 

@@ -20,6 +20,7 @@
 #include "shell/flown_task.h"
 #include "shell/outside_world.h"
 #include "shell/practice_desk.h"
+#include "shell/recent_files.h"
 #include "shell/reference_guard.h"
 #include "shell/replay_deck.h"
 #include "shell/station_desk.h"
@@ -98,6 +99,7 @@ class Form1 : public TrainerControls, public PanelControls {
     WindDesk windDesk{UserControl11, *this, display, texts};
     StationDesk stationDesk{UserControl11, stationPage, boxes, replay, display};
     CommentStrip comments{UserControl11, commentPanel, boxes};
+    RecentFiles recentFiles;
     FlightDesk flightDesk;
     PracticeDesk practice{UserControl11, *this, flightDesk.keeper, texts};
     TrackDesk tracks;

@@ -32,10 +32,16 @@ class OutsideWorld {
     /// The path that the user picks; nothing if he changes his mind, or where nobody is to ask.
     virtual std::optional<std::string> chooseFile(const FileQuestion&) { return {}; }
     /// Opens a PDF document in the user's reader, at a page if that is above 0. False if there is
-    /// no reader.
-    virtual bool openDocument(const std::string& /*path*/, int /*page*/) { return true; }
-    /// Opens an HTML page in the user's browser. False if there is none.
-    virtual bool openInBrowser(const std::string& /*path*/) { return true; }
+    /// no reader; where that turns out later, `notOpened` is called then.
+    virtual bool openDocument(const std::string& /*path*/, int /*page*/,
+                              const std::function<void()>& /*notOpened*/) {
+        return true;
+    }
+    /// Opens an HTML page in the user's browser. False, or `notOpened` later, if there is none.
+    virtual bool openInBrowser(const std::string& /*path*/,
+                               const std::function<void()>& /*notOpened*/) {
+        return true;
+    }
     /// Shows an HTML page of the help in a window of the program's own.
     virtual void showHelp(const std::string& /*path*/) {}
     /// Seconds since 1970 UTC; 0 in a world without a clock.

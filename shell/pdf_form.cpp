@@ -1,9 +1,26 @@
 #include "shell/pdf_form.h"
 
+#include "exercises/settings_store.h"
 #include "shell/document_desk.h"
 #include "shell/documents.h"
 
 namespace tarnel {
+
+PdfForm::PdfForm(FormState& state, DocumentDesk& documentDesk, SettingsStore& settings,
+                 const StringTable& table, const char* formName, Text formTitle, Text item)
+    : name(formName),
+      title(formTitle),
+      shown(state, formName, item),
+      Check1(state, "Check1", Text::alwaysOnTop),
+      desk(documentDesk),
+      texts(table) {
+    constexpr auto application = "tarnel";
+    constexpr auto section = "always on top";
+    Check1.show(settings.value(application, section, name, {}) == "1" ? 1 : 0);
+    Check1.onClick = [this, &settings] {
+        settings.setValue(application, section, name, std::to_string(Check1.value()));
+    };
+}
 
 std::vector<PdfForm::Line> frmBuchPDF::lines() const {
     std::vector<Line> all{{.caption = std::string(texts[Text::bookStart])}};

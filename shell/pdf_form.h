@@ -37,14 +37,9 @@ class PdfForm {
     CheckBox Check1; ///< "immer obenauf": keeps the form above the main window
 
   protected:
-    PdfForm(FormState& state, DocumentDesk& documentDesk, const StringTable& table,
-            const char* formName, Text formTitle, Text item)
-        : name(formName),
-          title(formTitle),
-          shown(state, formName, item),
-          Check1(state, "Check1", Text::alwaysOnTop),
-          desk(documentDesk),
-          texts(table) {}
+    /// Takes `Check1` from the settings and keeps it there.
+    PdfForm(FormState& state, DocumentDesk& documentDesk, SettingsStore& settings,
+            const StringTable& table, const char* formName, Text formTitle, Text item);
 
     DocumentDesk& desk;
     const StringTable& texts;
@@ -53,8 +48,10 @@ class PdfForm {
 /// `frmBuchPDF`: the contents of the book.
 class frmBuchPDF : public PdfForm {
   public:
-    frmBuchPDF(FormState& state, DocumentDesk& documentDesk, const StringTable& table)
-        : PdfForm(state, documentDesk, table, "frmBuchPDF", Text::bookFormTitle, Text::bookForm) {}
+    frmBuchPDF(FormState& state, DocumentDesk& documentDesk, SettingsStore& settings,
+               const StringTable& table)
+        : PdfForm(state, documentDesk, settings, table, "frmBuchPDF", Text::bookFormTitle,
+                  Text::bookForm) {}
     [[nodiscard]] std::vector<Line> lines() const override;
     void open(std::size_t line) override;
 };
@@ -62,8 +59,9 @@ class frmBuchPDF : public PdfForm {
 /// `frmJeppPDF`: the approach charts.
 class frmJeppPDF : public PdfForm {
   public:
-    frmJeppPDF(FormState& state, DocumentDesk& documentDesk, const StringTable& table)
-        : PdfForm(state, documentDesk, table, "frmJeppPDF", Text::menuApproachCharts,
+    frmJeppPDF(FormState& state, DocumentDesk& documentDesk, SettingsStore& settings,
+               const StringTable& table)
+        : PdfForm(state, documentDesk, settings, table, "frmJeppPDF", Text::menuApproachCharts,
                   Text::chartForm) {}
     [[nodiscard]] std::vector<Line> lines() const override;
     void open(std::size_t line) override;

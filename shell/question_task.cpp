@@ -23,17 +23,24 @@ FromStation seenFrom(Slot slot, const Sample& sample) {
     return fromStation(inSlot(sample.traceStations, slot), {sample.traceLat, sample.traceLon});
 }
 
-/// The whole numbers that stand in a text, in their order.
-std::vector<int> numbersIn(std::string_view text) {
-    std::vector<int> numbers;
-    bool within = false;
-    for (const char letter : text) {
-        const bool digit = std::isdigit(static_cast<unsigned char>(letter)) != 0;
-        if (digit && !within)
-            numbers.push_back(0);
-        if (digit && numbers.back() < 100000)
-            numbers.back() = numbers.back() * 10 + (letter - '0');
-        within = digit;
+bool isDigit(char letter) {
+    return std::isdigit(static_cast<unsigned char>(letter)) != 0;
+}
+
+/// The numbers that stand in a text, in their order; with a point or a comma before one decimal.
+std::vector<double> numbersIn(std::string_view text) {
+    std::vector<double> numbers;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (!isDigit(text[i]))
+            continue;
+        double number = 0;
+        for (; i < text.size() && isDigit(text[i]); ++i)
+            number = number * 10 + (text[i] - '0');
+        if (i + 1 < text.size() && (text[i] == '.' || text[i] == ',') && isDigit(text[i + 1])) {
+            number += (text[i + 1] - '0') / 10.0;
+            i += 2;
+        }
+        numbers.push_back(number);
     }
     return numbers;
 }
@@ -86,7 +93,7 @@ HoldTask holdTask(double inbound, HoldingSide side, std::span<const Sample> refe
 
 /// "Inbound 150, turns right"; the wind itself is that of the flight.
 std::optional<Task> windTask(const StudyRecord& record, std::span<const Sample> reference) {
-    const std::vector<int> numbers = numbersIn(record[qc]);
+    const std::vector<double> numbers = numbersIn(record[qc]);
     const bool right = says(record[qc], "right") || says(record[qc], "rechts");
     const bool left = says(record[qc], "left") || says(record[qc], "links");
     if (numbers.empty() || right == left)
@@ -99,7 +106,7 @@ std::optional<Task> windTask(const StudyRecord& record, std::span<const Sample> 
 /// clockwise, final 275."; round which way is flown.
 std::optional<Task> arcTask(const StudyRecord& record, std::span<const Sample> reference) {
     constexpr double near = 1; ///< NM
-    const std::vector<int> numbers = numbersIn(record[qc].substr(0, record[qc].rfind('.')));
+    const std::vector<double> numbers = numbersIn(record[qc].substr(0, record[qc].rfind('.')));
     if (numbers.size() < 3)
         return std::nullopt;
     const double distance = numbers[numbers.size() - 2];

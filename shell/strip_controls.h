@@ -122,6 +122,7 @@ struct FileMenu {
     CommandButton newSession{state, "mnuNewSession", Text::newSession};
     CommandButton loadSession{state, "mnuLoadSession", Text::loadSession};
     CommandButton loadOldSession{state, "mnuLoadOLDSession", Text::loadOldSession};
+    CommandButton recent{state, "mnuRecent", Text::recentFiles}; ///< the sub menu
     CommandButton saveSession{state, "mnuSaveSession", Text::saveSession};
     CommandButton saveSessionAs{state, "mnuSaveSessionAs", Text::saveSessionAs};
     CommandButton newChart{state, "mnuNewChart", Text::newChart};
@@ -132,9 +133,10 @@ struct FileMenu {
     CommandButton flyAlong{state, "mnuFlyAlong", Text::flyAlong};
     CheckBox encipher{state, "fencrypt", Text::encipherFiles};
 
-    [[nodiscard]] std::array<CommandButton*, 10> items() {
-        return {&newSession, &loadSession, &loadOldSession, &saveSession, &saveSessionAs,
-                &newChart,   &loadChart,   &saveChart,      &saveChartAs, &flyAlong};
+    [[nodiscard]] std::array<CommandButton*, 11> items() {
+        return {&newSession,  &loadSession,   &loadOldSession, &recent,
+                &saveSession, &saveSessionAs, &newChart,       &loadChart,
+                &saveChart,   &saveChartAs,   &flyAlong};
     }
 };
 

@@ -81,7 +81,8 @@ void TrackDesk::chooseTrack() {
     const auto path = boxes.chooseFile({.title = std::string(texts[Text::flyAlong]),
                                         .present = {},
                                         .folder = sim.c_MainAppPath,
-                                        .filter = std::string(texts[Text::flyAlongFilter]),
+                                        .filter = std::string(texts[Text::flyAlongFilter]) + ";;" +
+                                                  std::string(texts[Text::anyFileFilter]),
                                         .extension = std::string(extensionOf(TrackFormat::gpx))});
     if (path)
         flyAlong(*path);
@@ -91,8 +92,10 @@ void TrackDesk::flyAlong(const std::string& path) {
     const std::string unchanged = '\n' + std::string(texts[Text::nothingChanged]);
     try {
         const TrackToFly track = trackToFly(readTrack(readFileBytes(path, largestTrackFile)));
-        if (practise(track, stemOf(path)))
-            tellLimits(track);
+        if (!practise(track, stemOf(path)))
+            return;
+        onUsed(path);
+        tellLimits(track);
     } catch (const FileProblem& problem) {
         tell(path, problemText(texts, problem) + unchanged);
     } catch (const RunTimeError& error) {

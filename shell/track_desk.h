@@ -8,6 +8,7 @@
 #include "shell/strip_controls.h"
 #include "tracks/track_to_fly.h"
 
+#include <functional>
 #include <string>
 
 namespace tarnel {
@@ -22,6 +23,9 @@ class TrackDesk {
     /// The track at `path` is practised from now on. What is wrong with it is told in a box, and
     /// nothing is changed.
     void flyAlong(const std::string& path);
+
+    /// Called with each track that is practised.
+    std::function<void(const std::string& path)> onUsed = [](const std::string&) {};
 
   private:
     void exportFlight();

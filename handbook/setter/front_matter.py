@@ -21,7 +21,8 @@ HOW_TO_READ = {
         "auf der Rückseite die geflogenen Lösungen. Wo nur eine Seite frei ist, stehen Fragen und "
         "Lösungen beisammen.",
         "Lesen Sie zuerst die Anzeigen, legen Sie sich auf eine Antwort fest und blättern Sie dann "
-        "um. Auf der Karte beginnt die Spur dort, wo gefragt wurde. Alle Lagen lassen sich im Trainer nachfliegen: Sie stehen im Menü „Übungen“.",
+        "um. Auf der Karte beginnt die Spur dort, wo gefragt wurde. Alle Lagen lassen sich im "
+        "Trainer nachfliegen: Sie stehen im Menü „Übungen“.",
     ),
     "en": (
         "Each section stands on the page at which the trainer’s menu “Book” opens it. Between "
@@ -56,20 +57,22 @@ def contents(language, sections):
     return f'<h1>{CONTENTS[language]}</h1><div class="contents">{rows}</div>'
 
 
-def index(sections):
-    """Each entry with the pages of the sections that it is about, by the alphabet."""
+def index(sections, pages):
+    """Each entry with the pages on which it is spoken of, by the alphabet; `pages` tells the page of
+    each place."""
     entries = {}
     for section in sections:
-        for entry in section.index:
-            entries.setdefault(entry, {})[section.page] = section.name
+        for entry, place in section.index:
+            entries.setdefault(entry, {}).setdefault(pages[place], place)
     rows = "".join(
         f"<p>{html.escape(entry)} " + ", ".join(
-            f'<a href="#{name}">{page}</a>' for page, name in sorted(entries[entry].items()))
+            f'<a href="#{place}">{page}</a>' for page, place in sorted(entries[entry].items()))
         + "</p>"
         for entry in sorted(entries, key=sorting))
     return f'<div class="index">{rows}</div>'
 
 
 def sorting(entry):
-    """Umlauts stand with their vowels, as in a German index."""
-    return entry.casefold().translate(str.maketrans("äöüé", "aoue"))
+    """Umlauts stand with their vowels, as in a German index, and what is behind a comma directly
+    behind its head."""
+    return entry.casefold().translate(str.maketrans("äöüé", "aoue")).split(", ")

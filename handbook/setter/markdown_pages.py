@@ -12,8 +12,10 @@ BOXES = {
     "en": {"Remember": "rule", "Example": "example", "Common mistake": "mistake"},
 }
 PAGE = {"de": "Seite", "en": "page"}
+QUOTES = {"de": "„“‚‘", "en": "“”‘’"}
 LINE = 85  # characters of a full line, about
 INDEX_ENTRY = re.compile(r"\s*\{index:([^}]*)\}")
+UNIT = re.compile(r"(?<=\d) (?=(?:NM|kt|ft|m|MHz|kHz|Hz)\b)")  # stands with its number
 
 
 class SourceError(Exception):
@@ -30,7 +32,8 @@ class Writer:
         self.pages = {section.name: section.page for section in sections}
         self.figures = figures
         self.language = language
-        self.markdown = MarkdownIt("commonmark").enable("table")
+        self.markdown = MarkdownIt("commonmark", {"typographer": True, "quotes": QUOTES[language]})
+        self.markdown.enable(["table", "smartquotes"])
         self.used = set()  # figures
 
     def html(self, section):
@@ -66,19 +69,27 @@ class Writer:
         for i, child in enumerate(inline.children):
             if child.type == "link_open":
                 self.take_link(child, inline.children[i + 1])
-            elif child.type == "text":
-                child.content = INDEX_ENTRY.sub(self.take_entry, child.content)
+        inline.children = [each for child in inline.children for each in self.take_entries(child)]
 
-    def take_entry(self, match):
-        self.section.index.append(match.group(1).strip())
-        return ""
+    def take_entries(self, child):
+        """Where index entries stood in a text, there are places to which the index leads."""
+        if child.type != "text":
+            return [child]
+        entries = INDEX_ENTRY.findall(child.content)
+        child.content = UNIT.sub("\u00a0", INDEX_ENTRY.sub("", child.content))
+        places = []
+        for entry in entries:
+            place = f"{self.section.name}-index{len(self.section.index)}"
+            self.section.index.append((entry.strip(), place))
+            places.append(raw(f'<span id="{place}"></span>'))
+        return [child, *places]
 
     def take_link(self, link, words):
         name = link.attrs["href"]
         if name not in self.pages:
             self.refuse(f"the book has no section {name}")
         link.attrs["href"] = f"#{name}"
-        words.content += f" ({PAGE[self.language]} {self.pages[name]})"
+        words.content += f" ({PAGE[self.language]}\u00a0{self.pages[name]})"
 
     def figure(self, images):
         """Pictures of one paragraph stand side by side, above what they show."""
@@ -107,11 +118,11 @@ def kept_together(tokens):
     kept = []
     ends = 0  # of the block behind a heading, counted in `tokens`
     for i, token in enumerate(tokens):
-        if (token.type == "paragraph_open" and tokens[i + 1].content.endswith(":")
+        if (token.type == "paragraph_open" and printed(tokens[i + 1]).endswith(":")
                 and tokens[i - 1].type != "heading_close"):
             token.attrSet("class", "leads")
         if token.type == "heading_open":
-            lead = tokens[i + 3].type == "paragraph_open" and len(tokens[i + 4].content) < LINE
+            lead = tokens[i + 3].type == "paragraph_open" and leads_over(printed(tokens[i + 4]))
             kept.append(raw(f'<div class="together{" leads" if lead else ""}">'))
             ends = end_of_block(tokens, i + 3)
         kept.append(token)
@@ -119,6 +130,15 @@ def kept_together(tokens):
             kept.append(raw("</div>"))
             ends = 0
     return kept
+
+
+def leads_over(words):
+    """Whether a heading with these words would be lost before the end of a page."""
+    return len(words) < LINE * (3 if words.endswith(":") else 2)
+
+
+def printed(inline):
+    return INDEX_ENTRY.sub("", inline.content)
 
 
 def end_of_block(tokens, first):

@@ -12,9 +12,11 @@ CONTENTS = "contents"  # stands in the table for the pages in front of the first
 
 WORDS = {
     "de": {"plate": "Tafel", "questions": "Fragen", "solutions": "Lösungen",
-           "solved": "mit Lösungen", "page": "Seite", "notes": "Notizen"},
+           "solved": "mit Lösungen", "page": "Seite", "notes": "Notizen",
+           "exercises": "Übungen"},
     "en": {"plate": "Plate", "questions": "questions", "solutions": "solutions",
-           "solved": "with solutions", "page": "page", "notes": "Notes"},
+           "solved": "with solutions", "page": "page", "notes": "Notes",
+           "exercises": "Exercises"},
 }
 
 
@@ -57,7 +59,8 @@ class Plates:
     def fill(self, book, page, section):
         """Sets pages behind a section until the next one has the number `page`. Questions stand on
         the right, so that their solutions are behind them."""
-        chapter = section.chapter if section else ""
+        tips = section and section.name.startswith("tips")
+        chapter = self.words["exercises"] if tips else section.chapter if section else ""
         while (next_page := len(book.pages) + 1) < page:
             situations = self.draw(section.name if section else CONTENTS)
             if not situations:

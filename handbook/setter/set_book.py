@@ -24,7 +24,7 @@ class Section:
         self.name, self.page = row["name"], row["page"]
         self.title, self.chapter = row["title"], row["chapter"]
         self.path = folder / f"{self.name}.{language}.md"
-        self.index = []
+        self.index = []  # entries, each with its place
 
 
 class Book:
@@ -44,9 +44,13 @@ class Book:
         title = front_matter.TITLE[self.language]
         source = weasyprint.HTML(
             string=f"<html lang='{self.language}'><head><title>{title}</title>{page}</head>"
-                   f"<body><div class='running'>{chapter}</div>{body}</body></html>")
+                   f"<body data-chapter='{chapter}'>{body}</body></html>")
         self.document = source.render(stylesheets=[self.style])
         self.pages += self.document.pages
+
+    def pages_of_places(self):
+        return {place: number for number, page in enumerate(self.pages, 1)
+                for place in page.anchors}
 
     def write(self, path):
         self.document.copy(self.pages).write_pdf(path)
@@ -84,7 +88,7 @@ def set_together(book, page, sections, writer):
 def body_of(section, writer, book):
     heading = f'<h1 id="{section.name}">{section.title}</h1>'
     if section.name == INDEX:
-        return heading + front_matter.index(book.sections)
+        return heading + front_matter.index(book.sections, book.pages_of_places())
     book.sections.append(section)
     return heading + writer.html(section)
 

@@ -62,7 +62,7 @@ TEST(Pictures, EveryFileIsThereInItsSizeAndNoOther) {
     const QStringList knobs{"", "_hover", "_pointer", "_concentric", "_concentric_hover"};
     const std::tuple<QString, QStringList, QSize> files[] = {
         {"%.jpg", faces, {1100, 1100}},           {"%g.jpg", faces, {1500, 1500}},
-        {"knob%.png", knobs, {512, 512}},         {"digit_amber_%.png", signs, {168, 271}},
+        {"knob%.png", knobs, {256, 256}},         {"digit_amber_%.png", signs, {168, 271}},
         {"digit_green_%.png", signs, {168, 271}}, {"tarnel%.png", {""}, {256, 256}}};
     qsizetype count = 0;
     for (const auto& [pattern, variants, size] : files)

@@ -35,6 +35,7 @@ for kind in hsi stdvor hsihld dghld adfpos qdm qdr wind dmearc orientation; do
             [ "$(pdfimages -list -f "$page" -l "$page" out.pdf | grep -c ' image ')" = "$dials" ] ||
                 fail "not $dials dials on page $page"
             radial=$(sed -n "$page"'s/.* radial = \([0-9]*\).*/\1/p' situations)
+            text 1 9 | grep -E 'min\.sec|: +- ' && fail "an answer as the exercise stores it"
             case $kind in hsi | stdvor | adfpos)
                 text 8 9 | grep -q "$(printf %03d "$radial")" || fail "no solution $radial" ;;
             esac

@@ -56,6 +56,7 @@ TEST_F(DocumentsTest, WhatIsMissingIsToldAndTheFlightGoesOn) {
     world.hasReader = false;
     form.documents.bookForm.open(2);
     form.documents.chartForm.open(2);
+    form.documents.chartForm.Check1.click();
     form.documents.openUserGuide();
     EXPECT_THAT(world.opened,
                 ElementsAre("Hilfe/en/radios.html as help", "Hilfe/en/index.html as help",
@@ -65,6 +66,10 @@ TEST_F(DocumentsTest, WhatIsMissingIsToldAndTheFlightGoesOn) {
                                          HasSubstr("Tarnel - Approach Charts: "),
                                          HasSubstr("[1].pdf"), HasSubstr("index.html")));
     EXPECT_TRUE(form.flight.flies());
+
+    const Form1 later{englishTable(), world, folder.path};
+    EXPECT_EQ(later.documents.chartForm.Check1.value(), 1);
+    EXPECT_EQ(later.documents.bookForm.Check1.value(), 0);
 }
 
 TEST_F(DocumentsTest, AnApproachChartBringsItsSessionAtRestOnly) {

@@ -36,12 +36,13 @@ struct NotedWorld : OutsideWorld {
         questions.push_back(question);
         return chosen;
     }
-    bool openDocument(const std::string& path, int page) override {
+    bool openDocument(const std::string& path, int page,
+                      const std::function<void()>& /*notOpened*/) override {
         opened.push_back(path.substr(path.rfind('/') + 1) + " " + std::to_string(page));
         return hasReader;
     }
     [[nodiscard]] NavFolders navFolders() const override { return navigation; }
-    bool openInBrowser(const std::string& path) override {
+    bool openInBrowser(const std::string& path, const std::function<void()>&) override {
         opened.push_back(path.substr(path.find("Hilfe")) + " in the browser");
         return hasReader;
     }

@@ -1,5 +1,6 @@
 #include "window/chart/chart_view.h"
 #include "window/chart/comment_card.h"
+#include "window/chart/comment_mark.h"
 #include "window/frame/instrument_panel.h"
 #include "window/student_fixture.h"
 
@@ -57,7 +58,7 @@ TEST_F(CommentStudent, ShowsTheMarkOnlyWithACommentAndWhileItBlinks) {
         form->commentPanel.mark.setVisible(blinks);
         form->UserControl11.c_CurrentComment = comment;
         settle();
-        EXPECT_EQ(find<QLabel>("Text3").isVisible(), *comment && blinks);
+        EXPECT_EQ(the<CommentMark>().isVisible() && the<CommentMark>().isLit(), *comment && blinks);
     }
 }
 

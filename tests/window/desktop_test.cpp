@@ -1,3 +1,4 @@
+#include "window/frame/command_line.h"
 #include "window/frame/qt_outside_world.h"
 #include "window/frame/window_place.h"
 #include "window/student_fixture.h"
@@ -14,6 +15,8 @@
 
 #include <filesystem>
 #include <functional>
+#include <optional>
+#include <vector>
 
 namespace tarnel {
 namespace {
@@ -115,6 +118,8 @@ TEST(WindowPlace, OutlivesTheProgram) {
 class DialogTest : public MenuTest {
   protected:
     void openWithDialogs() {
+        window.reset();
+        form.reset();
         outside = std::make_unique<QtOutsideWorld>(
             englishTable(), folder.filePath(QStringLiteral("settings.ini")).toStdString());
         form = std::make_unique<Form1>(englishTable(), *outside, TARNEL_APPLICATION_FOLDER);
@@ -176,6 +181,64 @@ TEST_F(DialogTest, TheShippedChartIsSavedUnderAnotherNameOnly) {
         EXPECT_EQ(dialog.directory().canonicalPath(), QDir(folder.path()).canonicalPath());
         dialog.reject();
     }));
+}
+
+// The next start knows the folder and the files of the last one.
+TEST_F(DialogTest, FilesAndFolderOutliveTheProgram) {
+    const std::string own = folder.path().toStdString() + "/a & b.map";
+    openWithDialogs();
+    for (const int number : {0, 1, 2, 3, 4, 5, 6, 7, 8, 4})
+        form->recentFiles.note("/gone/" + std::to_string(number) + ".ts");
+    EXPECT_TRUE(trigger("mnuSaveChart", [&](QFileDialog& dialog) {
+        dialog.selectFile(QString::fromStdString(own));
+        static_cast<QDialog&>(dialog).accept();
+    }));
+    openWithDialogs();
+    auto& recent = find<QMenu>("mnuRecent");
+    emit recent.aboutToShow();
+    ASSERT_EQ(recent.actions().size(), 8 + 2);
+    ASSERT_THAT(recent.actions().at(0)->text().toStdString(),
+                testing::StartsWith("&1  a && b.map"));
+    EXPECT_THAT(recent.actions().at(7)->text().toStdString(), testing::HasSubstr("2.ts - /gone"));
+    recent.actions().at(0)->trigger();
+    EXPECT_EQ(form->UserControl11.c_ChartFileName.get(), own);
+    EXPECT_TRUE(trigger("mnuLoadSession", [&](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.directory().canonicalPath(), QDir(folder.path()).canonicalPath());
+        EXPECT_EQ(dialog.nameFilters().size(), 2);
+        dialog.reject();
+    }));
+    recent.actions().constLast()->trigger();
+    EXPECT_TRUE(form->recentFiles.paths().empty());
+}
+
+struct CommandLineCase {
+    std::vector<const char*> words;
+    std::optional<int> ended;
+    const char* answer; ///< a part of it
+};
+
+TEST(CommandLine, IsAnsweredOrOpensOneFile) {
+    for (const auto& [words, ended, answer] :
+         std::vector<CommandLineCase>{{{}, {}, ""},
+                                      {{"--platform", "offscreen", "-style", "fusion"}, {}, ""},
+                                      {{"--help", "--nonsense"}, 0, "--new-instance"},
+                                      {{"-v"}, 0, "Tarnel "},
+                                      {{"--new"}, 2, "Unbekannte Option: new"},
+                                      {{"a.ts", "b.ts"}, 2, "b.ts"},
+                                      {{"--platform"}, 2, "platform"}}) {
+        std::vector<const char*> all = {"/usr/bin/tarnel"};
+        all.insert(all.end(), words.begin(), words.end());
+        const CommandLine line = readCommandLine(static_cast<int>(all.size()),
+                                                 const_cast<char**>(all.data()), germanTable());
+        EXPECT_EQ(line.ended, ended) << answer;
+        EXPECT_THAT(line.answer, testing::HasSubstr(answer));
+        EXPECT_FALSE(line.newInstance);
+    }
+    const char* words[] = {"tarnel", "--new-instance", "--", "-Fl\xFCge.ts"};
+    const CommandLine line = readCommandLine(4, const_cast<char**>(words), englishTable());
+    EXPECT_TRUE(line.newInstance && !line.ended);
+    EXPECT_THAT(line.file,
+                testing::AllOf(testing::StartsWith("/"), testing::EndsWith("/-Fl\xFCge.ts")));
 }
 
 } // namespace

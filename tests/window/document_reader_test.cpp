@@ -68,7 +68,7 @@ class DesktopTest : public testing::Test {
     /// The program that came, and its words.
     Words opened(int page) {
         QFile::remove(record);
-        if (!openInReader(document, page) ||
+        if (!openInReader(document, page, [] {}) ||
             !QTest::qWaitFor([&] { return QFile::exists(record); }))
             return {};
         QFile told(record);
@@ -139,8 +139,15 @@ TEST_F(DesktopTest, WithoutAReaderTheDesktopOpensTheDocument) {
     Opener opener;
     install(QStringLiteral("xpdf"));
     QFile::setPermissions(folder.filePath("bin/xpdf"), QFile::ReadOwner);
-    EXPECT_TRUE(openInReader(document, 26));
+    EXPECT_TRUE(openInReader(document, 26, [] {}));
     EXPECT_EQ(opener.source(), QUrl::fromLocalFile(document));
+
+    install(QStringLiteral("xdg-open"));
+    EXPECT_THAT(opened(26), ElementsAre("xdg-open", file));
+    put("bin/xdg-open", "#!/bin/sh\nexit 3\n"); // as it tells that it has found no program
+    bool told = false;
+    EXPECT_TRUE(openInReader(document, 26, [&] { told = true; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return told; }));
 }
 
 } // namespace

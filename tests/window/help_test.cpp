@@ -163,8 +163,11 @@ TEST(HelpInTheWorld, IsOneWindowThatKeepsItsPlace) {
         for (const char* page : {"/Hilfe/en/radios.html", "/Hilfe/en/keys.html"})
             world.showHelp(std::string(TARNEL_APPLICATION_FOLDER) + page);
         ASSERT_EQ(windows().size(), 1);
-        EXPECT_EQ(windows().front()->geometry() == place, start == 1);
-        windows().front()->setGeometry(place);
+        auto& help = static_cast<HelpWindow&>(*windows().front());
+        EXPECT_EQ(help.geometry() == place, start == 1);
+        EXPECT_NEAR(help.zoom(), start == 1 ? 1.5 : 1, 1e-6);
+        help.setGeometry(place);
+        help.setZoom(1.5);
     }
     EXPECT_TRUE(windows().empty());
 }

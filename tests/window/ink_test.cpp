@@ -239,8 +239,8 @@ TEST(ChartInk, RadialArrowAndLetteringLieRightInBothViews) {
         turn.translate(plate.center().x(), plate.top() + 15 * frame.textScale);
         turn.rotate(-heading);
         for (const int half : {-1, 1})
-            EXPECT_EQ(inkAlong(image, turn.map(QLineF(2.5 * half, -1, 2.5 * half, 8)), look::ink) >
-                          0.7,
+            EXPECT_EQ(inkAlong(image, turn.map(QLineF(2.5 * half, -1, 2.5 * half, 8)),
+                               look::day.ink) > 0.7,
                       half == -1)
                 << half;
 

@@ -3,6 +3,7 @@
 #include "window/student_fixture.h"
 
 #include <QMenu>
+#include <QRegularExpression>
 #include <QStandardPaths>
 
 #include <filesystem>
@@ -29,7 +30,8 @@ class CourseMenuTest : public Student {
         emit menu.aboutToShow();
         QStringList texts;
         for (const QAction* action : menu.actions())
-            texts += (action->isEnabled() ? "" : "-") + action->text();
+            texts += (action->isEnabled() ? "" : "-") +
+                     action->text().remove(QRegularExpression(QStringLiteral("&(?!&)")));
         return texts;
     }
     QMenu& courses() { return find<QMenu>("mnuOwnCourses"); }
@@ -51,7 +53,7 @@ TEST_F(CourseMenuTest, ListsCoursesWheneverItOpensAndStartsTheirExercises) {
     std::ofstream(folder.at / "file") << "-";
     ASSERT_EQ(mkfifo((folder.path + "/pipe").c_str(), 0600), 0);
     const QStringList names = opened(courses());
-    EXPECT_EQ(names.mid(0, 3), QStringList({"Kurs 2 && Co.", "Kurs 10", "Übung 1"}));
+    EXPECT_EQ(names.mid(0, 3), QStringList({"Kurs 2 & Co.", "Kurs 10", "Übung 1"}));
     ASSERT_EQ(names.size(), 4);
     EXPECT_LT(names[3].size(), 100);
     EXPECT_EQ(opened(course(0)), QStringList("-Keine Übungen darin"));

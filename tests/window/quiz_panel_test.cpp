@@ -73,7 +73,9 @@ TEST_F(QuizPanelTest, PositionByKeyboardAlone) {
     // No entry begins with 236.
     play("Text11>; type 2360; Combo1>230; key Down; Combo1>235; Text11>; key Return; Text11>235; "
          "Text11~235, CORRECT; focus>Combo2; type 120; key Return; Text12>120; "
-         "Text12~120, WRONG; type 3; key Enter; Text13>To the left; focus>Command1; key Escape");
+         "Text12~120, WRONG; type 3; key Enter; Text13>To the left; focus>Command1");
+    world.answer = false; // to whether a question that was begun may be lost
+    play("key Escape");
     EXPECT_TRUE(form->exercise.runs());
     play("key Return; focus>Combo1; Label1>Attempts: 1     Correct: 0     Performance: 0%");
 }
@@ -129,7 +131,7 @@ TEST_F(QuizPanelTest, FliesTheQuestionAndComesBack) {
     settle();
     play("Label27>075; Command15; focus>Command6; Option38>");
     EXPECT_THAT(shown("Label32"), HasSubstr("090 NDB MNE"));
-    play("key 2; key Return; Command6>Stop SIM; ReplayClock>"); // it would stand still
+    play("key 2; key Return; Command6>&Stop SIM; ReplayClock>"); // it would stand still
     EXPECT_TRUE(form->flight.flies());
     EXPECT_FALSE(find<QWidget>("Frame2").isEnabled()) << "a flight is kept or called back at rest";
     fly(5);
@@ -222,6 +224,22 @@ TEST_F(QuizPanelTest, HasRoomForEveryFrame) {
                 panel.flyButton.click();
                 expectRoom();
             }
+}
+
+TEST_F(Student, IsToldTheWindThatAQuestionIsFlownIn) {
+    open();
+    form->exerciseMenu.exercises.front()->click(); // ADF positions
+    const auto told = [&] {
+        settle();
+        for (const auto* label : window->findChildren<QLabel*>(QStringLiteral("QuestionWind")))
+            if (label->isVisible())
+                return label->text().toStdString();
+        return std::string();
+    };
+    EXPECT_EQ(told(), "");
+    for (int i = 1; i < 11; ++i)
+        form->QAform1.activePanel()->nextButton.click();
+    EXPECT_EQ(told(), "Wind 210/30, TAS 120");
 }
 
 } // namespace

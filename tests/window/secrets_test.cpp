@@ -2,11 +2,8 @@
 #include "window/dials/instrument_view.h"
 #include "window/quiz/quiz_panel.h"
 #include "window/student_fixture.h"
-#include "window/widgets/knob_widget.h"
 
 #include <QAccessible>
-#include <QComboBox>
-#include <QLineEdit>
 #include <QRegularExpression>
 
 #include <map>
@@ -20,37 +17,45 @@ class Secrets : public Student {
     void SetUp() override { QAccessible::setActive(true); }
     void TearDown() override { QAccessible::setActive(false); }
 
-    static QStringList saidBy(const QWidget& widget) {
-        QStringList said{widget.accessibleName(), widget.accessibleDescription(), widget.toolTip()};
-        if (const auto* label = qobject_cast<const QLabel*>(&widget))
-            said << label->text();
-        if (const auto* button = qobject_cast<const QAbstractButton*>(&widget))
-            said << button->text();
-        if (const auto* field = qobject_cast<const QLineEdit*>(&widget))
-            said << field->text();
-        if (const auto* list = qobject_cast<const QComboBox*>(&widget))
-            said << list->currentText();
-        if (const auto* knob = qobject_cast<const KnobWidget*>(&widget))
-            said << knob->valueText();
+    static QStringList saidBy(QAccessibleInterface& part) {
+        QStringList said;
+        for (const auto kind :
+             {QAccessible::Name, QAccessible::Description, QAccessible::Value, QAccessible::Help})
+            said << part.text(kind);
+        if (auto* number = part.valueInterface()) // with its unit
+            said << number->currentValue().toString() + ' ' + said[1].section(' ', -1);
+        if (auto* text = part.textInterface())
+            said << text->text(0, text->characterCount());
         return said;
     }
-    /// What the question itself says and offers, and the dials that it wants to be read.
+    /// What the question itself says and offers, the dials that it wants to be read, and what
+    /// tells nothing of a place: the speed and a comment's number.
     [[nodiscard]] bool belongsToQuestion(const QWidget& widget) const {
         const auto* quiz = window->findChild<QuizPanel*>();
         const ExercisePanel& panel = *form->QAform1.activePanel();
         const bool ofRows = widget.objectName() != nameOf(panel.statistic);
         return qobject_cast<const InstrumentView*>(&widget) || &widget == quiz ||
-               (quiz->isAncestorOf(&widget) && ofRows);
+               (quiz->isAncestorOf(&widget) && ofRows) ||
+               widget.objectName() == nameOf(form->speedReadout) ||
+               widget.objectName() == nameOf(form->commentPanel.number);
     }
-    /// The texts that are seen or can be heard, by the widget that has them.
+    /// The texts that are seen or can be heard, by the widget that has them: a screen reader finds
+    /// also what is hidden.
     std::map<QString, QString> said() {
         std::map<QString, QString> all;
         for (QWidget* root :
              std::initializer_list<QWidget*>{window.get(), window->findChild<additional_DG*>()})
-            for (const QWidget* widget : root->findChildren<QWidget*>())
-                if (widget->isVisible() && !belongsToQuestion(*widget))
-                    all[saidBy(*widget).join('\n')] = widget->objectName();
+            for (QWidget* widget : root->findChildren<QWidget*>())
+                if (widget->window() == root && !belongsToQuestion(*widget))
+                    collect(*QAccessible::queryAccessibleInterface(widget), all);
         return all;
+    }
+    /// With the parts that are no widgets.
+    static void collect(QAccessibleInterface& from, std::map<QString, QString>& all) {
+        all[saidBy(from).join('\n')] = from.object()->objectName();
+        for (int i = 0; i < from.childCount(); ++i)
+            if (!from.child(i)->object())
+                all[saidBy(*from.child(i)).join('\n')] = from.object()->objectName();
     }
     /// The numbers of an answer. A nought or a single digit tells nothing.
     static QStringList numbersOf(const std::string& text) {
@@ -65,10 +70,11 @@ class Secrets : public Student {
         return text.contains(QRegularExpression(
             QStringLiteral("(?<![\\d.])%1(?![\\d.]| kt)").arg(QRegularExpression::escape(number))));
     }
-    /// Where no position is asked for, the question gives the heading itself.
+    /// Where no position is asked for, the question gives the heading itself; and its wind always.
     [[nodiscard]] bool isGiven(const QString& number) const {
-        return !asksForPosition(form->QAform1.c_QAtype) &&
-               number.toDouble() == form->APControlFace1.c_HDG;
+        return tells(QString::fromStdString(form->QAform1.activePanel()->wind.text()), number) ||
+               (!asksForPosition(form->QAform1.c_QAtype) &&
+                number.toDouble() == form->APControlFace1.c_HDG);
     }
 
     void expectNothingTold(const std::map<QString, QString>& everything,

@@ -92,7 +92,7 @@ TEST_F(StationEditorTest, EscapePutsADraggedStationBackAndUndoAFinishedDrag) {
     EXPECT_NE(now(), first);
     auto& menu = find<QMenu>("mnuEdit");
     emit menu.aboutToShow();
-    EXPECT_EQ(find<QAction>("mnuUndo").text(), "Undo: Move a station");
+    EXPECT_EQ(find<QAction>("mnuUndo").text(), "&Undo: Move a station");
     QTest::keyClick(window.get(), Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(now(), first);
     settle();

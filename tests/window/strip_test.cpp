@@ -146,7 +146,7 @@ TEST_F(StripStudent, SeesBehindABoxWhatItSays) {
     form->windPage.random.click();
     sim().slot(Slot::vor1).dme = 80.1;
     form->Timer1(); // out of the practise area; nothing else comes to paint the window
-    EXPECT_THAT(shown, testing::ElementsAre("Start SIM", "[W]ind random"));
+    EXPECT_THAT(shown, testing::ElementsAre("&Start SIM", "[W]ind random"));
     sim().mouse.down(ChartButton::left, {1000, 1000});
     form->documents.showAbout();
     EXPECT_FALSE(sim().mouse.holds()) << "the box takes the release";

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "look/look.h"
 #include "strings/string_table.h"
 #include "support/noted_world.h"
 #include "window/frame/main_window.h"
@@ -26,6 +27,7 @@ class Student : public testing::Test {
   protected:
     void open(const StringTable& texts = englishTable(), QSize size = {1280, 800}) {
         dressApplication(texts, QString::fromStdString(applicationFolder));
+        QApplication::setFont(desktopFont);
         window.reset(); // it shows the form to its end
         form = std::make_unique<Form1>(texts, world, applicationFolder);
         window = std::make_unique<MainWindow>(*form);
@@ -82,6 +84,7 @@ class Student : public testing::Test {
     }
 
     std::string applicationFolder = TARNEL_APPLICATION_FOLDER;
+    QFont desktopFont = look::font(look::bodyType);
     NotedWorld world;
     std::unique_ptr<Form1> form;
     std::unique_ptr<MainWindow> window;

@@ -27,7 +27,7 @@ void paintFrames(QPainter& painter) {
 }
 
 void paintWarning(QPainter& painter) {
-    painter.fillRect(sheet_parts::warning, look::ink);
+    painter.fillRect(sheet_parts::warning, look::day.ink);
     ink::text(painter, sheet_parts::warning, Qt::AlignCenter,
               QStringLiteral("NOT FOR NAVIGATIONAL PURPOSES - INFORMATION ONLY"),
               ink::type(28, true), look::paper);

@@ -100,7 +100,7 @@ void paintGraticule(QPainter& painter, std::span<const GraticuleMark> marks) {
         painter.drawLine(toQt(mark.tick));
         if (!mark.text.empty())
             ink::text(painter, toQt(mark.text), Qt::AlignCenter, mark.words, ink::type(ink::tiny),
-                      look::secondaryInk);
+                      look::day.secondaryInk);
     }
 }
 

@@ -45,11 +45,11 @@ void paintTitle(QPainter& painter, const QRectF& place, const ApproachSheet& she
               ink::qt("LOC DME RWY " + source.runway), ink::type(ink::title, true));
     ink::text(painter, inner, Qt::AlignLeft | Qt::AlignBottom,
               ink::qt(source.icao) + QStringLiteral("   Tarnel training chart"),
-              ink::type(ink::small), look::secondaryInk);
+              ink::type(ink::small), look::day.secondaryInk);
     const QString earlier =
         source.once ? QStringLiteral("   (earlier RWY %1)").arg(ink::qt(*source.once)) : QString();
     ink::text(painter, inner, Qt::AlignRight | Qt::AlignBottom, procedureText(sheet) + earlier,
-              ink::type(ink::small), look::secondaryInk);
+              ink::type(ink::small), look::day.secondaryInk);
 }
 
 void paintCells(QPainter& painter, const QRectF& place, const ApproachSheet& sheet) {

@@ -77,7 +77,7 @@ PlanLabel stationLabel(const ApproachSheet& sheet, const ChartFrame& symbols, co
 
 PlanLabel fixLabel(const PlanFix& fix, const ChartFrame& symbols, Spot middle) {
     PlanLabel label;
-    label.colour = look::ink;
+    label.colour = look::day.ink;
     for (const std::string& line : fix.lines)
         label.lines << ink::qt(line);
     label.place.station = symbols.spot(fix.at);
@@ -139,7 +139,7 @@ void paintLabel(QPainter& painter, const PlanLabel& label) {
     row.setHeight(lineHeight);
     for (qsizetype i = 0; i < label.lines.size(); ++i) {
         ink::text(painter, row, Qt::AlignLeft | Qt::AlignVCenter, label.lines[i], fontOf(i),
-                  look::ink);
+                  look::day.ink);
         row.translate(0, lineHeight);
         if (i == 0 && !label.morse.isEmpty()) {
             paintMorse(painter, row.topLeft() + QPointF(0, morseHeight / 2 - 3), label.morse,

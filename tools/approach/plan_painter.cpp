@@ -123,9 +123,9 @@ void PlanPainter::paintWay() {
     painter.setBrush(Qt::NoBrush);
     painter.setPen(ink::dashed(ink::medium));
     painter.drawPolyline(way(missed));
-    painter.setPen(QPen(look::ink, ink::medium, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin));
+    painter.setPen(QPen(look::day.ink, ink::medium, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin));
     painter.drawPolyline(way(plan.hold));
-    painter.setPen(QPen(look::ink, ink::track, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin));
+    painter.setPen(QPen(look::day.ink, ink::track, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin));
     painter.drawPolyline(way(plan.track));
     for (const LetteringOnLine& lettering : letterings)
         if (lettering.isFlown)
@@ -134,7 +134,7 @@ void PlanPainter::paintWay() {
 }
 
 void PlanPainter::paintRunway() {
-    painter.setPen(QPen(look::ink, runwayWidth, Qt::SolidLine, Qt::FlatCap));
+    painter.setPen(QPen(look::day.ink, runwayWidth, Qt::SolidLine, Qt::FlatCap));
     painter.drawLine(frame.at(plan.threshold), frame.at(plan.farEnd));
 }
 
@@ -143,7 +143,7 @@ void PlanPainter::paintArrow(Spot at, double course) {
     painter.translate(toQt(at));
     painter.rotate(course);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(look::ink);
+    painter.setBrush(look::day.ink);
     painter.drawPolygon(QPolygonF{{0.0, -18.0}, {12.0, 14.0}, {0.0, 7.0}, {-12.0, 14.0}});
     painter.restore();
 }

@@ -95,7 +95,7 @@ void Profile::paintWay() {
     way << at(descent.fixDme(), descent.altitude)
         << at(descent.thresholdDme, descent.altitudeAt(descent.thresholdDme));
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(look::ink, ink::track, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin));
+    painter.setPen(QPen(look::day.ink, ink::track, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin));
     painter.drawPolyline(way);
 }
 
@@ -112,7 +112,7 @@ void Profile::paintMissed() {
     painter.translate(to);
     painter.rotate(angle);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(look::ink);
+    painter.setBrush(look::day.ink);
     painter.drawPolygon(QPolygonF{{10.0, 0.0}, {-16.0, -9.0}, {-16.0, 9.0}});
     painter.restore();
 }
@@ -122,7 +122,7 @@ void Profile::paintGround() {
     painter.drawLine(QPointF(area.left(), groundLine()), QPointF(area.right(), groundLine()));
     painter.fillRect(QRectF(QPointF(x(descent.thresholdDme), groundLine() - 5),
                             QPointF(x(descent.thresholdDme - runwayMiles()), groundLine() + 5)),
-                     look::ink);
+                     look::day.ink);
     label(x(descent.thresholdDme - runwayMiles() / 2), groundLine() + 12,
           QStringLiteral("RWY ") + ink::qt(sheet.source.runway), ink::type(ink::small, true));
 }
@@ -242,7 +242,7 @@ void paintMalteseCross(QPainter& painter, QPointF at) {
     painter.save();
     painter.translate(at);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(look::ink);
+    painter.setBrush(look::day.ink);
     for (int arm = 0; arm < 4; ++arm) {
         painter.drawPolygon(
             QPolygonF{{0.0, 0.0}, {-half, -reach}, {0.0, -reach + 5}, {half, -reach}});

@@ -37,7 +37,8 @@ QString feet(double altitude) {
 
 void cell(QPainter& painter, const QRectF& place, const QString& caption, const QString& words) {
     const QRectF inner = place.adjusted(4, 6, -4, -6);
-    text(painter, inner, Qt::AlignHCenter | Qt::AlignTop, caption, type(tiny), look::secondaryInk);
+    text(painter, inner, Qt::AlignHCenter | Qt::AlignTop, caption, type(tiny),
+         look::day.secondaryInk);
     text(painter, inner, Qt::AlignHCenter | Qt::AlignBottom, words, type(value, true));
 }
 

@@ -23,12 +23,12 @@ inline constexpr double value = 33;
 inline constexpr double title = 50;
 
 [[nodiscard]] QFont type(double height, bool bold = false);
-[[nodiscard]] QPen pen(double width, QColor colour = look::ink);
-[[nodiscard]] QPen dashed(double width, QColor colour = look::ink);
+[[nodiscard]] QPen pen(double width, QColor colour = look::day.ink);
+[[nodiscard]] QPen dashed(double width, QColor colour = look::day.ink);
 
 /// One line or, with `Qt::TextWordWrap`, more; in ink unless another colour is given.
 void text(QPainter& painter, const QRectF& place, int alignment, const QString& words,
-          const QFont& font, QColor colour = look::ink);
+          const QFont& font, QColor colour = look::day.ink);
 
 [[nodiscard]] QString qt(const std::string& words);
 /// "2000"

@@ -22,13 +22,13 @@ void paintTable(QPainter& painter, const QRectF& place, const QStringList& capti
     for (int i = 0; i < captions.size(); ++i) {
         const double top = place.top() + i * row;
         ink::text(painter, {place.left(), top, first, row}, Qt::AlignLeft | Qt::AlignVCenter,
-                  captions[i], ink::type(ink::small), look::secondaryInk);
+                  captions[i], ink::type(ink::small), look::day.secondaryInk);
         for (std::size_t column = 0; column < columns.size(); ++column)
             ink::text(painter,
                       {place.left() + first + static_cast<double>(column) * each, top, each, row},
                       Qt::AlignCenter, columns[column][i], ink::type(ink::body, i == 0));
     }
-    painter.setPen(ink::pen(ink::hair, look::line));
+    painter.setPen(ink::pen(ink::hair, look::day.line));
     for (int i = 1; i < captions.size(); ++i)
         painter.drawLine(QPointF(place.left(), place.top() + i * row),
                          QPointF(place.right(), place.top() + i * row));
@@ -79,8 +79,8 @@ void paintNotes(QPainter& painter, const QRectF& place, const ApproachSheet& she
     QString notes =
         QStringLiteral("All directions are true. Altitudes, and the localizer's identifier and "
                        "frequency, are made for training with the session \"%1\"; obstacles and "
-                       "minima are not considered. The trainer's DME measures from 6000 ft "
-                       "throughout: near a station it reads more than this chart.")
+                       "minima are not considered. The trainer's DME measures from the altitude "
+                       "on ALT, 6000 ft at first: near a station it reads more than this chart.")
             .arg(ink::qt(sheet.source.session));
     if (hasStationsBeyond(sheet))
         notes +=

@@ -40,7 +40,7 @@ class BodyWriter {
         const QTextList* list = block.textList();
         if (!list)
             leaveListsAbove(0);
-        if (level > 0 && body.title.isEmpty())
+        if (level == 1 && body.title.isEmpty())
             body.title = block.text();
         if (level > 0)
             body.html += element(QStringLiteral("h%1").arg(level), textOf(block, true)) + '\n';

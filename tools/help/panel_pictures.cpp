@@ -1,5 +1,6 @@
 #include "tools/help/panel_pictures.h"
 
+#include "exercises/exercise_catalogue.h"
 #include "flights/flight.h"
 #include "shell/application_folder.h"
 #include "shell/memory_log.h"
@@ -22,6 +23,11 @@
 #include <QApplication>
 #include <QDateTime>
 #include <QDir>
+
+#include <algorithm>
+#include <limits>
+#include <span>
+#include <utility>
 
 namespace tarnel {
 
@@ -97,8 +103,6 @@ std::unique_ptr<TrainingLog> someAnswers(std::int64_t now) {
     return log;
 }
 
-constexpr int widest = 760; ///< pixels that the help's window has room for
-
 struct PanelPicture {
     const char* name;
     void (*prepare)(Stage& stage);
@@ -147,18 +151,35 @@ void isAsked(Stage& stage) {
     stage.settle();
 }
 
-/// A shipped flight over the task that its right instrument shows.
+/// The first question of QDM, flown after its solution was seen, and left again at its end.
 void isDebriefed(Stage& stage) {
+    Form1& form = stage.form;
+    const auto item = std::ranges::find(exerciseItems(), ExerciseType::qdm, &ExerciseItem::type);
+    form.exerciseMenu.exercises[static_cast<std::size_t>(item - exerciseItems().begin())]->click();
+    ExercisePanel& panel = *form.QAform1.activePanel();
+    for (CommandButton* button : {&panel.solutionButton, &panel.flyButton}) {
+        button->click();
+        form.Timer1();
+    }
+    for (const auto& [heading, seconds] :
+         {std::pair<std::int16_t, int>{70, 132}, {120, 60}, {133, 60}}) {
+        form.coupling.setHeadingBug(heading);
+        stage.fly(seconds);
+    }
+    stage.show();
+    form.debriefControls.item.click();
+    stage.settle();
+}
+
+/// A shipped flight on a radial in the wind, with its comments.
+void followsExample(Stage& stage) {
     constexpr std::size_t trackInWind = 4;
     stage.form.exerciseMenu.vorPractice[trackInWind]->click();
     stage.form.Timer1();
     stage.form.StopReplay();
-    stage.form.replayPage.bar.scrollTo(stage.form.replayPage.bar.max());
+    ReplayPage& replay = stage.form.replayPage;
+    replay.bar.scrollTo(replay.bar.max() * 3 / 4);
     stage.show();
-    stage.form.debriefControls.item.click();
-    stage.settle();
-    stage.form.debriefControls.judge.click();
-    stage.settle();
 }
 
 void looksBack(Stage& stage) {
@@ -172,6 +193,10 @@ void looksBack(Stage& stage) {
 template <class... Parts>
 QRect placeOf(const Stage& stage) {
     return stage.placeOf<Parts...>();
+}
+
+QRect wholeWindow(const Stage& stage) {
+    return stage.window->rect();
 }
 
 QRect rightDial(const Stage& stage) {
@@ -198,10 +223,15 @@ constexpr PanelPicture pictures[] = {
     {"progress", looksBack, placeOf<ProgressPage>},
 };
 
-} // namespace
+constexpr PanelPicture windows[] = {
+    {"flight", followsExample, wholeWindow},
+    {"exercise", isAsked, wholeWindow},
+    {"debrief", isDebriefed, wholeWindow},
+};
 
-void paintPanels(const StringTable& texts, const QString& folder) {
-    for (const PanelPicture& picture : pictures) {
+void paint(std::span<const PanelPicture> list, int widest, const StringTable& texts,
+           const QString& folder) {
+    for (const PanelPicture& picture : list) {
         Stage stage(texts);
         picture.prepare(stage);
         const QString file = QDir(folder).filePath(QStringLiteral("%1.png").arg(picture.name));
@@ -212,6 +242,17 @@ void paintPanels(const StringTable& texts, const QString& folder) {
         if (part.isEmpty() || !painted.save(file))
             throw OutputError(file.toStdString(), "the picture can't be painted");
     }
+}
+
+} // namespace
+
+void paintPanels(const StringTable& texts, const QString& folder) {
+    constexpr int widest = 760; // pixels that the help's window has room for
+    paint(pictures, widest, texts, folder);
+}
+
+void paintWindows(const StringTable& texts, const QString& folder) {
+    paint(windows, std::numeric_limits<int>::max(), texts, folder);
 }
 
 } // namespace tarnel

@@ -10,4 +10,7 @@ namespace tarnel {
 /// into a folder that is there. Needs a QApplication. Throws OutputError.
 void paintPanels(const StringTable& texts, const QString& folder);
 
+/// The same with the whole window: a flight, an exercise, a debrief.
+void paintWindows(const StringTable& texts, const QString& folder);
+
 } // namespace tarnel

@@ -2,6 +2,7 @@
 
 #include "exercises/exercise_catalogue.h"
 #include "flights/plan_error.h"
+#include "shell/question_wind.h"
 #include "tools/printed/sheet_chart.h"
 #include "window/widgets/text_of.h"
 
@@ -24,21 +25,27 @@ std::vector<GeoPosition> wayOf(const std::vector<FlightRow>& rows) {
     return way;
 }
 
-/// Two ways are stored with a plus around each.
-QString asPrinted(const std::string& solution) {
+/// As a reader expects it. The exercises store two ways with a plus around each, a dash before a
+/// number that has no side, and minutes.seconds.
+QString asPrinted(const std::string& solution, const StringTable& texts) {
     const QString text = QString::fromStdString(solution);
-    return text.startsWith('+') ? text.split('+', Qt::SkipEmptyParts).join(QStringLiteral(" / "))
-                                : text;
+    if (text.startsWith('+'))
+        return text.split('+', Qt::SkipEmptyParts).join(QStringLiteral(" / "));
+    if (text.startsWith(QLatin1String("- ")))
+        return text.mid(2);
+    const QString time = ' ' + textOf(texts, Text::unitMinutesSeconds);
+    return text.endsWith(time) ? text.chopped(time.size()).replace('.', ':') + " min" : text;
 }
 
 /// What the exercise takes as right, in the words that it offers if that is all there is to it.
-QString solutionOf(const Exercise& exercise, int row, bool numbered) {
+QString solutionOf(const Exercise& exercise, int row, bool numbered, const StringTable& texts) {
     QStringList right;
     const std::vector<std::string> offers = exercise.offers(row);
     for (std::size_t i = 0; i < offers.size() && !numbered; ++i)
         if (exercise.isRight({row, static_cast<int>(i), {}}))
             right << QString::fromStdString(offers[i]);
-    return right.isEmpty() ? asPrinted(exercise.solution(row)) : right.join(QStringLiteral(" / "));
+    return right.isEmpty() ? asPrinted(exercise.solution(row), texts)
+                           : right.join(QStringLiteral(" / "));
 }
 
 std::vector<PrintedQuestion::Row> rowsOf(const Exercise& exercise, PanelId panel,
@@ -49,7 +56,7 @@ std::vector<PrintedQuestion::Row> rowsOf(const Exercise& exercise, PanelId panel
         const RowWidgets& asked = widgets[static_cast<std::size_t>(i)];
         PrintedQuestion::Row row;
         row.prompt = QString::fromStdString(exercise.prompt(i));
-        row.solution = solutionOf(exercise, i, !asked.entries.empty());
+        row.solution = solutionOf(exercise, i, !asked.entries.empty(), texts);
         for (const EntryWidgets& entry : asked.entries)
             row.units << textOf(texts, entry.unit);
         for (const std::string& offer : exercise.offers(i))
@@ -122,7 +129,9 @@ PrintedQuestion Printing::take(const Situation& situation) {
     exercise->take(source.questions->ask(
         {situation, source.chartOf(situation), pilot.rows(), pilot.said(), {}}, language));
     question.task = QString::fromStdString(exercise->task()).simplified();
-    question.known = QString::fromStdString(exercise->known());
+    question.known = QString::fromStdString(
+        kind.type == ExerciseType::wind ? exercise->known()
+                                        : questionWind(texts, situation.wind, situation.tas));
     question.rows = rowsOf(*exercise, kind.panel, texts);
     return question;
 }

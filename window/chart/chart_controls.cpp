@@ -28,8 +28,8 @@ ChartControls::ChartControls(ChartDisplay& chartDisplay, BoxDesk& boxDesk, QWidg
     row->addStretch(1);
     zoomOut = addZoom("ZoomOut", Text::zoomOut, Text::zoomOutTip, -1);
     zoomIn = addZoom("ZoomIn", Text::zoomIn, Text::zoomInTip, 1);
-    zoomOut->setIcon(signIcon(Sign::zoomOut, look::ink));
-    zoomIn->setIcon(signIcon(Sign::zoomIn, look::ink));
+    zoomOut->setIcon(signIcon(Sign::zoomOut));
+    zoomIn->setIcon(signIcon(Sign::zoomIn));
     row->addWidget(zoomOut);
     row->addSpacing(zoomGap);
     row->addWidget(zoomIn);

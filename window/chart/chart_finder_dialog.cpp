@@ -2,6 +2,9 @@
 
 #include "chart/chart_picture.h"
 #include "look/look.h"
+#include "window/widgets/busy_cursor.h"
+#include "window/widgets/help_page.h"
+#include "window/widgets/mnemonics.h"
 #include "window/widgets/text_of.h"
 
 #include <QComboBox>
@@ -58,10 +61,11 @@ QComboBox* wideList(QWidget* parent) {
 
 ChartFinderDialog::ChartFinderDialog(UserControl2& simulation, BoxDesk& boxDesk,
                                      const NavFolders& folders, QWidget* parent)
-    : QDialog(parent), boxes(boxDesk), finder(simulation, boxDesk, folders) {
+    : QDialog(parent), boxes(boxDesk), finder(simulation, boxDesk, folders, withBusyCursor) {
     setObjectName(QStringLiteral("ChartFinder"));
     setWindowTitle(text(Text::chartFinderTitle));
     setModal(true);
+    setHelpPage(*this, "chart");
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(margin, margin, margin, margin);
     column->setSpacing(gap);
@@ -76,6 +80,7 @@ ChartFinderDialog::ChartFinderDialog(UserControl2& simulation, BoxDesk& boxDesk,
     makeButtons(*column);
     resize(usualWidth, sizeHint().height());
     showSources();
+    giveMnemonics(*this);
     words->setFocus();
 }
 

@@ -35,7 +35,9 @@ constexpr double windWidth = 2;
 constexpr double groundWidth = 2.4;
 
 QLinearGradient fading(const QLineF& along, QColor colour, double strength, ChartMedium medium) {
-    const auto mixed = medium == ChartMedium::sheet ? look::onPaper : look::faded;
+    const auto mixed = [medium](const QColor& ink, double share) {
+        return medium == ChartMedium::sheet ? look::onPaper(ink, share) : look::faded(ink, share);
+    };
     QLinearGradient gradient(along.p1(), along.p2());
     gradient.setColorAt(0, mixed(colour, fillNear * strength));
     gradient.setColorAt(1, mixed(colour, fillFar * strength));
@@ -196,7 +198,7 @@ void paintHeadingLine(QPainter& painter, const ChartFrame& frame, const HeadingL
                    look::fromSurface(heading.line.colour), airWidth);
     if (!heading.name.visible && !heading.value.visible)
         return;
-    const PlateRow rows[] = {{texts.name, look::secondaryInk},
+    const PlateRow rows[] = {{texts.name, look::day.secondaryInk},
                              {QString::fromStdString(heading.value.caption) + texts.degrees,
                               look::fromSurface(heading.value.colour)}};
     paintRows(painter, frame, heading.name.anchor, rows);
@@ -212,7 +214,7 @@ void paintWindLine(QPainter& painter, const ChartFrame& frame, const WindLine& w
     if (!wind.name.visible)
         return;
     const PlateRow rows[] = {
-        {texts.name, look::secondaryInk},
+        {texts.name, look::day.secondaryInk},
         {QString::fromStdString(wind.direction.caption) + texts.degrees, pen.color()},
         {QString::fromStdString(wind.speed.caption) + QLatin1Char(' ') + texts.unit, pen.color()}};
     paintRows(painter, frame, wind.name.anchor, rows);

@@ -63,8 +63,8 @@ void paintScaleBar(QPainter& painter, const ChartFrame& frame, const ScaleBar& s
     const double field = bar.width() / barFields;
     for (int i = 0; i < barFields; ++i)
         painter.fillRect(QRectF(bar.left() + i * field, bar.top(), field, bar.height()),
-                         i % 2 == 0 ? look::ink : look::paper);
-    painter.setPen(QPen(look::ink, 1));
+                         i % 2 == 0 ? look::day.ink : look::paper);
+    painter.setPen(QPen(look::day.ink, 1));
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(bar.adjusted(0.5, 0.5, -0.5, -0.5));
 
@@ -91,14 +91,14 @@ void paintNorthArrow(QPainter& painter, const ChartFrame& frame, double rotation
     painter.scale(frame.textScale, frame.textScale);
     const QPointF tip(0, -arrowHalfLength);
     const QPointF notch(0, arrowHalfLength - arrowNotch);
-    painter.setPen(QPen(look::ink, 1, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin));
+    painter.setPen(QPen(look::day.ink, 1, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin));
     painter.setBrush(look::paper);
     painter.drawPolygon(QPolygonF{tip, {arrowHalfWidth, arrowHalfLength}, notch});
-    painter.setBrush(look::ink);
+    painter.setBrush(look::day.ink);
     painter.drawPolygon(QPolygonF{tip, {-arrowHalfWidth, arrowHalfLength}, notch});
     painter.restore();
 
-    painter.setPen(look::ink);
+    painter.setPen(look::day.ink);
     painter.setFont(frame.lineFont);
     painter.drawText(toQt(arrow.plate).adjusted(0, 0, 0, -1), Qt::AlignHCenter | Qt::AlignBottom,
                      letter);
@@ -107,15 +107,15 @@ void paintNorthArrow(QPainter& painter, const ChartFrame& frame, double rotation
 void paintHelp(QPainter& painter, const ChartFrame& frame, const QString& text) {
     painter.setFont(look::font(look::denseType * frame.textScale));
     const QRectF pill = toQt(helpPill(frame, painter.fontMetrics().horizontalAdvance(text)));
-    painter.setPen(QPen(look::line, 1));
-    painter.setBrush(look::faded(look::card, pillOpacity));
+    painter.setPen(QPen(look::day.line, 1));
+    painter.setBrush(look::faded(look::day.card, pillOpacity));
     painter.drawRoundedRect(pill, pill.height() / 2, pill.height() / 2);
-    painter.setPen(look::ink);
+    painter.setPen(look::day.ink);
     painter.drawText(pill, Qt::AlignCenter, text);
 }
 
 void paintPaperEdge(QPainter& painter, const ChartFrame& frame) {
-    painter.setPen(QPen(look::line, 1));
+    painter.setPen(QPen(look::day.line, 1));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(frame.paper.adjusted(0.5, 0.5, -0.5, -0.5), look::paperRadius,
                             look::paperRadius);

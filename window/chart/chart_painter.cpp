@@ -198,7 +198,7 @@ void ChartPainter::paintName(QPainter& painter, const NameLabel& label, std::siz
     painter.setPen(colour);
     painter.drawText(inner, static_cast<int>(towardsBar | Qt::AlignTop), name.identifier);
     painter.setFont(frame.frequencyFont);
-    painter.setPen(look::secondaryInk);
+    painter.setPen(look::day.secondaryInk);
     painter.drawText(inner, static_cast<int>(towardsBar | Qt::AlignBottom), name.frequency);
 }
 

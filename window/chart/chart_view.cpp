@@ -4,17 +4,17 @@
 #include "core/rounding.h"
 #include "look/look.h"
 #include "paper/plates.h"
+#include "window/chart/chart_keyboard.h"
 #include "window/chart/reference_lamps.h"
+#include "window/chart/spoken_place.h"
+#include "window/widgets/spoken.h"
 #include "window/widgets/text_of.h"
 
-#include <QAccessible>
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QWheelEvent>
-
-#include <cmath>
 
 namespace tarnel {
 
@@ -33,27 +33,23 @@ ChartButton chartButton(Qt::MouseButton button) {
     }
 }
 
-/// Fills degrees and minutes, to a tenth of a minute, into the text of a hemisphere.
-QString angleText(double degrees, int digits, const QString& hemisphere) {
-    const auto tenths = static_cast<std::int64_t>(std::llround(std::abs(degrees) * 600));
-    return hemisphere.arg(QString::fromStdString(zeroPadded(tenths / 600, digits)),
-                          QString::number(static_cast<double>(tenths % 600) / 10, 'f', 1));
-}
-
 } // namespace
 
 ChartView::ChartView(UserControl2& simulation, const StringTable& table, QWidget* parent)
     : QWidget(parent), sim(simulation), texts(table), painter(simulation, table) {
     lamps = new ReferenceLamps(sim, texts, this);
+    keys = new ChartKeyboard(sim, texts, *this);
     setFocusPolicy(Qt::TabFocus);
     setMouseTracking(true);
-    setAccessibleName(spokenChart());
+    setSpokenRole(*this, QAccessible::Canvas);
+    setSpokenName(*this, spokenChart());
     showCursor();
 }
 
 void ChartView::refresh() {
     showCursor();
-    if (layer && layer->isShown())
+    keys->refresh();
+    if (isLayered())
         lamps->hide();
     else
         lamps->refresh();
@@ -73,21 +69,16 @@ void ChartView::speak() {
     if (now == spoken || (!QAccessible::isActive() && now.second == spoken.second))
         return;
     spoken = now;
-    if (const QString name = spokenChart(); name != accessibleName())
-        setAccessibleName(name);
+    setSpokenName(*this, spokenChart());
 }
 
 QString ChartView::spokenChart() const {
     if (sim.c_AirplaneEN != 1 || sim.placeIsSecret())
         return textOf(texts, Text::spokenChartHidden);
     const GeoPosition at = sim.aircraft.published();
-    const Text latitude = at.latitude < 0 ? Text::placeSouth : Text::placeNorth;
-    const Text longitude = at.longitude < 0 ? Text::placeWest : Text::placeEast;
-    const QString position = angleText(at.latitude, 2, textOf(texts, latitude)) + QLatin1Char(' ') +
-                             angleText(at.longitude, 3, textOf(texts, longitude));
     const auto heading = static_cast<std::int64_t>(roundToEven(sim.aircraft.trueHeading)) % 360;
     return textOf(texts, Text::spokenChart)
-        .arg(position, QString::fromStdString(zeroPadded(heading, 3)));
+        .arg(spokenPosition(at, texts), QString::fromStdString(zeroPadded(heading, 3)));
 }
 
 /// Also called for a part alone, when something that lies over the chart paints again: what is to
@@ -95,11 +86,12 @@ QString ChartView::spokenChart() const {
 void ChartView::paintEvent(QPaintEvent* /*event*/) {
     QPainter onWidget(this);
     painter.paint(onWidget, side(), devicePixelRatioF());
+    keys->paint(onWidget, side(), devicePixelRatioF());
     if (!hasFocus())
         return;
     constexpr double ring = 2;
     constexpr double inset = ring / 2;
-    onWidget.setPen(QPen(look::accent, ring));
+    onWidget.setPen(QPen(look::day.accent, ring));
     onWidget.setBrush(Qt::NoBrush);
     onWidget.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset),
                              look::paperRadius, look::paperRadius);
@@ -138,6 +130,7 @@ void ChartView::mousePressEvent(QMouseEvent* event) {
     const std::optional<Slot> station = stationAt(event->position());
     if (event->button() == Qt::RightButton && station && onStationMenu)
         return onStationMenu(station, event->globalPosition().toPoint());
+    keys->pointerComes();
     hold.begin();
     guard([&] { sim.mouse.down(chartButton(event->button()), toTwips(event->position())); });
     watchKeys();
@@ -175,7 +168,15 @@ void ChartView::mouseDoubleClickEvent(QMouseEvent* event) {
 void ChartView::contextMenuEvent(QContextMenuEvent* event) {
     event->accept();
     if (event->reason() == QContextMenuEvent::Keyboard && mayEdit() && onStationMenu)
-        onStationMenu({}, event->globalPos());
+        onStationMenu(keys->stationUnder(), event->globalPos());
+}
+
+/// A menu or another window only borrows the keyboard.
+void ChartView::focusOutEvent(QFocusEvent* event) {
+    QWidget::focusOutEvent(event);
+    if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::MenuBarFocusReason &&
+        event->reason() != Qt::ActiveWindowFocusReason)
+        keys->keyboardGoes();
 }
 
 void ChartView::leaveEvent(QEvent* /*event*/) {
@@ -184,6 +185,8 @@ void ChartView::leaveEvent(QEvent* /*event*/) {
 
 void ChartView::mouseMoveEvent(QMouseEvent* event) {
     pointer = event->position();
+    if (keys->holds())
+        return;
     guard([&] { sim.mouse.move(toTwips(event->position())); });
     refresh();
 }

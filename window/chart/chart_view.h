@@ -15,6 +15,7 @@
 
 namespace tarnel {
 
+class ChartKeyboard;
 class ReferenceLamps;
 
 /// `ChartView`: the chart as a widget. It shows the simulation's picture on white paper and hands
@@ -39,6 +40,11 @@ class ChartView : public QWidget {
         painter.layer = layer.get();
     }
 
+    /// Whether something lies on the chart in the place of the trace.
+    [[nodiscard]] bool isLayered() const { return layer && layer->isShown(); }
+    /// The chart by keys.
+    [[nodiscard]] ChartKeyboard& keyboard() { return *keys; }
+
     /// Every call into the simulation goes through here, so that its owner can catch what it
     /// throws.
     ModelGuard guard = unguarded();
@@ -59,6 +65,7 @@ class ChartView : public QWidget {
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void leaveEvent(QEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     /// While the hand holds something, Escape puts it back, wherever the keyboard is.
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -76,6 +83,7 @@ class ChartView : public QWidget {
     const StringTable& texts;
     ChartPainter painter;
     ReferenceLamps* lamps = nullptr;
+    ChartKeyboard* keys = nullptr;
     std::uint64_t shownRevision = 0;   ///< of the picture, when all of it was last asked for
     std::unique_ptr<ChartLayer> layer; ///< null without one
     std::uint64_t shownLayer = 0;      ///< the layer's

@@ -1,6 +1,8 @@
 #include "window/chart/comment_card.h"
 
 #include "look/look.h"
+#include "window/chart/comment_mark.h"
+#include "window/widgets/announce.h"
 #include "window/widgets/card.h"
 #include "window/widgets/segment_row.h"
 #include "window/widgets/text_of.h"
@@ -23,12 +25,6 @@ constexpr int sectionGap = 6;
 constexpr int buttonGap = 4;
 constexpr int mostLines = 6;  ///< a longer comment scrolls
 constexpr int textSlack = 24; ///< of the width: the mark, its gap and the frame of the text
-
-void keepPlace(QWidget& widget) {
-    QSizePolicy policy = widget.sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    widget.setSizePolicy(policy);
-}
 
 } // namespace
 
@@ -54,11 +50,10 @@ QWidget* CommentCard::makeComment() {
     auto* row = new QWidget(this);
     auto* across = new QHBoxLayout(row);
     across->setContentsMargins(0, 0, 0, 0);
-    mark = new QLabel(QStringLiteral("▸"), row);
+    mark = new CommentMark(QStringLiteral("▸"), row);
     mark->setObjectName(QStringLiteral("Text3"));
     mark->setProperty("comment", true);
     mark->setAccessibleName(textOf(boxes.texts, Text::commentMark));
-    keepPlace(*mark);
     across->addWidget(mark, 0, Qt::AlignTop);
     place = new QScrollArea(row);
     place->setObjectName(QStringLiteral("Frame3"));
@@ -127,7 +122,7 @@ QWidget* CommentCard::makePractice() {
     auto* name = new QLabel(textOf(boxes.texts, *panel.frame.caption()), section);
     name->setProperty("secondary", true);
     row->addWidget(name);
-    row->addWidget(segmentRow(binding, {&panel.keep, &panel.recall}, section), 1);
+    row->addWidget(segmentRow(binding, name->text(), {&panel.keep, &panel.recall}, section), 1);
     addButtons(*row, {&panel.debrief});
     return section;
 }
@@ -136,7 +131,7 @@ void CommentCard::refresh() {
     const bool written = commentPanel.comment.visible();
     const bool writes = commentPanel.write.value() == 1;
     commentRow->setVisible(written);
-    mark->setVisible(written && commentPanel.mark.visible());
+    mark->setLit(commentPanel.mark.visible());
     const bool opens = writes && writer->isHidden();
     writer->setVisible(writes);
     if (opens)
@@ -145,8 +140,10 @@ void CommentCard::refresh() {
     practice->setEnabled(practicePanel.frame.enabled());
     const QString spoken =
         textOf(boxes.texts, Text::comment) + QStringLiteral(": ") + comment->text();
-    if (written && place->accessibleName() != spoken)
-        place->setAccessibleName(spoken);
+    if (!written || place->accessibleName() == spoken)
+        return;
+    place->setAccessibleName(spoken);
+    announce(*this, spoken);
 }
 
 std::size_t CommentCard::lettersOfComments() const {

@@ -15,6 +15,8 @@ class QScrollArea;
 
 namespace tarnel {
 
+class CommentMark;
+
 /// `CommentCard`: what an author has to say about the present part of the flight, in letters that
 /// read well in flight; below it the strip on which it is written, and the practice panel.
 class CommentCard : public QWidget {
@@ -54,7 +56,7 @@ class CommentCard : public QWidget {
     BoxDesk& boxes;
     FormBinding& binding;
     QWidget* commentRow = nullptr;
-    QLabel* mark = nullptr;
+    CommentMark* mark = nullptr;
     QLabel* comment = nullptr;
     QScrollArea* place = nullptr;
     QWidget* writer = nullptr;

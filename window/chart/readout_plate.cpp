@@ -55,10 +55,10 @@ void paintStationReadout(QPainter& painter, const ChartFrame& frame, const Chart
     const RoomNeeded room{widths[0] + widths[1] + widths[2] + 2 * gap + 2 * inset,
                           metrics.height() * static_cast<double>(rows.size()) + 2 * inset};
     const QRectF plate = toQt(plateBesidePointer(frame, readout.anchor, room));
-    painter.setPen(QPen(look::line, 1));
-    painter.setBrush(look::faded(look::card, plateOpacity));
+    painter.setPen(QPen(look::day.line, 1));
+    painter.setBrush(look::faded(look::day.card, plateOpacity));
     painter.drawRoundedRect(plate, look::controlRadius, look::controlRadius);
-    painter.setPen(look::ink);
+    painter.setPen(look::day.ink);
     double top = plate.top() + inset;
     for (const Columns& row : rows) {
         double left = plate.left() + inset;

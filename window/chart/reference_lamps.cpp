@@ -1,6 +1,7 @@
 #include "window/chart/reference_lamps.h"
 
 #include "look/look.h"
+#include "window/widgets/spoken.h"
 #include "window/widgets/text_of.h"
 
 #include <QPainter>
@@ -35,7 +36,7 @@ QColor colourOf(Lamp lamp) {
     case Lamp::dark:
         break;
     }
-    return look::hairline;
+    return look::day.hairline;
 }
 
 } // namespace
@@ -45,6 +46,7 @@ ReferenceLamps::ReferenceLamps(const UserControl2& simulation, const StringTable
     : QWidget(parent), sim(simulation), texts(table) {
     setObjectName(QStringLiteral("ReferenceLamps"));
     setToolTip(textOf(texts, Text::referenceTrackTip));
+    setSpokenRole(*this, QAccessible::Graphic);
     setFocusPolicy(Qt::TabFocus);
     hide();
 }
@@ -54,11 +56,9 @@ void ReferenceLamps::refresh() {
     setVisible(reading.known && width() > 0);
     if (isHidden())
         return;
-    const QString spoken = textOf(texts, Text::referenceTrack) + QLatin1Char(' ') +
-                           QString::number(reading.distance, 'f', 1) + QLatin1Char(' ') +
-                           textOf(texts, Text::unitNauticalMiles);
-    if (spoken != accessibleName())
-        setAccessibleName(spoken);
+    setSpokenName(*this, textOf(texts, Text::referenceTrack) + QLatin1Char(' ') +
+                             QString::number(reading.distance, 'f', 1) + QLatin1Char(' ') +
+                             textOf(texts, Text::unitNauticalMiles));
     if (reading.lamps == shown)
         return;
     shown = reading.lamps;
@@ -83,18 +83,18 @@ void ReferenceLamps::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF plate = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
-    painter.setPen(QPen(hasFocus() ? look::accent : look::line, hasFocus() ? 2 : 1));
-    painter.setBrush(look::card);
+    painter.setPen(QPen(hasFocus() ? look::day.accent : look::day.line, hasFocus() ? 2 : 1));
+    painter.setBrush(look::day.card);
     painter.drawRoundedRect(plate, look::paperRadius, look::paperRadius);
     const double scale = height() / plateHeight;
     painter.scale(scale, scale);
     for (std::size_t i = 0; i < shown.size(); ++i) {
         const bool lit = shown[i] != Lamp::dark;
-        painter.setPen(QPen(lit ? colourOf(shown[i]).darker(130) : look::line, 1));
+        painter.setPen(QPen(lit ? colourOf(shown[i]).darker(130) : look::day.line, 1));
         painter.setBrush(colourOf(shown[i]));
         painter.drawEllipse(QRectF(lampAt(i), lampTop, lampSide, lampSide));
     }
-    painter.setPen(look::secondaryInk);
+    painter.setPen(look::day.secondaryInk);
     painter.setFont(look::font(look::scaleType));
     for (int mile = 0; mile <= miles; ++mile)
         paintNumber(painter, mile);

@@ -1,6 +1,7 @@
 #include "window/chart/scale_choice.h"
 
 #include "window/widgets/choice_button.h"
+#include "window/widgets/spoken.h"
 #include "window/widgets/text_of.h"
 
 #include <QHBoxLayout>
@@ -26,6 +27,7 @@ ScaleChoice::ScaleChoice(ChartDisplay& chartDisplay, BoxDesk& boxDesk, QWidget* 
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(0);
+    setSpokenName(*this, textOf(boxes.texts, Text::chartScale));
     for (std::size_t i = 0; i < count; ++i)
         row->addWidget(segments[i] = addScale(i));
     refresh();

@@ -2,6 +2,8 @@
 
 #include "chart/chart_picture.h"
 #include "look/look.h"
+#include "window/widgets/help_page.h"
+#include "window/widgets/mnemonics.h"
 #include "window/widgets/text_of.h"
 
 #include <QCheckBox>
@@ -43,6 +45,7 @@ StationDialog::StationDialog(StationDesk& stationDesk, BoxDesk& boxDesk, Slot sl
     setObjectName(QStringLiteral("station_edit"));
     setWindowTitle(text(editorTitle(slot)));
     setModal(true);
+    setHelpPage(*this, "chart");
     auto* bar = new QWidget(this);
     bar->setAutoFillBackground(true);
     bar->setPalette(look::fromSurface(slotColour(static_cast<std::size_t>(slot))));
@@ -61,6 +64,7 @@ StationDialog::StationDialog(StationDesk& stationDesk, BoxDesk& boxDesk, Slot sl
     whole->addWidget(bar);
     whole->addLayout(rows);
     whole->setSizeConstraint(QLayout::SetFixedSize);
+    giveMnemonics(*this);
 }
 
 QString StationDialog::text(Text id) const {

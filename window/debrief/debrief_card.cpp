@@ -3,11 +3,12 @@
 #include "look/look.h"
 #include "window/debrief/finding_list.h"
 #include "window/debrief/task_chooser.h"
+#include "window/widgets/announce.h"
 #include "window/widgets/card.h"
 #include "window/widgets/icons.h"
+#include "window/widgets/quiz_measures.h"
 #include "window/widgets/wrap_layout.h"
 
-#include <QAccessible>
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -87,7 +88,7 @@ QLayout* DebriefCard::makeActions(FormBinding& binding) {
     QPushButton* again = button(model.controls.flyAgain, binding);
     again->setProperty("primary", true);
     again->setProperty("quiz", true);
-    again->setIcon(signIcon(Sign::play, Qt::white));
+    again->setIcon(signIcon(Sign::play, inkOnAccent));
     connect(again, &QPushButton::clicked, this, [this] { onFlyAgain(); });
     row->addWidget(again);
     auto* compare = new QPushButton(this);
@@ -151,12 +152,8 @@ void DebriefCard::announce() {
     if (!announced)
         return;
     const FindingRow& row = findings->rows()[*announced];
-    findings->setAccessibleDescription(row.sentence + QStringLiteral(", ") + row.word);
-    findings->setAccessibleName(
-        textOf(model.boxes.texts, Text::debriefMoment)
-            .arg(row.sentence + QStringLiteral(", ") + row.word, row.moment));
-    QAccessibleEvent alert(findings, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
+    const QString told = row.sentence + QStringLiteral(", ") + row.word;
+    tarnel::announce(*this, textOf(model.boxes.texts, Text::debriefMoment).arg(told, row.moment));
 }
 
 void DebriefCard::takeKeyboard() {
@@ -178,14 +175,14 @@ int DebriefCard::wantedHeight(int width) const {
 
 int DebriefCard::leastHeight(int width) const {
     constexpr int fewestRows = 3;
-    constexpr int row = 20;
-    return heightWith(width, fewestRows * row);
+    const double row = look::leastTarget * quiz::scaleOf(*this);
+    return heightWith(width, static_cast<int>(fewestRows * row));
 }
 
 void DebriefCard::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     paintCard(painter, rect());
-    painter.setPen(QPen(look::accent, 2));
+    painter.setPen(QPen(look::colours().accent, 2));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), look::controlRadius,
                             look::controlRadius);

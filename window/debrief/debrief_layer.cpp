@@ -190,7 +190,7 @@ void DebriefLayer::paintLines(QPainter& painter, const LayerPlace& place) {
     }
     const bool part = !tracks.chosen.isEmpty();
     if (part) {
-        painter.setPen(roundPen(look::faded(look::accent, haloOpacity), haloWidth));
+        painter.setPen(roundPen(look::faded(look::day.accent, haloOpacity), haloWidth));
         painter.drawPolyline(tracks.chosen);
     }
     painter.setPen(roundPen(ownInk, part ? otherWidth : ownWidth));
@@ -226,9 +226,9 @@ void DebriefLayer::paintLettering(QPainter& painter, const LayerPlace& place,
     const Callout callout = placeCallout(
         {tracks.place.x(), tracks.place.y()},
         {text.width() + 2 * padding * scale, text.height() + padding * scale}, sheet, areas, track);
-    painter.setPen(QPen(look::accent, 1.2));
+    painter.setPen(QPen(look::day.accent, 1.2));
     painter.drawLine(toQt(callout.leader));
-    painter.setPen(QPen(look::accent, 1.5));
+    painter.setPen(QPen(look::day.accent, 1.5));
     painter.setBrush(look::paper);
     painter.drawRoundedRect(toQt(callout.box), 4, 4);
     painter.setFont(font);
@@ -259,14 +259,14 @@ void DebriefLayer::paintSwatch(QPainter& painter, Swatch swatch, QPointF from, Q
 void DebriefLayer::paintFoot(QPainter& painter, const LayerPlace& place) {
     const QRectF foot = toQt(footBox);
     painter.fillRect(foot, look::paper);
-    painter.setPen(QPen(look::hairline, 1));
+    painter.setPen(QPen(look::day.hairline, 1));
     painter.drawLine(foot.topLeft(), foot.topRight());
     const double scale = place.frame.textScale;
     for (const Entry& entry : legend) {
         const QPointF from(entry.box.left(), entry.box.center().y());
         paintSwatch(painter, entry.swatch, from, from + QPointF(swatchWidth * scale, 0));
         painter.setFont(place.frame.smallFont);
-        painter.setPen(look::ink);
+        painter.setPen(look::day.ink);
         painter.drawText(entry.box.adjusted((swatchWidth + swatchGap) * scale, 0, 0, 0),
                          Qt::AlignLeft | Qt::AlignVCenter, entry.name);
     }

@@ -51,7 +51,7 @@ class DebriefPage {
         paintTitle();
         double room = pageSize.height() - 2 * margin - titleHeight - 2 * gap;
         for (const FindingRow& row : rows)
-            room -= findingHeight(row, width, 1, rows);
+            room -= findingHeight(row, width, looks, rows);
         const double chart = std::clamp(room * chartShare, 200.0, largestChart);
         double top = margin + titleHeight;
         paintChart(top, chart);
@@ -64,14 +64,14 @@ class DebriefPage {
 
   private:
     void paintTitle() {
-        painter->setPen(look::ink);
+        painter->setPen(look::day.ink);
         painter->setFont(look::font(19, QFont::Bold));
         const QRectF line(margin, margin, width, 26);
         painter->drawText(line, Qt::AlignLeft | Qt::AlignVCenter, taskTitle(model));
         painter->drawText(line, Qt::AlignRight | Qt::AlignVCenter,
                           scoreOf(*model.desk.attempt(), texts));
         painter->setFont(look::font(look::denseType));
-        painter->setPen(look::secondaryInk);
+        painter->setPen(look::day.secondaryInk);
         painter->drawText(line.translated(0, 20), Qt::AlignLeft | Qt::AlignVCenter,
                           taskDetail(model));
     }
@@ -92,7 +92,7 @@ class DebriefPage {
         double y = top;
         const auto line = [&](const QString& said, bool bold) {
             painter->setFont(look::font(look::bodyType, bold ? QFont::Bold : QFont::Normal));
-            painter->setPen(bold ? look::ink : look::secondaryInk);
+            painter->setPen(bold ? look::day.ink : look::day.secondaryInk);
             const QRectF room(left, y, pageSize.width() - margin - left, 60);
             QRectF used;
             painter->drawText(room, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, said, &used);
@@ -128,8 +128,8 @@ class DebriefPage {
 
     void paintFindings(double top) {
         for (std::size_t i = 0; i < rows.size(); ++i) {
-            const double height = findingHeight(rows[i], width, 1, rows);
-            paintFinding(*painter, rows[i], QRectF(margin, top, width, height), 1,
+            const double height = findingHeight(rows[i], width, looks, rows);
+            paintFinding(*painter, looks, rows[i], QRectF(margin, top, width, height),
                          model.desk.finding() == i, rows);
             top += height;
         }
@@ -138,6 +138,7 @@ class DebriefPage {
     DebriefModel model;
     const StringTable& texts;
     std::vector<FindingRow> rows;
+    FindingLook looks{look::day, look::font(1).family()};
     QPainter* painter = nullptr;
     double width = pageSize.width() - 2 * margin;
 };

@@ -48,7 +48,7 @@ QLayout* DebriefPlot::makeHead(FormBinding& binding) {
     legend = new PlotLegend(model, this);
     row->addWidget(legend, 1);
     QToolButton* previous = addButton(*row, Text::debriefPrevious);
-    previous->setIcon(signIcon(Sign::previous, look::caption));
+    previous->setIcon(panelSignIcon(Sign::previous));
     binding.bind(model.controls.previous, *previous);
     play = addButton(*row, Text::replayPlay);
     play->setObjectName(QStringLiteral("DebriefPlay"));
@@ -57,7 +57,7 @@ QLayout* DebriefPlot::makeHead(FormBinding& binding) {
         guard([&] { model.replay.runs() ? page.stop.click() : page.play.click(); });
     });
     QToolButton* next = addButton(*row, Text::debriefNext);
-    next->setIcon(signIcon(Sign::next, look::caption));
+    next->setIcon(panelSignIcon(Sign::next));
     binding.bind(model.controls.next, *next);
     makeRates(*row, binding);
     auto* clock = new QLabel(this);
@@ -102,7 +102,7 @@ void DebriefPlot::showPlay() {
         return;
     shownPlaying = model.replay.runs();
     const Text name = *shownPlaying ? Text::replayStop : Text::replayPlay;
-    play->setIcon(signIcon(*shownPlaying ? Sign::stop : Sign::play, look::caption));
+    play->setIcon(panelSignIcon(*shownPlaying ? Sign::stop : Sign::play));
     play->setAccessibleName(textOf(model.boxes.texts, name));
     play->setToolTip(textOf(model.boxes.texts, name));
 }

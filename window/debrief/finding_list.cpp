@@ -17,7 +17,7 @@ namespace tarnel {
 
 namespace {
 
-constexpr double rowHeight = 20;
+constexpr double rowHeight = look::leastTarget;
 constexpr double lineHeight = 15;
 constexpr double signWidth = 21;
 constexpr double columnGap = 10;
@@ -26,14 +26,14 @@ constexpr double edge = 8;
 constexpr int fewestRows = 3;       ///< in sight
 constexpr double mostBehind = 0.42; ///< of a row, for all but its sentence
 
-QColor inkOf(Verdict verdict) {
-    return verdict == Verdict::right   ? look::right
-           : verdict == Verdict::wrong ? look::rgb(0xB05A00)
-                                       : look::secondaryInk;
+QColor inkOf(Verdict verdict, const look::Colours& colours) {
+    return verdict == Verdict::right   ? colours.right
+           : verdict == Verdict::wrong ? colours.exceeded
+                                       : colours.secondaryInk;
 }
 
-QFont sentenceFont(double scale, bool bold) {
-    return look::font(look::denseType * scale, bold ? QFont::Bold : QFont::Normal);
+QFont sentenceFont(const FindingLook& looks, bool bold) {
+    return looks.type(look::denseType, bold);
 }
 
 /// The widths of the columns behind the sentence, alike in all rows.
@@ -43,9 +43,10 @@ struct Columns {
     double moment = 0;
 
     /// Without room the first attempt's value gives way: it is still spoken and in the tool tip.
-    Columns(const std::vector<FindingRow>& rows, double width, double scale) {
-        const QFontMetricsF plain(look::font(look::unitType * scale));
-        const QFontMetricsF bold(sentenceFont(scale, true));
+    Columns(const std::vector<FindingRow>& rows, double width, const FindingLook& looks) {
+        const double scale = looks.scale;
+        const QFontMetricsF plain(looks.type(look::unitType));
+        const QFontMetricsF bold(sentenceFont(looks, true));
         for (const FindingRow& row : rows) {
             if (!row.earlier.isEmpty())
                 earlier = std::max(earlier,
@@ -63,10 +64,14 @@ double sentenceWidth(double width, double scale, const Columns& columns) {
     return std::max(40.0, width - (2 * edge + signWidth) * scale - columns.behind());
 }
 
-QRectF sentenceBox(const FindingRow& row, double width, double scale) {
+QRectF sentenceBox(const FindingRow& row, double width, const FindingLook& looks) {
     // Bold, so that a row keeps its height when it is chosen.
-    return QFontMetricsF(sentenceFont(scale, true))
+    return QFontMetricsF(sentenceFont(looks, true))
         .boundingRect(QRectF(0, 0, width, 1000), Qt::AlignLeft | Qt::TextWordWrap, row.sentence);
+}
+
+FindingLook looksOf(const QWidget& list) {
+    return {look::colours(), list.font().family(), quiz::scaleOf(list)};
 }
 
 class FindingDelegate : public QStyledItemDelegate {
@@ -77,19 +82,18 @@ class FindingDelegate : public QStyledItemDelegate {
                const QModelIndex& index) const override {
         const auto row = static_cast<std::size_t>(index.row());
         const bool chosen = list.currentIndex() == index;
-        paintFinding(*painter, list.rows()[row], option.rect, quiz::scaleOf(list), chosen,
-                     list.rows());
+        paintFinding(*painter, looksOf(list), list.rows()[row], option.rect, chosen, list.rows());
         if (!chosen || !list.hasFocus())
             return;
-        painter->setPen(QPen(look::accent, 1));
+        painter->setPen(QPen(look::colours().accent, 1));
         painter->setBrush(Qt::NoBrush);
         painter->drawRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5));
     }
     QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex& index) const override {
         const int width = list.viewport()->width();
         const auto row = static_cast<std::size_t>(index.row());
-        return {width, static_cast<int>(std::ceil(findingHeight(
-                           list.rows()[row], width, quiz::scaleOf(list), list.rows())))};
+        return {width, static_cast<int>(std::ceil(
+                           findingHeight(list.rows()[row], width, looksOf(list), list.rows())))};
     }
 
   private:
@@ -98,32 +102,42 @@ class FindingDelegate : public QStyledItemDelegate {
 
 } // namespace
 
-double findingHeight(const FindingRow& row, double width, double scale,
+QFont FindingLook::type(double pixels, bool bold) const {
+    QFont font = look::font(pixels * scale, bold ? QFont::Bold : QFont::Normal);
+    font.setFamily(family);
+    return font;
+}
+
+double findingHeight(const FindingRow& row, double width, const FindingLook& looks,
                      const std::vector<FindingRow>& all) {
-    const double room = sentenceWidth(width, scale, Columns(all, width, scale));
-    const double text = sentenceBox(row, room, scale).height();
+    const double scale = looks.scale;
+    const double room = sentenceWidth(width, scale, Columns(all, width, looks));
+    const double text = sentenceBox(row, room, looks).height();
     return text > 1.5 * lineHeight * scale ? text + 5 * scale : rowHeight * scale;
 }
 
-void paintFinding(QPainter& painter, const FindingRow& row, const QRectF& area, double scale,
-                  bool chosen, const std::vector<FindingRow>& all) {
-    const Columns columns(all, area.width(), scale);
+void paintFinding(QPainter& painter, const FindingLook& looks, const FindingRow& row,
+                  const QRectF& area, bool chosen, const std::vector<FindingRow>& all) {
+    const look::Colours& colours = looks.colours;
+    const double scale = looks.scale;
+    const Columns columns(all, area.width(), looks);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     if (chosen) {
-        painter.fillRect(area, look::rgb(0xDDE8F5));
+        painter.fillRect(area, colours.tint);
         painter.fillRect(QRectF(area.left(), area.top(), barWidth * scale, area.height()),
-                         look::accent);
+                         colours.accent);
     }
     const double left = area.left() + edge * scale;
     const double sign = 14 * scale;
     if (row.verdict != Verdict::open)
         paintSign(painter, row.verdict == Verdict::right ? Sign::right : Sign::wrong,
-                  QRectF(left, area.center().y() - sign / 2, sign, sign), inkOf(row.verdict));
+                  QRectF(left, area.center().y() - sign / 2, sign, sign),
+                  inkOf(row.verdict, colours));
     const double textLeft = left + signWidth * scale;
     const double room = sentenceWidth(area.width(), scale, columns);
-    painter.setPen(look::ink);
-    painter.setFont(sentenceFont(scale, chosen));
+    painter.setPen(colours.ink);
+    painter.setFont(sentenceFont(looks, chosen));
     painter.drawText(QRectF(textLeft, area.top(), room, area.height()),
                      Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap, row.sentence);
     double x = textLeft + room;
@@ -134,22 +148,22 @@ void paintFinding(QPainter& painter, const FindingRow& row, const QRectF& area, 
     };
     const QRectF earlier = cell(columns.earlier);
     if (!row.earlier.isEmpty() && columns.earlier > 0) {
-        painter.setFont(look::font(look::unitType * scale));
-        painter.setPen(look::secondaryInk);
+        painter.setFont(looks.type(look::unitType));
+        painter.setPen(colours.secondaryInk);
         painter.drawText(earlier.adjusted(0, 0, -14 * scale, 0), Qt::AlignRight | Qt::AlignVCenter,
                          row.earlier);
         if (row.earlierVerdict != Verdict::open)
             paintSign(painter, row.earlierVerdict == Verdict::right ? Sign::tick : Sign::cross,
                       QRectF(earlier.right() - 12 * scale, area.center().y() - 5 * scale,
                              10 * scale, 10 * scale),
-                      look::secondaryInk);
+                      colours.secondaryInk);
     }
-    painter.setFont(sentenceFont(scale, true));
-    painter.setPen(inkOf(row.verdict));
+    painter.setFont(sentenceFont(looks, true));
+    painter.setPen(inkOf(row.verdict, colours));
     painter.drawText(cell(columns.word).adjusted(columnGap * scale, 0, 0, 0),
                      Qt::AlignLeft | Qt::AlignVCenter, row.word);
-    painter.setFont(look::font(look::unitType * scale));
-    painter.setPen(look::secondaryInk);
+    painter.setFont(looks.type(look::unitType));
+    painter.setPen(colours.secondaryInk);
     painter.drawText(cell(columns.moment), Qt::AlignRight | Qt::AlignVCenter, row.moment);
     painter.restore();
 }
@@ -163,6 +177,12 @@ FindingList::FindingList(QWidget* parent) : QListView(parent) {
     items = new QStandardItemModel(this);
     setModel(items);
     setItemDelegate(new FindingDelegate(*this));
+    // A screen reader selects an entry, which is not yet to go there.
+    connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+        const QModelIndexList selected = selectionModel()->selectedIndexes();
+        if (!marking && !selected.isEmpty() && selected.front() != currentIndex())
+            setCurrentIndex(selected.front());
+    });
     connect(this, &QListView::clicked, this, [this](const QModelIndex& index) {
         if (onChoose)
             onChoose(index.row());

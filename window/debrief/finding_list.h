@@ -1,5 +1,6 @@
 #pragma once
 
+#include "look/look.h"
 #include "window/debrief/finding_rows.h"
 
 #include <QListView>
@@ -11,12 +12,21 @@ class QStandardItemModel;
 
 namespace tarnel {
 
+/// What findings are painted with, in the window or on a page.
+struct FindingLook {
+    const look::Colours& colours;
+    QString family;   ///< of the letters
+    double scale = 1; ///< of texts and distances
+
+    [[nodiscard]] QFont type(double pixels, bool bold = false) const;
+};
+
 /// Paints findings in columns: sign, sentence, the first attempt's value, verdict and moment. A
 /// sentence that is too long takes a second line.
-void paintFinding(QPainter& painter, const FindingRow& row, const QRectF& area, double scale,
-                  bool chosen, const std::vector<FindingRow>& all);
+void paintFinding(QPainter& painter, const FindingLook& looks, const FindingRow& row,
+                  const QRectF& area, bool chosen, const std::vector<FindingRow>& all);
 /// The height that it takes at a width.
-[[nodiscard]] double findingHeight(const FindingRow& row, double width, double scale,
+[[nodiscard]] double findingHeight(const FindingRow& row, double width, const FindingLook& looks,
                                    const std::vector<FindingRow>& all);
 
 /// `FindingList`: the findings, each a link to its moment.

@@ -84,11 +84,11 @@ const PlotColours& panelColours() {
         .dots = look::digitWell,
         .band = look::faded(Qt::white, 0.12),
         .bandEdge = look::unit,
-        .chosen = look::faded(look::accent, chosenOpacity),
+        .chosen = look::faded(look::day.accent, chosenOpacity),
         .right = look::measured,
         .cursor = Qt::white,
         .tag = Qt::white,
-        .tagText = look::ink,
+        .tagText = look::day.ink,
     };
     return colours;
 }
@@ -96,20 +96,20 @@ const PlotColours& panelColours() {
 const PlotColours& paperColours() {
     static const PlotColours colours{
         .well = look::paper,
-        .edge = look::line,
-        .grid = look::hairline,
-        .caption = look::ink,
-        .unit = look::secondaryInk,
+        .edge = look::day.line,
+        .grid = look::day.hairline,
+        .caption = look::day.ink,
+        .unit = look::day.secondaryInk,
         .own = look::rgb(0x0093B2),
         .earlier = look::rgb(0x7B858E),
         .outside = look::rgb(0xB05A00),
         .dots = Qt::white,
-        .band = look::faded(look::ink, 0.08),
-        .bandEdge = look::secondaryInk,
-        .chosen = look::faded(look::accent, 0.15),
-        .right = look::right,
-        .cursor = look::ink,
-        .tag = look::ink,
+        .band = look::faded(look::day.ink, 0.08),
+        .bandEdge = look::day.secondaryInk,
+        .chosen = look::faded(look::day.accent, 0.15),
+        .right = look::day.right,
+        .cursor = look::day.ink,
+        .tag = look::day.ink,
         .tagText = Qt::white,
     };
     return colours;
@@ -180,7 +180,7 @@ void PlotPainter::paintPhase(QPainter& painter, const Phase& phase, const QRectF
     const bool chosen = scene.chosen && phase.samples.first >= scene.chosen->first &&
                         phase.samples.last <= scene.chosen->last;
     painter.setPen(QPen(colours.grid, 1));
-    painter.setBrush(chosen ? QBrush(look::accent) : Qt::NoBrush);
+    painter.setBrush(chosen ? QBrush(look::day.accent) : Qt::NoBrush);
     painter.drawRect(cell);
     const QRectF room = cell.adjusted(inset, 0, -inset, 0);
     const bool timed = phase.seconds && cell.height() > 28 * scale;

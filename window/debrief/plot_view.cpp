@@ -6,9 +6,9 @@
 #include "window/debrief/finding_rows.h"
 #include "window/debrief/plot_painter.h"
 #include "window/widgets/picture_store.h"
+#include "window/widgets/spoken.h"
 #include "window/widgets/text_of.h"
 
-#include <QAccessible>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -61,7 +61,8 @@ PlotView::PlotView(const DebriefModel& debriefModel, PictureStore& store, QWidge
     : QWidget(parent), model(debriefModel), pictures(store) {
     setObjectName(QStringLiteral("DebriefPlotView"));
     setFocusPolicy(Qt::StrongFocus);
-    setAccessibleName(textOf(model.boxes.texts, Text::debriefOverTime));
+    setSpokenRole(*this, QAccessible::Chart);
+    setSpokenName(*this, textOf(model.boxes.texts, Text::debriefOverTime));
 }
 
 void PlotView::setScale(double moduleScale) {
@@ -109,8 +110,7 @@ void PlotView::speak() {
         words += QStringLiteral(", ") + textOf(model.boxes.texts, nameOf(row.series->kind)) +
                  QLatin1Char(' ') + reading.digits + QLatin1Char(' ') + reading.unit;
     }
-    if (words != accessibleName())
-        setAccessibleName(words);
+    setSpokenName(*this, words);
 }
 
 void PlotView::paintEvent(QPaintEvent* /*event*/) {

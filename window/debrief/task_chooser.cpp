@@ -1,6 +1,7 @@
 #include "window/debrief/task_chooser.h"
 
 #include "look/look.h"
+#include "window/widgets/mnemonics.h"
 #include "window/widgets/text_of.h"
 #include "window/widgets/wrap_layout.h"
 
@@ -143,7 +144,8 @@ void TaskChooser::refresh() {
     const bool holding = choice.kind == TaskKind::holding;
     const bool arc = choice.kind == TaskKind::arc;
     const Text courseName = arc ? Text::taskFinal : holding ? Text::taskInbound : Text::taskCourse;
-    courseField.caption->setText(textOf(model.boxes.texts, courseName));
+    courseField.caption->setText(
+        withMnemonicOf(*courseField.caption, textOf(model.boxes.texts, courseName)));
     course->setAccessibleName(courseField.caption->text());
     stationField.setVisible(choice.kind != TaskKind::reference);
     courseField.setVisible(choice.kind != TaskKind::reference);

@@ -40,9 +40,11 @@ void ChannelLamp::paintEvent(QPaintEvent* /*event*/) {
     const QRectF well = rect().toRectF().adjusted(0.5, 0.5, -0.5, -0.5);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    if (!isEnabled())
-        painter.setOpacity(look::dimmedOpacity);
+    const QColor light =
+        isEnabled() ? look::measured
+                    : look::over(look::digitWell, look::measured, look::switchedOffOpacity);
     const QColor edge = hasFocus()     ? look::panelFocus
+                        : !isEnabled() ? look::bezelTop
                         : underMouse() ? look::unit
                                        : look::bezelTop.lighter(125);
     painter.setPen(QPen(edge, hasFocus() ? 2 : 1));
@@ -52,19 +54,19 @@ void ChannelLamp::paintEvent(QPaintEvent* /*event*/) {
     const double lens = high * lensShare;
     const QPointF at(well.left() + high * insetShare + lens / 2, well.center().y());
     painter.setPen(Qt::NoPen);
-    if (lit) {
+    if (lit && isEnabled()) {
         QRadialGradient halo(at, high * haloShare / 2);
         halo.setColorAt(0, look::faded(look::measured, haloStrength));
         halo.setColorAt(1, look::faded(look::measured, 0));
         painter.setBrush(halo);
         painter.drawEllipse(at, high * haloShare / 2, high * haloShare / 2);
     }
-    painter.setBrush(lit ? look::measured : look::faded(look::dimCaption, lensShade));
+    painter.setBrush(lit ? light : look::faded(look::dimCaption, lensShade));
     painter.drawEllipse(at, lens / 2, lens / 2);
 
     painter.setFont(look::font(
         std::max<double>(look::bezel::smallestLettering, high * letteringShare), QFont::Bold));
-    painter.setPen(lit ? look::measured : look::dimCaption);
+    painter.setPen(lit ? light : look::dimCaption);
     painter.drawText(QRectF(at.x() + lens / 2, 0, well.right() - at.x() - lens / 2, high),
                      Qt::AlignCenter, text());
 }

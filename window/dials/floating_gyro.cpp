@@ -6,6 +6,7 @@
 
 #include <QCloseEvent>
 #include <QPainter>
+#include <QShortcut>
 
 namespace tarnel {
 
@@ -27,6 +28,7 @@ additional_DG::additional_DG(PanelControls& controls, const ExerciseConduct& con
     plate = new CoverPlate(boxes.texts, this);
     resize(startSize, startSize);
     setMinimumSize(smallestSize, smallestSize);
+    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
 }
 
 void additional_DG::refresh() {

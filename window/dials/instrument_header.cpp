@@ -4,6 +4,7 @@
 #include "window/dials/needle_swatch.h"
 #include "window/widgets/dark_list.h"
 #include "window/widgets/icons.h"
+#include "window/widgets/spoken.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
@@ -36,13 +37,18 @@ InstrumentHeader::InstrumentHeader(const HeaderControls& own, BoxDesk& boxDesk,
     row->addWidget(kinds);
 
     QToolButton* radial = addToggle(*row);
-    radial->setIcon(signIcon(Sign::radial, look::caption));
+    radial->setIcon(panelSignIcon(Sign::radial));
     binding.bind(controls.links.radialBox, *radial);
-    overlay = addToggle(*row);
-    overlay->setIcon(signIcon(Sign::pointer, look::caption));
+    // The binding shows the toggle; its place is hidden where an instrument has no use for it.
+    overlayPlace = new QWidget(this);
+    row->addWidget(overlayPlace);
+    auto* inPlace = new QHBoxLayout(overlayPlace);
+    inPlace->setContentsMargins(0, 0, 0, 0);
+    QToolButton* overlay = addToggle(*inPlace);
+    overlay->setIcon(panelSignIcon(Sign::pointer));
     binding.bind(controls.links.overlayBox, *overlay);
     QToolButton* size = addToggle(*row);
-    size->setIcon(signIcon(Sign::enlarge, look::caption));
+    size->setIcon(panelSignIcon(Sign::enlarge));
     followSize(*size);
     toggles = size;
     row->addStretch(1);
@@ -70,7 +76,7 @@ void InstrumentHeader::followSize(QToolButton& button) {
 
 void InstrumentHeader::refresh() {
     const InstrumentPosition& position = controls.links.position;
-    overlay->setVisible(position.type == hsi);
+    overlayPlace->setVisible(position.type == hsi);
     auto next = instrumentLegend(boxes.texts, position, controls.positions.feedSources(),
                                  controls.exercise.cover());
     if (next == legend)
@@ -79,7 +85,7 @@ void InstrumentHeader::refresh() {
     QStringList parts;
     for (const LegendPart& part : legend)
         parts << QString::fromStdString(part.text);
-    setAccessibleDescription(parts.join(QStringLiteral(", ")));
+    setSpokenDescription(*this, parts.join(QStringLiteral(", ")));
     update();
 }
 

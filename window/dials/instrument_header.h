@@ -51,8 +51,8 @@ class InstrumentHeader : public QWidget {
     HeaderControls controls;
     BoxDesk& boxes;
     std::vector<LegendPart> legend;
-    QToolButton* overlay = nullptr;
-    QToolButton* toggles = nullptr; ///< the last of them
+    QWidget* overlayPlace = nullptr; ///< has the toggle of the RMI pointer
+    QToolButton* toggles = nullptr;  ///< the last of them
 };
 
 } // namespace tarnel

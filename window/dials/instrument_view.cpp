@@ -1,7 +1,9 @@
 #include "window/dials/instrument_view.h"
 
+#include "core/angle.h"
 #include "look/panel_look.h"
 #include "window/widgets/knob_drawing.h"
+#include "window/widgets/spoken.h"
 #include "window/widgets/text_of.h"
 
 #include <QHelpEvent>
@@ -10,6 +12,8 @@
 #include <QPainter>
 #include <QToolTip>
 #include <QWheelEvent>
+
+#include <cmath>
 
 namespace tarnel {
 
@@ -74,24 +78,14 @@ void InstrumentView::refresh() {
 /// The reading, behind the name of what has the keyboard.
 QString InstrumentView::spoken() const {
     QString reading = QString::fromStdString(spokenReading(instrument, shown.stations, texts));
-    const auto behind = [&](Text knob) { return textOf(texts, knob) + ", " + reading; };
-    if (focusedArea() == InstrumentArea::obsKnob)
-        return behind(instrument.showsCourse() ? Text::spokenCourseKnob : Text::spokenCardKnob);
-    if (focusedArea() == InstrumentArea::headingBugKnob)
-        return behind(Text::spokenHeadingBugKnob);
-    if (focusedArea() == InstrumentArea::selector)
-        return behind(Text::spokenReceiverSelector);
-    return reading;
+    const QString knob = knobName(focusedArea());
+    return knob.isEmpty() ? reading : knob + QStringLiteral(", ") + reading;
 }
 
 /// A covered instrument says nothing.
 void InstrumentView::speak() {
-    const QString name = textOf(texts, spokenKind(instrument.Display));
-    if (accessibleName() != name)
-        setAccessibleName(name);
-    const QString reading = isHidden() ? QString() : spoken();
-    if (accessibleDescription() != reading)
-        setAccessibleDescription(reading);
+    setSpokenName(*this, textOf(texts, spokenKind(instrument.Display)));
+    setSpokenDescription(*this, isHidden() ? QString() : spoken());
 }
 
 void InstrumentView::showEvent(QShowEvent* /*event*/) {
@@ -101,7 +95,7 @@ void InstrumentView::showEvent(QShowEvent* /*event*/) {
 
 void InstrumentView::hideEvent(QHideEvent* /*event*/) {
     if (isHidden())
-        setAccessibleDescription({});
+        setSpokenDescription(*this, {});
 }
 
 Point InstrumentView::twipsAt(QPointF at) const {
@@ -292,23 +286,72 @@ void InstrumentView::keyPressEvent(QKeyEvent* event) {
     showRing(true);
     const bool sideways = event->key() == Qt::Key_Left || event->key() == Qt::Key_Right;
     if (const auto steps = stepsOfKey(*event)) {
-        change([this, steps] { instrument.mouse.stepKnob(focused, *steps); });
+        turnKnob(focused, *steps);
     } else if (sideways) {
         const InstrumentArea area = areas.next(focused, event->key() == Qt::Key_Right);
         if (area != InstrumentArea::none)
             focusArea(area);
     } else if (isClickKey(*event)) {
-        clickFocused();
+        clickKnob(focused);
     } else {
         QWidget::keyPressEvent(event);
     }
 }
 
-void InstrumentView::clickFocused() {
-    if (focused == InstrumentArea::selector)
-        change([this] { instrument.mouse.stepKnob(InstrumentArea::selector, 1); });
-    else if (focused == InstrumentArea::headingBugKnob)
-        change([this] { instrument.mouse.doubleClick(areas.middle(focused)); });
+void InstrumentView::turnKnob(InstrumentArea knob, int steps) {
+    change([this, knob, steps] { instrument.mouse.stepKnob(knob, steps); });
+}
+
+void InstrumentView::clickKnob(InstrumentArea knob) {
+    if (knob == InstrumentArea::selector)
+        turnKnob(knob, 1);
+    else if (knob == InstrumentArea::headingBugKnob)
+        change([this, knob] { instrument.mouse.doubleClick(areas.middle(knob)); });
+}
+
+std::vector<InstrumentArea> InstrumentView::knobs() const {
+    std::vector<InstrumentArea> all{InstrumentArea::obsKnob, InstrumentArea::headingBugKnob,
+                                    InstrumentArea::selector};
+    std::erase_if(all, [this](InstrumentArea knob) { return isHidden() || !areas.visible(knob); });
+    return all;
+}
+
+QString InstrumentView::knobName(InstrumentArea knob) const {
+    switch (knob) {
+    case InstrumentArea::obsKnob:
+        return textOf(texts,
+                      instrument.showsCourse() ? Text::spokenCourseKnob : Text::spokenCardKnob);
+    case InstrumentArea::headingBugKnob:
+        return textOf(texts, Text::spokenHeadingBugKnob);
+    case InstrumentArea::selector:
+        return textOf(texts, Text::spokenReceiverSelector);
+    default:
+        return {};
+    }
+}
+
+QRect InstrumentView::knobPlace(InstrumentArea knob) const {
+    if (knob == InstrumentArea::selector)
+        return InstrumentAreas::selectorKeys(side()).toAlignedRect();
+    const double radius = InstrumentAreas::knobRadius(side());
+    const QPointF reach(radius, radius);
+    const QPointF centre = InstrumentAreas::knobCentre(knob, side());
+    return QRectF(centre - reach, centre + reach).toAlignedRect();
+}
+
+KnobTravel InstrumentView::knobTravel(InstrumentArea knob) const {
+    constexpr double lastDegree = 359;
+    constexpr double circle = lastDegree + 1;
+    if (isHidden() || knob == InstrumentArea::selector)
+        return {};
+    const InstrumentReading reading = instrument.reading();
+    double value = instrument.c_HDGbug;
+    if (knob == InstrumentArea::obsKnob)
+        value = instrument.showsCourse() ? reading.course : reading.cardHeading;
+    return {.value = std::fmod(intoCircle(value), circle),
+            .most = lastDegree,
+            .step = 1,
+            .round = true};
 }
 
 QString InstrumentView::tipOf(InstrumentArea area) const {

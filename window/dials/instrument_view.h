@@ -5,6 +5,7 @@
 #include "window/dials/instrument_areas.h"
 #include "window/dials/instrument_painter.h"
 #include "window/dials/spoken_reading.h"
+#include "window/widgets/knob_travel.h"
 #include "window/widgets/model_guard.h"
 #include "window/widgets/mouse_hold.h"
 #include "window/widgets/panel_input.h"
@@ -31,6 +32,16 @@ class InstrumentView : public QWidget {
     /// What has the keyboard while the view has it.
     [[nodiscard]] InstrumentArea focusedArea() const;
     [[nodiscard]] QSize sizeHint() const override;
+
+    /// What a hand can take hold of besides the dial itself; nothing under a cover.
+    [[nodiscard]] std::vector<InstrumentArea> knobs() const;
+    [[nodiscard]] QRect knobPlace(InstrumentArea knob) const;
+    [[nodiscard]] QString knobName(InstrumentArea knob) const;
+    /// In degrees: the course, the heading that a card is turned to, or the heading bug.
+    [[nodiscard]] KnobTravel knobTravel(InstrumentArea knob) const;
+    /// Turns a knob as wheel and keys do, and does what Space does on it.
+    void turnKnob(InstrumentArea knob, int steps);
+    void clickKnob(InstrumentArea knob);
 
     ModelGuard guard = unguarded();
     /// What the needles follow, for the spoken reading. May be empty.
@@ -73,7 +84,6 @@ class InstrumentView : public QWidget {
     void keepFocusUsable();
     void showRing(bool shown);
     [[nodiscard]] InstrumentArea ringedArea() const;
-    void clickFocused();
     void paintKnobs(QPainter& painter);
     void paintSelector(QPainter& painter);
     void speak();

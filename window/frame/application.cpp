@@ -1,14 +1,13 @@
 #include "window/frame/application.h"
 
 #include "log/sqlite_log.h"
-#include "persistence/file_path.h"
 #include "persistence/save_file.h"
 #include "persistence/scratch_folder.h"
 #include "persistence/user_data.h"
 #include "shell/application_folder.h"
+#include "window/frame/command_line.h"
 #include "window/frame/flight_guard.h"
 #include "window/frame/main_window.h"
-#include "window/frame/panel_accessibility.h"
 #include "window/frame/qt_outside_world.h"
 #include "window/frame/single_instance.h"
 #include "window/frame/window_place.h"
@@ -21,6 +20,7 @@
 #include <QTextStream>
 #include <QTimer>
 
+#include <iostream>
 #include <optional>
 
 namespace tarnel {
@@ -32,7 +32,7 @@ constexpr double shareOfScreen = 0.86;
 constexpr QSize smallScreen{1366, 860};
 constexpr const char* windowPlace = "place";
 constexpr int otherHangs = 1;
-constexpr int usageIsWrong = 2;
+constexpr const char* tokenVariable = "XDG_ACTIVATION_TOKEN";
 
 void openOnScreen(MainWindow& window) {
     const QSize available = window.screen()->availableSize();
@@ -47,7 +47,18 @@ void openOnScreen(MainWindow& window) {
 /// Both languages share settings and flights.
 void nameApplication() {
     QApplication::setApplicationName(QStringLiteral("tarnel"));
-    QApplication::setDesktopFileName(QStringLiteral("tarnel"));
+    QApplication::setDesktopFileName(QStringLiteral("org.tarnel.tarnel"));
+}
+
+/// The desktop's word that a window of ours may come to the front. Whoever uses it forgets it.
+std::string activationToken() {
+    return qgetenv(tokenVariable).toStdString();
+}
+
+/// From here on the word that a later start was given is this program's.
+void takeActivationToken(const std::string& token) {
+    if (!token.empty())
+        qputenv(tokenVariable, QByteArray::fromStdString(token));
 }
 
 /// Ends a second start. The exit status.
@@ -71,23 +82,22 @@ void showAgain(MainWindow& window) {
 
 int runApplication(int argc, char** argv, const StringTable& texts) {
     makeFileSizeLimitAnError();
+    const CommandLine asked = readCommandLine(argc, argv, texts);
+    if (asked.ended) {
+        (*asked.ended == 0 ? std::cout : std::cerr) << asked.answer << std::flush;
+        return *asked.ended;
+    }
+    const std::string token = activationToken();
     QApplication application(argc, argv);
     nameApplication();
-    const QStringList words = QApplication::arguments();
-    if (words.size() > 2 || (words.size() == 2 && words[1].startsWith(QLatin1Char('-')))) {
-        QTextStream(stderr) << textOf(texts, Text::usage).arg(words[0]) << '\n';
-        return usageIsWrong;
-    }
-    // Qt would lose what is not UTF-8 in the name.
-    const std::string file = words.size() == 2 ? absolutePath(argv[1]) : std::string();
     const std::string folder = applicationFolder();
     dressApplication(texts, QString::fromStdString(folder));
     translateDialogs(texts);
     SingleInstance instance;
-    const SingleInstance::Start start = instance.start(file);
+    const auto start = asked.newInstance ? SingleInstance::Start::first
+                                         : instance.start(token + '\n' + asked.file);
     if (start != SingleInstance::Start::first)
         return leaveToOther(texts, start);
-    installPanelAccessibility();
     QtOutsideWorld outside(texts);
     Form1 form(texts, outside, folder);
     form.courses.setFolder(userCourses());
@@ -105,9 +115,11 @@ int runApplication(int argc, char** argv, const StringTable& texts) {
         if (!path.empty())
             window.openFile(path);
     };
-    instance.onOther = [&](const std::string& path) {
+    instance.onOther = [&](const std::string& message) {
+        const std::size_t line = message.find('\n');
+        takeActivationToken(message.substr(0, line));
         showAgain(window);
-        openIn(path);
+        openIn(message.substr(line + 1));
     };
     window.onClose = [&] { keepPlace(window, outside.settings(), windowPlace); };
     if (takePlace(window, outside.settings(), windowPlace))
@@ -119,7 +131,7 @@ int runApplication(int argc, char** argv, const StringTable& texts) {
     QTimer::singleShot(0, &window, [&] {
         guard.emplace(form.flightDesk.keeper,
                       QString::fromStdString(userDataFolder() + "/flights"));
-        openIn(file);
+        openIn(asked.file);
     });
     return QApplication::exec();
 }

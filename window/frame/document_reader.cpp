@@ -1,11 +1,10 @@
 #include "window/frame/document_reader.h"
 
 #include "readers/pdf_reader.h"
+#include "window/widgets/desktop_opener.h"
 
-#include <QDesktopServices>
 #include <QFileInfo>
 #include <QProcess>
-#include <QUrl>
 
 namespace tarnel {
 
@@ -20,11 +19,11 @@ bool start(const ProgramCall& call) {
 
 } // namespace
 
-bool openInReader(const QString& path, int page) {
+bool openInReader(const QString& path, int page, const std::function<void()>& notOpened) {
     const QString whole = QFileInfo(path).absoluteFilePath();
     const std::optional<PdfReader> reader = FindPDFReader(DesktopFolders(ownEnvironment));
     return (reader && start(reader->opening(whole.toStdString(), page))) ||
-           QDesktopServices::openUrl(QUrl::fromLocalFile(whole));
+           openByDesktop(whole, notOpened);
 }
 
 } // namespace tarnel

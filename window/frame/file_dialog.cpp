@@ -1,5 +1,7 @@
 #include "window/frame/file_dialog.h"
 
+#include "window/widgets/help_page.h"
+
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -8,6 +10,10 @@
 namespace tarnel {
 
 namespace {
+
+constexpr const char* application = "tarnel";
+constexpr const char* section = "files";
+constexpr const char* folderKey = "folder";
 
 bool liesBelow(const QFileInfo& folder, const QFileInfo& other) {
     const QString path = folder.canonicalFilePath() + QLatin1Char('/');
@@ -48,19 +54,25 @@ void followFilter(QFileDialog& dialog) {
 
 } // namespace
 
+QString FileDialog::lastFolder() const {
+    return QString::fromStdString(settings.value(application, section, folderKey, {}));
+}
+
 QString FileDialog::folderFor(const FileQuestion& question) const {
     const QFileInfo present(QString::fromStdString(question.present));
     const bool inFolder = present.fileName() != present.filePath();
     if (inFolder && serves(QFileInfo(present.path()), question))
         return present.path();
-    if (!lastFolder.isEmpty() && serves(QFileInfo(lastFolder), question))
-        return lastFolder;
+    QString last = lastFolder();
+    if (!last.isEmpty() && serves(QFileInfo(last), question))
+        return last;
     return question.saves ? documents() : QString::fromStdString(question.folder);
 }
 
 std::optional<std::string> FileDialog::ask(const FileQuestion& question, QWidget* parent) {
     QFileDialog dialog(parent, QString::fromStdString(question.title), folderFor(question),
                        QString::fromStdString(question.filter));
+    setHelpPage(dialog, "files");
     dialog.setDefaultSuffix(QString::fromStdString(question.extension));
     dialog.setAcceptMode(question.saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(question.saves ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
@@ -72,7 +84,8 @@ std::optional<std::string> FileDialog::ask(const FileQuestion& question, QWidget
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return {};
     const QFileInfo chosen(dialog.selectedFiles().constFirst());
-    lastFolder = chosen.absolutePath();
+    settings.setValue(application, section, folderKey, chosen.absolutePath().toStdString());
+    settings.flush();
     return chosen.absoluteFilePath().toStdString();
 }
 

@@ -3,6 +3,7 @@
 #include "shell/exercise_conduct.h"
 #include "shell/flight_desk.h"
 #include "shell/flight_switch.h"
+#include "window/widgets/announce.h"
 #include "window/widgets/text_of.h"
 
 #include <QFrame>
@@ -92,6 +93,8 @@ void FlightSigns::showOffer() {
         const QString line = textOf(boxes.texts, Text::flightOffer)
                                  .arg(QString::fromStdString(desk.lineOf(*offered)));
         offerLine->setToolTip(line);
+        offerLine->setAccessibleName(line);
+        announce(window, line);
         offerLine->setText(offerLine->fontMetrics().elidedText(line, Qt::ElideRight, widestOffer));
     }
     window.menuBar()->setCornerWidget(offered ? offer : nullptr);

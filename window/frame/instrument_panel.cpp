@@ -10,8 +10,11 @@
 #include "window/radios/stopwatch_module.h"
 #include "window/widgets/cover_plate.h"
 #include "window/widgets/help_page.h"
+#include "window/widgets/style_sheet.h"
 
 #include <QPainter>
+
+#include <algorithm>
 
 namespace tarnel {
 
@@ -90,9 +93,9 @@ void InstrumentPanel::nameModules() {
 void InstrumentPanel::layOutChannelLamp(std::size_t position, const QRect& bezel) {
     const double side = bezel.width();
     const double inset = look::bezel::keyInset * side;
+    const double high = std::max<double>(look::bezel::keyHeight * side, look::leastTarget);
     channelLamps[position]->setGeometry(QRectF(bezel.left() + inset, bezel.top() + inset,
-                                               look::bezel::channelButtonWidth * side,
-                                               look::bezel::keyHeight * side)
+                                               look::bezel::channelButtonWidth * side, high)
                                             .toRect());
     channelLamps[position]->raise();
 }
@@ -111,7 +114,16 @@ void InstrumentPanel::coverInstruments() {
     }
 }
 
+/// The lettering of the panel grows with it, not with the desktop's texts.
+void InstrumentPanel::letter(const WindowLayout& layout) {
+    const bool own = layout.uiScale > layout.bodyScale;
+    const QString sheet = own ? sheetFor(layout.bodyScale) : QString();
+    if (sheet != styleSheet())
+        setStyleSheet(sheet);
+}
+
 void InstrumentPanel::layOut(const WindowLayout& layout) {
+    letter(layout);
     for (std::size_t i = 0; i < instruments.size(); ++i) {
         headers[i]->setGeometry(layout.headers[i]);
         instruments[i]->setGeometry(layout.instruments[i]);

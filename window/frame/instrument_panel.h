@@ -60,6 +60,7 @@ class InstrumentPanel : public QWidget {
     [[nodiscard]] SpokenStations stationsOf(const InstrumentPosition& position) const;
     void coverInstruments();
     void showChannelLamps();
+    void letter(const WindowLayout& layout);
     void layOutChannelLamp(std::size_t position, const QRect& bezel);
 
     InstrumentPanelModel model;

@@ -2,9 +2,12 @@
 
 #include "look/look.h"
 #include "paper/plates.h"
+#include "shell/exercise_exit.h"
 #include "shell/finding_text.h"
+#include "window/access/install.h"
 #include "window/chart/chart_controls.h"
 #include "window/chart/chart_finder_dialog.h"
+#include "window/chart/chart_keyboard.h"
 #include "window/chart/chart_view.h"
 #include "window/chart/comment_card.h"
 #include "window/chart/station_editing.h"
@@ -15,14 +18,20 @@
 #include "window/dials/floating_gyro.h"
 #include "window/frame/file_opener.h"
 #include "window/frame/flight_signs.h"
+#include "window/frame/help_key.h"
 #include "window/frame/instrument_panel.h"
+#include "window/frame/key_list.h"
 #include "window/frame/menu_tree.h"
 #include "window/frame/pdf_form_window.h"
 #include "window/frame/status_panels.h"
+#include "window/frame/window_keys.h"
 #include "window/progress/progress_page.h"
 #include "window/quiz/quiz_panel.h"
 #include "window/strip/control_strip.h"
+#include "window/widgets/dressing.h"
 #include "window/widgets/help_page.h"
+#include "window/widgets/mnemonics.h"
+#include "window/widgets/quiet_key.h"
 #include "window/widgets/style_sheet.h"
 
 #include <QAbstractButton>
@@ -49,6 +58,7 @@ MainWindow::MainWindow(Form1& owner)
       binding(owner.texts, owner.state, guard),
       pictures(QString::fromStdString(owner.UserControl11.c_MainAppPath.get())),
       pulse([this] { couplingTick(); }) {
+    installAccessibility(form.texts);
     setObjectName(QStringLiteral("Form1"));
     setWindowTitle(textOf(form.texts, Text::windowTitle));
     setContextMenuPolicy(Qt::NoContextMenu);
@@ -57,14 +67,19 @@ MainWindow::MainWindow(Form1& owner)
         QTimer::singleShot(0, this,
                            [this, name] { form.boxes.pictureMissing(name.toStdString()); });
     };
-    makeMenus();
     makeNewChart();
     makeDesk();
+    makeMenus();
+    giveLetters();
     opener = new FileOpener(form.files, form.boxes, *this);
     flightSigns = new FlightSigns(form.flightDesk, form.flight, form.exercise, form.UserControl11,
                                   form.boxes, *this);
     form.beforeBox = [this] { refresh(); };
-    setStyleSheet(sheetFor(1)); // once for all widgets
+    followDesktop(*this, [this] {
+        setStyleSheet(sheetFor(shownScale)); // once for all widgets
+        if (isVisible())
+            layOut();
+    });
     resize(usualWindow);
 
     simulationTimer.setTimerType(Qt::PreciseTimer);
@@ -80,18 +95,31 @@ MainWindow::~MainWindow() {
 }
 
 void MainWindow::makeMenus() {
+    fullScreen = fullScreenAction(*this, form.texts);
+    addWindowKeys(*this, form.texts, [this] { form.guarded([this] { stepOut(); }); });
     buildMenus(*menuBar(),
                {.controls = form,
                 .floatingGyroBox = form.floatingGyroBox,
                 .history = form.UserControl11.history,
                 .display = form.display,
                 .flights = form.flightDesk,
+                .files = form.files,
+                .recentFiles = form.recentFiles,
                 .debrief = form.debriefControls,
                 .courses = form.courses,
                 .documents = form.documents,
                 .boxes = form.boxes,
                 .pressKey = [this](char letter) { form.pressKey(letter); },
+                .placeByKeys = *chart->keyboard().place,
+                .turnByKeys = *chart->keyboard().turn,
+                .fullScreen = *fullScreen,
                 .help = [this] { openHelp(); },
+                .keys =
+                    [this] {
+                        auto* list = new KeyList(*this, form.texts);
+                        list->setAttribute(Qt::WA_DeleteOnClose);
+                        list->show();
+                    },
                 .exit = [this] { close(); }},
                binding);
 }
@@ -154,11 +182,12 @@ void MainWindow::makeDesk() {
     strip = new ControlStrip(stripModel(), binding, desk);
     comment = new CommentCard(form.commentPanel, form.practicePanel, form.UserControl11.comments,
                               form.boxes, binding, desk);
+    // In the order in which Tab goes: what stands below the chart comes before the panel beside it.
+    quiz = new QuizPanel(quizModel(), binding, desk);
+    debriefCard = new DebriefCard(debriefModel(), binding, desk);
     panel = new InstrumentPanel(panelModel(), binding, pictures, guard, desk);
     status = new StatusPanels(form, form.flightDesk.notice, binding, desk);
-    quiz = new QuizPanel(quizModel(), binding, desk);
     makeProgress();
-    debriefCard = new DebriefCard(debriefModel(), binding, desk);
     debriefPlot = new DebriefPlot(debriefModel(), binding, pictures, guard, panel);
     debriefPlot->hide();
     chart->setLayer(std::make_unique<DebriefLayer>(debriefModel()));
@@ -180,6 +209,30 @@ void MainWindow::makeHelpPages() {
     setHelpPage(*quiz, "exercises");
     setHelpPage(*debriefCard, "debrief");
     setHelpPage(*debriefPlot, "debrief");
+    new HelpKey(*this,
+                [this](const QString& page) { form.documents.openHelp(page.toStdString()); });
+}
+
+/// Letters for Alt. Strip and quiz are never up together; of the strip's pages one is.
+void MainWindow::giveLetters() {
+    const QString taken = mnemonicsOf(*menuBar());
+    giveMnemonics(*strip, taken);
+    quiz->giveLetters(taken);
+    giveMnemonics(*debriefPlot, giveMnemonics(*debriefCard, taken));
+}
+
+/// Out of what is up, the innermost first.
+void MainWindow::stepOut() {
+    UserControl2& sim = form.UserControl11;
+    if (form.debrief.isOpen())
+        form.debriefControls.close.click();
+    else if (sim.mouse.windTool())
+        sim.mouse.cancel();
+    else if (form.stationPage.edit.value() == 1)
+        form.stationPage.edit.click();
+    else if (!::tarnel::stepOut(form.QAform1, form.exercise, form.backButton, form.boxes) &&
+             isFullScreen())
+        fullScreen->trigger();
 }
 
 /// Where nothing has the keyboard, the page is that of what has come over the desk.
@@ -207,6 +260,7 @@ void MainWindow::makeProgress() {
                      }},
                 desk);
             setHelpPage(*progress, "progress");
+            giveMnemonics(*progress, mnemonicsOf(*menuBar()));
             progress->onClose = [this] { coverDesk(false); };
             layOut();
         }
@@ -245,7 +299,7 @@ ColumnWishes MainWindow::columnWishes() const {
                 return quiz->runs() ? quiz->wantedHeight(width) : strip->wantedHeight(width);
             },
             [this](int width) {
-                return quiz->runs() ? quiz->wantedHeight(width) : strip->leastHeight();
+                return quiz->runs() ? quiz->wantedHeight(width) : strip->leastHeight(width);
             },
             [this](int width) { return comment->wantedHeight(width); },
             [this](int width) {
@@ -254,9 +308,11 @@ ColumnWishes MainWindow::columnWishes() const {
 }
 
 void MainWindow::layOut() {
-    const int barHeight = static_cast<int>(look::statusHeight * shownScale);
+    const int barHeight =
+        static_cast<int>(look::statusHeight * shownScale) * status->linesAt(desk->width());
     const QSize body(desk->width(), desk->height() - barHeight);
-    const WindowLayout layout = layOutWindow(body, panelSizes(), columnWishes());
+    const WindowLayout layout =
+        layOutWindow(body, panelSizes(), columnWishes(), desktopTextScale());
     if (layout.uiScale != shownScale) {
         shownScale = layout.uiScale;
         setStyleSheet(sheetFor(shownScale));
@@ -328,9 +384,7 @@ void MainWindow::resizeEvent(QResizeEvent* event) {
 
 /// What nothing else takes may mean something to the debrief or the exercise.
 void MainWindow::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Escape && form.debrief.isOpen())
-        return form.guarded([this] { form.debriefControls.close.click(); });
-    if (form.debrief.isOpen() || !quiz->takeKey(*event))
+    if ((form.debrief.isOpen() || !quiz->takeKey(*event)) && !takeQuietKey(*this, *event))
         QMainWindow::keyPressEvent(event);
 }
 

@@ -71,6 +71,8 @@ class MainWindow : public QMainWindow {
     void makeProgress();
     void makeHelpPages();
     void openHelp();
+    void stepOut();
+    void giveLetters();
     void coverDesk(bool covered);
     void layOut();
     void layOutDebrief(const WindowLayout& layout);
@@ -101,6 +103,7 @@ class MainWindow : public QMainWindow {
     DebriefPlot* debriefPlot = nullptr;
     StatusPanels* status = nullptr;
     additional_DG* gyro = nullptr;
+    QAction* fullScreen = nullptr;
     CouplingPulse pulse;
     PdfFormWindow* bookForm = nullptr;
     PdfFormWindow* chartForm = nullptr;

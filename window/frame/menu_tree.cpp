@@ -3,6 +3,9 @@
 #include "shell/documents.h"
 #include "window/frame/course_menu.h"
 #include "window/frame/flight_signs.h"
+#include "window/frame/recent_menu.h"
+#include "window/widgets/mnemonics.h"
+#include "window/widgets/quiet_key.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -102,6 +105,9 @@ void MenuBuilder::buildFile() {
     bound(*file, items.newSession, QKeySequence::New);
     bound(*file, items.loadSession, QKeySequence::Open);
     bound(*file, items.loadOldSession);
+    QMenu* recent = menu(*file, "mnuRecent", Text::recentFiles);
+    binding.bind(items.recent, *recent->menuAction());
+    fillWithRecentFiles(*recent, model.recentFiles, model.files, model.boxes);
     bound(*file, items.saveSession, QKeySequence::Save);
     bound(*file, items.saveSessionAs, Qt::CTRL | Qt::SHIFT | Qt::Key_S);
     QMenu* flights = menu(*file, "mnuBringBack", Text::bringBackFlight);
@@ -142,6 +148,7 @@ void MenuBuilder::buildEdit() {
     edit->addSeparator();
     binding.bind(model.controls.stationPage.edit,
                  *entry(*edit, "editChart", text(Text::editChart)));
+    edit->addActions({&model.placeByKeys, &model.turnByKeys});
 }
 
 void MenuBuilder::exerciseGroup(QMenu& parent, const char* name, Text header,
@@ -256,11 +263,13 @@ void MenuBuilder::buildView() {
                      shown([](ChartDisplay& display) { display.stepScale(-1); }));
     view->addSeparator();
     binding.bind(model.floatingGyroBox, *entry(*view, "floatingGyro", text(Text::floatingGyro)));
+    view->addAction(&model.fullScreen);
     view->addSeparator();
     bound(*view, model.debrief.item, Qt::CTRL | Qt::Key_D);
 }
 
-/// The letters on the status panels. A field that takes text keeps them to itself.
+/// The letters on the status panels. A field that takes text keeps them to itself; Space does what
+/// M does.
 void MenuBuilder::buildKeys(QMenu& view) {
     static constexpr std::pair<char, Text> keys[] = {
         {'M', Text::keyStart},   {'P', Text::keyReplay},  {'H', Text::keyHide},
@@ -273,6 +282,8 @@ void MenuBuilder::buildKeys(QMenu& view) {
         action->setObjectName(QStringLiteral("key") + key);
         action->setShortcut(QKeySequence(key));
         action->setAutoRepeat(false);
+        if (letter == 'M')
+            setQuietKey(*action, Qt::Key_Space);
         QObject::connect(action, &QAction::triggered, &bar,
                          [&boxes = model.boxes, press = model.pressKey, which = letter] {
                              boxes.guarded([&] { press(which); });
@@ -288,6 +299,8 @@ void MenuBuilder::buildHelp() {
     };
     opening(*help, QStringLiteral("hilfeindex"), Text::helpIndex, model.help)
         ->setShortcut(QKeySequence::HelpContents);
+    QAction* keys = entry(*help, "keyList", text(Text::keyListItem));
+    QObject::connect(keys, &QAction::triggered, &bar, model.keys);
     QMenu* introduction = menu(*help, "intromain", Text::introduction);
     bound(*introduction, model.controls.exerciseMenu.introduction1);
     bound(*introduction, model.controls.exerciseMenu.introduction2);
@@ -313,6 +326,7 @@ void buildMenus(QMenuBar& bar, const MenuModel& model, FormBinding& binding) {
     builder.buildBook();
     builder.buildView();
     builder.buildHelp();
+    giveMnemonics(bar);
 }
 
 } // namespace tarnel

@@ -1,6 +1,8 @@
 #include "window/frame/pdf_form_window.h"
 
 #include "look/look.h"
+#include "window/widgets/help_page.h"
+#include "window/widgets/mnemonics.h"
 
 #include <QCheckBox>
 #include <QCloseEvent>
@@ -45,6 +47,8 @@ PdfFormWindow::PdfFormWindow(PdfForm& pdfForm, BoxDesk& boxDesk, FormBinding& bi
     column->setContentsMargins(look::gap, look::gap, look::gap, look::gap);
     column->addWidget(list, 1);
     column->addLayout(foot);
+    setHelpPage(*this, "index");
+    giveMnemonics(*this);
     connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
 }
 

@@ -3,12 +3,11 @@
 #include "window/frame/document_reader.h"
 #include "window/frame/window_place.h"
 #include "window/help/help_window.h"
+#include "window/widgets/desktop_opener.h"
 
 #include <QApplication>
 #include <QDateTime>
-#include <QDesktopServices>
 #include <QMessageBox>
-#include <QUrl>
 
 #include <chrono>
 
@@ -17,6 +16,7 @@ namespace tarnel {
 namespace {
 
 constexpr const char* helpPlace = "help";
+constexpr const char* helpZoom = "help zoom";
 
 } // namespace
 
@@ -25,7 +25,7 @@ QtOutsideWorld::QtOutsideWorld(const StringTable& table, std::string settingsFil
 
 QtOutsideWorld::~QtOutsideWorld() {
     if (help && help->isVisible())
-        keepPlace(*help, kept, helpPlace);
+        keepHelp();
 }
 
 /// The dialog that is open, else the window.
@@ -55,21 +55,30 @@ std::optional<std::string> QtOutsideWorld::chooseFile(const FileQuestion& questi
     return files.ask(question, front());
 }
 
-bool QtOutsideWorld::openDocument(const std::string& path, int page) {
-    return openInReader(QString::fromStdString(path), page);
+bool QtOutsideWorld::openDocument(const std::string& path, int page,
+                                  const std::function<void()>& notOpened) {
+    return openInReader(QString::fromStdString(path), page, notOpened);
 }
 
-bool QtOutsideWorld::openInBrowser(const std::string& path) {
-    return QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(path)));
+bool QtOutsideWorld::openInBrowser(const std::string& path,
+                                   const std::function<void()>& notOpened) {
+    return openByDesktop(QString::fromStdString(path), notOpened);
 }
 
 void QtOutsideWorld::showHelp(const std::string& path) {
     if (!help) {
         help = std::make_unique<HelpWindow>(texts);
-        help->onClose = [this] { keepPlace(*help, kept, helpPlace); };
+        help->onClose = [this] { keepHelp(); };
         takePlace(*help, kept, helpPlace);
+        help->setZoom(
+            QString::fromStdString(kept.value("tarnel", "window", helpZoom, "1")).toDouble());
     }
     help->open(QString::fromStdString(path));
+}
+
+void QtOutsideWorld::keepHelp() {
+    kept.setValue("tarnel", "window", helpZoom, QString::number(help->zoom()).toStdString());
+    keepPlace(*help, kept, helpPlace);
 }
 
 std::int64_t QtOutsideWorld::secondsNow() {

@@ -24,8 +24,9 @@ class QtOutsideWorld : public OutsideWorld {
     void messageBox(BoxKind kind, const std::string& title, const std::string& text) override;
     bool ask(const std::string& title, const std::string& text) override;
     std::optional<std::string> chooseFile(const FileQuestion& question) override;
-    bool openDocument(const std::string& path, int page) override;
-    bool openInBrowser(const std::string& path) override;
+    bool openDocument(const std::string& path, int page,
+                      const std::function<void()>& notOpened) override;
+    bool openInBrowser(const std::string& path, const std::function<void()>& notOpened) override;
     void showHelp(const std::string& path) override;
     std::int64_t secondsNow() override;
     std::int64_t millisecondsNow() override;
@@ -39,11 +40,12 @@ class QtOutsideWorld : public OutsideWorld {
 
   private:
     [[nodiscard]] QWidget* front() const;
+    void keepHelp();
 
     const StringTable& texts;
     QPointer<QWidget> parent;
-    FileDialog files;
     FileSettings kept;
+    FileDialog files{kept};
     std::unique_ptr<HelpWindow> help; ///< made when it is first asked for
 };
 

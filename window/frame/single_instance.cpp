@@ -19,7 +19,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr qsizetype longestMessage = 1 << 14; ///< bytes, more than any path takes
+constexpr qsizetype longestMessage = 1 << 14; ///< bytes, more than any path and token take
 constexpr int mostConnections = 32;           ///< at a time
 constexpr int messageMilliseconds = 1000;     ///< in which a message has to be there
 constexpr char answer = '\1';
@@ -48,6 +48,9 @@ std::string nameOnDisplay() {
 
 std::string SingleInstance::usersFolder() {
     std::string runtime = qgetenv("XDG_RUNTIME_DIR").toStdString();
+    // In a Flatpak each start has a runtime folder of its own, but for this one.
+    if (const QByteArray sandbox = qgetenv("FLATPAK_ID"); !sandbox.isEmpty())
+        runtime += "/app/" + sandbox.toStdString();
     if (runtime.starts_with('/') && isUsersAlone(runtime))
         return runtime;
     constexpr mode_t usersAlone = 0700;
@@ -67,7 +70,7 @@ SingleInstance::~SingleInstance() {
 }
 
 /// The first one may hold the lock before it listens; and it may end while this one waits.
-SingleInstance::Start SingleInstance::start(const std::string& path,
+SingleInstance::Start SingleInstance::start(const std::string& message,
                                             std::chrono::milliseconds patience) {
     constexpr auto pause = 20ms;
     constexpr int triesForALock = 5;
@@ -80,7 +83,7 @@ SingleInstance::Start SingleInstance::start(const std::string& path,
             listen();
             break;
         }
-        if (handOver(socketPath(), path.size() < longestMessage ? path : std::string(), end))
+        if (handOver(socketPath(), message.size() < longestMessage ? message : std::string(), end))
             return Start::handedOver;
         if (std::chrono::steady_clock::now() >= end)
             return Start::otherHangs;

@@ -15,7 +15,7 @@ class QLocalSocket;
 namespace tarnel {
 
 /// `SingleInstance`: lets one program of a user run at a time on a display. A second one ends, and
-/// the first one is asked to come to the front and to open what the second one was to open.
+/// the first one gets its message.
 ///
 /// The first one holds a lock and listens on a socket, both in a folder that is the user's alone.
 /// Neither listens to a program of another user.
@@ -33,12 +33,12 @@ class SingleInstance {
     SingleInstance(const SingleInstance&) = delete;
     SingleInstance& operator=(const SingleInstance&) = delete;
 
-    /// Starts as the first one, or hands the path of a file over to it, which may be empty. Waits
-    /// for an answer that long.
-    [[nodiscard]] Start start(const std::string& path = {},
+    /// Starts as the first one, or hands a message without a byte 0 over to it. Waits for an answer
+    /// that long.
+    [[nodiscard]] Start start(const std::string& message = {},
                               std::chrono::milliseconds patience = std::chrono::seconds(10));
 
-    /// Called when another program was started, with the path of the file that it was to open.
+    /// Called when another program was started, with its message.
     std::function<void(const std::string&)> onOther;
 
     /// The user's runtime folder; where there is none, one in his cache. Empty if neither is to be

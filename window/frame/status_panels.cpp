@@ -1,6 +1,7 @@
 #include "window/frame/status_panels.h"
 
 #include "look/look.h"
+#include "window/widgets/announce.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -27,30 +28,60 @@ StatusPanels::StatusPanels(TrainerControls& form, TextPanel& flightNotice, FormB
     const std::array<TextPanel*, 7> order = {
         &form.sessionPanel, &form.windPanel, &form.hidePanel,      &form.tracePanel,
         &form.vectorsPanel, &form.modePanel, &form.flightTimePanel};
-    auto* row = new QGridLayout(this);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(0);
+    grid = new QGridLayout(this);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setSpacing(0);
     for (TextPanel* panel : order) {
         auto* label = new QLabel(this);
         label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
         binding.bind(*panel, *label);
-        const int column = static_cast<int>(panels.size());
-        row->addWidget(label, 0, column);
-        row->setColumnStretch(column, shares[panels.size()]);
         panels.push_back(label);
     }
     panels.back()->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    auto* notice = new QLabel(this); // lies over them for a moment
+    notice = new QLabel(this); // lies over them for a moment
     notice->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
     binding.bind(flightNotice, *notice);
-    row->addWidget(notice, 0, 0, 1, static_cast<int>(panels.size()));
+    arrange(1);
     noticeEnd.setSingleShot(true);
     connect(&noticeEnd, &QTimer::timeout, this,
             [&flightNotice] { flightNotice.setVisible(false); });
     binding.follow([this, &flightNotice] {
-        if (flightNotice.visible() && !noticeEnd.isActive())
-            noticeEnd.start(noticeMilliseconds);
+        if (!flightNotice.visible() || noticeEnd.isActive())
+            return;
+        noticeEnd.start(noticeMilliseconds);
+        announce(*this, QString::fromStdString(flightNotice.text()));
     });
+}
+
+int StatusPanels::linesAt(int width) const {
+    constexpr int allShares = 1000;
+    const QLabel& time = *panels.back();
+    time.ensurePolished();
+    const int needed = time.fontMetrics().horizontalAdvance(QStringLiteral("59h59min59sec")) +
+                       2 * time.fontMetrics().averageCharWidth();
+    return width * shares.back() < needed * allShares ? 2 : 1;
+}
+
+/// In two lines all columns are alike, and time stands at the right of the second.
+void StatusPanels::arrange(int lines) {
+    arranged = lines;
+    const auto count = static_cast<int>(panels.size());
+    const int columns = lines == 1 ? count : (count + 1) / 2;
+    for (int i = 0; i < count; ++i) {
+        const bool isTime = lines > 1 && i + 1 == count;
+        QLabel* panel = panels[static_cast<std::size_t>(i)];
+        grid->addWidget(panel, i / columns, isTime ? columns - 1 : i % columns);
+        grid->setColumnStretch(i, i >= columns ? 0
+                                  : lines > 1  ? 1
+                                               : shares[static_cast<std::size_t>(i)]);
+    }
+    grid->addWidget(notice, 0, 0, lines, columns);
+}
+
+void StatusPanels::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    if (const int lines = linesAt(width()); lines != arranged)
+        arrange(lines);
 }
 
 void StatusPanels::paintEvent(QPaintEvent*) {
@@ -58,10 +89,12 @@ void StatusPanels::paintEvent(QPaintEvent*) {
     option.initFrom(this);
     QPainter painter(this);
     style()->drawPrimitive(QStyle::PE_Widget, &option, &painter, this);
-    painter.setPen(look::line);
+    painter.setPen(look::colours().line);
     for (std::size_t i = 1; i < panels.size(); ++i) {
-        const int x = panels[i]->x();
-        painter.drawLine(x, height() / 5, x, height() - height() / 5);
+        const QRect place = panels[i]->geometry();
+        const int inset = place.height() / 5;
+        if (place.x() > 0)
+            painter.drawLine(place.x(), place.top() + inset, place.x(), place.bottom() - inset);
     }
 }
 

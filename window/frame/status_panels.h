@@ -8,6 +8,7 @@
 
 #include <vector>
 
+class QGridLayout;
 class QLabel;
 
 namespace tarnel {
@@ -20,10 +21,19 @@ class StatusPanels : public QWidget {
     StatusPanels(TrainerControls& form, TextPanel& flightNotice, FormBinding& binding,
                  QWidget* parent = nullptr);
 
+    /// How many lines its texts take in a window so wide: 1 or 2.
+    [[nodiscard]] int linesAt(int width) const;
+
   protected:
+    void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
   private:
+    void arrange(int lines);
+
+    QGridLayout* grid = nullptr;
+    QLabel* notice = nullptr;
+    int arranged = 0;
     std::vector<QLabel*> panels;
     QTimer noticeEnd;
 };

@@ -78,18 +78,19 @@ std::array<QRect, count> columns(double left, double top, double width, double h
     return result;
 }
 
-/// The panel: headers and instruments on top, the modules below.
+/// The panel: headers and instruments on top, the modules below. Its lettering grows with it.
 class PanelLayout {
   public:
-    PanelLayout(WindowLayout& target, PanelSizes wanted) : layout(target), sizes(wanted) {}
+    PanelLayout(WindowLayout& target, PanelSizes wanted)
+        : layout(target), sizes(wanted), scale(target.bodyScale) {}
 
     void layOut() {
         const QSize panel = layout.panel.size();
         layout.panelScale = std::clamp(
             std::min(panel.width() / panelReferenceWidth, panel.height() / 640.0), 0.7, 3.0);
-        margin = look::gap * layout.uiScale;
+        margin = look::gap * scale;
         inner = panel.width() - 2 * margin;
-        head = headerHeight * layout.uiScale;
+        head = headerHeight * scale;
         chooseRows(panel);
         const auto [width2, width3] = bezelWidths(tallestBezel(panel));
         const double slack = inner - margin - width2 - width3;
@@ -109,12 +110,12 @@ class PanelLayout {
         const auto [first, second] = bezelWidths(panel.height());
         const bool large = sizes.inst2Large || sizes.inst3Large;
         const bool tooTall = std::max(first, second) > tallestBezel(panel) * 1.05;
-        rows = large && tooTall && panel.width() >= twoRowWidth * layout.uiScale ? 2 : 3;
+        rows = large && tooTall && panel.width() >= twoRowWidth * scale ? 2 : 3;
     }
 
     [[nodiscard]] double tallestBezel(QSize panel) const {
-        const bool low = panel.height() < lowPanel * layout.uiScale;
-        const double row = (low ? lowestRowOfLowPanel : lowestRow) * layout.uiScale;
+        const bool low = panel.height() < lowPanel * scale;
+        const double row = (low ? lowestRowOfLowPanel : lowestRow) * scale;
         const double lowestModules = rows * row + (rows - 1) * margin;
         return panel.height() - 3 * margin - head - lowestModules;
     }
@@ -167,6 +168,7 @@ class PanelLayout {
 
     WindowLayout& layout;
     PanelSizes sizes;
+    double scale;
     int rows = 3;
     double margin = look::gap;
     double inner = 0;
@@ -203,16 +205,19 @@ void layOutChart(WindowLayout& layout, QSize body, int width, const ColumnWishes
 
 } // namespace
 
-WindowLayout layOutWindow(QSize body, PanelSizes sizes, const ColumnWishes& wishes) {
+WindowLayout layOutWindow(QSize body, PanelSizes sizes, const ColumnWishes& wishes,
+                          double textScale) {
     WindowLayout layout;
-    layout.uiScale = uiScaleOf(body);
+    layout.bodyScale = uiScaleOf(body);
+    layout.uiScale = std::max(layout.bodyScale, textScale);
     const int margin = whole(look::gap * layout.uiScale);
     const int height = body.height() - 2 * margin;
     const double widest = std::floor(chartWidthShare * body.width() / look::gap) * look::gap;
     double side = std::min(height - margin - footOf(body, layout.uiScale), widest);
     if (sizes.inst2Large || sizes.inst3Large)
         side *= largeChartShare;
-    const int columnWidth = whole(std::max(side, std::min(narrowestColumn, widest)));
+    const int columnWidth =
+        whole(std::max(side, std::min(narrowestColumn * layout.uiScale, widest)));
     layOutChart(layout, body, columnWidth, wishes);
     const int panelLeft = margin + columnWidth + margin;
     layout.panel = {panelLeft, margin, body.width() - margin - panelLeft, height};

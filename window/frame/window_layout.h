@@ -17,7 +17,9 @@ struct PanelSizes {
 
 /// Where everything stands in the window, in pixels. Panel places are relative to the panel.
 struct WindowLayout {
-    double uiScale = 1;    ///< of texts and controls: 1 up to full HD, 2 on a 4K screen at 100 %
+    double uiScale = 1;    ///< of texts and controls: 1 up to full HD, 2 on a 4K screen at 100 %,
+                           ///< and never less than the desktop's
+    double bodyScale = 1;  ///< the same without the desktop's: of the texts on the panel
     double panelScale = 1; ///< of what stands on the panel: 1 at 712 px width
     QRect chart;
     QRect strip;
@@ -45,8 +47,8 @@ struct ColumnWishes {
 /// Lays out the space between menu bar and status bar. A large instrument takes its room from the
 /// chart. A comment takes it from what the strip leaves, and where that is too little from the
 /// chart's height: instruments and radios stay where they are. Meant for windows of 960 x 540 and
-/// more.
+/// more, and with texts of more than scale 1 for 1024 x 768 and more.
 [[nodiscard]] WindowLayout layOutWindow(QSize body, PanelSizes sizes,
-                                        const ColumnWishes& wishes = {});
+                                        const ColumnWishes& wishes = {}, double textScale = 1);
 
 } // namespace tarnel

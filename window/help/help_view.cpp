@@ -1,23 +1,38 @@
 #include "window/help/help_view.h"
 
 #include "look/look.h"
+#include "window/widgets/dressing.h"
 #include "window/widgets/text_of.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QPainter>
+
+#include <algorithm>
 
 namespace tarnel {
 
 namespace {
 
-/// In points, as letters in pixels could not be zoomed.
+/// A little larger than the desktop's. In points, as letters in pixels could not be zoomed.
 QFont readingFont(int dotsPerInch) {
     constexpr double pixels = 14;
     constexpr double pointsPerInch = 72;
-    QFont font = look::font(look::bodyType);
-    font.setPointSizeF(pixels * pointsPerInch / dotsPerInch);
+    QFont font = QApplication::font();
+    font.setPointSizeF(pixels * desktopTextScale() * pointsPerInch / dotsPerInch);
     return font;
+}
+
+/// As in a browser, the colours of a page are those of `look::day` and its letters our own; here
+/// they are the desktop's.
+QByteArray asOnThisDesktop(QByteArray sheet) {
+    using look::Colours;
+    for (const auto colour :
+         {&Colours::ink, &Colours::field, &Colours::accent, &Colours::desktop, &Colours::line})
+        sheet.replace((look::day.*colour).name().toUpper().toLatin1(),
+                      (look::colours().*colour).name().toLatin1());
+    return sheet.replace("Liberation Sans", QApplication::font().family().toUtf8());
 }
 
 } // namespace
@@ -31,8 +46,24 @@ HelpView::HelpView(const StringTable& table, QWidget* parent) : QTextBrowser(par
     resetZoom();
 }
 
+void HelpView::followDesktop() {
+    resetZoom();
+    if (!source().isEmpty())
+        reload();
+}
+
 void HelpView::resetZoom() {
     setFont(readingFont(logicalDpiY()));
+}
+
+double HelpView::zoom() const {
+    return font().pointSizeF() / readingFont(logicalDpiY()).pointSizeF();
+}
+
+void HelpView::setZoom(double times) {
+    QFont zoomed = readingFont(logicalDpiY());
+    zoomed.setPointSizeF(zoomed.pointSizeF() * std::clamp(times, 0.5, 4.0));
+    setFont(zoomed);
 }
 
 bool HelpView::findNext(const QString& words, bool backwards) {
@@ -50,6 +81,8 @@ bool HelpView::findNext(const QString& words, bool backwards) {
 
 QVariant HelpView::loadResource(int type, const QUrl& name) {
     QVariant content = QTextBrowser::loadResource(type, name);
+    if (type == QTextDocument::StyleSheetResource)
+        return asOnThisDesktop(content.toByteArray());
     if (type == QTextDocument::HtmlResource)
         page = QString::fromUtf8(content.toByteArray());
     if (type == QTextDocument::ImageResource && content.toByteArray().isEmpty())
@@ -73,10 +106,10 @@ QPixmap HelpView::frameFor(const QUrl& picture) const {
     const QString words = textOf(texts, Text::pictureNotThere).arg(wordsFor(picture));
     const QRect room = fontMetrics().boundingRect(words).adjusted(-inset, -inset, inset, inset);
     QPixmap frame(room.size());
-    frame.fill(look::desktop);
+    frame.fill(look::colours().desktop);
     QPainter painter(&frame);
     painter.setFont(font());
-    painter.setPen(look::secondaryInk);
+    painter.setPen(look::colours().secondaryInk);
     painter.drawRect(frame.rect().adjusted(0, 0, -1, -1));
     painter.drawText(frame.rect(), Qt::AlignCenter, words);
     return frame;

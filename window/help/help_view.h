@@ -19,6 +19,11 @@ class HelpView : public QTextBrowser {
     bool findNext(const QString& words, bool backwards);
     /// The size of the letters as it was at first.
     void resetZoom();
+    /// How many times as large the letters are as at first.
+    [[nodiscard]] double zoom() const;
+    void setZoom(double times);
+    /// Shows the page again, in the colours that are in use.
+    void followDesktop();
 
   protected:
     QVariant loadResource(int type, const QUrl& name) override;

@@ -2,18 +2,23 @@
 
 #include "look/look.h"
 #include "window/help/help_view.h"
+#include "window/widgets/desktop_opener.h"
+#include "window/widgets/dressing.h"
+#include "window/widgets/mnemonics.h"
 #include "window/widgets/style_sheet.h"
 #include "window/widgets/text_of.h"
 
+#include <QApplication>
 #include <QCloseEvent>
-#include <QDesktopServices>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QShortcut>
 #include <QUrl>
 #include <QVBoxLayout>
+#include <QWindow>
 
 namespace tarnel {
 
@@ -37,7 +42,6 @@ HelpWindow::HelpWindow(const StringTable& table) : texts(table) {
     resize(usualSize);
     view = new HelpView(texts, this);
     auto* tools = new QWidget(this);
-    tools->setStyleSheet(sheetFor(1)); // not the page's: its letters can be zoomed
     auto* bar = new QHBoxLayout(tools);
     bar->setContentsMargins(look::gap, look::gap, look::gap, look::gap);
     bar->setSpacing(look::gap / 2);
@@ -46,6 +50,7 @@ HelpWindow::HelpWindow(const StringTable& table) : texts(table) {
     makeSearch(*bar);
     bar->addSpacing(groupGap);
     makeSize(*bar);
+    giveMnemonics(*tools);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
@@ -54,6 +59,10 @@ HelpWindow::HelpWindow(const StringTable& table) : texts(table) {
     addKeys(*this, {Qt::Key_Escape, QKeySequence::Close}, [this] { close(); });
     connect(view, &QTextBrowser::sourceChanged, this,
             [this] { setWindowTitle(view->documentTitle()); });
+    followDesktop(*this, [this, tools] { // not the page's: its letters can be zoomed
+        tools->setStyleSheet(sheetFor(desktopTextScale()));
+        view->followDesktop();
+    });
     view->setFocus();
 }
 
@@ -123,10 +132,29 @@ void HelpWindow::open(const QString& path) {
     const QUrl url = QUrl::fromLocalFile(path);
     if (view->source() != url)
         view->setSource(url);
+    belongTo(QApplication::activeModalWidget());
     setWindowState(windowState() & ~Qt::WindowMinimized);
     show();
     raise();
     activateWindow();
+}
+
+double HelpWindow::zoom() const {
+    return view->zoom();
+}
+
+void HelpWindow::setZoom(double times) {
+    view->setZoom(times);
+}
+
+/// A dialog that keeps the user from all other windows lets through those that belong to it.
+void HelpWindow::belongTo(QWidget* dialog) {
+    create();
+    QWindow* wanted = dialog ? dialog->windowHandle() : nullptr;
+    if (windowHandle()->transientParent() == wanted)
+        return;
+    hide();
+    windowHandle()->setTransientParent(wanted);
 }
 
 void HelpWindow::search(bool backwards) {
@@ -140,8 +168,12 @@ void HelpWindow::showContents() {
 
 /// The verdict tells of a system without a browser.
 void HelpWindow::openInBrowser() {
-    if (!QDesktopServices::openUrl(view->source()))
-        verdict->setText(textOf(texts, Text::helpNoBrowser));
+    const auto tell = [words = QPointer(verdict), told = textOf(texts, Text::helpNoBrowser)] {
+        if (words)
+            words->setText(told);
+    };
+    if (!openByDesktop(view->source().toLocalFile(), tell))
+        tell();
 }
 
 void HelpWindow::closeEvent(QCloseEvent* event) {

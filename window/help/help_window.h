@@ -27,6 +27,10 @@ class HelpWindow : public QWidget {
     /// already stays where it was read.
     void open(const QString& path);
 
+    /// How many times as large the letters are as at first.
+    [[nodiscard]] double zoom() const;
+    void setZoom(double times);
+
     /// Called when the window closes.
     std::function<void()> onClose;
 
@@ -39,6 +43,7 @@ class HelpWindow : public QWidget {
     void makeWay(QBoxLayout& line);
     void makeSearch(QBoxLayout& line);
     void makeSize(QBoxLayout& line);
+    void belongTo(QWidget* dialog);
     void search(bool backwards);
     void showContents();
     void openInBrowser();

@@ -1,7 +1,6 @@
 #include "window/progress/exercise_table.h"
 
 #include "look/look.h"
-#include "window/progress/progress_colours.h"
 #include "window/progress/time_spans.h"
 #include "window/widgets/text_of.h"
 
@@ -22,9 +21,31 @@ constexpr int narrowestBar = 30;
 constexpr int inset = 8;
 constexpr int percentRole = Qt::UserRole;
 constexpr int historyRole = Qt::UserRole + 1;
+constexpr int inkRole = Qt::UserRole + 3;
 constexpr int chosenBar = 3;
 constexpr int narrowShareCell = 110; ///< without room for a wide bar
 constexpr int narrow = 660;          ///< without room for the trend
+
+/// What a cell's text means; its colour follows the desktop.
+enum class CellInk { plain, secondary, better, worse };
+
+QColor colourOf(CellInk ink) {
+    switch (ink) {
+    case CellInk::secondary:
+        return look::colours().secondaryInk;
+    case CellInk::better:
+        return look::colours().right;
+    case CellInk::worse:
+        return look::colours().exceeded;
+    case CellInk::plain:
+        break;
+    }
+    return look::colours().ink;
+}
+
+void setInk(QTableWidgetItem& cell, CellInk ink) {
+    cell.setData(inkRole, static_cast<int>(ink));
+}
 
 /// Pictures beside or in place of a cell's text, and the row that is chosen.
 class CellPainter : public QStyledItemDelegate {
@@ -37,11 +58,11 @@ class CellPainter : public QStyledItemDelegate {
         painter->setRenderHint(QPainter::Antialiasing);
         const bool chosen = option.state.testFlag(QStyle::State_Selected);
         if (chosen)
-            painter->fillRect(option.rect, look::onPaper(look::accent, 0.15));
+            painter->fillRect(option.rect, look::colours().tint);
         if (chosen && index.column() == 0)
             painter->fillRect(QRect(option.rect.topLeft(), QSize(chosenBar, option.rect.height())),
-                              look::accent);
-        painter->setPen(look::hairline);
+                              look::colours().accent);
+        painter->setPen(look::colours().hairline);
         painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
         paintText(*painter, option, index, chosen);
         paintShare(*painter, option.rect, index.data(percentRole), chosen);
@@ -55,8 +76,7 @@ class CellPainter : public QStyledItemDelegate {
         QFont font = option.font;
         font.setBold(index.data(Qt::FontRole).toBool() || (chosen && index.column() == 0));
         painter.setFont(font);
-        const QVariant colour = index.data(Qt::ForegroundRole);
-        painter.setPen(colour.isValid() ? colour.value<QColor>() : look::ink);
+        painter.setPen(colourOf(static_cast<CellInk>(index.data(inkRole).toInt())));
         const QRect place = option.rect.adjusted(inset, 0, -inset, 0);
         const auto side = index.column() == 0 ? Qt::AlignLeft : Qt::AlignRight;
         const QString text = index.data(Qt::DisplayRole).toString();
@@ -73,9 +93,9 @@ class CellPainter : public QStyledItemDelegate {
         const QRectF bar(cell.left() + inset, cell.center().y() - thickness / 2.0 + 1,
                          barIn(cell.width()), thickness);
         painter.setPen(Qt::NoPen);
-        painter.setBrush(look::hairline);
+        painter.setBrush(look::colours().hairline);
         painter.drawRoundedRect(bar, 2, 2);
-        painter.setBrush(chosen ? progress_look::curve : progress_look::quietCurve);
+        painter.setBrush(chosen ? look::colours().curve : look::colours().quietCurve);
         painter.drawRoundedRect(
             QRectF(bar.topLeft(), QSizeF(bar.width() * percent.toDouble() / whole, thickness)), 2,
             2);
@@ -98,9 +118,9 @@ class CellPainter : public QStyledItemDelegate {
             return;
         constexpr double dot = 2.5;
         painter.setBrush(Qt::NoBrush);
-        painter.setPen(QPen(progress_look::curve, 1.5));
+        painter.setPen(QPen(look::colours().curve, 1.5));
         painter.drawPolyline(line);
-        painter.setBrush(progress_look::curve);
+        painter.setBrush(look::colours().curve);
         painter.drawEllipse(line.back(), dot, dot);
     }
 };
@@ -118,7 +138,6 @@ ExerciseTable::ExerciseTable(const StringTable& table, QWidget* parent)
     setTabKeyNavigation(false);
     setShowGrid(false);
     setFrameShape(NoFrame);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     verticalHeader()->hide();
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setSectionsClickable(false);
@@ -155,10 +174,9 @@ void ExerciseTable::fill(int row, const ExerciseProgress& exercise, std::int64_t
                           : (difference > 0 ? QStringLiteral("▲ %1") : QStringLiteral("▼ %1"))
                                 .arg(std::abs(difference)),
         difference != 0);
-    item(row, change)
-        ->setForeground(difference > 0   ? look::right
-                        : difference < 0 ? look::exceeded
-                                         : look::secondaryInk);
+    setInk(*item(row, change), difference > 0   ? CellInk::better
+                               : difference < 0 ? CellInk::worse
+                                                : CellInk::secondary);
     put(row, time,
         percent ? textOf(texts, Text::seconds).arg((tally.milliseconds + 500) / 1000) : QString());
     QVariantList history;
@@ -171,7 +189,7 @@ void ExerciseTable::fill(int row, const ExerciseProgress& exercise, std::int64_t
     put(row, lastAsked, ago(exercise.lastAsked, now, texts));
     for (const Column column : {name, count, lastAsked})
         if (!percent || column == lastAsked)
-            item(row, column)->setForeground(look::secondaryInk);
+            setInk(*item(row, column), CellInk::secondary);
 }
 
 void ExerciseTable::show(const Progress& progress, std::int64_t now, const QString& spanMany) {
@@ -203,15 +221,26 @@ void ExerciseTable::resizeEvent(QResizeEvent* event) {
     shareOut();
 }
 
+int ExerciseTable::widestName() const {
+    QFont bold = font();
+    bold.setBold(true);
+    int widest = 0;
+    for (int row = 0; row < rowCount(); ++row)
+        widest = std::max(widest, QFontMetrics(bold).horizontalAdvance(item(row, name)->text()));
+    return widest;
+}
+
 /// All rows are in sight where there is room for them. The columns of numbers get what they need,
-/// and the name what is left.
+/// and the name what is left, but never less than it takes: the change
+/// gives way first, then the table scrolls.
 void ExerciseTable::shareOut() {
     constexpr int lowest = 5;
     constexpr int highest = 14;
     const int line = fontMetrics().height();
-    verticalHeader()->setMinimumSectionSize(line);
-    verticalHeader()->setDefaultSectionSize(
-        std::clamp(viewport()->height() / std::max(1, rowCount()), line + lowest, line + highest));
+    const int least = std::max(look::leastTarget, line + lowest);
+    verticalHeader()->setMinimumSectionSize(least);
+    verticalHeader()->setDefaultSectionSize(std::clamp(
+        viewport()->height() / std::max(1, rowCount()), least, std::max(least, line + highest)));
     const auto wide = [this](Text header, const QString& longest) {
         QFont bold = font();
         bold.setBold(true);
@@ -220,6 +249,7 @@ void ExerciseTable::shareOut() {
                2 * inset + 2;
     };
     setColumnHidden(trend, width() < narrow);
+    setColumnHidden(change, false);
     const std::array<std::pair<Column, int>, 5> widths = {{
         {count, wide(Text::rightOfAsked, QStringLiteral("188 / 188"))},
         {share, (width() < narrow ? narrowestBar : widestBar) + inset +
@@ -238,7 +268,12 @@ void ExerciseTable::shareOut() {
         setColumnWidth(trend, static_cast<int>(left * trendShare));
         left -= columnWidth(trend);
     }
-    setColumnWidth(name, left);
+    const int needed = widestName() + 2 * inset + 2;
+    if (left < needed) { // the plot shows the change, too
+        left += columnWidth(change);
+        setColumnHidden(change, true);
+    }
+    setColumnWidth(name, std::max(left, needed));
 }
 
 } // namespace tarnel

@@ -32,6 +32,7 @@ class ExerciseTable : public QTableWidget {
     void fill(int row, const ExerciseProgress& exercise, std::int64_t now);
     void put(int row, Column column, const QString& text, bool bold = false);
     void shareOut();
+    [[nodiscard]] int widestName() const;
 
     const StringTable& texts;
     ExerciseType chosenType = ExerciseType::closed;

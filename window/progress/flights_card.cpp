@@ -48,7 +48,7 @@ FlightsCard::FlightsCard(const ProgressModel& progressModel, QWidget* parent)
     : QWidget(parent), model(progressModel) {
     setObjectName(QStringLiteral("LatestFlights"));
     QVBoxLayout* column = cardColumn(*this);
-    QHBoxLayout* title = cardTitle(textOf(model.texts, Text::myFlights), QString(), *this);
+    QLayout* title = cardTitle(textOf(model.texts, Text::myFlights), QString(), *this);
     beside = qobject_cast<QLabel*>(title->itemAt(1)->widget());
     column->addLayout(title);
     column->addWidget(hairline(this));
@@ -97,7 +97,7 @@ void FlightsCard::addRow(const LoggedFlight& flight) {
         row->addWidget(pinned);
     }
     row->addWidget(score);
-    QPushButton* link = linkButton(textOf(model.texts, Text::debrief), this);
+    QPushButton* link = linkButton(textOf(model.texts, Text::debriefFlight), this);
     link->setObjectName(QStringLiteral("OpenLatest%1").arg(flight.id));
     link->setAccessibleName(link->text() + QStringLiteral(": ") +
                             QString::fromStdString(flight.title));

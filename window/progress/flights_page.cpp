@@ -68,7 +68,7 @@ QHBoxLayout* FlightsPage::makeButtons() {
             ids.push_back(flight.id);
         onOpen(ids);
     };
-    open = button(Text::debrief, "OpenFlight", openSelected);
+    open = button(Text::debriefFlight, "OpenFlight", openSelected);
     compare = button(Text::compareFlights, "CompareFlights", openSelected);
     pin = button(Text::pinFlight, "PinFlight", [this] { pinSelected(); });
     save = button(Text::exportFlight, "ExportFlight", [this] { exportSelected(); });
@@ -89,6 +89,7 @@ QHBoxLayout* FlightsPage::makeLimits() {
         made->setObjectName(QString::fromLatin1(name));
         made->setRange(1, highest);
         made->setKeyboardTracking(false);
+        made->setButtonSymbols(QAbstractSpinBox::NoButtons); // they would be too small to hit
         made->setAccessibleName(textOf(model.texts, label));
         connect(made, &QSpinBox::valueChanged, this, [this, apply](int value) {
             FlightLimits limits = model.training.limits();

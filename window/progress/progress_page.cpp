@@ -11,6 +11,7 @@
 #include "window/widgets/card.h"
 #include "window/widgets/choice_button.h"
 #include "window/widgets/text_of.h"
+#include "window/widgets/wrap_layout.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>
@@ -65,27 +66,34 @@ ProgressPage::ProgressPage(ProgressModel progressModel, QWidget* parent)
     pages->addWidget(all);
 }
 
+/// In one line, or with large texts in as many as it takes.
 QWidget* ProgressPage::makeHeader() {
     constexpr int inset = 14;
     auto* header = new Card(this);
-    auto* line = new QHBoxLayout(header);
-    line->setContentsMargins(inset, 8, 8, 8);
-    line->setSpacing(look::gap);
+    auto* frame = new QHBoxLayout(header);
+    frame->setContentsMargins(inset, 8, 8, 8);
+    auto* line = new WrapLayout(WrapLayout::Manner::flowing, 2 * look::gap, look::gap);
+    frame->addLayout(line);
     auto* title = new QLabel(textOf(model.texts, Text::progress), header);
     title->setProperty("quizTitle", true);
     line->addWidget(title);
-    line->addSpacing(look::gap);
-    addSpanButtons(*line);
-    line->addWidget(stepButton(-1, "EarlierSpan", Text::earlier));
-    line->addWidget(forward = stepButton(1, "LaterSpan", Text::later));
+    auto* span = new QHBoxLayout;
+    span->setSpacing(look::gap);
+    addSpanButtons(*span);
+    span->addWidget(stepButton(-1, "EarlierSpan", Text::earlier));
+    span->addWidget(forward = stepButton(1, "LaterSpan", Text::later));
     spanTitle = new QLabel(header);
     spanTitle->setProperty("strong", true);
     spanBeside = new QLabel(header);
     spanBeside->setProperty("secondary", true);
-    line->addWidget(spanTitle);
-    line->addWidget(spanBeside);
-    line->addStretch();
-    addMenu(*line);
+    span->addWidget(spanTitle);
+    span->addWidget(spanBeside);
+    line->addLayout(span);
+    auto* others = new QHBoxLayout;
+    others->setSpacing(look::gap);
+    others->addStretch();
+    addMenu(*others);
+    line->addLayout(others);
     return header;
 }
 
@@ -353,7 +361,7 @@ void ProgressPage::keyPressEvent(QKeyEvent* key) {
 }
 
 void ProgressPage::paintEvent(QPaintEvent* /*event*/) {
-    QPainter(this).fillRect(rect(), look::desktop);
+    QPainter(this).fillRect(rect(), look::colours().desktop);
 }
 
 } // namespace tarnel

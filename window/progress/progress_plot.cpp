@@ -1,7 +1,8 @@
 #include "window/progress/progress_plot.h"
 
-#include "window/progress/progress_colours.h"
+#include "look/look.h"
 #include "window/widgets/card.h"
+#include "window/widgets/spoken.h"
 #include "window/widgets/text_of.h"
 
 #include <QBuffer>
@@ -43,6 +44,7 @@ double roundTop(double value) {
 ProgressPlot::ProgressPlot(const StringTable& table, QWidget* parent)
     : QWidget(parent), texts(table) {
     setObjectName(QStringLiteral("ProgressPlot"));
+    setSpokenRole(*this, QAccessible::Chart);
 }
 
 void ProgressPlot::show(const ExerciseProgress& exercise, const ExerciseProgress& all,
@@ -50,7 +52,7 @@ void ProgressPlot::show(const ExerciseProgress& exercise, const ExerciseProgress
     shown = exercise;
     others = all;
     axis.emplace(spans);
-    setAccessibleName(spoken());
+    setSpokenName(*this, spoken());
     update();
 }
 
@@ -58,8 +60,11 @@ QByteArray ProgressPlot::picture() {
     constexpr int sharpness = 2;
     QImage image(size() * sharpness, QImage::Format_RGB32);
     image.setDevicePixelRatio(sharpness);
-    image.fill(look::desktop);
+    const look::Colours shownIn = look::colours();
+    look::useColours(look::day); // as on paper
+    image.fill(look::day.desktop);
     render(&image);
+    look::useColours(shownIn);
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
@@ -114,7 +119,7 @@ void ProgressPlot::paintHeader(QPainter& painter) const {
     title.setBold(true);
     title.setPixelSize(font().pixelSize() + 2);
     painter.setFont(title);
-    painter.setPen(look::ink);
+    painter.setPen(look::colours().ink);
     const double line = QFontMetricsF(title).height();
     painter.drawText(QPointF(inset, inset + line * 0.8),
                      QString::fromStdString(exerciseName(shown->exercise, texts)));
@@ -126,20 +131,20 @@ void ProgressPlot::paintHeader(QPainter& painter) const {
         constexpr double sample = 22;
         const QString text = textOf(texts, words);
         end -= metrics.horizontalAdvance(text);
-        painter.setPen(look::ink);
+        painter.setPen(look::colours().ink);
         painter.drawText(QPointF(end, inset + line * 0.8), text);
         end -= sample + 6;
         if (bar)
             painter.fillRect(QRectF(end + sample - 10, middle - 6, 9, 12),
-                             progress_look::askedBar.darker(108));
+                             look::colours().askedBar.darker(108));
         painter.setPen(pen);
         if (!bar)
             painter.drawLine(QPointF(end, middle), QPointF(end + sample, middle));
         end -= 2 * 8;
     };
     entry(Text::askedMany, {}, true);
-    entry(Text::allExercises, QPen(progress_look::allExercises, 1.2, Qt::DashLine), false);
-    entry(Text::thisExercise, QPen(progress_look::curve, 2), false);
+    entry(Text::allExercises, QPen(look::colours().allExercises, 1.2, Qt::DashLine), false);
+    entry(Text::thisExercise, QPen(look::colours().curve, 2), false);
 }
 
 double ProgressPlot::across(const Area& area, int span) const {
@@ -152,18 +157,18 @@ void ProgressPlot::paintScale(QPainter& painter, const Area& area, Text caption,
     QFont bold = font();
     bold.setBold(true);
     painter.setFont(bold);
-    painter.setPen(look::ink);
+    painter.setPen(look::colours().ink);
     painter.drawText(QPointF(inset, area.place.top() + metrics.ascent() / 2),
                      textOf(texts, caption));
     painter.setFont(font());
-    painter.setPen(look::secondaryInk);
+    painter.setPen(look::colours().secondaryInk);
     painter.drawText(QPointF(inset, area.place.top() + metrics.height() * 1.4),
                      textOf(texts, unit));
     for (int i = 0; i <= lines; ++i) {
         const double y = area.place.bottom() - area.place.height() * i / lines;
-        painter.setPen(i == 0 ? look::line : look::hairline);
+        painter.setPen(i == 0 ? look::colours().line : look::colours().hairline);
         painter.drawLine(QPointF(area.place.left(), y), QPointF(area.place.right(), y));
-        painter.setPen(look::secondaryInk);
+        painter.setPen(look::colours().secondaryInk);
         const QString number = QString::number(std::lround(area.top * i / lines));
         painter.drawText(QPointF(area.place.left() - 8 - metrics.horizontalAdvance(number),
                                  y + metrics.ascent() / 2 - 1),
@@ -186,9 +191,9 @@ void ProgressPlot::paintAsked(QPainter& painter, const Area& area) const {
         const double height = area.place.height() * tallest * asked / most;
         const QRectF bar(across(area, span) - barWidth / 2, area.place.bottom() - height, barWidth,
                          height);
-        painter.fillRect(bar, progress_look::askedBar);
+        painter.fillRect(bar, look::colours().askedBar);
         const QString number = QString::number(asked);
-        painter.setPen(look::secondaryInk);
+        painter.setPen(look::colours().secondaryInk);
         painter.drawText(
             QPointF(bar.center().x() - metrics.horizontalAdvance(number) / 2,
                     height > metrics.height() ? area.place.bottom() - 3 : bar.top() - 2),
@@ -208,14 +213,14 @@ void ProgressPlot::paintCurves(QPainter& painter, const Area& area, Value value)
         return points;
     };
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(progress_look::allExercises, 1.2, Qt::DashLine));
+    painter.setPen(QPen(look::colours().allExercises, 1.2, Qt::DashLine));
     painter.drawPolyline(pointsOf(others));
     const QPolygonF own = pointsOf(*shown);
-    painter.setPen(QPen(progress_look::curve, 2));
+    painter.setPen(QPen(look::colours().curve, 2));
     painter.drawPolyline(own);
     for (const QPointF& point : own) {
         const bool isLast = point == own.back();
-        painter.setBrush(isLast ? progress_look::curve : look::card);
+        painter.setBrush(isLast ? look::colours().curve : look::colours().card);
         painter.drawEllipse(point, isLast ? dot + 1.5 : dot, isLast ? dot + 1.5 : dot);
     }
     const auto now = value(shown->now());
@@ -235,7 +240,7 @@ void ProgressPlot::paintMarks(QPainter& painter, const Area& area) const {
         marked.setBold(span == TimeSpans::count - 1);
         const QFontMetricsF metrics(marked);
         painter.setFont(marked);
-        painter.setPen(marked.bold() ? look::ink : look::secondaryInk);
+        painter.setPen(marked.bold() ? look::colours().ink : look::colours().secondaryInk);
         const QString mark = axis->mark(span);
         painter.drawText(QPointF(across(area, span) - metrics.horizontalAdvance(mark) / 2,
                                  area.place.bottom() + metrics.height() * 1.2),

@@ -1,5 +1,7 @@
 #include "window/progress/rows.h"
 
+#include "window/widgets/wrap_layout.h"
+
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -43,15 +45,14 @@ QVBoxLayout* cardColumn(QWidget& card) {
     return column;
 }
 
-QHBoxLayout* cardTitle(const QString& title, const QString& beside, QWidget& card) {
+QLayout* cardTitle(const QString& title, const QString& beside, QWidget& card) {
     auto* name = new QLabel(title, &card);
     name->setProperty("quizTitle", true);
     auto* words = new QLabel(beside, &card);
     words->setProperty("secondary", true);
-    auto* line = new QHBoxLayout;
-    line->setSpacing(10);
+    auto* line = new WrapLayout(WrapLayout::Manner::flowing, 10, 0);
     line->addWidget(name);
-    line->addWidget(words, 1, Qt::AlignBottom);
+    line->addWidget(words);
     return line;
 }
 

@@ -15,7 +15,7 @@ namespace tarnel {
 // The parts that the cards with rows of words share.
 
 [[nodiscard]] QVBoxLayout* cardColumn(QWidget& card);
-[[nodiscard]] QHBoxLayout* cardTitle(const QString& title, const QString& beside, QWidget& card);
+[[nodiscard]] QLayout* cardTitle(const QString& title, const QString& beside, QWidget& card);
 [[nodiscard]] QFrame* hairline(QWidget* parent);
 /// A sentence in the place of rows.
 [[nodiscard]] QLabel* noteLabel(const QString& text, QWidget* parent);

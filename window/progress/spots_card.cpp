@@ -1,6 +1,6 @@
 #include "window/progress/spots_card.h"
 
-#include "window/progress/progress_colours.h"
+#include "look/look.h"
 #include "window/progress/rows.h"
 #include "window/widgets/card.h"
 #include "window/widgets/text_of.h"
@@ -28,8 +28,8 @@ class Cells : public QWidget {
         painter.setRenderHint(QPainter::Antialiasing);
         for (int i = 0; i < asked; ++i) {
             const bool filled = i < right;
-            painter.setPen(filled ? progress_look::curve : progress_look::allExercises);
-            painter.setBrush(filled ? progress_look::curve : look::card);
+            painter.setPen(filled ? look::colours().curve : look::colours().allExercises);
+            painter.setBrush(filled ? look::colours().curve : look::colours().card);
             painter.drawRoundedRect(QRectF(pitch * i + 0.5, 0.5, 5, height - 1), 1.5, 1.5);
         }
     }

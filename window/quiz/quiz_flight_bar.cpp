@@ -35,7 +35,7 @@ QuizFlightBar::QuizFlightBar(const QuizModel& quizModel, FormBinding& binding, Q
     startButton->setProperty("primary", true);
     binding.bind(model.controls.startButton, *startButton);
     parts->addWidget(startButton);
-    speeds = segmentRow(binding,
+    speeds = segmentRow(binding, textOf(model.texts, Text::speed),
                         {&model.controls.rateHalf, &model.controls.rateReal,
                          &model.controls.rateDouble, &model.controls.rateQuadruple},
                         this);
@@ -70,15 +70,14 @@ QLayout* QuizFlightBar::makeReplayRow(FormBinding& binding) {
 void QuizFlightBar::addSign(QBoxLayout& row, FormBinding& binding, OptionButton& control,
                             Sign sign) {
     auto* button = new QToolButton(this);
-    button->setIcon(signIcon(sign, look::ink));
+    button->setIcon(signIcon(sign));
     binding.bind(control, *button);
     row.addWidget(button);
 }
 
 void QuizFlightBar::follow() {
     const Sign sign = model.flight.flies() ? Sign::stop : Sign::play;
-    const QColor ink = model.controls.startButton.enabled() ? Qt::white : look::secondaryInk;
-    startButton->setIcon(signIcon(sign, ink));
+    startButton->setIcon(signIcon(sign, inkOnAccent));
     startButton->setVisible(model.exercise.studentFlies());
     clock->setVisible(model.controls.replayPage.bar.visible());
 }

@@ -4,6 +4,7 @@
 #include "window/quiz/quiz_flight_bar.h"
 #include "window/quiz/quiz_row.h"
 #include "window/widgets/quiz_measures.h"
+#include "window/widgets/spoken.h"
 #include "window/widgets/wrap_layout.h"
 
 #include <QCheckBox>
@@ -68,6 +69,8 @@ QLabel* QuizFrame::label(const char* kind) {
 QVBoxLayout* QuizFrame::makeHeader(FormBinding& binding) {
     title = label("quizTitle");
     place = label("secondary");
+    wind = label("secondary");
+    wind->setObjectName(nameOf(asked.wind));
     statistic = label("secondary");
     binding.bind(asked.statistic, *statistic);
     random = new QCheckBox(this);
@@ -86,6 +89,7 @@ QVBoxLayout* QuizFrame::makeHeader(FormBinding& binding) {
     standing->addWidget(mistakes);
     auto* words = new WrapLayout(WrapLayout::Manner::flowing, statisticGap, 0);
     words->addLayout(name);
+    words->addWidget(wind);
     words->addLayout(standing);
     auto* line = new QFrame(this);
     line->setProperty("hairline", true);
@@ -129,18 +133,19 @@ QWidget* QuizFrame::makeRows(FormBinding& binding) {
     return area;
 }
 
-/// Leaving stands apart at the right.
-QHBoxLayout* QuizFrame::makeButtons(FormBinding& binding) {
+/// Leaving stands apart at the right, with large texts in a line of its own.
+QLayout* QuizFrame::makeButtons(FormBinding& binding) {
     next = button(asked.nextButton, binding);
     solution = button(asked.solutionButton, binding);
     fly = button(asked.flyButton, binding);
     cancel = button(asked.cancelButton, binding);
-    auto* line = new QHBoxLayout;
-    line->setSpacing(buttonGap);
+    auto* line = new WrapLayout(WrapLayout::Manner::flowing, buttonGap, buttonGap);
     for (QPushButton* each : {next, solution, fly})
         line->addWidget(each);
-    line->addStretch();
-    line->addWidget(cancel);
+    auto* leaving = new QHBoxLayout;
+    leaving->addStretch();
+    leaving->addWidget(cancel);
+    line->addLayout(leaving);
     return line;
 }
 
@@ -158,7 +163,7 @@ bool QuizFrame::answered() const {
 /// All texts of the question, without the answers.
 QString QuizFrame::question() const {
     QStringList parts{QString::fromStdString(asked.frame.text())};
-    for (const QLabel* part : {notice, task, known, rule})
+    for (const QLabel* part : {notice, wind, task, known, rule})
         if (!part->text().isEmpty())
             parts << part->text();
     for (const QuizRow* row : questions)
@@ -198,11 +203,12 @@ void QuizFrame::followTexts() {
          std::initializer_list<std::pair<TextPanel*, QLabel*>>{{&asked.notice, notice},
                                                                {&asked.task, task},
                                                                {&asked.known, known},
+                                                               {&asked.wind, wind},
                                                                {&asked.rule, rule}}) {
         shownBy->setText(QString::fromStdString(text->text()));
         shownBy->setVisible(text->visible() && !text->text().empty());
     }
-    setAccessibleName(question());
+    setSpokenName(*this, question());
 }
 
 void QuizFrame::followFlight() {
@@ -279,8 +285,8 @@ void QuizFrame::resizeEvent(QResizeEvent* /*event*/) {
 void QuizFrame::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(look::accent, 1.5));
-    painter.setBrush(look::card);
+    painter.setPen(QPen(look::colours().accent, 1.5));
+    painter.setBrush(look::colours().card);
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.75, 0.75, -0.75, -0.75), look::moduleRadius,
                             look::moduleRadius);
 }

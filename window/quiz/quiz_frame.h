@@ -70,7 +70,7 @@ class QuizFrame : public QWidget {
     [[nodiscard]] QVBoxLayout* makeHeader(FormBinding& binding);
     void addTexts(QVBoxLayout& column);
     [[nodiscard]] QWidget* makeRows(FormBinding& binding);
-    [[nodiscard]] QHBoxLayout* makeButtons(FormBinding& binding);
+    [[nodiscard]] QLayout* makeButtons(FormBinding& binding);
     [[nodiscard]] QString question() const;
     void followTexts();
     void followFlight();
@@ -85,6 +85,7 @@ class QuizFrame : public QWidget {
     QLabel* notice = nullptr;
     QLabel* task = nullptr;
     QLabel* known = nullptr;
+    QLabel* wind = nullptr;
     QLabel* rule = nullptr;
     QWidget* questionArea = nullptr;
     QGridLayout* grid = nullptr;

@@ -2,6 +2,7 @@
 
 #include "look/look.h"
 #include "window/quiz/two_lines.h"
+#include "window/widgets/plain_caption.h"
 #include "window/widgets/quiz_measures.h"
 
 #include <QStyleOptionButton>
@@ -34,7 +35,7 @@ QFont QuizOption::smallFont(double share) const {
 }
 
 QString QuizOption::shownText() const {
-    return text().replace(QStringLiteral("&&"), QStringLiteral("&"));
+    return plainCaption(text());
 }
 
 /// What digit, gap and padding take of the width.
@@ -54,9 +55,11 @@ int QuizOption::tightWidth() const {
 
 int QuizOption::brokenWidth() const {
     ensurePolished();
+    const double scale = quiz::scaleOf(*this);
     const int broken =
         quiz::twoLineWidth(QFontMetrics(smallFont(brokenShare)), shownText()) + digitPart() + 1;
-    return std::min(tightWidth(), broken);
+    return std::min(tightWidth(),
+                    broken - (scale > quiz::largeTexts ? qRound(sparedPadding * scale) : 0));
 }
 
 QSize QuizOption::sizeHint() const {
@@ -74,11 +77,11 @@ void QuizOption::paintText(QPainter& painter) const {
     const int wide = oneLine ? lineWidth() : brokenWidth();
     const int left = qMax(4, (width() - wide) / 2 + qRound(padding * scale));
     const QRect line = rect().adjusted(left, 0, 0, 0);
-    painter.setPen(isEnabled() ? look::secondaryInk : look::unit);
+    painter.setPen(isEnabled() ? look::colours().secondaryInk : look::colours().disabledInk);
     painter.setFont(smallFont(digitShare));
     painter.drawText(line, Qt::AlignVCenter | Qt::AlignLeft, digit);
     const int textLeft = painter.fontMetrics().horizontalAdvance(digit) + qRound(digitGap * scale);
-    painter.setPen(isEnabled() ? look::ink : look::unit);
+    painter.setPen(isEnabled() ? look::colours().ink : look::colours().disabledInk);
     painter.setFont(oneLine ? font() : smallFont(brokenShare));
     painter.drawText(line.adjusted(textLeft, 0, oneLine ? 0 : -2, 0),
                      Qt::AlignVCenter | Qt::AlignLeft | (oneLine ? 0 : Qt::TextWordWrap),

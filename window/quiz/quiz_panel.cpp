@@ -4,8 +4,9 @@
 #include "window/quiz/quiz_frame.h"
 #include "window/quiz/quiz_row.h"
 #include "window/quiz/quiz_verdict.h"
+#include "window/widgets/announce.h"
+#include "window/widgets/mnemonics.h"
 
-#include <QAccessible>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -15,16 +16,6 @@
 #include <algorithm>
 
 namespace tarnel {
-
-namespace {
-
-/// Has a screen reader say the name of `widget` at once.
-void announce(QWidget& widget) {
-    QAccessibleEvent alert(&widget, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
-}
-
-} // namespace
 
 QuizPanel::QuizPanel(const QuizModel& quizModel, FormBinding& links, QWidget* parent)
     : QWidget(parent), model(quizModel), binding(links) {
@@ -46,7 +37,33 @@ QuizFrame* QuizPanel::runningFrame() {
         return *found;
     frames.push_back(new QuizFrame(*panel, model.texts, binding, this));
     pages->addWidget(frames.back());
+    giveMnemonics(*frames.back(), lettersTaken);
     return frames.back();
+}
+
+void QuizPanel::giveLetters(const QString& taken) {
+    lettersTaken = giveMnemonics(*flightBar, taken);
+}
+
+/// What is made late would come last to the keyboard. The flight bar stands above the buttons.
+void QuizPanel::chain(const QuizFrame& frame) {
+    QWidget* before = previousInFocusChain();
+    while (before->focusPolicy() == Qt::NoFocus && before != this)
+        before = before->previousInFocusChain();
+    const auto follow = [&before](QWidget* part) {
+        if (part->focusPolicy() == Qt::NoFocus || part->window() != before->window())
+            return;
+        setTabOrder(before, part);
+        before = part;
+    };
+    for (auto* part : frame.findChildren<QWidget*>()) {
+        if (flightBar->isAncestorOf(part))
+            continue;
+        if (part == frame.nextButton())
+            for (auto* control : flightBar->findChildren<QWidget*>())
+                follow(control);
+        follow(part);
+    }
 }
 
 void QuizPanel::refresh() {
@@ -87,6 +104,7 @@ void QuizPanel::show(QuizFrame* frame) {
         return;
     pages->setCurrentWidget(frame);
     frame->host(flightBar);
+    chain(*frame);
 }
 
 int QuizPanel::wantedHeight(int width) const {
@@ -106,9 +124,9 @@ void QuizPanel::followQuestion() {
     question = asked;
     folded = active->folded();
     if (isNew)
-        announce(*active);
+        announce(*this, active->accessibleName());
     else if (closed && !folded)
-        announce(closed->verdictLabel());
+        announce(*this, closed->verdictLabel().accessibleName());
     const bool flies = model.exercise.studentFlies();
     if (folds || (flies && !flew))
         flightAwaitsFocus = true;

@@ -34,6 +34,9 @@ class QuizPanel : public QWidget {
     /// A number that differs when `runs` or `wantedHeight` may do so; cheap.
     [[nodiscard]] int contents() const { return shownHeight; }
 
+    /// Gives its buttons letters for Alt that are not in `taken`.
+    void giveLetters(const QString& taken);
+
     /// Does what a key means to the exercise that runs. False if it means nothing.
     bool takeKey(const QKeyEvent& event);
 
@@ -43,6 +46,7 @@ class QuizPanel : public QWidget {
   private:
     QuizFrame* runningFrame();
     void show(QuizFrame* frame);
+    void chain(const QuizFrame& frame);
     void measure();
     void followQuestion();
     const QuizRow* rowJustClosed();
@@ -56,6 +60,7 @@ class QuizPanel : public QWidget {
     QStackedLayout* pages = nullptr;
     QuizFlightBar* flightBar = nullptr;
     QuizFrame* active = nullptr;
+    QString lettersTaken; ///< by menus and the flight bar
     std::uint64_t shown = 0;
     int shownHeight = 0;
     int tallest = 0; ///< of the questions of this exercise, at the present width

@@ -22,6 +22,7 @@ class QuizPrompt : public QLabel {
     void changeEvent(QEvent* event) override;
 
   private:
+    [[nodiscard]] int longestWord() const;
     void limit();
 };
 

@@ -5,6 +5,7 @@
 #include "window/quiz/quiz_verdict.h"
 #include "window/widgets/quiz_list.h"
 #include "window/widgets/quiz_measures.h"
+#include "window/widgets/spoken.h"
 
 #include <QButtonGroup>
 #include <QGridLayout>
@@ -151,7 +152,7 @@ void QuizRow::tellVerdict() {
         verdict->tell(Kind::right, answer, rightWord);
     else
         verdict->tell(Kind::wrong, givenText(), textOf(texts, Text::answerWrong));
-    verdict->setAccessibleName(promptText() + QLatin1Char(' ') + verdict->toolTip());
+    setSpokenName(*verdict, promptText() + QLatin1Char(' ') + verdict->toolTip());
 }
 
 /// A wrong answer stays beside the solution.
@@ -159,8 +160,7 @@ void QuizRow::tellOwnAnswer() {
     own->setVisible(answerRow.state() == RowState::revealed &&
                     answerRow.verdict() == Judgement::wrong);
     own->tell(QuizVerdict::Kind::wrong, givenText(), textOf(texts, Text::ownAnswer));
-    own->setAccessibleName(textOf(texts, Text::answerWrong) + QStringLiteral(": ") +
-                           own->toolTip());
+    setSpokenName(*own, textOf(texts, Text::answerWrong) + QStringLiteral(": ") + own->toolTip());
 }
 
 /// A blank entry can be picked too.
@@ -173,12 +173,11 @@ QString QuizRow::givenText() const {
 void QuizRow::nameAnswers() {
     const QString asked = promptText();
     for (std::size_t i = 0; i < fields.size(); ++i)
-        fields[i]->setAccessibleName(asked + QLatin1Char(' ') + units[i]->text());
+        setSpokenName(*fields[i], asked + QLatin1Char(' ') + units[i]->text());
     for (std::size_t i = 0; i < options.size(); ++i)
-        options[i]->setAccessibleName(asked + QLatin1Char(' ') +
-                                      plain(answerRow.options[i]->text()));
+        setSpokenName(*options[i], asked + QLatin1Char(' ') + plain(answerRow.options[i]->text()));
     if (list)
-        list->setAccessibleName(asked);
+        setSpokenName(*list, asked);
 }
 
 QString QuizRow::promptText() const {

@@ -41,16 +41,16 @@ void QuizVerdict::setCompact(bool small) {
 QColor QuizVerdict::colour() const {
     switch (kind) {
     case Kind::right:
-        return look::right;
+        return look::colours().right;
     case Kind::wrong:
-        return look::wrong;
+        return look::colours().wrong;
     case Kind::solution:
     case Kind::rightSolution:
-        return look::solution;
+        return look::colours().solution;
     case Kind::shut:
         break;
     }
-    return look::secondaryInk;
+    return look::colours().secondaryInk;
 }
 
 QFont QuizVerdict::answerFont() const {
@@ -96,7 +96,8 @@ void QuizVerdict::paintSign(QPainter& painter, const QRectF& place) const {
         return;
     }
     painter.drawEllipse(place);
-    painter.setPen(QPen(Qt::white, place.width() / 8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setPen(QPen(look::markOn(colour()), place.width() / 8, Qt::SolidLine, Qt::RoundCap,
+                        Qt::RoundJoin));
     painter.setBrush(Qt::NoBrush);
     if (kind == Kind::wrong) {
         painter.drawLine(at(0.32, 0.32), at(0.68, 0.68));
@@ -113,7 +114,7 @@ void QuizVerdict::paintEvent(QPaintEvent*) {
     painter.setRenderHint(QPainter::Antialiasing);
     const double scale = quiz::scaleOf(*this);
     painter.setPen(QPen(colour(), kind == Kind::shut ? 1 : 1.4));
-    painter.setBrush(look::onPaper(colour(), 0.09));
+    painter.setBrush(look::over(look::colours().card, colour(), 0.09));
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.7, 0.7, -0.7, -0.7), look::controlRadius,
                             look::controlRadius);
     const double side = signSize * scale;

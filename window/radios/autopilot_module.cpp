@@ -2,6 +2,7 @@
 
 #include "look/panel_look.h"
 #include "window/dials/spoken_reading.h"
+#include "window/widgets/spoken.h"
 #include "window/widgets/text_of.h"
 
 #include <QPainter>
@@ -11,6 +12,7 @@ namespace tarnel {
 namespace {
 
 constexpr int hundredFeetZeros = 2;
+constexpr double feetPerHundred = 100;
 constexpr double mostDigits = 5;
 constexpr double sweepFrom = -135;
 constexpr double sweep = 270;
@@ -74,6 +76,22 @@ void AutopilotModule::connectKnob(AutopilotKnob which, KnobWidget& knob) {
     };
     knob.release = [this] { change([this] { face.mouseUp(); }); };
     knob.step = [this, which](int steps) { change([this, which, steps] { step(which, steps); }); };
+    knob.travel = [this, which] { return travel(which); };
+}
+
+/// Degrees, knots and feet; nothing of what is not to be seen.
+KnobTravel AutopilotModule::travel(AutopilotKnob which) const {
+    constexpr double lastDegree = 359;
+    KnobTravel heading{.value = face.c_HDG, .most = lastDegree, .step = 1, .round = true};
+    KnobTravel airSpeed{.value = face.c_TAS, .most = APControlFace::maximumTAS, .step = 1};
+    KnobTravel altitude{.value = face.c_ALT,
+                        .most = APControlFace::maximumALT * feetPerHundred,
+                        .step = feetPerHundred};
+    if (which == AutopilotKnob::heading)
+        return face.headingDigits.isDark() ? KnobTravel{} : heading;
+    if (which == AutopilotKnob::airSpeed)
+        return face.airSpeedDigits.isDark() ? KnobTravel{} : airSpeed;
+    return face.altitudeDigits.isDark() ? KnobTravel{} : altitude;
 }
 
 void AutopilotModule::step(AutopilotKnob which, int steps) {
@@ -110,7 +128,6 @@ void AutopilotModule::refresh() {
 }
 
 void AutopilotModule::turnPointers() {
-    constexpr double feetPerHundred = 100;
     columns[0].knob->setPointer(face.headingDigits.isCovered() ? 0 : face.c_HDG.get());
     columns[1].knob->setPointer(swept(face.c_TAS, APControlFace::maximumTAS));
     columns[2].knob->setPointer(swept(face.c_ALT / feetPerHundred, APControlFace::maximumALT));
@@ -124,7 +141,9 @@ void AutopilotModule::speak() {
         QString value = QString::fromStdString(spokenDigits(*readouts[i], 0, texts));
         if (columns[i].which == AutopilotKnob::altitude)
             value += QString(hundredFeetZeros, '0');
-        columns[i].knob->setValueText(value + ' ' + textOf(texts, columns[i].unit));
+        value += ' ' + textOf(texts, columns[i].unit);
+        columns[i].knob->setValueText(value);
+        setSpokenName(*columns[i].digits, value);
     }
 }
 

@@ -43,6 +43,7 @@ class AutopilotModule : public ModuleFrame {
     void connectKnob(AutopilotKnob which, KnobWidget& knob);
     void step(AutopilotKnob which, int steps);
     void change(const std::function<void()>& action);
+    [[nodiscard]] KnobTravel travel(AutopilotKnob which) const;
     void turnPointers();
     void speak();
     [[nodiscard]] double columnLeft(std::size_t column) const;

@@ -1,5 +1,7 @@
 #include "window/radios/dme_module.h"
 
+#include "window/radios/receiver_travel.h"
+#include "window/widgets/spoken.h"
 #include "window/widgets/text_of.h"
 
 #include <algorithm>
@@ -30,6 +32,7 @@ DmeModule::DmeModule(DMEControlFace& dme, PictureStore& pictures, const StringTa
         guard([this, steps] { steps > 0 ? face.stepUp() : face.stepDown(); });
         refresh();
     };
+    frequency.travel = [this] { return travelOf(face); };
     sourceSelector.guard = [this](const std::function<void()>& action) {
         guard(action);
         refresh();
@@ -57,9 +60,14 @@ void DmeModule::speak() {
         return;
     spoken = face.surface.revision();
     spokenOf = measured;
-    setAccessibleDescription(QString::fromStdString(spokenDme(face, measured, texts)));
-    frequency.setAccessibleDescription(
-        QString::fromStdString(spokenDigits(face.frequency, wholeMegahertz, texts)));
+    setSpokenDescription(*this, QString::fromStdString(spokenDme(face, measured, texts)));
+    const auto told = [this](const DigitReadout& digits, std::size_t pointAfter) {
+        return QString::fromStdString(spokenDigits(digits, pointAfter, texts));
+    };
+    setSpokenDescription(frequency, told(face.frequency, wholeMegahertz));
+    setSpokenName(distance, told(face.distance, face.wholeMiles() ? 0 : wholeMiles) + ' ' +
+                                textOf(texts, Text::unitNauticalMiles));
+    setSpokenName(speed, told(face.speed, 0) + ' ' + textOf(texts, Text::unitKnots));
 }
 
 void DmeModule::placeParts(const QRectF& body) {

@@ -1,6 +1,7 @@
 #include "window/radios/dme_selector.h"
 
 #include "look/panel_look.h"
+#include "window/widgets/spoken.h"
 #include "window/widgets/text_of.h"
 
 #include <QFontMetricsF>
@@ -43,7 +44,8 @@ DmeSelector::DmeSelector(DMEControlFace& dme, PictureStore& pictures, const Stri
       switchKnob(pictures, KnobCap::single, this) {
     setToolTip(textOf(texts, Text::dmeSourceTip));
     setCursor(Qt::PointingHandCursor);
-    switchKnob.setAccessibleName(textOf(texts, Text::spokenDmeSourceKnob));
+    setSpokenName(*this, textOf(texts, Text::spokenDmeSourceKnob));
+    setSpokenName(switchKnob, accessibleName());
     switchKnob.setScaleShown(false);
     connectKnob();
     refresh();
@@ -67,14 +69,22 @@ void DmeSelector::connectKnob() {
     };
     switchKnob.lost = [] {}; // a click that was not ended is none
     switchKnob.step = [this](int steps) { turnTo(positionOf(face.mode()) - steps); };
+    switchKnob.travel = [this]() -> KnobTravel {
+        constexpr double positions = modes.size();
+        return {
+            .value = positions - positionOf(face.mode()), .least = 1, .most = positions, .step = 1};
+    };
 }
 
 /// Up is towards the uppermost word.
 void DmeSelector::turnTo(int position) {
     const int last = static_cast<int>(modes.size()) - 1;
-    const DmeMode next = modes[static_cast<std::size_t>(std::clamp(position, 0, last))];
-    if (next != face.mode())
-        change([this, next] { face.selectMode(next); });
+    choose(modes[static_cast<std::size_t>(std::clamp(position, 0, last))]);
+}
+
+void DmeSelector::choose(DmeMode mode) {
+    if (mode != face.mode())
+        change([this, mode] { face.selectMode(mode); });
 }
 
 void DmeSelector::change(const std::function<void()>& action) {
@@ -86,7 +96,7 @@ void DmeSelector::refresh() {
     setEnabled(face.c_OnOff == 1);
     switchKnob.setDimmed(!isEnabled());
     switchKnob.setPointer(degreesOf(face.mode()));
-    switchKnob.setValueText(words[static_cast<std::size_t>(face.mode())]);
+    switchKnob.setValueText(word(face.mode()));
     if (shown == face.mode())
         return;
     shown = face.mode();
@@ -144,17 +154,18 @@ void DmeSelector::paintEvent(QPaintEvent* /*event*/) {
     const double rim = knobSide() / 2;
     constexpr double markFrom = 0.9;
     constexpr double markStrength = 0.6;
-    painter.setOpacity(isEnabled() ? 1 : look::dimmedOpacity);
+    const QColor chosenInk = isEnabled() ? look::measured : look::dimCaption;
+    const QColor ink = isEnabled() ? look::unit : look::dimCaption;
     for (const DmeMode mode : modes) {
         const bool chosen = mode == face.mode();
         const QRectF area = wordArea(mode);
-        painter.setPen(QPen(chosen ? look::measured : look::faded(look::unit, markStrength),
-                            chosen ? 2 * scale : scale));
+        painter.setPen(
+            QPen(chosen ? chosenInk : look::faded(ink, markStrength), chosen ? 2 * scale : scale));
         const double turn = degreesOf(mode) * std::numbers::pi / 180;
         const QPointF out(std::sin(turn), -std::cos(turn));
         painter.drawLine(centre + out * (rim * markFrom), centre + out * rim);
         painter.setFont(look::font(type * scale, chosen ? QFont::Bold : QFont::Normal));
-        painter.setPen(chosen ? look::measured : look::unit);
+        painter.setPen(chosen ? chosenInk : ink);
         painter.drawText(area.adjusted(wordGap * scale, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter,
                          words[static_cast<std::size_t>(mode)]);
     }

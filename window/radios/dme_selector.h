@@ -29,6 +29,13 @@ class DmeSelector : public QWidget {
     /// The middle of a word's area.
     [[nodiscard]] QPointF wordCentre(DmeMode mode) const;
     [[nodiscard]] KnobWidget& knob() { return switchKnob; }
+    [[nodiscard]] QRectF wordArea(DmeMode mode) const;
+    [[nodiscard]] const QString& word(DmeMode mode) const {
+        return words[static_cast<std::size_t>(mode)];
+    }
+    [[nodiscard]] DmeMode chosen() const { return face.mode(); }
+    /// Does what a click on a word does.
+    void choose(DmeMode mode);
 
     ModelGuard guard = unguarded();
 
@@ -42,7 +49,6 @@ class DmeSelector : public QWidget {
   private:
     [[nodiscard]] double rowHeight() const;
     [[nodiscard]] double knobSide() const;
-    [[nodiscard]] QRectF wordArea(DmeMode mode) const;
     [[nodiscard]] Point twipsIn(DmeMode word, QPointF at) const;
     void connectKnob();
     void turnTo(int position);

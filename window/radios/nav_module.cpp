@@ -1,6 +1,8 @@
 #include "window/radios/nav_module.h"
 
 #include "window/dials/spoken_reading.h"
+#include "window/radios/receiver_travel.h"
+#include "window/widgets/spoken.h"
 #include "window/widgets/text_of.h"
 
 namespace tarnel {
@@ -40,6 +42,7 @@ void NavModule::connectKnob() {
     frequencyKnob.step = [this](int steps) {
         change([this, steps] { steps > 0 ? face.stepUp() : face.stepDown(); });
     };
+    frequencyKnob.travel = [this] { return travelOf(face); };
 }
 
 void NavModule::change(const std::function<void()>& action) {
@@ -56,8 +59,10 @@ void NavModule::refresh() {
     if (face.surface.revision() == spoken)
         return;
     spoken = face.surface.revision();
-    frequencyKnob.setValueText(
-        QString::fromStdString(spokenDigits(face.frequency, words.pointAfter, texts)));
+    const QString told =
+        QString::fromStdString(spokenDigits(face.frequency, words.pointAfter, texts));
+    frequencyKnob.setValueText(told);
+    setSpokenName(digits, told);
 }
 
 void NavModule::placeParts(const QRectF& body) {

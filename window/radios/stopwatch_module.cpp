@@ -1,6 +1,7 @@
 #include "window/radios/stopwatch_module.h"
 
 #include "window/dials/spoken_reading.h"
+#include "window/widgets/spoken.h"
 #include "window/widgets/text_of.h"
 
 #include <algorithm>
@@ -31,8 +32,9 @@ void StopwatchModule::refresh() {
     if (face.surface.revision() == spoken)
         return;
     spoken = face.surface.revision();
-    setAccessibleDescription(
-        QString::fromStdString(spokenDigits(face.digits, minuteDigits, texts)));
+    const QString told = QString::fromStdString(spokenDigits(face.digits, minuteDigits, texts));
+    setSpokenDescription(*this, told);
+    setSpokenName(digits, told);
 }
 
 /// Of either button, wide enough for every word that the first one can bear.

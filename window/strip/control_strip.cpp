@@ -10,6 +10,8 @@
 #include "window/widgets/help_page.h"
 #include "window/widgets/icons.h"
 #include "window/widgets/segment_row.h"
+#include "window/widgets/spoken.h"
+#include "window/widgets/wrap_layout.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -46,7 +48,7 @@ ControlStrip::ControlStrip(const StripModel& stripModel, FormBinding& links, QWi
     rows->addLayout(makeFlightRow());
     rows->addLayout(makeTabRow());
     rows->addWidget(makePages(), 1);
-    startButton->setIcon(signIcon(Sign::play, Qt::white));
+    startButton->setIcon(signIcon(Sign::play, inkOnAccent));
     startButton->setFocus();
 }
 
@@ -65,21 +67,24 @@ void ControlStrip::tellKeys() {
     binding.tellKey(model.controls.radialCycleButton, 'R');
 }
 
-QHBoxLayout* ControlStrip::makeFlightRow() {
-    auto* row = new QHBoxLayout;
-    row->setSpacing(gapInRow);
+/// With large texts the speeds stand in a line of their own.
+QLayout* ControlStrip::makeFlightRow() {
+    auto* row = new WrapLayout(WrapLayout::Manner::flowing, gapInRow + 8, rowGap);
     startButton = new QPushButton(this);
     startButton->setProperty("primary", true);
     binding.bind(model.controls.startButton, *startButton);
     row->addWidget(startButton);
-    row->addSpacing(8);
+    auto* speeds = new QHBoxLayout;
+    speeds->setSpacing(gapInRow);
     speedCaption = captioned(Text::speed);
-    row->addWidget(speedCaption);
-    row->addWidget(segmentRow(binding,
-                              {&model.controls.rateHalf, &model.controls.rateReal,
-                               &model.controls.rateDouble, &model.controls.rateQuadruple},
-                              this),
-                   1);
+    speeds->addWidget(speedCaption);
+    QWidget* segments = segmentRow(binding, speedCaption->text(),
+                                   {&model.controls.rateHalf, &model.controls.rateReal,
+                                    &model.controls.rateDouble, &model.controls.rateQuadruple},
+                                   this);
+    segments->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    speeds->addWidget(segments, 1);
+    row->addLayout(speeds);
     return row;
 }
 
@@ -89,19 +94,23 @@ std::vector<OptionButton*> ControlStrip::pageOptions() {
     return {&options.chart, &options.replay, &options.wind, &options.stations};
 }
 
-QHBoxLayout* ControlStrip::makeTabRow() {
-    auto* row = new QHBoxLayout;
-    row->setSpacing(0);
+/// With large texts the readouts stand in a line of their own.
+QLayout* ControlStrip::makeTabRow() {
+    auto* row = new WrapLayout(WrapLayout::Manner::flowing, 0, 0);
     auto* tabs = new StripTabs(this);
+    setSpokenName(*tabs, textOf(model.boxes.texts, Text::stripPages));
     binding.bind(pageOptions(), *tabs);
     const auto follow = [tabs](int page) { setHelpPage(*tabs, pageHelp[page]); };
     connect(tabs, &QTabBar::currentChanged, tabs, follow);
     follow(tabs->currentIndex());
     row->addWidget(tabs);
-    row->addStretch(1);
-    addReadout(*row, Text::autopilotSpeed, model.controls.speedReadout, Text::unitKnots);
-    row->addSpacing(12);
-    addReadout(*row, Text::turnRate, model.controls.turnReadout, Text::unitDegreesPerSecond);
+    auto* readouts = new QHBoxLayout;
+    readouts->setSpacing(0);
+    readouts->addStretch(1);
+    addReadout(*readouts, Text::autopilotSpeed, model.controls.speedReadout, Text::unitKnots);
+    readouts->addSpacing(12);
+    addReadout(*readouts, Text::turnRate, model.controls.turnReadout, Text::unitDegreesPerSecond);
+    row->addLayout(readouts);
     return row;
 }
 
@@ -151,7 +160,7 @@ void ControlStrip::refresh() {
     if (runs == startShowsStop)
         return;
     startShowsStop = runs;
-    startButton->setIcon(signIcon(runs ? Sign::stop : Sign::play, Qt::white));
+    startButton->setIcon(signIcon(runs ? Sign::stop : Sign::play, inkOnAccent));
 }
 
 int ControlStrip::wantedHeight(int width) const {
@@ -160,21 +169,22 @@ int ControlStrip::wantedHeight(int width) const {
     int tallest = 0;
     for (const StripPage* page : pages)
         tallest = std::max(tallest, page->heightForWidth(inner));
-    return heightWith(tallest);
+    return heightWith(tallest, width);
 }
 
-int ControlStrip::leastHeight() const {
+int ControlStrip::leastHeight(int width) const {
     constexpr int lines = 2;
     constexpr int lineGap = 3;
     const int line = startButton->sizeHint().height();
-    return heightWith(lines * line - lineGap);
+    return heightWith(lines * line - lineGap, width);
 }
 
-int ControlStrip::heightWith(int page) const {
+int ControlStrip::heightWith(int page, int width) const {
     const QMargins margins = layout()->contentsMargins();
+    const int inner = width - margins.left() - margins.right();
     int height = margins.top() + margins.bottom() + page;
     for (int i = 0; i + 1 < layout()->count(); ++i)
-        height += layout()->itemAt(i)->sizeHint().height() + rowGap;
+        height += layout()->itemAt(i)->heightForWidth(inner) + rowGap;
     return height;
 }
 
@@ -188,7 +198,7 @@ void ControlStrip::resizeEvent(QResizeEvent*) {
 void ControlStrip::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     paintCard(painter, rect());
-    painter.setPen(look::hairline);
+    painter.setPen(look::colours().hairline);
     const int line = scroll->y() - rowGap;
     painter.drawLine(look::cardInset, line, width() - look::cardInset, line);
 }

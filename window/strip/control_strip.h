@@ -31,17 +31,17 @@ class ControlStrip : public QWidget {
     /// The height at which every page has room at a width.
     [[nodiscard]] int wantedHeight(int width) const;
     /// The height that it does with, since its pages scroll.
-    [[nodiscard]] int leastHeight() const;
+    [[nodiscard]] int leastHeight(int width) const;
 
   protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
   private:
-    QHBoxLayout* makeFlightRow();
-    QHBoxLayout* makeTabRow();
+    QLayout* makeFlightRow();
+    QLayout* makeTabRow();
     QScrollArea* makePages();
-    [[nodiscard]] int heightWith(int page) const;
+    [[nodiscard]] int heightWith(int page, int width) const;
     std::vector<OptionButton*> pageOptions();
     void addReadout(QHBoxLayout& row, Text name, TextPanel& readout, Text unit);
     QLabel* captioned(Text text);

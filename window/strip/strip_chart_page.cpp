@@ -48,7 +48,7 @@ void StripChartPage::addScale() {
     row->addWidget(captioned(Text::unitNauticalMiles));
     line->addWidget(group);
     auto* cycle = new QToolButton(this);
-    cycle->setIcon(signIcon(Sign::radial, look::ink));
+    cycle->setIcon(signIcon(Sign::radial));
     binding.bind(model.controls.radialCycleButton, *cycle);
     line->addWidget(cycle);
 }

@@ -40,7 +40,7 @@ StripReplayPage::StripReplayPage(const StripModel& stripModel, FormBinding& link
 template <class Control>
 void StripReplayPage::addSign(QBoxLayout& row, Control& control, Sign sign) {
     auto* button = new QToolButton(this);
-    button->setIcon(signIcon(sign, look::ink));
+    button->setIcon(signIcon(sign));
     binding.bind(control, *button);
     row.addWidget(button);
 }

@@ -14,7 +14,8 @@ StripWindPage::StripWindPage(const StripModel& stripModel, FormBinding& links, Q
     : StripPage(stripModel, links, parent) {
     WindPage& page = model.controls.windPage;
     WrapLayout* modes = addLine();
-    modes->addWidget(segmentRow(binding, {&page.none, &page.manual, &page.random}, this));
+    modes->addWidget(segmentRow(binding, textOf(model.boxes.texts, Text::pageWind),
+                                {&page.none, &page.manual, &page.random}, this));
     auto* draw = new QPushButton(this);
     binding.bind(page.draw, *draw);
     modes->addWidget(draw);

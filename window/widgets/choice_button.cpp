@@ -6,6 +6,8 @@
 #include <QFontInfo>
 #include <QFontMetrics>
 
+#include <algorithm>
+
 namespace tarnel {
 
 ChoiceButton::ChoiceButton(int padding, QWidget* parent)
@@ -18,9 +20,9 @@ QSize ChoiceButton::sizeHint() const {
     QFont bold = font();
     bold.setBold(true);
     const double scale = static_cast<double>(QFontInfo(bold).pixelSize()) / look::denseType;
-    const int width = QFontMetrics(bold).horizontalAdvance(text()) +
+    const int width = QFontMetrics(bold).size(Qt::TextShowMnemonic, text()).width() +
                       static_cast<int>(std::lround(paddingAtScale1 * scale));
-    return {width, QPushButton::sizeHint().height()};
+    return {std::max(width, look::leastTarget), QPushButton::sizeHint().height()};
 }
 
 void showChosen(QAbstractButton& button, bool chosen) {

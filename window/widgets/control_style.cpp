@@ -32,8 +32,11 @@ int fieldSize(const QFontMetrics& metrics) {
     return metrics.height() - 1;
 }
 
-void paintTick(QPainter& painter, const QRectF& field, const QStyleOption& option) {
-    painter.setPen(QPen(Qt::white, field.width() / 7, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+/// On a field of colour `ground`.
+void paintTick(QPainter& painter, const QRectF& field, const QColor& ground,
+               const QStyleOption& option) {
+    painter.setPen(
+        QPen(look::markOn(ground), field.width() / 7, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     const auto at = [&field](double x, double y) {
         return QPointF(field.x() + x * field.width(), field.y() + y * field.height());
     };
@@ -44,20 +47,21 @@ void paintTick(QPainter& painter, const QRectF& field, const QStyleOption& optio
 }
 
 void paintTickBox(QPainter& painter, const QStyleOptionButton& box) {
-    if (!is(box, QStyle::State_Enabled))
-        painter.setOpacity(look::disabledOpacity);
+    const look::Colours& colours = look::colours();
+    const bool enabled = is(box, QStyle::State_Enabled);
     const int side = fieldSize(box.fontMetrics);
     const QRectF field(box.rect.x() + 1, box.rect.y() + (box.rect.height() - side) / 2.0, side,
                        side);
     const bool filled = !is(box, QStyle::State_Off);
-    painter.setPen(QPen(filled || isActive(box) ? look::accent : look::unit,
+    const QColor mark = enabled ? colours.accent : colours.disabledInk;
+    painter.setPen(QPen(filled || isActive(box) ? mark : colours.disabledInk,
                         is(box, QStyle::State_HasFocus) ? 2 : 1.2));
-    painter.setBrush(filled ? look::accent : look::paper);
+    painter.setBrush(filled ? mark : enabled ? colours.field : colours.card);
     painter.drawRoundedRect(field.adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
-    paintTick(painter, field, box);
-    painter.setPen(look::ink);
+    paintTick(painter, field, mark, box);
+    painter.setPen(enabled ? colours.ink : colours.disabledInk);
     painter.drawText(box.rect.adjusted(side + spaceBeforeText, 0, 0, 0),
-                     Qt::AlignVCenter | Qt::AlignLeft | Qt::TextHideMnemonic, box.text);
+                     Qt::AlignVCenter | Qt::AlignLeft | Qt::TextShowMnemonic, box.text);
 }
 
 /// What a list looks like in a place of its own.
@@ -69,37 +73,40 @@ struct ListLook {
     QColor ink;
     QColor arrow;
     double inset;
-    double disabledOpacity;
 };
 
-ListLook lookOf(const QStyleOptionComboBox& list, bool dark) {
+ListLook panelLook(const QStyleOptionComboBox& list) {
+    const bool enabled = is(list, QStyle::State_Enabled);
+    const QBrush plate = look::downward(0, list.rect.height(), look::moduleTop, look::moduleBottom);
+    return {.edge = enabled ? look::bezelTop.lighter(125) : look::moduleTop,
+            .edgeUnderMouse = look::unit,
+            .edgeInFocus = look::panelAccent,
+            .ground = enabled ? plate : QBrush(look::panelTop),
+            .ink = enabled ? look::caption : look::dimCaption,
+            .arrow = enabled ? look::unit : look::bezelTop,
+            .inset = 8};
+}
+
+ListLook lookOf(const QStyleOptionComboBox& list) {
+    const look::Colours& colours = look::colours();
+    const bool enabled = is(list, QStyle::State_Enabled);
     const bool focused = is(list, QStyle::State_HasFocus);
-    if (dark)
-        return {look::bezelTop.lighter(125),
-                look::unit,
-                look::panelAccent,
-                look::downward(0, list.rect.height(), look::moduleTop, look::moduleBottom),
-                look::caption,
-                look::unit,
-                8,
-                look::dimmedOpacity};
-    return {look::line,
-            look::accent,
-            look::accent,
-            focused ? look::onPaper(look::accent, 0.08) : look::paper,
-            list.palette.color(QPalette::ButtonText),
-            look::secondaryInk,
-            10,
-            look::disabledOpacity};
+    return {.edge = enabled ? colours.line : colours.hairline,
+            .edgeUnderMouse = colours.accent,
+            .edgeInFocus = colours.accent,
+            .ground = !enabled  ? colours.card
+                      : focused ? colours.focusTint
+                                : colours.field,
+            .ink = enabled ? list.palette.color(QPalette::ButtonText) : colours.disabledInk,
+            .arrow = enabled ? colours.secondaryInk : colours.disabledInk,
+            .inset = 10};
 }
 
 void paintList(QPainter& painter, const QStyleOptionComboBox& list, double scale, bool dark) {
     constexpr double arrowWidth = 8;
-    const ListLook looks = lookOf(list, dark);
+    const ListLook looks = dark ? panelLook(list) : lookOf(list);
     const bool focused = is(list, QStyle::State_HasFocus);
     const double edge = focused ? 2 : 1;
-    if (!is(list, QStyle::State_Enabled))
-        painter.setOpacity(looks.disabledOpacity);
     painter.setPen(QPen(focused          ? looks.edgeInFocus
                         : isActive(list) ? looks.edgeUnderMouse
                                          : looks.edge,
@@ -118,7 +125,7 @@ void paintList(QPainter& painter, const QStyleOptionComboBox& list, double scale
                                    middle + QPointF(half, -half / 2)});
 }
 
-/// A key of the panel, which gives way under the hand.
+/// A key of the panel, which gives way under the hand; locked it lies flat in the panel.
 void paintKey(QPainter& painter, const QStyleOptionButton& option) {
     constexpr double roundingShare = 4.0 / 24;
     constexpr double light = 0.09;
@@ -126,14 +133,19 @@ void paintKey(QPainter& painter, const QStyleOptionButton& option) {
     const QRectF key = QRectF(option.rect).adjusted(1, 1, -1, -1);
     const double round = roundingShare * option.rect.height();
     const bool down = is(option, QStyle::State_Sunken);
-    if (!is(option, QStyle::State_Enabled))
-        painter.setOpacity(look::dimmedOpacity);
+    painter.setPen(QPen(look::panelRing, 1));
+    if (!is(option, QStyle::State_Enabled)) {
+        painter.setBrush(look::panelTop);
+        painter.drawRoundedRect(key, round, round);
+        painter.setPen(look::dimCaption);
+        painter.drawText(key, Qt::AlignCenter, option.text);
+        return;
+    }
     const QColor upper = down ? look::keyBottom : look::keyTop;
     const QColor lower = down ? look::bezelBottom : look::keyBottom;
-    painter.setPen(QPen(look::panelRing, 1));
     painter.setBrush(look::downward(key.top(), key.bottom(), upper, lower));
     painter.drawRoundedRect(key, round, round);
-    if (is(option, QStyle::State_MouseOver) && is(option, QStyle::State_Enabled) && !down) {
+    if (is(option, QStyle::State_MouseOver) && !down) {
         painter.setBrush(look::faded(Qt::white, light));
         painter.drawRoundedRect(key, round, round);
     }
@@ -161,6 +173,11 @@ void apart(QPainter& painter, const Paint& paint) {
 
 ControlStyle::ControlStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
 
+/// Qt asks with the desktop's palette, at the start and whenever that changes.
+void ControlStyle::polish(QPalette& palette) {
+    palette = look::paletteOf(look::coloursFor(palette));
+}
+
 void ControlStyle::drawControl(ControlElement element, const QStyleOption* option,
                                QPainter* painter, const QWidget* widget) const {
     const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
@@ -186,10 +203,14 @@ void ControlStyle::drawComplexControl(ComplexControl control, const QStyleOption
 
 QSize ControlStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
                                      const QSize& contents, const QWidget* widget) const {
-    if (type != CT_CheckBox)
-        return QProxyStyle::sizeFromContents(type, option, contents, widget);
-    return {fieldSize(option->fontMetrics) + spaceBeforeText + contents.width() + 2,
-            option->fontMetrics.height() + 5};
+    QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    if (type == CT_CheckBox)
+        size = {fieldSize(option->fontMetrics) + spaceBeforeText + contents.width() + 2,
+                option->fontMetrics.height() + 5};
+    if (type == CT_CheckBox || type == CT_RadioButton || type == CT_ComboBox ||
+        type == CT_ItemViewItem || type == CT_MenuItem)
+        size.setHeight(std::max(size.height(), look::leastTarget));
+    return size;
 }
 
 /// A tick box is clicked on its field and on its text.

@@ -1,6 +1,7 @@
 #include "window/widgets/cover_plate.h"
 
 #include "look/panel_look.h"
+#include "window/widgets/spoken.h"
 #include "window/widgets/text_of.h"
 
 #include <QPainter>
@@ -22,14 +23,15 @@ constexpr double leastLetters = 11; ///< px
 
 CoverPlate::CoverPlate(const StringTable& texts, QWidget* parent)
     : QWidget(parent), name(textOf(texts, Text::instrumentCovered)) {
-    setAccessibleName(name);
+    setSpokenRole(*this, QAccessible::StaticText);
+    setSpokenName(*this, name);
 }
 
 void CoverPlate::setReason(const QString& text) {
     if (text == reason)
         return;
     reason = text;
-    setAccessibleDescription(reason);
+    setSpokenDescription(*this, reason);
     update();
 }
 

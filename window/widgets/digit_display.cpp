@@ -2,6 +2,7 @@
 
 #include "look/panel_look.h"
 #include "window/widgets/picture_store.h"
+#include "window/widgets/spoken.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -23,7 +24,7 @@ constexpr double highestShare = 0.64;
 constexpr double wellPerDigit = 1.9;
 constexpr double labelInset = 9;
 constexpr double wellRounding = 4;
-constexpr double zerosOpacity = 0.45;
+constexpr double zerosOpacity = 0.62;
 constexpr std::int16_t zeroPicture = 1;
 
 } // namespace
@@ -34,7 +35,9 @@ DigitDisplay::DigitDisplay(const DigitReadout& digits, PictureStore& store, Digi
       readout(digits),
       pictures(store),
       style(std::move(look)),
-      shown(digits.pictures()) {}
+      shown(digits.pictures()) {
+    setSpokenRole(*this, QAccessible::StaticText);
+}
 
 void DigitDisplay::refresh() {
     if (shown == readout.pictures())
@@ -145,11 +148,11 @@ void DigitDisplay::paintLabel(QPainter& painter) const {
     const double row = look::unitType * rowShare * scale;
     QRectF line(labelInset * scale, height() / 2.0 - row, width(), row);
     painter.setFont(look::font(look::unitType * scale, QFont::Bold));
-    painter.setPen(look::faded(colour(), labelOpacity));
+    painter.setPen(look::faded(colour(), dimmed ? 1 : labelOpacity));
     painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter, style.label);
     line.translate(0, row);
     painter.setFont(look::font(look::unitType * scale));
-    painter.setPen(look::faded(colour(), unitOpacity));
+    painter.setPen(look::faded(colour(), dimmed ? 1 : unitOpacity));
     painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter, style.unit);
     painter.setPen(Qt::NoPen);
 }
@@ -180,7 +183,7 @@ void DigitDisplay::paintDigits(QPainter& painter) const {
     }
     if (shown.front() >= DigitReadout::dashPicture)
         return;
-    painter.setOpacity(painter.opacity() * zerosOpacity);
+    painter.setOpacity(std::min(painter.opacity(), zerosOpacity));
     for (int i = 0; i < style.printedZeros; ++i)
         paintDigit(zeroPicture);
 }

@@ -1,8 +1,10 @@
 #include "window/widgets/form_binding.h"
 
 #include "window/widgets/choice_button.h"
+#include "window/widgets/mnemonics.h"
 #include "window/widgets/quiz_list.h"
 #include "window/widgets/replay_bar.h"
+#include "window/widgets/spoken.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -21,12 +23,6 @@ QString nameOf(const FormControl& control) {
 }
 
 namespace {
-
-/// A name that is set anew is announced, even the same.
-void speak(QWidget& widget, const QString& name) {
-    if (widget.accessibleName() != name)
-        widget.setAccessibleName(name);
-}
 
 /// A box shows the value 2 as partly ticked; another button has no such state.
 void showValue(QAbstractButton& button, int value) {
@@ -69,7 +65,7 @@ void FormBinding::showCommon(const FormControl& control, QWidget& widget) const 
     if (control.tip())
         widget.setToolTip(tipOf(control));
     if (control.caption())
-        speak(widget, captionOf(control));
+        setSpokenName(widget, captionOf(control));
 }
 
 void FormBinding::bind(CommandButton& control, QAbstractButton& button) {
@@ -77,7 +73,7 @@ void FormBinding::bind(CommandButton& control, QAbstractButton& button) {
             [this, &control] { guarded([&control] { control.click(); }); });
     follow([this, &control, &button] {
         showCommon(control, button);
-        button.setText(captionOf(control));
+        button.setText(withMnemonicOf(button, captionOf(control)));
     });
 }
 
@@ -101,7 +97,7 @@ void FormBinding::bind(CheckBox& control, QAbstractButton& button, std::function
             });
     follow([this, &control, &button] {
         showCommon(control, button);
-        button.setText(captionOf(control));
+        button.setText(withMnemonicOf(button, captionOf(control)));
         showValue(button, control.value());
     });
 }
@@ -119,7 +115,8 @@ void FormBinding::bind(CheckBox& control, QAction& action) {
 }
 
 void FormBinding::bind(OptionButton& control, QAbstractButton& button) {
-    bindOption(control, button, [this, &control] { return captionOf(control); });
+    bindOption(control, button,
+               [this, &control, &button] { return withMnemonicOf(button, captionOf(control)); });
 }
 
 /// Its text comes from a file: an ampersand there is no mark of a key.
@@ -174,7 +171,7 @@ void FormBinding::bind(SelectionList& control, QComboBox& list) {
     follow([this, &control, &list] {
         showCommon(control, list);
         if (control.tip())
-            speak(list, textOf(texts, *control.tip()));
+            setSpokenName(list, textOf(texts, *control.tip()));
         list.setCurrentIndex(control.index());
     });
 }

@@ -1,5 +1,7 @@
 #include "window/widgets/icons.h"
 
+#include "look/panel_look.h"
+
 #include <QIconEngine>
 #include <QPainter>
 #include <QPainterPath>
@@ -93,7 +95,7 @@ void paintVerdict(QPainter& painter, bool isRight, const QColor& colour) {
     painter.setPen(Qt::NoPen);
     painter.setBrush(colour);
     painter.drawEllipse(QPointF(8, 8), 7, 7);
-    painter.setPen(QPen(Qt::white, 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setPen(QPen(look::markOn(colour), 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     paintMark(painter, isRight);
 }
 
@@ -138,13 +140,11 @@ void paintOnGrid(QPainter& painter, Sign sign, const QColor& colour) {
 /// Paints a sign at the size and in the state that is asked for.
 class SignEngine : public QIconEngine {
   public:
-    SignEngine(Sign which, const QColor& ink) : sign(which), colour(ink) {}
+    SignEngine(Sign which, SignInk usual, SignInk whenDisabled)
+        : sign(which), ink(usual), disabledInk(whenDisabled) {}
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
-        QColor ink = colour;
-        if (mode == QIcon::Disabled)
-            ink.setAlphaF(0.35F);
-        paintSign(*painter, sign, rect, ink);
+        paintSign(*painter, sign, rect, mode == QIcon::Disabled ? disabledInk() : ink());
     }
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
         QPixmap image(size);
@@ -157,7 +157,8 @@ class SignEngine : public QIconEngine {
 
   private:
     Sign sign;
-    QColor colour;
+    SignInk ink;
+    SignInk disabledInk;
 };
 
 } // namespace
@@ -172,8 +173,21 @@ void paintSign(QPainter& painter, Sign sign, const QRectF& square, const QColor&
     painter.restore();
 }
 
-QIcon signIcon(Sign sign, const QColor& colour) {
-    return QIcon(new SignEngine(sign, colour));
+QIcon signIcon(Sign sign, SignInk ink) {
+    return QIcon(new SignEngine(sign, ink, [] { return look::colours().disabledInk; }));
+}
+
+QIcon panelSignIcon(Sign sign) {
+    return QIcon(new SignEngine(
+        sign, [] { return look::caption; }, [] { return look::dimCaption; }));
+}
+
+QColor plainInk() {
+    return look::colours().ink;
+}
+
+QColor inkOnAccent() {
+    return look::colours().onAccent;
 }
 
 } // namespace tarnel

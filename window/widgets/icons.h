@@ -28,7 +28,15 @@ enum class Sign {
 /// Paints `sign` into a square.
 void paintSign(QPainter& painter, Sign sign, const QRectF& square, const QColor& colour);
 
-/// An icon that stays sharp at every size.
-[[nodiscard]] QIcon signIcon(Sign sign, const QColor& colour);
+/// Says which colour a sign has now: the window's colours follow the desktop.
+using SignInk = QColor (*)();
+[[nodiscard]] QColor plainInk();
+[[nodiscard]] QColor inkOnAccent(); ///< of what is primary
+
+/// An icon that stays sharp at every size, and follows the colours that are in use.
+[[nodiscard]] QIcon signIcon(Sign sign, SignInk ink = plainInk);
+
+/// The same for a key of the dark panel.
+[[nodiscard]] QIcon panelSignIcon(Sign sign);
 
 } // namespace tarnel

@@ -130,12 +130,17 @@ void KnobWidget::keyPressEvent(QKeyEvent* event) {
     show(&KnobLook::focused, true);
     if (upright && step)
         step(*upright);
-    else if (isClickKey(*event) && doubleClick)
-        doubleClick();
-    else if (isClickKey(*event) && step)
-        step(1);
+    else if (isClickKey(*event))
+        click();
     else
         QWidget::keyPressEvent(event);
+}
+
+void KnobWidget::click() {
+    if (doubleClick)
+        doubleClick();
+    else if (step)
+        step(1);
 }
 
 void KnobWidget::enterEvent(QEnterEvent* /*event*/) {

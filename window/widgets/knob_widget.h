@@ -4,6 +4,7 @@
 #include "instruments/knob_drag.h"
 #include "look/panel_look.h"
 #include "window/widgets/knob_drawing.h"
+#include "window/widgets/knob_travel.h"
 #include "window/widgets/mouse_hold.h"
 #include "window/widgets/panel_input.h"
 
@@ -29,6 +30,8 @@ class KnobWidget : public QWidget {
     /// What a screen reader says of its position.
     void setValueText(const QString& text);
     [[nodiscard]] const QString& valueText() const { return value; }
+    /// What Space and Enter do: a double click, or a step where that means nothing.
+    void click();
     void setTwipsPerPixel(double twips) { twipsPerPixel = twips; }
     /// Whether the marks around the cap are painted.
     void setScaleShown(bool shown) { scaleShown = shown; }
@@ -42,7 +45,8 @@ class KnobWidget : public QWidget {
     /// this call a release.
     std::function<void()> lost;
     std::function<void()> doubleClick;
-    std::function<void(int)> step; ///< by wheel and keys
+    std::function<void(int)> step;      ///< by wheel and keys
+    std::function<KnobTravel()> travel; ///< where it stands, as a number
 
   protected:
     void paintEvent(QPaintEvent* event) override;

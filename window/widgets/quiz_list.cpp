@@ -144,8 +144,9 @@ void QuizList::wheelEvent(QWheelEvent* event) {
 /// What only asks to select is no answer.
 void QuizList::initStyleOption(QStyleOptionComboBox* option) const {
     QComboBox::initStyleOption(option);
-    option->palette.setColor(QPalette::ButtonText,
-                             currentIndex() > 0 ? look::ink : look::secondaryInk);
+    option->palette.setColor(QPalette::ButtonText, currentIndex() > 0
+                                                       ? look::colours().ink
+                                                       : look::colours().secondaryInk);
 }
 
 } // namespace tarnel

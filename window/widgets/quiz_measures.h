@@ -15,6 +15,8 @@ inline constexpr int rowGap = 3;          ///< between rows
 inline constexpr int compactHeight = 22;  ///< of a row that can't be answered, beside a replay
 inline constexpr int compactGap = 3;
 
+inline constexpr double largeTexts = 1.25; ///< the text scale from which parts move together
+
 /// The text scale of a widget that the style sheet has dressed.
 inline double scaleOf(const QWidget& widget) {
     return QFontInfo(widget.font()).pixelSize() / static_cast<double>(look::bodyType);

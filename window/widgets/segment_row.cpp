@@ -1,6 +1,7 @@
 #include "window/widgets/segment_row.h"
 
 #include "window/widgets/choice_button.h"
+#include "window/widgets/spoken.h"
 
 #include <QHBoxLayout>
 
@@ -12,9 +13,10 @@ constexpr int segmentPadding = 14;
 
 } // namespace
 
-QWidget* segmentRow(FormBinding& binding, std::initializer_list<OptionButton*> options,
-                    QWidget* parent) {
+QWidget* segmentRow(FormBinding& binding, const QString& name,
+                    std::initializer_list<OptionButton*> options, QWidget* parent) {
     auto* bar = new QWidget(parent);
+    setSpokenName(*bar, name);
     auto* row = new QHBoxLayout(bar);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(0);

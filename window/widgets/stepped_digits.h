@@ -1,6 +1,7 @@
 #pragma once
 
 #include "window/widgets/digit_display.h"
+#include "window/widgets/knob_travel.h"
 #include "window/widgets/panel_input.h"
 
 #include <functional>
@@ -17,7 +18,11 @@ class SteppedDigits : public DigitDisplay {
     /// Whether the digits take the hand at present.
     void setOffered(bool offered);
 
+    /// Steps them if they are offered.
+    void stepBy(int steps);
+
     std::function<void(int)> step;
+    std::function<KnobTravel()> travel; ///< where they stand, as a number
 
   protected:
     void paintOver(QPainter& painter) override;
@@ -29,8 +34,6 @@ class SteppedDigits : public DigitDisplay {
     void leaveEvent(QEvent* event) override;
 
   private:
-    void stepBy(int steps);
-
     WheelNotches notches;
     bool offered = false;
     bool pressed = false; ///< with the left button, which steps when it is released

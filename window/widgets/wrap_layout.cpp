@@ -9,6 +9,12 @@ WrapLayout::WrapLayout(Manner wanted, int gapAcross, int gapDown)
     setContentsMargins(0, 0, 0, 0);
 }
 
+/// One by one, as a layout within this one takes itself out when it goes.
+WrapLayout::~WrapLayout() {
+    while (!items.empty())
+        delete takeAt(0);
+}
+
 void WrapLayout::addItem(QLayoutItem* item) {
     items.emplace_back(item);
 }

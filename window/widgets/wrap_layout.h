@@ -15,6 +15,7 @@ class WrapLayout : public QLayout {
     enum class Manner { flowing, inColumns };
 
     explicit WrapLayout(Manner manner, int gapAcross, int gapDown);
+    ~WrapLayout() override;
 
     void addItem(QLayoutItem* item) override;
     void addLayout(QLayout* layout);
