@@ -7,7 +7,9 @@ namespace tarnel {
 namespace {
 
 constexpr char32_t firstAccented = 0xC0;
-/// The letters U+00C0 to U+017F without their accents; a blank is no letter.
+constexpr char noLetter = ' ';
+/// The letters U+00C0 to U+017F without their accents; the signs of times and division among them
+/// are none.
 constexpr std::string_view plainLetters = "aaaaaaaceeeeiiiidnooooo ouuuuyts" // U+00C0
                                           "aaaaaaaceeeeiiiidnooooo ouuuuyty" // U+00E0
                                           "aaaaaaccccccccdd"                 // U+0100
@@ -26,9 +28,10 @@ char plainLetter(std::string_view character) {
     const auto lead = static_cast<unsigned char>(character[0]);
     const auto trail = static_cast<unsigned char>(character[1]);
     const char32_t code = static_cast<char32_t>((lead & 0x1F) << 6) | (trail & 0x3F);
-    return code >= firstAccented && code - firstAccented < plainLetters.size()
-               ? plainLetters[code - firstAccented]
-               : '\0';
+    if (code < firstAccented || code - firstAccented >= plainLetters.size())
+        return 0;
+    const char letter = plainLetters[code - firstAccented];
+    return letter == noLetter ? '\0' : letter;
 }
 
 /// Whether `letter` is only the other way to write the umlaut of the one before.
