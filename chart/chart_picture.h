@@ -30,6 +30,7 @@ struct RadialLines {
     Line borderRight;
     Slot station = Slot::vor1; ///< that it belongs to
     double angle = 0; ///< degrees from the top of the chart, for the lettering along the line
+    bool operator==(const RadialLines&) const = default;
 };
 
 struct LocalizerLines {
@@ -38,6 +39,7 @@ struct LocalizerLines {
     Line rightEdge;
     Line leftClosing;
     Line rightClosing;
+    bool operator==(const LocalizerLines&) const = default;
 };
 
 struct AirplaneLines {

@@ -11,6 +11,7 @@ struct GridPlace {
     Spot origin; ///< a crossing of two ten-mile lines
     double pixelsPerMile = 0;
     double rotation = 0; ///< degrees clockwise
+    bool operator==(const GridPlace&) const = default;
 };
 
 enum class GridLine { mile, fiveMiles, tenMiles };

@@ -1,8 +1,11 @@
 #include "window/chart/chart_dots.h"
+#include "window/chart/chart_ground.h"
 
 #include <QImage>
 #include <QPainter>
 #include <gtest/gtest.h>
+
+#include <functional>
 
 namespace tarnel {
 namespace {
@@ -35,7 +38,7 @@ QImage painted(const DotLayer& layer, double pixelRatio) {
     image.fill(Qt::white);
     QPainter painter(&image);
     ChartDots dots;
-    dots.paint(painter, ChartFrame(200, 4000, pixelRatio), layer, diameter);
+    dots.paint(painter, ChartFrame(200, 4000, pixelRatio), layer.all(), diameter);
     return image;
 }
 
@@ -65,6 +68,53 @@ TEST(ChartDots, BesideThePaperAreNotPainted) {
     layer.plot(1000, 32767, black);
     layer.plot(-32768, -32768, black);
     EXPECT_EQ(inkOn(painted(layer, 1)).amount, 0);
+}
+
+QImage painted(ChartGround& ground, const ChartPicture& picture, const GridPlace& grid,
+               bool traced) {
+    QImage image(200, 200, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    ground.paint(painter, ChartFrame(200, picture.size, 1), grid, picture, traced);
+    return image;
+}
+
+int mostDifference(const QImage& one, const QImage& other) {
+    int most = 0;
+    for (int y = 0; y < one.height(); ++y)
+        for (int x = 0; x < one.width(); ++x)
+            most = std::max(most, std::abs(qGray(one.pixel(x, y)) - qGray(other.pixel(x, y))));
+    return most;
+}
+
+TEST(ChartGround, LooksLikeANewOneWhateverHasChanged) {
+    ChartPicture picture;
+    GridPlace grid{{40, 50}, 7, 0};
+    bool traced = true;
+    const std::function<void()> changes[] = {
+        [&] { picture.trace.plot(3000, 3000, black); },
+        [&] { picture.trace.plot(3300, 3000, black); },
+        [&] {
+            picture.radialsI2.course = {{3400, 3400}, {5000, 1000}, black, 1, true};
+        },
+        [&] { picture.trace.clear(); },
+        [&] { picture.trace.plot(1000, 5000, black), picture.trace.plot(1500, 5000, black); },
+        [&] { picture.trace.clear(), picture.trace.plot(5000, 5000, black); },
+        [&] { grid.origin.x += 3; },
+        [&] { traced = false; },
+    };
+    ChartGround kept;
+    QImage before = painted(kept, picture, grid, traced);
+    for (std::size_t i = 0; i < std::size(changes); ++i) {
+        changes[i]();
+        ChartGround anew;
+        const QImage now = painted(anew, picture, grid, traced);
+        EXPECT_GT(mostDifference(now, before), 20) << i;
+        for (int time = 0; time < 3; ++time)
+            EXPECT_LE(mostDifference(painted(kept, picture, grid, traced), now), 1) << i << time;
+        before = now;
+    }
 }
 
 } // namespace

@@ -25,11 +25,12 @@ struct PixelPlace {
 };
 
 /// All dots as one path.
-void printDots(QPainter& painter, const ChartFrame& frame, const DotLayer& layer, double diameter) {
+void printDots(QPainter& painter, const ChartFrame& frame, std::span<const Dot> dots,
+               double diameter) {
     QPolygonF middles;
-    for (const Dot& dot : layer.all())
+    for (const Dot& dot : dots)
         middles << frame.at({static_cast<double>(dot.x), static_cast<double>(dot.y)});
-    strokeDots(painter, middles, diameter, look::fromSurface(layer.all().front().colour));
+    strokeDots(painter, middles, diameter, look::fromSurface(dots.front().colour));
 }
 
 } // namespace
@@ -55,13 +56,12 @@ void ChartDots::makeCells(const Look& wanted) {
     cells.setDevicePixelRatio(wanted.pixelRatio);
 }
 
-void ChartDots::paint(QPainter& painter, const ChartFrame& frame, const DotLayer& layer,
+void ChartDots::paint(QPainter& painter, const ChartFrame& frame, std::span<const Dot> dots,
                       double diameter) {
-    const std::vector<Dot>& dots = layer.all();
     if (dots.empty())
         return;
     if (frame.medium == ChartMedium::sheet)
-        return printDots(painter, frame, layer, diameter);
+        return printDots(painter, frame, dots, diameter);
     const Look wanted{diameter, frame.pixelRatio, dots.front().colour};
     if (wanted != look)
         makeCells(wanted);

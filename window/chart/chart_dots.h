@@ -6,16 +6,19 @@
 #include <QPixmap>
 #include <QPolygonF>
 
+#include <span>
+
 class QPainter;
 
 namespace tarnel {
 
-/// `ChartDots`: paints the dots of one layer from a pixmap that it keeps: a long flight has
+/// `ChartDots`: paints dots of one colour from a pixmap that it keeps: a long flight has
 /// thousands, and each would cost as much as a line.
 class ChartDots {
   public:
     /// Dots of `diameter` logical pixels, to a quarter of the device's pixels.
-    void paint(QPainter& painter, const ChartFrame& frame, const DotLayer& layer, double diameter);
+    void paint(QPainter& painter, const ChartFrame& frame, std::span<const Dot> dots,
+               double diameter);
 
   private:
     struct Look {

@@ -20,7 +20,6 @@ constexpr double barWidth = 1.6;
 constexpr double leaderWidth = 1;
 constexpr double barToText = 5;
 constexpr double textToEdge = 3;
-constexpr double traceDiameter = 4.4;
 constexpr double aheadDiameter = 3.2;
 constexpr double windPadding = 3;
 
@@ -49,11 +48,8 @@ void ChartPainter::paint(QPainter& painter, double side, double devicePixelRatio
     layOut(said, scale);
 
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(look::paper);
-    painter.drawRoundedRect(frame.paper, look::paperRadius, look::paperRadius);
+    ground.paint(painter, frame, grid, sim.picture, !layered());
     painter.setClipRect(frame.paper);
-    paintGrid(painter, frame, grid);
     paintLines(painter);
     paintLettering(painter, said);
     if (layered()) {
@@ -68,6 +64,7 @@ void ChartPainter::fitFrame(double side, double devicePixelRatio) {
         return;
     frame = ChartFrame(side, sim.picture.size, devicePixelRatio, frame.medium);
     nameTexts = {};
+    ground.forget();
 }
 
 double ChartPainter::rotation() const {
@@ -141,14 +138,9 @@ void ChartPainter::layOut(const Words& said, const ScaleBar& scale) {
 
 void ChartPainter::paintLines(QPainter& painter) {
     const ChartPicture& picture = sim.picture;
-    paintFeather(painter, frame, picture.localizer);
-    paintRadials(painter, frame, picture.radialsI2);
-    paintRadials(painter, frame, picture.radialsI3);
     if (layered())
         layer->paintLines(painter, layerPlace());
-    else
-        trace.paint(painter, frame, picture.trace, traceDiameter * frame.symbolScale);
-    ahead.paint(painter, frame, picture.ahead, aheadDiameter * frame.symbolScale);
+    ahead.paint(painter, frame, picture.ahead.all(), aheadDiameter * frame.symbolScale);
     for (std::size_t slot = 0; slot < slotCount; ++slot)
         if (isOnPaper(frame, picture.symbols[slot], slot))
             symbols.paint(painter, frame, picture.symbols[slot], slot, rotation());

@@ -5,6 +5,7 @@
 #include "strings/string_table.h"
 #include "window/chart/chart_dots.h"
 #include "window/chart/chart_frame.h"
+#include "window/chart/chart_ground.h"
 #include "window/chart/chart_layer.h"
 #include "window/chart/chart_lines.h"
 #include "window/chart/chart_overlays.h"
@@ -68,7 +69,7 @@ class ChartPainter {
     const StringTable& texts;
     ChartFrame frame;
     ChartSymbols symbols;
-    ChartDots trace;
+    ChartGround ground;
     ChartDots ahead;
     std::array<NameText, slotCount> nameTexts;
     ChartLettering lettering;
