@@ -8,6 +8,7 @@
 #include "window/progress/progress_figures.h"
 #include "window/progress/progress_plot.h"
 #include "window/progress/spots_card.h"
+#include "window/widgets/busy_cursor.h"
 #include "window/widgets/card.h"
 #include "window/widgets/choice_button.h"
 #include "window/widgets/text_of.h"
@@ -292,6 +293,11 @@ void ProgressPage::followCourses() {
 
 void ProgressPage::reload() {
     const TimeSpans shownSpans = spans();
+    withBusyCursor([&] { readLog(shownSpans); });
+    show(shownSpans);
+}
+
+void ProgressPage::readLog(const TimeSpans& shownSpans) {
     Progress found;
     bool read = model.training.with([&](TrainingLog& log) {
         known = log.courses();
@@ -309,7 +315,6 @@ void ProgressPage::reload() {
         flights.clear();
     }
     progress = std::move(found);
-    show(shownSpans);
 }
 
 void ProgressPage::show(const TimeSpans& shownSpans) {

@@ -38,6 +38,7 @@ class ProgressPage : public QWidget {
     void open();
     /// Reads the log anew while it is up.
     void reload();
+    void readLog(const TimeSpans& shownSpans);
 
     /// The page has gone, by the user's wish or because an exercise starts.
     std::function<void()> onClose = [] {};
