@@ -1,6 +1,7 @@
 #include "authoring/authored_chart.h"
 
 #include "persistence/file_bytes.h"
+#include "platform/path_text.h"
 
 #include <filesystem>
 #include <stdexcept>
@@ -60,12 +61,12 @@ AuthoredChart readAuthoredChart(const std::string& path) {
 
 std::optional<std::string> ChartShelf::find(const std::string& name,
                                             const std::string& source) const {
-    std::vector<std::string> places = {std::filesystem::path(source).parent_path().string()};
+    std::vector<std::string> places = {textOf(pathOf(source).parent_path())};
     places.insert(places.end(), folders.begin(), folders.end());
     for (const std::string& folder : places) {
-        const auto path = std::filesystem::path(folder) / (name + ".map");
+        const auto path = pathOf(folder) / pathOf(name + ".map");
         if (std::filesystem::is_regular_file(path))
-            return path.string();
+            return textOf(path);
     }
     return std::nullopt;
 }

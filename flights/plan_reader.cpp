@@ -8,6 +8,7 @@
 #include "flights/plan_table.h"
 #include "persistence/file_bytes.h"
 #include "persistence/text_encoding.h"
+#include "platform/path_text.h"
 #include "strings/cause_text.h"
 #include "strings/string_table.h"
 
@@ -122,7 +123,7 @@ void readChart(PlanTable& root, FlightPlan& plan) {
         "chart", [](const std::string& path) { return !path.empty(); }, "a path");
     if (!chart)
         return;
-    plan.chart = (std::filesystem::path(plan.file).parent_path() / *chart).string();
+    plan.chart = textOf(pathOf(plan.file).parent_path() / pathOf(*chart));
     plan.chartLine = root.lineOf("chart");
 }
 

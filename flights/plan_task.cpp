@@ -6,6 +6,7 @@
 #include "flights/plan_table.h"
 #include "persistence/file_bytes.h"
 #include "persistence/session_file.h"
+#include "platform/path_text.h"
 
 #include <algorithm>
 #include <array>
@@ -135,7 +136,7 @@ std::optional<PlannedTask> readTask(PlanTable& root, const std::string& file) {
             "session", [](const std::string& path) { return !path.empty(); }, "a path");
         planned.sessionLine = table.lineOf("session");
         table.need("session");
-        planned.session = (std::filesystem::path(file).parent_path() / *planned.session).string();
+        planned.session = textOf(pathOf(file).parent_path() / pathOf(*planned.session));
     }
     table.refuseOtherKeys();
     return planned;

@@ -1,11 +1,11 @@
 #include "log/log_database.h"
 
 #include "log/log_tables.h"
+#include "platform/files.h"
+#include "platform/path_text.h"
 
 #include <QSqlError>
 #include <QThread>
-
-#include <sys/stat.h>
 
 namespace tarnel {
 
@@ -39,9 +39,9 @@ QString freshName() {
     return QStringLiteral("training-log-%1").arg(++count);
 }
 
-ino_t nodeOf(const std::string& path) {
-    struct stat found {};
-    return ::stat(path.c_str(), &found) == 0 ? found.st_ino : 0;
+std::uint64_t numberOf(const std::string& path) {
+    const auto found = factsOf(pathOf(path));
+    return found ? found->number : 0;
 }
 
 } // namespace
@@ -59,7 +59,7 @@ LogDatabase::LogDatabase(const std::string& path) : file(path), name(freshName()
         QSqlDatabase::removeDatabase(name);
         throw;
     }
-    node = nodeOf(path);
+    fileNumber = numberOf(path);
 }
 
 LogDatabase::~LogDatabase() {
@@ -127,7 +127,7 @@ void LogDatabase::migrate() {
 }
 
 bool LogDatabase::stillThere() const {
-    return nodeOf(file) == node;
+    return numberOf(file) == fileNumber;
 }
 
 void LogDatabase::check() {

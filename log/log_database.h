@@ -6,8 +6,8 @@
 #include <QSqlQuery>
 #include <QVariantList>
 
+#include <cstdint>
 #include <string>
-#include <sys/types.h>
 
 namespace tarnel {
 
@@ -53,7 +53,7 @@ class LogDatabase {
     std::string file;
     QString name; ///< of the connection
     QSqlDatabase database;
-    ino_t node = 0;
+    std::uint64_t fileNumber = 0; ///< of that which is open
 };
 
 } // namespace tarnel

@@ -4,10 +4,11 @@
 #include "persistence/file_bytes.h"
 #include "persistence/save_file.h"
 #include "persistence/session_file.h"
+#include "platform/path_text.h"
+#include "platform/process.h"
 #include "shell/training_log.h"
 
 #include <filesystem>
-#include <unistd.h>
 
 namespace tarnel {
 
@@ -22,7 +23,7 @@ constexpr const char* asideMark = "-damaged-";
 std::string freeName(const std::string& name, const std::string& suffix) {
     std::string tried = name + suffix;
     std::error_code ignored;
-    for (int count = 2; fs::exists(tried, ignored); ++count)
+    for (int count = 2; fs::exists(pathOf(tried), ignored); ++count)
         tried = std::string(name).append("-").append(std::to_string(count)).append(suffix);
     return tried;
 }
@@ -31,7 +32,7 @@ std::string freeName(const std::string& name, const std::string& suffix) {
 
 void LogFolder::prepare() const {
     std::error_code failure;
-    fs::create_directories(folder + flightFolder, failure);
+    fs::create_directories(pathOf(folder + flightFolder), failure);
     if (failure)
         throw LogFailure(LogTrouble::unwritable, folder + ": " + failure.message());
 }
@@ -39,13 +40,13 @@ void LogFolder::prepare() const {
 /// No other program gives the name: it has this program's number.
 std::string LogFolder::store(const std::string& session, std::int64_t when) const {
     const std::string path = freeName(
-        folder + flightFolder + std::to_string(when) + "-" + std::to_string(::getpid()), ".ts");
+        folder + flightFolder + std::to_string(when) + "-" + std::to_string(ownProcess()), ".ts");
     try {
         saveFileBytes(path, session);
     } catch (const RunTimeError& error) {
         throw LogFailure(LogTrouble::unwritable, error.what());
     }
-    return fs::path(path).filename().string();
+    return textOf(pathOf(path).filename());
 }
 
 std::optional<std::string> LogFolder::read(const std::string& name) const {
@@ -59,41 +60,41 @@ std::optional<std::string> LogFolder::read(const std::string& name) const {
 void LogFolder::remove(const std::string& name) const {
     std::error_code ignored;
     if (!name.empty())
-        fs::remove(folder + flightFolder + name, ignored);
+        fs::remove(pathOf(folder + flightFolder + name), ignored);
 }
 
 std::set<std::string> LogFolder::sessions() const {
     std::set<std::string> names;
     std::error_code failure;
-    for (fs::directory_iterator entry(folder + flightFolder, failure), end;
+    for (fs::directory_iterator entry(pathOf(folder + flightFolder), failure), end;
          !failure && entry != end; entry.increment(failure))
-        names.insert(entry->path().filename().string());
+        names.insert(textOf(entry->path().filename()));
     return names;
 }
 
 void LogFolder::removeAllSessions() const {
     std::error_code ignored;
-    fs::remove_all(folder + flightFolder, ignored);
+    fs::remove_all(pathOf(folder + flightFolder), ignored);
     prepare();
 }
 
 std::string LogFolder::setAside() const {
     std::string name = freeName(folder + asideMark + "1", "");
     std::error_code failure;
-    fs::rename(folder, name, failure);
+    fs::rename(pathOf(folder), pathOf(name), failure);
     if (failure)
         throw LogFailure(LogTrouble::unwritable, folder + ": " + failure.message());
     return name;
 }
 
 void LogFolder::removeSetAside() const {
-    const fs::path place(folder);
-    const std::string mark = place.filename().string() + asideMark;
+    const fs::path place = pathOf(folder);
+    const std::string mark = textOf(place.filename()) + asideMark;
     std::error_code failure;
     std::vector<fs::path> found;
     for (fs::directory_iterator entry(place.parent_path(), failure), end; !failure && entry != end;
          entry.increment(failure))
-        if (entry->path().filename().string().starts_with(mark))
+        if (textOf(entry->path().filename()).starts_with(mark))
             found.push_back(entry->path());
     for (const fs::path& each : found)
         fs::remove_all(each, failure);

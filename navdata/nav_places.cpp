@@ -4,9 +4,10 @@
 #include "core/run_time_error.h"
 #include "navdata/navaid_fields.h"
 #include "persistence/file_bytes.h"
+#include "platform/path_text.h"
+#include "platform/user.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <functional>
 #include <iterator>
 #include <string_view>
@@ -17,9 +18,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::string environment(const char* name, const std::string& fallback) {
-    const char* value = std::getenv(name);
-    return value && *value ? value : fallback;
+std::string setOr(const std::string& value, const std::string& fallback) {
+    return value.empty() ? fallback : value;
 }
 
 /// The parts of `text` between separators, those that are no path from the root on left out.
@@ -27,9 +27,9 @@ std::vector<fs::path> pathsIn(std::string_view text, char separator) {
     std::vector<fs::path> paths;
     while (!text.empty()) {
         const std::size_t end = std::min(text.find(separator), text.size());
-        const std::string_view path = trimmed(text.substr(0, end));
-        if (path.starts_with('/'))
-            paths.emplace_back(path);
+        fs::path path = pathOf(trimmed(text.substr(0, end)));
+        if (path.is_absolute())
+            paths.push_back(std::move(path));
         text.remove_prefix(std::min(end + 1, text.size()));
     }
     return paths;
@@ -39,7 +39,7 @@ std::vector<fs::path> pathsIn(std::string_view text, char separator) {
 std::string contentOf(const fs::path& file) {
     constexpr std::size_t largest = 1 << 16;
     try {
-        return readFileBytes(file.string(), largest);
+        return readFileBytes(textOf(file), largest);
     } catch (const RunTimeError&) {
         return {};
     }
@@ -55,7 +55,7 @@ fs::path downloadsBelow(const fs::path& home, const fs::path& configuration) {
         return home / "Downloads";
     const std::string_view value = std::string_view(list).substr(at + key.size());
     const std::string_view path = value.substr(0, value.find('"'));
-    return path.starts_with(homeName) ? home / path.substr(homeName.size()) : fs::path(path);
+    return path.starts_with(homeName) ? home / pathOf(path.substr(homeName.size())) : pathOf(path);
 }
 
 /// The entries of a folder whose names begin so, the last by name first.
@@ -64,7 +64,7 @@ std::vector<fs::path> entriesOf(const fs::path& folder, std::string_view beginni
     std::error_code ignored;
     for (fs::directory_iterator entry(folder, ignored); entry != fs::directory_iterator();
          entry.increment(ignored))
-        if (entry->path().filename().string().starts_with(beginning))
+        if (textOf(entry->path().filename()).starts_with(beginning))
             found.push_back(entry->path());
     std::ranges::sort(found, std::greater());
     return found;
@@ -96,15 +96,20 @@ std::vector<fs::path> xPlaneRoots(const NavFolders& folders) {
 } // namespace
 
 NavFolders usersNavFolders() {
-    const fs::path home = environment("HOME", "/");
+    const fs::path home = pathOf(setOr(homeFolder(), "/"));
+    const std::string downloads = downloadsFolder();
     NavFolders folders;
     folders.home = home;
-    folders.data = pathsIn(environment("XDG_DATA_HOME", (home / ".local/share").string()), ':');
-    std::ranges::move(pathsIn(environment("XDG_DATA_DIRS", "/usr/local/share:/usr/share"), ':'),
-                      std::back_inserter(folders.data));
-    folders.flightGearRoot = environment("FG_ROOT", "");
-    folders.downloads =
-        downloadsBelow(home, environment("XDG_CONFIG_HOME", (home / ".config").string()));
+    folders.data =
+        pathsIn(setOr(environment("XDG_DATA_HOME"), textOf(home / ".local/share")), pathSeparator);
+    std::ranges::move(
+        pathsIn(setOr(environment("XDG_DATA_DIRS"), "/usr/local/share:/usr/share"), pathSeparator),
+        std::back_inserter(folders.data));
+    folders.flightGearRoot = pathOf(environment("FG_ROOT"));
+    folders.downloads = downloads.empty()
+                            ? downloadsBelow(home, pathOf(setOr(environment("XDG_CONFIG_HOME"),
+                                                                textOf(home / ".config"))))
+                            : pathOf(downloads);
     return folders;
 }
 

@@ -2,31 +2,15 @@
 
 #include "core/run_time_error.h"
 #include "persistence/file_path.h"
+#include "platform/files.h"
+#include "platform/path_text.h"
 
 #include <algorithm>
 #include <cerrno>
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace tarnel {
 
 namespace {
-
-/// An open file, closed at the end.
-class OpenFile {
-  public:
-    explicit OpenFile(const char* path)
-        : descriptor(::open(path, O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC)) {}
-    OpenFile(const OpenFile&) = delete;
-    OpenFile& operator=(const OpenFile&) = delete;
-    ~OpenFile() {
-        if (descriptor >= 0)
-            ::close(descriptor);
-    }
-
-    const int descriptor;
-};
 
 /// Why a file could not be opened.
 Cause causeOf(int error, const std::filesystem::path& path) {
@@ -37,8 +21,8 @@ Cause causeOf(int error, const std::filesystem::path& path) {
         if (std::filesystem::is_symlink(path, ignored))
             return Cause::linkLeadsNowhere;
         // The system's dialogs put this character where a name is not UTF-8.
-        return path.native().find(replacementCharacter) == std::string::npos ? Cause::fileNotFound
-                                                                             : Cause::nameNotUtf8;
+        return textOf(path).find(replacementCharacter) == std::string::npos ? Cause::fileNotFound
+                                                                            : Cause::nameNotUtf8;
     case ENOTDIR:
         return Cause::fileNotFound;
     case EACCES:
@@ -57,12 +41,12 @@ Cause causeOf(int error, const std::filesystem::path& path) {
 std::size_t readInto(int file, std::string& bytes) {
     std::size_t used = 0;
     while (used < bytes.size()) {
-        const ssize_t count = ::read(file, bytes.data() + used, bytes.size() - used);
+        const std::ptrdiff_t count = readFile(file, bytes.data() + used, bytes.size() - used);
         if (count == 0)
             break;
         if (count < 0 && errno != EINTR)
             throw RunTimeError(errno == EIO ? Cause::deviceError : Cause::accessFailed);
-        used += static_cast<std::size_t>(std::max<ssize_t>(count, 0));
+        used += static_cast<std::size_t>(std::max<std::ptrdiff_t>(count, 0));
     }
     return used;
 }
@@ -71,19 +55,19 @@ std::size_t readInto(int file, std::string& bytes) {
 
 std::string readFileBytes(const std::string& path, std::size_t limit) {
     const std::filesystem::path present = portablePath(path);
-    struct stat found {};
-    if (::stat(present.c_str(), &found) != 0)
+    auto found = factsOf(present);
+    if (!found)
         throw RunTimeError(causeOf(errno, present));
-    if (!S_ISREG(found.st_mode))
+    if (!found->isRegular)
         throw RunTimeError(Cause::notAFile);
-    const OpenFile file(present.c_str());
-    if (file.descriptor < 0)
+    const OpenFile file = openToRead(present);
+    if (!file.isOpen())
         throw RunTimeError(causeOf(errno, present));
-    if (::fstat(file.descriptor, &found) != 0 || !S_ISREG(found.st_mode))
+    found = factsOf(file.get());
+    if (!found || !found->isRegular)
         throw RunTimeError(Cause::notAFile); // it was replaced meanwhile
-    const auto size = static_cast<std::size_t>(found.st_size);
-    std::string bytes(std::min(size, limit) + 1, '\0');
-    bytes.resize(readInto(file.descriptor, bytes));
+    std::string bytes(std::min(found->size, limit) + 1, '\0');
+    bytes.resize(readInto(file.get(), bytes));
     if (bytes.size() > limit)
         throw RunTimeError(Cause::fileTooLarge);
     return bytes;

@@ -7,14 +7,15 @@
 #include "persistence/line_writer.h"
 #include "persistence/sample_fields.h"
 #include "persistence/save_file.h"
+#include "platform/files.h"
+#include "platform/path_text.h"
+#include "platform/process.h"
 
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <fstream>
-#include <sys/stat.h>
 #include <tuple>
-#include <unistd.h>
 
 namespace tarnel {
 
@@ -67,13 +68,13 @@ std::optional<FlightName> parsed(const std::string& name) {
 }
 
 std::string trackOf(const std::string& flight) {
-    return fs::path(flight).replace_extension(trackSuffix).string();
+    return textOf(pathOf(flight).replace_extension(trackSuffix));
 }
 
 /// The first `most` bytes of a file, fewer if it has no more.
 std::string headOf(const std::string& path, std::size_t most) {
     std::string bytes(most, '\0');
-    std::ifstream file(path, std::ios::binary);
+    std::ifstream file(pathOf(path), std::ios::binary);
     file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     bytes.resize(static_cast<std::size_t>(file.gcount()));
     return bytes;
@@ -121,18 +122,18 @@ void write(const KeptFlight& flight, const std::string& path, bool withTrack) {
 
 void removeFlight(const std::string& path) {
     std::error_code ignored;
-    fs::remove(path, ignored);
-    fs::remove(trackOf(path), ignored);
+    fs::remove(pathOf(path), ignored);
+    fs::remove(pathOf(trackOf(path)), ignored);
 }
 
 /// The names of the regular files in `folder`.
 std::vector<std::string> namesIn(const std::string& folder) {
     std::vector<std::string> names;
     std::error_code failure;
-    for (auto entry = fs::directory_iterator(folder, failure);
+    for (auto entry = fs::directory_iterator(pathOf(folder), failure);
          !failure && entry != fs::directory_iterator(); entry.increment(failure))
         if (std::error_code ignored; entry->is_regular_file(ignored))
-            names.push_back(entry->path().filename().string());
+            names.push_back(textOf(entry->path().filename()));
     return names;
 }
 
@@ -157,17 +158,17 @@ FlightShelf::FlightShelf(std::string place) : folder(std::move(place)) {
     constexpr int mostPrograms = 100;
     std::error_code ignored;
     fs::create_directories(portablePath(folder), ignored);
-    folder = portablePath(folder).string();
+    folder = textOf(portablePath(folder));
     for (int i = 0; i < mostPrograms && !lock; ++i) {
-        program = numberText(std::int64_t{getpid()}) + "-" + numberText(std::int64_t{i});
+        program = numberText(std::int64_t{ownProcess()}) + "-" + numberText(std::int64_t{i});
         // A program that had this number before may have left its copy.
-        if (!fs::exists(inFolder(copyPrefix + program + flightSuffix), ignored))
+        if (!fs::exists(pathOf(inFolder(copyPrefix + program + flightSuffix)), ignored))
             lock = LockFile::take(inFolder(copyPrefix + program + lockSuffix));
     }
 }
 
 std::string FlightShelf::inFolder(const std::string& name) const {
-    return (fs::path(folder) / name).string();
+    return textOf(pathOf(folder) / pathOf(name));
 }
 
 std::string FlightShelf::nextName(std::int64_t time, int seconds) {
@@ -177,7 +178,7 @@ std::string FlightShelf::nextName(std::int64_t time, int seconds) {
     std::error_code ignored;
     do {
         path = inFolder(start + numberText(std::int64_t{counter++}) + flightSuffix);
-    } while (fs::exists(path, ignored));
+    } while (fs::exists(pathOf(path), ignored));
     return path;
 }
 
@@ -228,12 +229,12 @@ void FlightShelf::dropCopy() {
 
 void FlightShelf::adoptCopies(int leastSeconds) {
     for (const std::string& name : namesIn(folder)) {
-        const fs::path file(name);
+        const fs::path file = pathOf(name);
         if (!name.starts_with(copyPrefix) || file.extension() == trackSuffix)
             continue;
-        const auto left = LockFile::take(inFolder(file.stem().string() + lockSuffix));
-        const std::string copy = inFolder(file.stem().string() + flightSuffix);
-        if (left && fs::exists(copy))
+        const auto left = LockFile::take(inFolder(textOf(file.stem()) + lockSuffix));
+        const std::string copy = inFolder(textOf(file.stem()) + flightSuffix);
+        if (left && fs::exists(pathOf(copy)))
             adopt(copy, leastSeconds);
     }
     prune();
@@ -241,16 +242,16 @@ void FlightShelf::adoptCopies(int leastSeconds) {
 
 /// Its time is that of its last writing.
 void FlightShelf::adopt(const std::string& copy, int leastSeconds) {
-    struct stat found {};
+    const auto found = factsOf(pathOf(copy));
     std::error_code failure;
     const int seconds = secondsOfSamples(samplesIn(headOf(copy, largestSession)));
-    if (::stat(copy.c_str(), &found) != 0 || seconds < leastSeconds) {
+    if (!found || seconds < leastSeconds) {
         removeFlight(copy);
         return;
     }
-    const std::string flight = nextName(found.st_mtime, seconds);
-    fs::rename(trackOf(copy), trackOf(flight), failure);
-    fs::rename(copy, flight, failure);
+    const std::string flight = nextName(found->changed, seconds);
+    fs::rename(pathOf(trackOf(copy)), pathOf(trackOf(flight)), failure);
+    fs::rename(pathOf(copy), pathOf(flight), failure);
 }
 
 void FlightShelf::prune() const {
@@ -261,14 +262,14 @@ void FlightShelf::prune() const {
 
 void FlightShelf::noteOffered(const ShelvedFlight& flight) const {
     try {
-        saveFileBytes(inFolder(offeredName), fs::path(flight.path).filename().string());
+        saveFileBytes(inFolder(offeredName), textOf(pathOf(flight.path).filename()));
     } catch (const RunTimeError&) {
         // The flight is offered once more.
     }
 }
 
 bool FlightShelf::wasOffered(const ShelvedFlight& flight) const {
-    return headOf(inFolder(offeredName), offeredLimit) == fs::path(flight.path).filename().string();
+    return headOf(inFolder(offeredName), offeredLimit) == textOf(pathOf(flight.path).filename());
 }
 
 } // namespace tarnel

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/files.h"
+
 #include <optional>
 #include <string>
 
@@ -11,7 +13,7 @@ class LockFile {
     /// Takes the lock, nothing if another holds it or the file can't be made.
     static std::optional<LockFile> take(const std::string& path);
 
-    LockFile(LockFile&& other) noexcept;
+    LockFile(LockFile&& other) noexcept = default;
     LockFile& operator=(LockFile&& other) noexcept;
     LockFile(const LockFile&) = delete;
     LockFile& operator=(const LockFile&) = delete;
@@ -19,10 +21,10 @@ class LockFile {
     ~LockFile();
 
   private:
-    LockFile(std::string path, int file);
+    LockFile(std::filesystem::path path, OpenFile open);
 
-    std::string lockPath;
-    int descriptor = -1;
+    std::filesystem::path lockPath;
+    OpenFile file;
 };
 
 } // namespace tarnel

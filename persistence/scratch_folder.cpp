@@ -2,9 +2,10 @@
 
 #include "core/number_text.h"
 #include "persistence/file_path.h"
+#include "platform/path_text.h"
+#include "platform/process.h"
 
 #include <filesystem>
-#include <unistd.h>
 #include <vector>
 
 namespace tarnel {
@@ -22,13 +23,13 @@ std::vector<fs::path> foldersIn(const fs::path& parent) {
     std::error_code failure;
     for (auto entry = fs::directory_iterator(parent, failure);
          !failure && entry != fs::directory_iterator(); entry.increment(failure))
-        if (entry->path().filename().string().starts_with(prefix))
+        if (textOf(entry->path().filename()).starts_with(prefix))
             found.push_back(parent / entry->path().stem());
     return found;
 }
 
 std::optional<LockFile> lockOf(const fs::path& folder) {
-    return LockFile::take(folder.string() + lockSuffix);
+    return LockFile::take(textOf(folder) + lockSuffix);
 }
 
 } // namespace
@@ -42,18 +43,18 @@ ScratchFolder::ScratchFolder(const std::string& parent) {
         if (const auto abandoned = lockOf(left))
             fs::remove_all(left, failure);
     for (int i = 0; i < mostTries && folder.empty(); ++i) {
-        const fs::path own = place / (prefix + numberText(std::int64_t{getpid()}) + "-" +
+        const fs::path own = place / (prefix + numberText(std::int64_t{ownProcess()}) + "-" +
                                       numberText(std::int64_t{i}));
         lock = lockOf(own);
         if (lock && fs::create_directory(own, failure))
-            folder = own.string();
+            folder = textOf(own);
     }
 }
 
 ScratchFolder::~ScratchFolder() {
     std::error_code ignored;
     if (!folder.empty())
-        fs::remove_all(folder, ignored);
+        fs::remove_all(pathOf(folder), ignored);
 }
 
 } // namespace tarnel

@@ -1,5 +1,6 @@
 #include "readers/default_program.h"
 
+#include "platform/path_text.h"
 #include "readers/key_file.h"
 
 #include <filesystem>
@@ -33,7 +34,7 @@ std::optional<std::string> entryIn(const std::string& folder, std::string id) {
     std::size_t dash = 0;
     while (true) {
         const std::string path = std::string(folder).append("/applications/").append(id);
-        if (std::filesystem::is_regular_file(path, failure))
+        if (std::filesystem::is_regular_file(pathOf(path), failure))
             return path;
         dash = id.find('-', dash);
         if (dash == std::string::npos)

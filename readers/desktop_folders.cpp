@@ -1,43 +1,33 @@
 #include "readers/desktop_folders.h"
 
 #include "core/plain_text.h"
+#include "platform/path_text.h"
+#include "platform/programs.h"
+#include "platform/user.h"
 
 #include <algorithm>
-#include <cstdlib>
-#include <filesystem>
 #include <sstream>
-#include <unistd.h>
 
 namespace tarnel {
 
 namespace {
 
-std::vector<std::string> parts(const std::string& list) {
+std::vector<std::string> parts(const std::string& list, char separator = ':') {
     std::vector<std::string> all;
     std::istringstream rest(list);
-    for (std::string part; std::getline(rest, part, ':');)
+    for (std::string part; std::getline(rest, part, separator);)
         all.push_back(part);
     return all;
 }
 
 /// A path that does not begin at the root counts as none.
 void add(std::vector<std::string>& folders, const std::string& list) {
-    for (const std::string& folder : parts(list))
-        if (folder.starts_with('/'))
+    for (const std::string& folder : parts(list, pathSeparator))
+        if (pathOf(folder).is_absolute())
             folders.push_back(folder);
 }
 
-bool runs(const std::string& path) {
-    std::error_code failure;
-    return std::filesystem::is_regular_file(path, failure) && access(path.c_str(), X_OK) == 0;
-}
-
 } // namespace
-
-std::string ownEnvironment(const char* name) {
-    const char* value = std::getenv(name);
-    return value ? value : "";
-}
 
 DesktopFolders::DesktopFolders(const Environment& environment) {
     const auto either = [&](const char* name, const std::string& usual) {
@@ -54,14 +44,13 @@ DesktopFolders::DesktopFolders(const Environment& environment) {
 }
 
 std::optional<std::string> DesktopFolders::program(const std::string& name) const {
-    if (name.starts_with('/'))
-        return runs(name) ? std::optional(name) : std::nullopt;
+    if (pathOf(name).is_absolute())
+        return runnable(name);
     if (name.empty() || name.find('/') != std::string::npos)
         return {};
     for (const std::string& folder : programs) {
-        std::string path = std::string(folder).append("/").append(name);
-        if (runs(path))
-            return path;
+        if (auto found = runnable(std::string(folder).append("/").append(name)))
+            return found;
     }
     return {};
 }

@@ -10,9 +10,6 @@ namespace tarnel {
 /// Tells a variable of the environment; empty if it is not set.
 using Environment = std::function<std::string(const char* name)>;
 
-/// That of this program.
-[[nodiscard]] std::string ownEnvironment(const char* name);
-
 /// Where a desktop keeps what it knows of its programs, what counts most first: by the XDG Base
 /// Directory Specification 0.8. All are paths from the root on.
 struct DesktopFolders {

@@ -1,6 +1,7 @@
 #include "readers/key_file.h"
 
 #include "core/plain_text.h"
+#include "platform/path_text.h"
 
 #include <filesystem>
 #include <fstream>
@@ -11,9 +12,9 @@ namespace tarnel {
 KeyGroup readKeyGroup(const std::string& path, const std::string& group) {
     KeyGroup keys;
     std::error_code failure;
-    if (!std::filesystem::is_regular_file(path, failure))
+    if (!std::filesystem::is_regular_file(pathOf(path), failure))
         return keys;
-    std::ifstream file(path, std::ios::binary);
+    std::ifstream file(pathOf(path), std::ios::binary);
     bool inGroup = false;
     for (std::string line; std::getline(file, line);) {
         line = std::string(trimmed(line));

@@ -1,5 +1,6 @@
 #include "readers/pdf_reader.h"
 
+#include "platform/programs.h"
 #include "readers/default_program.h"
 
 #include <algorithm>
@@ -34,6 +35,10 @@ constexpr UsualReader usualReaders[] = {
     {"firefox-esr", "%u", {"%u#page=%p"}},
     {"chromium", "%u", {"%u#page=%p"}},
     {"chromium-browser", "%u", {"%u#page=%p"}},
+    {"sumatrapdf", "%f", {"-page", "%p", "%f"}},
+    {"acrobat", "%f", {"/A", "page=%p", "%f"}},
+    {"acrord32", "%f", {"/A", "page=%p", "%f"}},
+    {"msedge", "%u", {"%u#page=%p"}},
 };
 
 std::span<const char* const> pageWordsOf(const UsualReader& reader) {
@@ -46,8 +51,11 @@ std::string fileUrl(const std::string& path) {
     constexpr std::string_view digits = "0123456789ABCDEF";
     constexpr std::string_view plain = "-._~/0123456789"
                                        "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ";
-    std::string url = "file://";
-    for (const char sign : path) {
+    // A path that begins with a drive, as "C:/", is one folder further down in a URL.
+    const bool onDrive = path.size() > 1 && path[1] == ':';
+    const std::size_t drive = onDrive ? 2 : 0;
+    std::string url = (onDrive ? "file:///" : "file://") + path.substr(0, drive);
+    for (const char sign : path.substr(drive)) {
         const auto byte = static_cast<unsigned char>(sign);
         if (plain.find(sign) != std::string_view::npos)
             url += sign;
@@ -98,8 +106,12 @@ ProgramCall PdfReader::opening(const std::string& path, int page) const {
 }
 
 std::optional<PdfReader> FindPDFReader(const DesktopFolders& folders) {
-    if (std::optional<DesktopEntry> entry = defaultProgram("application/pdf", folders)) {
-        const std::string name = entry->program.substr(entry->program.rfind('/') + 1);
+    std::optional<DesktopEntry> entry = defaultProgram("application/pdf", folders);
+    if (!entry)
+        if (const auto program = systemsProgramFor(".pdf"))
+            entry = DesktopEntry{*program, {"%f"}};
+    if (entry) {
+        const std::string name = programName(entry->program);
         const auto* usual = std::ranges::find(usualReaders, name, &UsualReader::program);
         return PdfReader(*std::move(entry), usual == std::end(usualReaders)
                                                 ? std::span<const char* const>()

@@ -1,14 +1,14 @@
 #include "shell/application_folder.h"
 
-#include <filesystem>
+#include "platform/path_text.h"
+#include "platform/process.h"
 
 namespace tarnel {
 
 std::string applicationFolder() {
-    std::error_code failure;
-    const auto program = std::filesystem::read_symlink("/proc/self/exe", failure);
-    const auto folder = failure ? std::filesystem::current_path() : program.parent_path();
-    return (folder.parent_path() / "share" / "tarnel").string();
+    const auto program = programFile();
+    const auto folder = program.empty() ? std::filesystem::current_path() : program.parent_path();
+    return textOf(folder.parent_path() / "share" / "tarnel");
 }
 
 } // namespace tarnel

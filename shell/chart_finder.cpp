@@ -5,6 +5,7 @@
 #include "navdata/anywhere_chart.h"
 #include "persistence/file_bytes.h"
 #include "persistence/file_path.h"
+#include "platform/path_text.h"
 #include "shell/problem_text.h"
 #include "shell/text_format.h"
 #include "strings/cause_text.h"
@@ -76,8 +77,8 @@ ChartFinder::ChartFinder(UserControl2& simulation, BoxDesk& boxDesk, const NavFo
 
 std::string ChartFinder::titleOf(const NavPlace& place) const {
     static constexpr Text names[] = {Text::navFlightGear, Text::navXPlane, Text::navOurAirports};
-    std::string file = place.file.string();
-    const std::string home = folders.home.string() + "/";
+    std::string file = textOf(place.file);
+    const std::string home = textOf(folders.home) + "/";
     if (home.size() > 1 && file.starts_with(home))
         file.replace(0, home.size(), "~/");
     if (place.program == NavProgram::other)
@@ -95,13 +96,13 @@ void ChartFinder::readOther() {
     const auto path =
         boxes.chooseFile({.saves = false,
                           .title = text(Text::chartFinderTitle),
-                          .present = readOne ? found[*readOne].file.string() : "",
-                          .folder = folders.downloads.string(),
+                          .present = readOne ? textOf(found[*readOne].file) : "",
+                          .folder = textOf(folders.downloads),
                           .filter = text(Text::navDataFilter) + ";;" + text(Text::anyFileFilter),
                           .extension = {}});
     if (!path)
         return;
-    const NavPlace place{NavProgram::other, *path};
+    const NavPlace place{NavProgram::other, pathOf(*path)};
     const auto known = std::ranges::find(found, place.file, &NavPlace::file);
     if (known != found.end())
         return read(static_cast<std::size_t>(known - found.begin()));
@@ -112,7 +113,7 @@ void ChartFinder::readOther() {
 }
 
 bool ChartFinder::readFile(const NavPlace& place) {
-    const std::string path = place.file.string();
+    const std::string path = textOf(place.file);
     std::string trouble;
     try {
         NavData data;
@@ -147,7 +148,7 @@ void ChartFinder::addRunways(NavData& data, const NavPlace& place) {
         return;
     try {
         const auto file = place.file.parent_path() / "runways.csv";
-        NavData runways = readRunways(readFileBytes(file.string(), largestNavData));
+        NavData runways = readRunways(readFileBytes(textOf(file), largestNavData));
         hasRunways = !runways.navaids.empty();
         std::ranges::move(runways.navaids, std::back_inserter(data.navaids));
     } catch (const RunTimeError&) {

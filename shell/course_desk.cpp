@@ -1,5 +1,6 @@
 #include "shell/course_desk.h"
 
+#include "platform/path_text.h"
 #include "shell/course_fault.h"
 
 #include <algorithm>
@@ -10,10 +11,10 @@ namespace tarnel {
 std::vector<std::string> CourseDesk::names() const {
     std::vector<std::string> found;
     std::error_code failure;
-    for (std::filesystem::directory_iterator entry(folder, failure), end; !failure && entry != end;
-         entry.increment(failure)) {
+    for (std::filesystem::directory_iterator entry(pathOf(folder), failure), end;
+         !failure && entry != end; entry.increment(failure)) {
         std::error_code ignored;
-        const std::string name = entry->path().filename().string();
+        const std::string name = textOf(entry->path().filename());
         if (!name.starts_with('.') && entry->is_directory(ignored))
             found.push_back(name);
     }

@@ -5,6 +5,7 @@
 #include "exercises/study_remark.h"
 #include "persistence/file_bytes.h"
 #include "persistence/session_file.h"
+#include "platform/path_text.h"
 #include "shell/problem_text.h"
 #include "shell/text_format.h"
 #include "strings/cause_text.h"
@@ -42,7 +43,7 @@ std::vector<std::string> presentStudyFiles(const Course& course, const ExerciseK
     std::vector<std::string> names = course.studyFiles(exercise, german);
     std::erase_if(names, [&](const std::string& name) {
         std::error_code failure;
-        return !exists(std::filesystem::symlink_status(course.studyFolder + name, failure));
+        return !exists(std::filesystem::symlink_status(pathOf(course.studyFolder + name), failure));
     });
     return names;
 }

@@ -1,6 +1,7 @@
 #include "shell/document_desk.h"
 
 #include "core/rounding.h"
+#include "platform/path_text.h"
 #include "shell/documents.h"
 #include "shell/program_version.h"
 #include "shell/text_format.h"
@@ -13,7 +14,7 @@ namespace {
 
 bool exists(const std::string& path) {
     std::error_code failure;
-    return std::filesystem::exists(path, failure);
+    return std::filesystem::exists(pathOf(path), failure);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "chart/holding_chart.h"
 #include "exercises/exercise_catalogue.h"
 #include "persistence/file_path.h"
+#include "platform/path_text.h"
 #include "shell/exercise_conduct.h"
 #include "shell/question_wind.h"
 #include "shell/text_format.h"
@@ -146,7 +147,7 @@ void ExerciseConduct::loadSession() {
     stage.practice.expect(path);
     if (!stage.practice.load(path))
         form.sessionMissing(filledIn(stage.boxes.texts[Text::questionWithoutFlight],
-                                     {portablePath(path).filename().string()}));
+                                     {textOf(portablePath(path).filename())}));
     if (!solutionShown())
         hide();
 }

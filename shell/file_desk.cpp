@@ -3,6 +3,7 @@
 #include "core/plain_text.h"
 #include "engine/file_requests.h"
 #include "persistence/file_path.h"
+#include "platform/path_text.h"
 #include "shell/text_format.h"
 
 #include <algorithm>
@@ -40,7 +41,7 @@ bool liesBelow(const fs::path& path, const fs::path& folder) {
 }
 
 std::string lowerExtension(const fs::path& file) {
-    return lowerCase(file.extension().string());
+    return lowerCase(textOf(file.extension()));
 }
 
 bool isTrack(const fs::path& file) {
@@ -91,7 +92,7 @@ void FileDesk::openFile(const std::string& path) {
     const fs::path file = portablePath(path);
     if (!at.strip.fileMenu.loadSession.enabled())
         at.boxes.show(Text::windowTitle,
-                      filledIn(at.boxes.texts[Text::openAtRest], {file.filename().string()}),
+                      filledIn(at.boxes.texts[Text::openAtRest], {textOf(file.filename())}),
                       BoxKind::notice);
     else if (lowerExtension(file) == ".map")
         at.sim.openChart(path);
@@ -109,7 +110,7 @@ std::optional<std::string> FileDesk::chooseFile(FileRequest request, const std::
     return at.boxes.chooseFile(
         {.saves = saves,
          .title = text(titleOf(request)),
-         .present = aside ? file.filename().string() : present,
+         .present = aside ? textOf(file.filename()) : present,
          .folder = at.sim.c_MainAppPath,
          .filter = text(isChart(request) ? Text::chartFilter : Text::sessionFilter) +
                    (saves ? "" : ";;" + text(Text::anyFileFilter)),

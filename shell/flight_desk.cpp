@@ -3,6 +3,7 @@
 #include "core/number_text.h"
 #include "engine/user_control_2.h"
 #include "persistence/file_path.h"
+#include "platform/path_text.h"
 #include "shell/text_format.h"
 #include "strings/cause_text.h"
 
@@ -29,7 +30,7 @@ FlightDesk::FlightDesk(FormState& form, BoxDesk& boxDesk, UserControl2& simulati
 }
 
 std::string FlightDesk::title() const {
-    const std::string file = portablePath(sim.c_SessionFileName).filename().string();
+    const std::string file = textOf(portablePath(sim.c_SessionFileName).filename());
     const Text form = sim.flightUnsaved() ? Text::titleUnsaved : Text::titleSaved;
     return filledIn(texts[form], {file, texts[Text::windowTitle]});
 }

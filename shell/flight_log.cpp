@@ -3,6 +3,7 @@
 #include "exercises/text_hash.h"
 #include "persistence/flight_shelf.h"
 #include "persistence/session_file.h"
+#include "platform/path_text.h"
 #include "shell/task_key.h"
 #include "shell/task_text.h"
 #include "shell/text_format.h"
@@ -64,7 +65,7 @@ LoggedFlight FlightLog::entryOf(const PlacedTask& task) const {
     const std::string station = given.sim.slot(choiceOf(task.task).station).name;
     const std::string place = task.place.empty() ? station : task.place;
     const std::string detail = std::holds_alternative<ReferenceTask>(task.task)
-                                   ? std::filesystem::path(place).stem().string()
+                                   ? textOf(pathOf(place).stem())
                                    : taskDetail(task.task, station, texts);
     LoggedFlight entry;
     entry.taskKey = taskKey(task.task, place) + '\n' + place;

@@ -5,6 +5,7 @@
 #include "persistence/file_bytes.h"
 #include "persistence/file_path.h"
 #include "persistence/session_file.h"
+#include "platform/path_text.h"
 #include "shell/shipped_session.h"
 
 namespace tarnel {
@@ -30,9 +31,9 @@ std::optional<std::string> pathOf(const std::string& name, const ReferencePlaces
 std::string referenceName(const std::string& path, const ReferencePlaces& places) {
     const std::filesystem::path file = portablePath(path);
     const std::filesystem::path course = file.parent_path().parent_path();
-    std::string name = file.filename().string();
-    if (!places.courses.empty() && course.parent_path() == std::filesystem::path(places.courses))
-        return course.filename().string() + '/' + name;
+    std::string name = textOf(file.filename());
+    if (!places.courses.empty() && course.parent_path() == pathOf(places.courses))
+        return textOf(course.filename()) + '/' + name;
     return name.starts_with(languageMark) ? name.substr(languageMark.size()) : name;
 }
 
@@ -42,7 +43,7 @@ std::optional<std::vector<Sample>> referenceFlight(const std::string& name,
     if (!path)
         return {};
     try {
-        return readSession(readFileBytes(portablePath(*path).string(), largestSession)).samples;
+        return readSession(readFileBytes(textOf(portablePath(*path)), largestSession)).samples;
     } catch (const RunTimeError&) {
         return {};
     }

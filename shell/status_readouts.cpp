@@ -2,6 +2,7 @@
 
 #include "core/number_text.h"
 #include "persistence/file_path.h"
+#include "platform/path_text.h"
 
 namespace tarnel {
 
@@ -16,7 +17,7 @@ void StatusReadouts::showSessionName() {
     if (sim.c_SessionFileName.get() == sessionShown)
         return;
     sessionShown = sim.c_SessionFileName;
-    strip.sessionPanel.setText(portablePath(sessionShown).filename().string());
+    strip.sessionPanel.setText(textOf(portablePath(sessionShown).filename()));
     strip.sessionPanel.setTipText(sessionShown);
 }
 

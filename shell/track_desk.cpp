@@ -6,6 +6,7 @@
 #include "persistence/file_bytes.h"
 #include "persistence/file_path.h"
 #include "persistence/save_file.h"
+#include "platform/path_text.h"
 #include "shell/flight_switch.h"
 #include "shell/problem_text.h"
 #include "shell/text_format.h"
@@ -31,7 +32,7 @@ std::string wholeText(double value) {
 }
 
 std::string stemOf(const std::string& path) {
-    return portablePath(path).stem().string();
+    return textOf(portablePath(path).stem());
 }
 
 } // namespace
@@ -115,7 +116,7 @@ bool TrackDesk::practise(const TrackToFly& track, const std::string& name) {
                                        numberText(std::int64_t{seconds % secondsPerMinute}),
                                        threeDigits(start.course), wholeText(start.speed)});
     const fs::path folder = portablePath(sim.c_ScratchPath.get() + "/track");
-    const std::string session = (folder / (name + ".ts")).string();
+    const std::string session = textOf(folder / pathOf(name + ".ts"));
     std::error_code ignored; // the save tells
     fs::create_directories(folder, ignored);
     saveFileBytes(session, writeSession(sessionAlong(track, sim.session(), task), {}));

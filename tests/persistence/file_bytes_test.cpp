@@ -4,9 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <fstream>
-#include <sys/stat.h>
 
 namespace tarnel {
 namespace {
@@ -14,8 +12,8 @@ namespace {
 class FileBytesTest : public testing::Test {
   protected:
     FileBytesTest() {
-        std::filesystem::create_directories(folder + "/charts");
-        std::ofstream(folder + "/charts/Größe.map", std::ios::binary) << bytes;
+        std::filesystem::create_directories(temporary.at / "charts");
+        std::ofstream(pathOf(folder + "/charts/Größe.map"), std::ios::binary) << bytes;
     }
 
     Cause causeOf(const std::string& path, std::size_t limit = 100) const {
@@ -35,8 +33,6 @@ class FileBytesTest : public testing::Test {
 TEST_F(FileBytesTest, ComeAsTheyStandByEitherSeparator) {
     EXPECT_EQ(readFileBytes(folder + "\\charts\\Größe.map", 100), bytes);
     EXPECT_EQ(readFileBytes(folder + "/charts/Größe.map", 5), bytes);
-    std::ofstream(folder + "/charts\\Größe.map") << "of that very name";
-    EXPECT_EQ(readFileBytes(folder + "/charts\\Größe.map", 100), "of that very name");
 }
 
 TEST_F(FileBytesTest, FailuresTellTheirKind) {
@@ -44,10 +40,6 @@ TEST_F(FileBytesTest, FailuresTellTheirKind) {
     EXPECT_EQ(causeOf("/charts/\xEF\xBF\xBD.map"), Cause::nameNotUtf8);
     EXPECT_EQ(causeOf("/charts"), Cause::notAFile);
     EXPECT_EQ(causeOf("/charts/Größe.map", 4), Cause::fileTooLarge);
-    std::filesystem::create_symlink("gone.map", folder + "/link.map");
-    EXPECT_EQ(causeOf("/link.map"), Cause::linkLeadsNowhere);
-    ASSERT_EQ(mkfifo((folder + "/pipe.map").c_str(), 0600), 0);
-    EXPECT_EQ(causeOf("/pipe.map"), Cause::notAFile); // without waiting for a writer
 }
 
 } // namespace

@@ -1,7 +1,9 @@
 #pragma once
 
-#include <cstdlib>
+#include "platform/path_text.h"
+
 #include <filesystem>
+#include <random>
 #include <string>
 
 namespace tarnel {
@@ -9,12 +11,24 @@ namespace tarnel {
 /// A folder of its own, gone at the end.
 struct TemporaryFolder {
     TemporaryFolder() = default;
-    ~TemporaryFolder() { std::filesystem::remove_all(path); }
+    ~TemporaryFolder() { std::filesystem::remove_all(at); }
     TemporaryFolder(const TemporaryFolder&) = delete;
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
-    std::string path = (std::filesystem::temp_directory_path() / "tarnel-XXXXXX").string();
-    const std::filesystem::path at = mkdtemp(path.data());
+    static std::filesystem::path make() {
+        std::random_device dice;
+        for (;;) {
+            const auto path =
+                std::filesystem::temp_directory_path() / ("tarnel-" + std::to_string(dice()));
+            if (!std::filesystem::create_directory(path))
+                continue;
+            std::filesystem::permissions(path, std::filesystem::perms::owner_all);
+            return path;
+        }
+    }
+
+    const std::filesystem::path at = make();
+    const std::string path = textOf(at);
 };
 
 } // namespace tarnel

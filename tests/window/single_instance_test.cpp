@@ -1,4 +1,4 @@
-#include "window/frame/local_peer.h"
+#include "platform/local_peer.h"
 #include "window/frame/single_instance.h"
 
 #include <QFile>

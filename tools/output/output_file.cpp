@@ -2,14 +2,13 @@
 
 #include "core/run_time_error.h"
 #include "persistence/save_file.h"
+#include "platform/path_text.h"
 #include "strings/cause_text.h"
 #include "strings/string_table.h"
 
 #include <cerrno>
 #include <cstring>
-#include <fcntl.h>
 #include <filesystem>
-#include <unistd.h>
 
 namespace tarnel {
 
@@ -23,35 +22,35 @@ bool isStream(const std::string& path) {
     if (path == standardOutput)
         return true;
     std::error_code failure;
-    const fs::file_type type = fs::status(path, failure).type();
+    const fs::file_type type = fs::status(pathOf(path), failure).type();
     return type == fs::file_type::fifo || type == fs::file_type::character;
 }
 
 bool isSameFile(const std::string& one, const std::string& other) {
     std::error_code failure;
-    return fs::equivalent(one, other, failure) ||
-           fs::weakly_canonical(fs::absolute(one, failure), failure) ==
-               fs::weakly_canonical(fs::absolute(other, failure), failure);
+    const fs::path first = pathOf(one), second = pathOf(other);
+    return fs::equivalent(first, second, failure) ||
+           fs::weakly_canonical(fs::absolute(first, failure), failure) ==
+               fs::weakly_canonical(fs::absolute(second, failure), failure);
 }
 
 OutputFile::OutputFile(const std::string& path)
     : name(path == standardOutput ? "standard output" : path) {
     if (!isStream(path))
         return;
-    stream = path == standardOutput ? STDOUT_FILENO
-                                    : ::open(path.c_str(), O_WRONLY | O_NOCTTY | O_CLOEXEC);
+    if (path == standardOutput) {
+        stream = standardOutputFile();
+        return;
+    }
+    opened = openToWrite(pathOf(path));
+    stream = opened.get();
     if (stream < 0)
         throw OutputError(name, std::strerror(errno));
 }
 
-OutputFile::~OutputFile() {
-    if (stream > STDOUT_FILENO)
-        ::close(stream);
-}
-
 void OutputFile::writeNow(std::string_view part) {
     while (!part.empty()) {
-        const ssize_t count = ::write(stream, part.data(), part.size());
+        const std::ptrdiff_t count = writeFile(stream, part.data(), part.size());
         if (count < 0 && errno != EINTR)
             throw OutputError(name, std::strerror(errno));
         if (count > 0)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/files.h"
+
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -25,7 +27,6 @@ class OutputFile {
     explicit OutputFile(const std::string& path);
     OutputFile(const OutputFile&) = delete;
     OutputFile& operator=(const OutputFile&) = delete;
-    ~OutputFile();
 
     /// Throws OutputError.
     void write(std::string_view part);
@@ -37,6 +38,7 @@ class OutputFile {
     void writeNow(std::string_view part);
 
     std::string name;
+    OpenFile opened; ///< a pipe or a device
     int stream = -1; ///< what gets parts as they come; -1 for a file
     std::string kept;
 };

@@ -2,7 +2,7 @@
 
 #include "core/run_time_error.h"
 #include "flights/plan_error.h"
-#include "persistence/save_file.h"
+#include "platform/process.h"
 #include "strings/cause_text.h"
 #include "strings/string_table.h"
 #include "tools/output/output_file.h"

@@ -3,6 +3,7 @@
 
 #include "core/run_time_error.h"
 #include "persistence/save_file.h"
+#include "platform/process.h"
 #include "tools/paint_pictures/digit_painter.h"
 #include "tools/paint_pictures/document_painter.h"
 #include "tools/paint_pictures/icon_painter.h"

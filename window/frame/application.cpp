@@ -1,9 +1,9 @@
 #include "window/frame/application.h"
 
 #include "log/sqlite_log.h"
-#include "persistence/save_file.h"
 #include "persistence/scratch_folder.h"
 #include "persistence/user_data.h"
+#include "platform/process.h"
 #include "shell/application_folder.h"
 #include "window/frame/command_line.h"
 #include "window/frame/flight_guard.h"

@@ -1,5 +1,6 @@
 #include "window/frame/document_reader.h"
 
+#include "platform/user.h"
 #include "readers/pdf_reader.h"
 #include "window/widgets/desktop_opener.h"
 
@@ -21,7 +22,7 @@ bool start(const ProgramCall& call) {
 
 bool openInReader(const QString& path, int page, const std::function<void()>& notOpened) {
     const QString whole = QFileInfo(path).absoluteFilePath();
-    const std::optional<PdfReader> reader = FindPDFReader(DesktopFolders(ownEnvironment));
+    const std::optional<PdfReader> reader = FindPDFReader(DesktopFolders(environment));
     return (reader && start(reader->opening(whole.toStdString(), page))) ||
            openByDesktop(whole, notOpened);
 }

@@ -2,14 +2,13 @@
 
 #include <QSocketNotifier>
 
-#include <array>
 #include <functional>
 #include <memory>
 
 namespace tarnel {
 
-/// `EndingSignals`: hears the signals by which a program is asked to end: SIGTERM, SIGHUP and
-/// SIGINT. There can be one at a time.
+/// `EndingSignals`: hears what asks the program to end: SIGTERM, SIGHUP and SIGINT, or what the
+/// system has in their place. There can be one at a time.
 class EndingSignals {
   public:
     /// `onSignal` is called from the message loop, not from the signal.
@@ -19,7 +18,9 @@ class EndingSignals {
     ~EndingSignals();
 
   private:
-    std::array<int, 2> pipe{-1, -1}; ///< read end, write end
+    std::unique_ptr<QObject>
+        receiver;  ///< in the message loop, of what a thread of the system tells
+    int file = -1; ///< that can be read after a signal
     std::unique_ptr<QSocketNotifier> notifier;
 };
 

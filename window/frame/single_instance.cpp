@@ -1,6 +1,8 @@
 #include "window/frame/single_instance.h"
 
-#include "window/frame/local_peer.h"
+#include "platform/files.h"
+#include "platform/local_peer.h"
+#include "platform/path_text.h"
 
 #include <QCryptographicHash>
 #include <QDir>
@@ -8,9 +10,7 @@
 #include <QStandardPaths>
 #include <QSysInfo>
 
-#include <sys/stat.h>
 #include <thread>
-#include <unistd.h>
 #include <utility>
 
 namespace tarnel {
@@ -23,13 +23,6 @@ constexpr qsizetype longestMessage = 1 << 14; ///< bytes, more than any path and
 constexpr int mostConnections = 32;           ///< at a time
 constexpr int messageMilliseconds = 1000;     ///< in which a message has to be there
 constexpr char answer = '\1';
-
-bool isUsersAlone(const std::string& folder) {
-    constexpr mode_t others = 077;
-    struct stat found {};
-    return ::lstat(folder.c_str(), &found) == 0 && S_ISDIR(found.st_mode) &&
-           found.st_uid == ::geteuid() && (found.st_mode & others) == 0;
-}
 
 /// Different for each display, and for each computer that shares the folder.
 std::string nameOnDisplay() {
@@ -51,22 +44,21 @@ std::string SingleInstance::usersFolder() {
     // In a Flatpak each start has a runtime folder of its own, but for this one.
     if (const QByteArray sandbox = qgetenv("FLATPAK_ID"); !sandbox.isEmpty())
         runtime += "/app/" + sandbox.toStdString();
-    if (runtime.starts_with('/') && isUsersAlone(runtime))
+    if (runtime.starts_with('/') && isUsersAlone(pathOf(runtime)))
         return runtime;
-    constexpr mode_t usersAlone = 0700;
     const QString cache = QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation);
     const std::string folder = cache.toStdString() + "/tarnel-run";
-    if (!QDir().mkpath(cache) || (::mkdir(folder.c_str(), usersAlone) != 0 && errno != EEXIST))
-        return {};
-    return isUsersAlone(folder) ? folder : std::string();
+    const bool made = QDir().mkpath(cache) && makeUsersAlone(pathOf(folder));
+    return made && isUsersAlone(pathOf(folder)) ? folder : std::string();
 }
 
 SingleInstance::SingleInstance(const std::string& folder)
     : base(folder.empty() ? std::string() : folder + "/" + nameOnDisplay()) {}
 
 SingleInstance::~SingleInstance() {
+    std::error_code ignored;
     if (lock)
-        ::unlink(socketPath().c_str());
+        std::filesystem::remove(pathOf(socketPath()), ignored);
 }
 
 /// The first one may hold the lock before it listens; and it may end while this one waits.
@@ -75,7 +67,6 @@ SingleInstance::Start SingleInstance::start(const std::string& message,
     constexpr auto pause = 20ms;
     constexpr int triesForALock = 5;
     const auto end = std::chrono::steady_clock::now() + patience;
-    struct stat found {};
     int triesWithoutFile = 0;
     while (!base.empty() && triesWithoutFile < triesForALock) {
         if (auto taken = LockFile::take(lockPath())) {
@@ -87,7 +78,9 @@ SingleInstance::Start SingleInstance::start(const std::string& message,
             return Start::handedOver;
         if (std::chrono::steady_clock::now() >= end)
             return Start::otherHangs;
-        triesWithoutFile = ::lstat(lockPath().c_str(), &found) == 0 ? 0 : triesWithoutFile + 1;
+        std::error_code none;
+        const auto held = std::filesystem::symlink_status(pathOf(lockPath()), none);
+        triesWithoutFile = std::filesystem::exists(held) ? 0 : triesWithoutFile + 1;
         std::this_thread::sleep_for(pause);
     }
     return Start::first;
@@ -99,9 +92,12 @@ void SingleInstance::listen() {
         while (QLocalSocket* socket = server.nextPendingConnection())
             accept(*socket);
     });
-    const int descriptor = listeningSocket(socketPath());
-    if (descriptor >= 0)
-        server.listen(descriptor);
+    if (const std::string name = listeningName(socketPath()); !name.empty()) {
+        server.setSocketOptions(QLocalServer::UserAccessOption);
+        server.listen(QString::fromStdString(name));
+    } else if (const std::intptr_t socket = listeningSocket(socketPath()); socket >= 0) {
+        server.listen(socket);
+    }
 }
 
 /// Who is another user, one too many, or slow, is hung up on.
@@ -111,8 +107,7 @@ void SingleInstance::accept(QLocalSocket& socket) {
         --openConnections;
         socket.deleteLater();
     });
-    if (openConnections > mostConnections ||
-        !isOfSameUser(static_cast<int>(socket.socketDescriptor()))) {
+    if (openConnections > mostConnections || !isOfSameUser(socket.socketDescriptor())) {
         socket.abort();
         return;
     }

@@ -1,4 +1,6 @@
-#include "window/frame/local_peer.h"
+#include "platform/local_peer.h"
+
+#include "platform/posix/own_calls.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -17,7 +19,7 @@ using Clock = std::chrono::steady_clock;
 /// A local socket, closed at its end unless it was released.
 class Socket {
   public:
-    Socket() : descriptor(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0)) {}
+    Socket() : descriptor(quietSocket()) {}
     Socket(const Socket&) = delete;
     Socket& operator=(const Socket&) = delete;
     ~Socket() {
@@ -57,7 +59,7 @@ bool waitFor(int socket, short events, Clock::time_point end) {
 
 bool sendAll(int socket, const char* bytes, std::size_t count, Clock::time_point end) {
     while (count > 0) {
-        const ssize_t sent = ::send(socket, bytes, count, MSG_NOSIGNAL);
+        const ssize_t sent = ::send(socket, bytes, count, quietSendFlags());
         if (sent < 0 && errno != EAGAIN && errno != EINTR)
             return false;
         if (sent > 0) {
@@ -72,14 +74,7 @@ bool sendAll(int socket, const char* bytes, std::size_t count, Clock::time_point
 
 } // namespace
 
-bool isOfSameUser(int socket) {
-    ucred peer{};
-    socklen_t size = sizeof peer;
-    return ::getsockopt(socket, SOL_SOCKET, SO_PEERCRED, &peer, &size) == 0 &&
-           peer.uid == ::geteuid();
-}
-
-int listeningSocket(const std::string& path) {
+std::intptr_t listeningSocket(const std::string& path) {
     constexpr int mostWaiting = 32;
     Socket socket;
     ::unlink(path.c_str());
@@ -87,6 +82,10 @@ int listeningSocket(const std::string& path) {
         return ::bind(socket.get(), address, size);
     });
     return bound && ::listen(socket.get(), mostWaiting) == 0 ? socket.release() : -1;
+}
+
+std::string listeningName(const std::string& /*path*/) {
+    return {};
 }
 
 bool handOver(const std::string& path, const std::string& message, Clock::time_point end) {
