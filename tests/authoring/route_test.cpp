@@ -36,9 +36,10 @@ TEST(Route, HomesInWindAndTellsWhereItTurns) {
         << "four fifths of the paper";
     // Homing turns into the wind from 340; a course held straight would have led there on 070.
     EXPECT_THAT(session.comments,
-                testing::ElementsAre("there", testing::MatchesRegex("0[0-3][0-9]"), "a",
-                                     testing::MatchesRegex("[01]:[0-9]+: [1-9][0-9]*, [0-9]+"),
-                                     testing::MatchesRegex("[0-9.]+")));
+                testing::ElementsAre(
+                    "there", testing::AllOf(testing::Gt("000"), testing::Lt("040")), "a",
+                    testing::AllOf(testing::MatchesRegex(".:..: .+, .+"), testing::Lt("2")),
+                    testing::AllOf(testing::Gt("0"), testing::Lt(":"))));
 }
 
 /// The last thing said on a flight over the default chart.
@@ -82,7 +83,7 @@ leg = [
                                                     "x.toml", ChartShelf({TARNEL_DATA_FOLDER})),
                                           TARNEL_DATA_FOLDER);
     EXPECT_THAT(readSession(built.files.back().bytes).comments,
-                testing::ElementsAre("a", testing::MatchesRegex("0:0[4-6]")));
+                testing::ElementsAre("a", testing::AnyOf("0:04", "0:05", "0:06")));
 }
 
 } // namespace

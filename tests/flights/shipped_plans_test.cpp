@@ -69,7 +69,10 @@ TEST(ShippedPlans, AreWhatTheirTasksAsk) {
         flight.fly(plan.seconds, [] {});
         const std::string told = flightDebrief(flight, germanTable());
         EXPECT_THAT(told, testing::HasSubstr(" richtig: ")) << name;
-        EXPECT_THAT(told, testing::Not(testing::ContainsRegex("[0-9] (zu |falsch)"))) << name;
+        for (char digit = '0'; digit <= '9'; ++digit)
+            for (const char* word : {" zu ", " falsch"})
+                EXPECT_THAT(told, testing::Not(testing::HasSubstr(digit + std::string(word))))
+                    << name;
     }
 }
 

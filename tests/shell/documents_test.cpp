@@ -13,10 +13,10 @@ class DocumentsTest : public testing::Test {
         return folder.path;
     }
     std::string put(const std::string& name, const std::string& content = "-") {
-        const fs::path path = fs::path(folder.path) / name;
+        const fs::path path = folder.at / pathOf(name);
         fs::create_directories(path.parent_path());
         std::ofstream(path, std::ios::binary) << content;
-        return path.string();
+        return textOf(path);
     }
     static std::string session() {
         std::string text;

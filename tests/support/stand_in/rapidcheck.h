@@ -2,12 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <cstddef>
 #include <functional>
 #include <iterator>
 #include <limits>
 #include <random>
-#include <utility>
+#include <type_traits>
+#include <vector>
 
 /// Stands in for the library of this name where that is not to be had: properties are tried with as
 /// many draws, the same in each run, and what fails is not made smaller.
@@ -31,15 +33,6 @@ template <class T>
 Gen<T> inRange(T least, T end) {
     return {[=] {
         return static_cast<T>(std::uniform_int_distribution<long long>(least, end - 1LL)(dice()));
-    }};
-}
-
-template <class T>
-Gen<T> arbitrary() {
-    using Limits = std::numeric_limits<T>;
-    return {[] {
-        return static_cast<T>(
-            std::uniform_int_distribution<long long>(Limits::min(), Limits::max())(dice()));
     }};
 }
 
@@ -72,6 +65,21 @@ Gen<C> container(Gen<T> of) {
     return {[=] { return *container<C>(*inRange<std::size_t>(0, most), of); }};
 }
 
+template <class T>
+Gen<T> arbitrary() {
+    return {[]() -> T {
+        if constexpr (std::is_integral_v<T>) {
+            using Limits = std::numeric_limits<T>;
+            return static_cast<T>(
+                std::uniform_int_distribution<long long>(Limits::min(), Limits::max())(dice()));
+        } else if constexpr (std::is_floating_point_v<T>) {
+            return std::ldexp(std::uniform_real_distribution<T>(-1, 1)(dice()), *inRange(-60, 60));
+        } else {
+            return *container<T>(arbitrary<typename T::value_type>());
+        }
+    }};
+}
+
 template <class T, class F>
 auto map(Gen<T> of, F change) {
     return Gen<decltype(change(*of))>{[=] { return change(*of); }};
@@ -82,13 +90,17 @@ auto map(Gen<T> of, F change) {
 /// Ends a try, whether it failed or does not count.
 struct Ended {};
 
-template <class Property>
-void tryOften(const Property& property) {
+inline void tryOften(const std::function<void()>& property) {
     for (int left = 100; left > 0 && !testing::Test::HasFailure(); --left)
         try {
             property();
         } catch (const Ended&) {
         }
+}
+
+template <class Argument>
+void tryOften(void (*property)(Argument)) {
+    tryOften([=] { property(*gen::arbitrary<std::remove_cvref_t<Argument>>()); });
 }
 
 inline void require(bool holds, const char* what) {
