@@ -1,5 +1,6 @@
 #include "shell/form_1.h"
 
+#include "core/angle.h"
 #include "panel/needle_sources.h"
 #include "persistence/file_bytes.h"
 
@@ -103,8 +104,10 @@ TaskChoice Form1::likelyTask() {
     TaskChoice likely;
     if (const auto needle = needleSources(inst3, positions.feedSources()).first)
         likely.station = needle->slot;
-    const auto course = static_cast<int>(std::lround(UserControl11.c_obsI3.get())) % 360;
-    likely.course = course <= 0 ? course + 360 : course;
+    const double onChart = UserControl11.c_obsI3; // from its top
+    const double shown = UserControl11.view.northUpMode ? onChart : onChart + UserControl11.c_HDG;
+    const auto course = static_cast<int>(std::lround(intoCircle(shown)));
+    likely.course = course == 0 ? 360 : course;
     return likely;
 }
 

@@ -212,6 +212,11 @@ TEST_F(DebriefTest, ProposesWhatStandsOnThePanelAndRefusesWhatIsNoTask) {
     EXPECT_TRUE(form.debrief.choosesTask());
     EXPECT_EQ(form.debrief.choice().station, Slot::vor1);
     EXPECT_EQ(form.debrief.choice().course, 110);
+    form.debriefControls.close.click();
+    form.display.setNorthUp(false);
+    couple();
+    form.debriefControls.item.click();
+    EXPECT_EQ(form.debrief.choice().course, 110) << "whichever way the chart lies";
     for (const auto& [choice, judged] :
          {std::pair{TaskChoice{.kind = TaskKind::reference}, false},
           std::pair{TaskChoice{.kind = TaskKind::arc, .station = Slot::ndb1}, false},
