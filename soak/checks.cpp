@@ -38,10 +38,6 @@ constexpr Range simulationRanges[] = {
     {"c_ApMinutes", 0, 99},
     {"c_ApSeconds2", 0, 59},
     {"c_ApMinutes2", 0, 59},
-    {"c_obsI2", 0, 360},
-    {"c_obsI3", 0, 360},
-    {"c_OBS1", 0, 360},
-    {"c_OBS2", 0, 360},
     {"c_LocCrs1", 0, 360},
     {"c_inst2", 1, 5},
     {"c_inst3", 1, 5},
@@ -90,6 +86,12 @@ void checkFlight(const UserControl2& sim) {
         checkNumber("a station in the recording", place.latitude, -90, 90);
 }
 
+void checkPosition(const InstrumentPosition& position) {
+    checkNumbers("an instrument", position.instrument.properties);
+    checkNumber("a course", position.obs, 0, 360);
+    checkNumber("a card", position.adfCard, 0, 360);
+}
+
 int openFiles() {
     int files = 0;
     for ([[maybe_unused]] const auto& entry : std::filesystem::directory_iterator("/proc/self/fd"))
@@ -113,7 +115,7 @@ void check(Form1& form, const MainWindow& window) {
     checkNumbers("QAform1", form.QAform1.properties);
     checkNumbers("APControlFace1", form.APControlFace1.properties);
     for (const InstrumentPosition* position : {&form.inst1, &form.inst2, &form.inst3})
-        checkNumbers("an instrument", position->instrument.properties);
+        checkPosition(*position);
     checkRanges(form.UserControl11.properties);
     checkFlight(form.UserControl11);
     if (form.boxes.up() || QApplication::activePopupWidget())
