@@ -285,7 +285,7 @@ void doAnErrand(Program& program, SoakState& state) {
         program.rest();
     if (program.form.UserControl11.c_TimerEN == 1 || state.dice.once(2)) {
         errand.fly();
-        program.pass(state.dice.between(10, 180));
+        program.pass(state.dice.between(20, 240));
     }
 }
 

@@ -22,8 +22,6 @@ namespace tarnel {
 
 namespace {
 
-constexpr const char* programsEnd = "mnuExit";
-
 /// The name of what is named in the sources, else empty: Qt names parts of its own.
 std::string givenName(const QObject& object) {
     const std::string name = object.objectName().toStdString();
@@ -78,7 +76,7 @@ QList<QAction*> entriesOf(QMenu& menu) {
     for (QAction* action : menu.actions())
         if (action->menu())
             entries << entriesOf(*action->menu());
-        else if (!action->isSeparator() && action->objectName() != QLatin1String(programsEnd))
+        else if (!action->isSeparator())
             entries << action;
     return entries;
 }
@@ -294,8 +292,7 @@ void Hand::answerPopups() {
 void Hand::answerMenu(QMenu& menu) {
     QList<QAction*> entries;
     for (QAction* action : menu.actions())
-        if (action->isVisible() && action->isEnabled() && !action->isSeparator() &&
-            action->objectName() != QLatin1String(programsEnd))
+        if (action->isVisible() && action->isEnabled() && !action->isSeparator())
             entries << action;
     if (entries.isEmpty() || given.dice.once(4)) {
         menu.close();

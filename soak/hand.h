@@ -41,8 +41,7 @@ class Hand {
     void wheel(QWidget& widget);
     /// A key, or several at once, to the window that has the keyboard.
     void useKey();
-    /// Triggers an entry of the menus, of a few by chance that which was used least. The program's
-    /// end is none.
+    /// Triggers an entry of the menus, of a few by chance that which was used least.
     void useMenus(QMenuBar& bar);
     /// Triggers an entry by its name, if it can be used.
     void useEntry(const QWidget& window, const char* name);

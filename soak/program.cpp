@@ -40,6 +40,7 @@ Program::Program(const Given& given)
     form.UserControl11.c_ScratchPath = scratch.path();
     world.setParent(&window);
     keepCount();
+    exit().setEnabled(false);
     window.resize(usualWindow);
     window.show();
     window.activateWindow();
@@ -66,7 +67,7 @@ void Program::settle() {
 
 void Program::pass(int seconds) {
     constexpr int ticksPerSecond = 3;
-    constexpr int ticksPerPicture = 24;
+    constexpr int ticksPerPicture = 60;
     constexpr int ticksPerDrive = 3;
     constexpr int ticksPerCopy = 60;
     const UserControl2& sim = form.UserControl11;
@@ -94,6 +95,11 @@ void Program::pass(int seconds) {
         }
     }
     settle();
+}
+
+/// The entry that ends the program: at rest until it is to end.
+QAction& Program::exit() {
+    return *window.findChild<QAction*>(QStringLiteral("mnuExit"));
 }
 
 void Program::closeOthers() {
@@ -133,11 +139,11 @@ void Program::rest() {
 void Program::end() {
     constexpr int patience = 40;
     rest();
-    auto& exit = *window.findChild<QAction*>(QStringLiteral("mnuExit"));
+    exit().setEnabled(true);
     for (int i = 0; window.isVisible(); ++i) {
         if (i == patience)
             throw Fault("the program does not end");
-        exit.trigger();
+        hand.useEntry(window, "mnuExit");
     }
     // It has asked the loop to end; one that was never asked would begin ended.
     QTimer::singleShot(0, qApp, &QCoreApplication::quit);

@@ -9,6 +9,8 @@
 #include <cstdint>
 #include <string>
 
+class QAction;
+
 namespace tarnel {
 
 /// What outlasts a program that ends and is started anew.
@@ -65,6 +67,7 @@ class Program {
   private:
     void keepCount();
     void closeOthers();
+    QAction& exit();
     int driven = 0;
 };
 
