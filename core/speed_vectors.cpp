@@ -17,7 +17,8 @@ Point plus(Point a, Point b) {
 
 SpeedVectors layOutSpeedVectors(Point airplane, double heading, std::int16_t tas, double windCourse,
                                 std::int16_t windSpeed, std::int16_t mapScaleTwips) {
-    const std::int16_t legTwips = toInt16((62500.0 / mapScaleTwips) * 3);
+    // Not narrowed to 16 bits: on the smallest charts it is long.
+    const double legTwips = roundToEven((62500.0 / mapScaleTwips) * 3);
     const double perKnot = mapScaleTwips * (1 / (3600 / simTimeStep)) * simTimeFactor;
 
     SpeedVectors vectors;

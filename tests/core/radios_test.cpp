@@ -107,7 +107,9 @@ TEST(SpeedVectors, ReadTrackAndSpeedAtEveryScale) {
             {0, 120, 180, 20, 360, 100},  {0, 120, 90, 120, 45, 170}, {0, 0, -150, 30, 210, 30},
             {300, 90, -60, 30, 300, 120},
         };
-    for (const std::int16_t scale : scales) {
+    std::vector<std::int16_t> all(std::begin(scales), std::end(scales));
+    all.push_back(1); // of a chart that frames stations far apart
+    for (const std::int16_t scale : all) {
         for (const auto& [heading, tas, windCourse, windSpeed, track, speed] : cases) {
             const SpeedVectors read =
                 layOutSpeedVectors({3405, 3405}, heading, tas, windCourse, windSpeed, scale);
