@@ -124,9 +124,10 @@ void check(Form1& form, const MainWindow& window) {
         throw Fault("the window has gone");
 }
 
-Floor takeFloor(double hour) {
+Floor takeFloor(double hour, double age) {
     QPixmapCache::clear();
-    return {hour, liveBytes(), static_cast<int>(QApplication::allWidgets().size()), openFiles()};
+    return {hour, age, liveBytes(), static_cast<int>(QApplication::allWidgets().size()),
+            openFiles()};
 }
 
 } // namespace tarnel
