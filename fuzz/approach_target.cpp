@@ -1,5 +1,6 @@
 #include "approach/approach_plan.h"
 #include "authoring/authored_chart.h"
+#include "core/rounding.h"
 #include "flights/plan_error.h"
 #include "fuzz_target.h"
 
@@ -17,7 +18,7 @@ SessionFile sessionOnTheChart() {
     Sample& sample = session.samples.emplace_back();
     for (std::size_t slot = 0; slot < slotCount; ++slot)
         sample.traceStations[slot] = chart.stations[slot].position.value();
-    sample.traceLocCourse = chart.locCourse.value();
+    sample.traceLocCourse = toInt16(chart.locCourse.value());
     return session;
 }
 

@@ -13,7 +13,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static const DesktopFolders folders(
         [](const char* name) { return std::string(std::string(name) == "PATH" ? "/bin" : ""); });
     const std::string path = file.with(asText(data, size));
-    readKeyGroup(path, "Default Applications");
+    (void)readKeyGroup(path, "Default Applications");
     const auto entry = readDesktopEntry(path, folders);
     if (!entry)
         return 0;
