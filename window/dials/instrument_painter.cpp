@@ -109,13 +109,9 @@ void paintTicks(const Scene& scene) {
 
 /// Above all needles, with a fine dark edge, so that they can be read where one passes.
 void paintNumerals(const Scene& scene, NumeralShapes& numerals) {
-    for (const Label& numeral : scene.picture.Label1) {
-        if (!numeral.visible)
-            continue;
-        const TurnedNumeral turned = numerals.turned(numeral, scene.picture.size, scene.scale);
-        scene.painter.fillPath(turned.edge, look::shapeEdge);
-        scene.painter.fillPath(turned.body, look::ticks);
-    }
+    for (const Label& numeral : scene.picture.Label1)
+        if (numeral.visible)
+            numerals.paint(scene.painter, numeral, scene.picture.size, scene.scale);
 }
 
 void writeNumerals(const Scene& scene) {

@@ -1,6 +1,10 @@
 #include "window/widgets/numeral_shapes.h"
 
 #include "look/panel_look.h"
+#include "window/widgets/picture_store.h"
+
+#include <QPainter>
+#include <QPainterPath>
 
 #include <cmath>
 #include <numbers>
@@ -31,30 +35,20 @@ QFont outlinedFont() {
     return look::font(outlineEm, QFont::Bold);
 }
 
-QPainterPath outlineOf(const std::string& caption) {
+QPainterPath letteringOf(const std::string& caption) {
     QPainterPath path;
     path.addText(0, 0, outlinedFont(), QString::fromStdString(caption));
     return path;
 }
 
-/// Brings a numeral of an em, upright about its middle, to its place.
-QTransform placeOf(const Label& numeral, double size, double scale) {
-    const double weight = isCardinal(numeral.caption) ? cardinalWeight : 1;
-    const double em = numeral.fontPoints * pointTwips * weight;
-    QTransform toPlace = QTransform::fromScale(scale, scale);
-    toPlace.translate(numeral.anchor.x, numeral.anchor.y);
-    toPlace.rotate(bearingOf(numeral.anchor, size / 2));
-    toPlace.scale(em, em);
-    return toPlace;
-}
+/// A numeral, and a shape that is a little larger all around: one em high, about their middles.
+struct NumeralOutline {
+    QPainterPath body;
+    QPainterPath edge;
+};
 
-} // namespace
-
-const TurnedNumeral& NumeralShapes::outline(const std::string& caption) {
-    const auto found = outlines.find(caption);
-    if (found != outlines.end())
-        return found->second;
-    const QPainterPath path = outlineOf(caption);
+NumeralOutline outlineOf(const std::string& caption) {
+    const QPainterPath path = letteringOf(caption);
     const QPointF middle = path.boundingRect().center();
     QTransform toOneEm = QTransform::fromScale(1 / outlineEm, 1 / outlineEm);
     toOneEm.translate(-middle.x(), -middle.y());
@@ -65,19 +59,61 @@ const TurnedNumeral& NumeralShapes::outline(const std::string& caption) {
     stroker.setWidth(2 * edgeShare * edgeEm);
     stroker.setJoinStyle(Qt::RoundJoin);
     const QPainterPath edge = stroker.createStroke(inside).united(inside);
-    return outlines[caption] = {body, toEdgeEm.inverted().map(edge)};
+    return {body, toEdgeEm.inverted().map(edge)};
 }
 
-TurnedNumeral NumeralShapes::turned(const Label& numeral, double size, double scale) {
-    const QTransform toPlace = placeOf(numeral, size, scale);
-    const TurnedNumeral& upright = outline(numeral.caption);
-    return {toPlace.map(upright.body), toPlace.map(upright.edge)};
+/// Twips.
+double emOf(const Label& numeral) {
+    return numeral.fontPoints * pointTwips * (isCardinal(numeral.caption) ? cardinalWeight : 1);
+}
+
+/// Brings a numeral of an em, upright about its middle, to its place.
+QTransform placeOf(const Label& numeral, double size, double scale) {
+    QTransform toPlace = QTransform::fromScale(scale, scale);
+    toPlace.translate(numeral.anchor.x, numeral.anchor.y);
+    toPlace.rotate(bearingOf(numeral.anchor, size / 2));
+    toPlace.scale(emOf(numeral), emOf(numeral));
+    return toPlace;
+}
+
+} // namespace
+
+const NumeralShapes::Cell& NumeralShapes::cellOf(const std::string& caption, double pixelsAnEm) {
+    Cell& cell = cells[caption];
+    if (cell.pixelsAnEm == pixelsAnEm)
+        return cell;
+    const NumeralOutline outline = outlineOf(caption);
+    const QTransform toPixels = QTransform::fromScale(pixelsAnEm, pixelsAnEm);
+    const QRectF edge = toPixels.mapRect(outline.edge.boundingRect());
+    const QSize half(qCeil(edge.width() / 2) + 1, qCeil(edge.height() / 2) + 1);
+    cell = {QPixmap(half * 2), pixelsAnEm};
+    cell.pixels.fill(Qt::transparent);
+    QPainter painter(&cell.pixels);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(half.width(), half.height());
+    painter.setTransform(toPixels, true);
+    painter.fillPath(outline.edge, look::shapeEdge);
+    painter.fillPath(outline.body, look::ticks);
+    return cell;
+}
+
+void NumeralShapes::paint(QPainter& painter, const Label& numeral, double size, double scale) {
+    const double pixelsAnEm = 2 * emOf(numeral) * scale * devicePixelsPerUnit(painter);
+    const Cell& cell = cellOf(numeral.caption, pixelsAnEm);
+    painter.save();
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.setTransform(placeOf(numeral, size, scale), true);
+    painter.scale(1 / pixelsAnEm, 1 / pixelsAnEm);
+    painter.drawPixmap(QPointF(-cell.pixels.width() / 2.0, -cell.pixels.height() / 2.0),
+                       cell.pixels);
+    painter.restore();
 }
 
 NumeralText NumeralShapes::text(const Label& numeral, double size, double scale) {
     QTransform place = placeOf(numeral, size, scale);
     place.scale(1 / outlineEm, 1 / outlineEm);
-    const QPointF middle = outlineOf(numeral.caption).boundingRect().center();
+    const QPointF middle = letteringOf(numeral.caption).boundingRect().center();
     return {place, -middle, outlinedFont()};
 }
 
