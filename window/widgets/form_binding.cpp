@@ -24,15 +24,19 @@ QString nameOf(const FormControl& control) {
 
 namespace {
 
+// Boxes and tabs paint themselves again whenever they are told a state, even the same.
+
 /// A box shows the value 2 as partly ticked; another button has no such state.
 void showValue(QAbstractButton& button, int value) {
     const QSignalBlocker quiet(&button);
-    if (auto* box = qobject_cast<QCheckBox*>(&button))
-        box->setCheckState(value == 0   ? Qt::Unchecked
-                           : value == 1 ? Qt::Checked
-                                        : Qt::PartiallyChecked);
-    else
-        button.setChecked(value == 1);
+    auto* box = qobject_cast<QCheckBox*>(&button);
+    if (box == nullptr)
+        return button.setChecked(value == 1);
+    const Qt::CheckState state = value == 0   ? Qt::Unchecked
+                                 : value == 1 ? Qt::Checked
+                                              : Qt::PartiallyChecked;
+    if (box->checkState() != state)
+        box->setCheckState(state);
 }
 
 } // namespace
@@ -156,7 +160,8 @@ void FormBinding::bind(const std::vector<OptionButton*>& options, QTabBar& tabs)
 
 void FormBinding::showTab(const OptionButton& option, QTabBar& tabs, int index) const {
     tabs.setTabVisible(index, option.visible());
-    tabs.setTabEnabled(index, option.enabled());
+    if (tabs.isTabEnabled(index) != option.enabled())
+        tabs.setTabEnabled(index, option.enabled());
     if (option.tip())
         tabs.setTabToolTip(index, tipOf(option));
     if (option.chosen())
