@@ -14,7 +14,6 @@ namespace {
 
 constexpr double knots = 120;
 constexpr double turnRadius = knots / (60 * std::numbers::pi); ///< NM, three degrees a second
-constexpr double feetInMile = 1852 / 0.3048;
 constexpr double joinMiles = 1.5;  ///< along the final course, where it is met without a cut
 constexpr double shortestMark = 1; ///< NM of a leg that has room for its course
 constexpr double steepest = 400;   ///< feet a mile before the final approach fix

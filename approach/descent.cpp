@@ -8,7 +8,6 @@ namespace tarnel {
 namespace {
 
 constexpr double thresholdHeight = 50;
-constexpr double feetInMile = 1852 / 0.3048;
 const double feetPerMile = std::tan(3 * std::numbers::pi / 180) * feetInMile;
 
 } // namespace

@@ -4,6 +4,9 @@
 
 namespace tarnel {
 
+/// An international NM in international feet.
+inline constexpr double feetInMile = 1852 / 0.3048;
+
 /// `Descent`: the final approach in the vertical: level to the final approach fix, and from there
 /// on a path of three degrees to 50 feet above the threshold. Distances are NM over the ground to
 /// the DME of the localizer, altitudes feet.

@@ -18,10 +18,6 @@ constexpr double beforeTheFirstWord = 12; ///< seconds, so that nothing is told 
 constexpr double betweenWords = 16;
 constexpr double afterAbeam = 10;
 
-LocalText course(double degrees) {
-    return same(threeDigits(degrees));
-}
-
 LocalText turnTowards(Turn turn) {
     return worded(turn == Turn::left ? leftTurn : rightTurn);
 }
@@ -107,7 +103,7 @@ void HoldingFlight::enter() {
         return;
     const Turn turn = answer.firstTurn == "left" ? Turn::left : Turn::right;
     const LocalText entry = worded(entryPhrase(answer.entry));
-    const LocalText heading = course(answer.firstHeading);
+    const LocalText heading = courseText(answer.firstHeading);
     pilot.say(answer.firstTurn == "maintain"
                   ? worded(holdEntryStraight, {fix, entry, heading})
                   : worded(holdEntry, {fix, entry, turnTowards(turn), heading}));
@@ -121,14 +117,14 @@ void HoldingFlight::flyEntryLeg(double heading, Turn turn, Turn back) {
     const double begun = pilot.seconds();
     const double intoWind = pilot.headingOn(heading);
     pilot.say(intoWind == wholeDegrees(heading)
-                  ? worded(holdOnEntryLeg, {course(heading)})
-                  : worded(holdOnEntryLegInWind, {course(heading), course(intoWind)}));
+                  ? worded(holdOnEntryLeg, {courseText(heading)})
+                  : worded(holdOnEntryLegInWind, {courseText(heading), courseText(intoWind)}));
     pilot.turnTo(intoWind); // only now against the wind, as the answer is without
     pilot.flyUntil([&] {
         return pilot.seconds() - begun >= entryLeg && pilot.cutBefore(inbound, back).has_value();
     });
     pilot.say(worded(holdEntryReturn, {minutesAndSeconds(pilot.seconds() - begun),
-                                       turnTowards(back), course(holding.inbound), fix}));
+                                       turnTowards(back), courseText(holding.inbound), fix}));
     pilot.establish(inbound, back);
     flyInbound();
 }
@@ -136,8 +132,8 @@ void HoldingFlight::flyEntryLeg(double heading, Turn turn, Turn back) {
 void HoldingFlight::circuit(bool joins) {
     const bool enters = joins && answer.entry == "direct" && !holding.established;
     if (enters)
-        pilot.say(worded(holdEntry,
-                         {fix, worded(direct), turnTowards(holding.turns), course(outbound())}));
+        pilot.say(worded(
+            holdEntry, {fix, worded(direct), turnTowards(holding.turns), courseText(outbound())}));
     else
         tellFix();
     flyOutbound(enters);
@@ -166,7 +162,7 @@ void HoldingFlight::flyOutbound(bool enters) {
     foretold = inboundAfterTurn();
     ++outboundLegs;
     pilot.say(worded(holdInboundTurn, {minutesAndSeconds(pilot.seconds() - begun),
-                                       turnTowards(holding.turns), course(holding.inbound)}));
+                                       turnTowards(holding.turns), courseText(holding.inbound)}));
 }
 
 void HoldingFlight::flyInbound() {
@@ -181,29 +177,30 @@ void HoldingFlight::flyInbound() {
 void HoldingFlight::tellAbeam(bool enters) {
     const double into = turnBetween(outbound(), correctedOutbound());
     if (into == 0 || !enters)
-        return pilot.say(worded(holdAbeam, {fix, course(correctedOutbound())}));
-    pilot.say(worded(holdAbeamInWind, {fix, course(outbound()), same(into < 0 ? "-" : "+"),
-                                       number(std::abs(into) / 3), course(correctedOutbound())}));
+        return pilot.say(worded(holdAbeam, {fix, courseText(correctedOutbound())}));
+    pilot.say(
+        worded(holdAbeamInWind, {fix, courseText(outbound()), same(into < 0 ? "-" : "+"),
+                                 number(std::abs(into) / 3), courseText(correctedOutbound())}));
 }
 
 void HoldingFlight::tellInbound() {
     const double heading = pilot.headingOn(holding.inbound);
     const double into = turnBetween(holding.inbound, heading);
     if (into == 0)
-        return pilot.say(worded(holdInbound, {course(holding.inbound)}));
-    pilot.say(worded(holdInboundInWind, {course(holding.inbound), same(into < 0 ? "-" : "+"),
-                                         number(std::abs(into)), course(heading)}));
+        return pilot.say(worded(holdInbound, {courseText(holding.inbound)}));
+    pilot.say(worded(holdInboundInWind, {courseText(holding.inbound), same(into < 0 ? "-" : "+"),
+                                         number(std::abs(into)), courseText(heading)}));
 }
 
 /// The fix, how long the inbound leg took, and the heading outbound.
 void HoldingFlight::tellFix() {
     const LocalText time = minutesAndSeconds(inboundTime);
-    const LocalText heading = course(correctedOutbound());
+    const LocalText heading = courseText(correctedOutbound());
     const double into = turnBetween(outbound(), correctedOutbound());
     if (into == 0)
         return pilot.say(worded(holdFix, {fix, time, turnTowards(holding.turns), heading}));
     pilot.say(
-        worded(holdFixInWind, {fix, time, turnTowards(holding.turns), course(outbound()),
+        worded(holdFixInWind, {fix, time, turnTowards(holding.turns), courseText(outbound()),
                                same(into < 0 ? "-" : "+"), number(std::abs(into) / 3), heading}));
 }
 

@@ -15,10 +15,6 @@ using enum Phrase;
 
 constexpr double nothing = 0.05; ///< knots that are none when written in tenths
 
-LocalText course(double degrees) {
-    return same(threeDigits(degrees));
-}
-
 LocalText side(double toTheRight) {
     return worded(toTheRight < 0 ? left : right);
 }
@@ -39,11 +35,12 @@ LocalText components(const WindTriangle& triangle, const LocalText& wind,
 LocalText correctionTold(const WindTriangle& triangle, double inbound, double tas) {
     const double heading = wholeDegrees(inbound + triangle.correction);
     if (std::abs(triangle.fromRight) < nothing)
-        return worded(noCorrection, {course(heading)});
-    return worded(correction, {tenths(std::abs(triangle.fromRight)), number(tas),
-                               tenths(std::abs(triangle.correction)), course(inbound),
-                               same(triangle.correction < 0 ? "-" : "+"),
-                               number(std::abs(turnBetween(inbound, heading))), course(heading)});
+        return worded(noCorrection, {courseText(heading)});
+    return worded(correction,
+                  {tenths(std::abs(triangle.fromRight)), number(tas),
+                   tenths(std::abs(triangle.correction)), courseText(inbound),
+                   same(triangle.correction < 0 ? "-" : "+"),
+                   number(std::abs(turnBetween(inbound, heading))), courseText(heading)});
 }
 
 LocalText outboundTold(const WindTriangle& triangle) {
@@ -61,8 +58,8 @@ LocalText sectorTold(const Holding& holding, double heading) {
     constexpr double farLimit = 110; // with the turns
     const double angle = turnBetween(holding.inbound, heading);
     const bool rightTurns = holding.turns == Turn::right;
-    const LocalText turned[] = {course(heading), course(holding.inbound), number(std::abs(angle)),
-                                side(angle)};
+    const LocalText turned[] = {courseText(heading), courseText(holding.inbound),
+                                number(std::abs(angle)), side(angle)};
     const std::string entry = answerOf(holding, heading).entry;
     if (entry == "direct")
         return worded(holdDirectSector, {turned[0], turned[1], turned[2], turned[3], worded(direct),
@@ -78,7 +75,7 @@ LocalText sectorTold(const Holding& holding, double heading) {
 std::vector<LocalText> windTold(const Wind& wind, double inbound, double tas) {
     const WindTriangle triangle = windTriangle(wind, inbound, tas);
     const LocalText told = same(headingCaption(wind.direction) + "/" + std::to_string(wind.speed));
-    return {components(triangle, told, course(inbound)), correctionTold(triangle, inbound, tas),
+    return {components(triangle, told, courseText(inbound)), correctionTold(triangle, inbound, tas),
             outboundTold(triangle)};
 }
 

@@ -11,8 +11,6 @@ namespace {
 
 using enum StudyColumn;
 
-constexpr double fullScale = 10; ///< degrees of a VOR's needle
-
 const StringTable& tableOf(Language language) {
     return language == Language::german ? germanTable() : englishTable();
 }
@@ -117,7 +115,7 @@ double RadialKind::needle(const FlownSituation& flown, const FlightRow& row) {
     const double fromCourse = turnBetween(situation.course, radial);
     const double deviation =
         std::abs(fromCourse) < 90 ? -fromCourse : turnBetween(situation.course, radial + 180);
-    return std::clamp(deviation, -fullScale, fullScale);
+    return std::clamp(deviation, -vorFullScale, vorFullScale);
 }
 
 StudyRecord RadialKind::askPlace(const FlownSituation& flown, Language language) {

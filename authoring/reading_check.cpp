@@ -14,7 +14,6 @@ using enum StudyColumn;
 constexpr double practiseArea = 80; ///< NM by a DME
 constexpr double readable = 1.5;    ///< degrees to which a needle is read
 constexpr double centred = 0.5;     ///< degrees
-constexpr double fullScale = 10;    ///< degrees of a VOR's needle
 constexpr double silence = 10;      ///< seconds without a word, while the question is read
 
 /// What is proved at the sample of a question.
@@ -109,7 +108,7 @@ void PanelCheck::needle() const {
         return wrong("course " + threeDigits(course) +
                      " is abeam of the station, so TO and FROM "
                      "can't be told; choose another");
-    if (std::abs(shown.deviation) > fullScale - edge)
+    if (std::abs(shown.deviation) > vorFullScale - edge)
         return wrong("the needle stands at full scale, so the radial can't be read; choose a "
                      "course nearer to it");
     const double off = std::min(std::abs(turnBetween(course, radial())),

@@ -16,6 +16,8 @@
 
 namespace tarnel {
 
+inline constexpr double vorFullScale = 10; ///< degrees of deviation at full needle travel
+
 /// A situation as a teacher writes it. What an exercise does not ask for keeps its value here.
 struct Situation {
     int line = 0;                               ///< of the source

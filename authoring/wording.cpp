@@ -51,6 +51,10 @@ LocalText same(const std::string& text) {
     return {text, text};
 }
 
+LocalText courseText(double degrees) {
+    return same(threeDigits(degrees));
+}
+
 LocalText number(double value) {
     return same(std::to_string(std::lround(value)));
 }

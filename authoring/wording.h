@@ -17,6 +17,8 @@ enum class Phrase {
 
 /// The same text in both languages.
 [[nodiscard]] LocalText same(const std::string& text);
+/// Degrees in three digits.
+[[nodiscard]] LocalText courseText(double degrees);
 /// A whole number of something.
 [[nodiscard]] LocalText number(double value);
 /// A number with one decimal: a point in English, a comma in German.

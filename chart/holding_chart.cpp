@@ -12,7 +12,7 @@ namespace {
 
 constexpr double shareOfChart = 1.0 / 3;
 /// Of the scale; a flight that stands still has a holding without length.
-constexpr double largestScale = 2000;
+constexpr double largestHoldingScale = 2000;
 
 double nearestMiles(const Recording& flight, int samples, const SplitPosition& station) {
     double nearest = std::numeric_limits<double>::infinity();
@@ -40,7 +40,7 @@ HoldingChart holdingChart(const Recording& flight, int samples, const Stations& 
     const Station& fix = *std::ranges::min_element(stations, nearer);
     const double miles = holdingLength(flight.at(1).traceTAS);
     return {fix.position,
-            static_cast<std::int16_t>(std::min(largestScale, size * shareOfChart / miles))};
+            static_cast<std::int16_t>(std::min(largestHoldingScale, size * shareOfChart / miles))};
 }
 
 } // namespace tarnel

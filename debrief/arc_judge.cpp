@@ -11,7 +11,7 @@ namespace tarnel {
 
 namespace {
 
-constexpr double legTurn = 30; ///< degrees: smaller turns keep the arc
+constexpr double turnOffArc = 30; ///< degrees: smaller turns keep the arc
 constexpr double degree = std::numbers::pi / 180;
 
 /// The flight of an arc and of the course behind it.
@@ -82,11 +82,11 @@ void ArcFlight::findLegs() {
     // The turn onto the course is the last that leads from the arc's direction to about that of
     // the course.
     const int until = established < 0 ? path.last() : established;
-    for (const TurnSpan* turn = path.turnBefore(until, legTurn); turn && turn->first > joined;
-         turn = path.turnBefore(turn->first - 1, legTurn)) {
+    for (const TurnSpan* turn = path.turnBefore(until, turnOffArc); turn && turn->first > joined;
+         turn = path.turnBefore(turn->first - 1, turnOffArc)) {
         const bool isNear =
             std::abs(turnBetween(path.from(turn->first).radial, finalRadial())) < 45;
-        if (isNear && std::abs(offTangent(turn->first, hand)) < legTurn + 10)
+        if (isNear && std::abs(offTangent(turn->first, hand)) < turnOffArc + 10)
             lead = turn;
         if (lead)
             break;
@@ -142,7 +142,7 @@ void ArcFlight::judgeArc() {
     SampleSpan outermost{joined, joined};
     const double largest = judgement.limit(Limit::arcLargest);
     for (int i = joined; i <= ends; ++i) {
-        if (path.inTurn(i, legTurn))
+        if (path.inTurn(i, turnOffArc))
             continue;
         const double value = tooFar(i);
         if (value > outside) {

@@ -13,7 +13,7 @@ namespace tarnel {
 
 namespace {
 
-constexpr double legTurn = 60;    ///< degrees: so much leads from one leg to the next
+constexpr double holdTurn = 60;   ///< degrees: so much leads from one leg to the next
 constexpr double wingsLevel = 10; ///< degrees: a smaller turn corrects the heading
 
 double direction(double signedDegrees) {
@@ -166,7 +166,7 @@ HoldFlight::Entered HoldFlight::enteredBy(int arrived, double heading, int end) 
     if (first && first->first <= arrived + late)
         found.first = first;
     const int settled = found.first ? found.first->last : arrived;
-    const TurnSpan* back = path.turnAfter(settled, legTurn);
+    const TurnSpan* back = path.turnAfter(settled, holdTurn);
     if (!back || back->first > end)
         return found;
     const double aside = medianHeading(settled, back->first, outbound());
@@ -212,14 +212,14 @@ Circuit HoldFlight::circuit(int begin, double end) const {
     Circuit flown;
     flown.begin = begin;
     flown.end = end;
-    const TurnSpan* out = path.turnAfter(std::max(0, begin - 12), legTurn);
+    const TurnSpan* out = path.turnAfter(std::max(0, begin - 12), holdTurn);
     int level = out ? out->last : begin;
     if (out && out->first > flown.last())
         level = begin;
     while (level < flown.last() && along(level) > 0)
         ++level;
     flown.outbound = level;
-    const TurnSpan* in = path.turnAfter(level, legTurn);
+    const TurnSpan* in = path.turnAfter(level, holdTurn);
     flown.turn = in && in->first < flown.last() ? in->first : flown.last();
     constexpr double nearCourse = 25;
     int from = flown.last();
@@ -272,7 +272,7 @@ void HoldFlight::judgeEntry(int arrived, int end) {
 /// Circuits that turn the other way.
 void HoldFlight::judgeSide() {
     for (const Circuit& flown : circuits) {
-        const TurnSpan* in = path.turnAfter(flown.outbound, legTurn);
+        const TurnSpan* in = path.turnAfter(flown.outbound, holdTurn);
         const bool other = in && in->first < flown.last() && in->degrees * side < 0;
         if (other && (!flown.enters || entered.mirrored)) {
             judgement.fault(FindingKind::wrongSide, {flown.begin, flown.last()}).turn =

@@ -8,7 +8,7 @@ namespace {
 
 using enum StudyColumn;
 
-constexpr int firstHeadingRow = 1;
+constexpr int arcHeadingRow = 1;
 constexpr int leadRadialRow = 2;
 
 std::vector<ExerciseRow> dmeArcRows() {
@@ -37,7 +37,7 @@ void DmeArcExercise::prepare() {
     const std::vector<std::int16_t> drawn = draw.drawnOffsets();
     const double heading = Val(question[ans2]);
     const double radial = Val(question[ans3]);
-    headings[firstHeadingRow] = {heading, heading, drawn};
+    headings[arcHeadingRow] = {heading, heading, drawn};
     // One draw serves both rows.
     headings[leadRadialRow] = {radial, radial, {drawn[4], drawn[3], drawn[1], drawn[2], drawn[0]}};
 }

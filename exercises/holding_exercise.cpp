@@ -18,7 +18,7 @@ constexpr StudyColumn firstHeadingColumn = ans6;
 constexpr StudyColumn firstTurnColumn = ans7;
 
 constexpr int outboundRow = 1;
-constexpr int firstHeadingRow = 2;
+constexpr int entryHeadingRow = 2;
 constexpr std::array<std::int16_t, 5> offsets = {90, 150, 180, 210, 270};
 
 std::vector<ExerciseRow> holdingRows() {
@@ -68,14 +68,14 @@ void HoldingExercise::prepare() {
     draw.drawChoices(offsets, choiceBound);
     const double base = inbound;
     headings[outboundRow] = {base, static_cast<double>(outbound), draw.drawnOffsets()};
-    headings[firstHeadingRow] = {
+    headings[entryHeadingRow] = {
         base, static_cast<double>(firstHDG), {offsets.begin(), offsets.end()}};
 }
 
 std::string HoldingExercise::rightAnswer(int row) const {
     if (row == outboundRow)
         return Str(outbound);
-    return row == firstHeadingRow ? Str(firstHDG) : solution(row);
+    return row == entryHeadingRow ? Str(firstHDG) : solution(row);
 }
 
 std::string HoldingExercise::solution(int row) const {

@@ -9,7 +9,7 @@ namespace {
 using enum StudyColumn;
 
 constexpr int bearingRow = 0;
-constexpr int firstHeadingRow = 3;
+constexpr int interceptHeadingRow = 3;
 constexpr std::size_t aboveOption = 1;
 
 /// Here, unlike elsewhere, the records write "grösser" with a double s.
@@ -49,7 +49,7 @@ std::string InterceptExercise::task() const {
 
 std::vector<std::string> InterceptExercise::offers(int row) const {
     std::vector<std::string> captions = Exercise::offers(row);
-    if (bearing == Bearing::qdr && row == firstHeadingRow && question[ans4] == "maintain")
+    if (bearing == Bearing::qdr && row == interceptHeadingRow && question[ans4] == "maintain")
         captions[aboveOption] = question[ans1];
     return captions;
 }

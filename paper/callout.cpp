@@ -9,7 +9,7 @@ namespace {
 
 constexpr double distances[] = {34, 52, 76, 108, 150, 200}; ///< px, from the place to the box
 constexpr int directions = 24;
-constexpr double margin = 4; ///< that the box keeps from all else
+constexpr double calloutMargin = 4; ///< that the box keeps from all else
 
 // What a box costs, in square pixels that it covers.
 constexpr double costOfSpot = 40;
@@ -21,7 +21,7 @@ Spot nearestIn(const Box& box, Spot place) {
 
 double costOf(const Box& box, Spot place, std::span<const Box> occupied,
               std::span<const Spot> track) {
-    const Box around = box.grownBy(margin);
+    const Box around = box.grownBy(calloutMargin);
     double cost = costOfPixelAway * Stroke{place, nearestIn(box, place)}.length();
     for (const Box& area : occupied)
         cost += around.sharedArea(area);
@@ -43,12 +43,12 @@ Callout placeCallout(Spot place, RoomNeeded text, const Box& sheet, std::span<co
             const Spot middle =
                 place + Spot{way.x * (away + text.width / 2), way.y * (away + text.height / 2)};
             Box box = Box::about(middle, text);
-            box.left =
-                std::clamp(box.left, sheet.left + margin,
-                           std::max(sheet.left + margin, sheet.right() - margin - text.width));
-            box.top =
-                std::clamp(box.top, sheet.top + margin,
-                           std::max(sheet.top + margin, sheet.bottom() - margin - text.height));
+            box.left = std::clamp(
+                box.left, sheet.left + calloutMargin,
+                std::max(sheet.left + calloutMargin, sheet.right() - calloutMargin - text.width));
+            box.top = std::clamp(
+                box.top, sheet.top + calloutMargin,
+                std::max(sheet.top + calloutMargin, sheet.bottom() - calloutMargin - text.height));
             const double cost = costOf(box, place, occupied, track);
             if (cost < lowest) {
                 lowest = cost;

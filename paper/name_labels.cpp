@@ -23,7 +23,7 @@ constexpr double leastLean = 0.45; ///< of the longer side
 constexpr int turnSteps = 24;
 constexpr int rings = 4;
 constexpr double ringShare = 0.75; ///< of the label's height
-constexpr double margin = 3;       ///< between two labels
+constexpr double labelGap = 3;     ///< between two labels
 constexpr double paperMargin = 4;
 constexpr double smallestSine = 1e-3;
 
@@ -109,7 +109,7 @@ double effort(const NameLabel& label, int turn, int ring) {
 
 /// The cost of standing near another label; its box is empty while it has no place yet.
 double crowding(const NameLabel& tried, const NameLabel& other) {
-    const Box room = tried.box.grownBy(margin);
+    const Box room = tried.box.grownBy(labelGap);
     double cost = symbolCost * coveredShare(room, squareAbout(other.station, other.symbolRadius)) +
                   roseCost * coveredShare(room, squareAbout(other.station, other.clearance));
     if (other.box.empty())

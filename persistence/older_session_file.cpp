@@ -66,7 +66,7 @@ void readFields(LineSource& lines, const SessionFile& session, Sample& sample) {
     sample.traceLon = place.longitude;
 }
 
-void readAll(LineSource& lines, SessionFile& session) {
+void readAllOlder(LineSource& lines, SessionFile& session) {
     lines.openPlain();
     readComments(lines, session);
     for (std::size_t slot = 0; slot < slotCount; ++slot)
@@ -79,7 +79,7 @@ void readAll(LineSource& lines, SessionFile& session) {
 } // namespace
 
 SessionFile readOlderSession(std::string bytes) {
-    return readUntilProblem(std::move(bytes), readAll);
+    return readUntilProblem(std::move(bytes), readAllOlder);
 }
 
 } // namespace tarnel

@@ -12,7 +12,7 @@ struct CauseRow {
     Text text;
 };
 
-constexpr CauseRow rows[] = {
+constexpr CauseRow causeRows[] = {
     {Cause::invalidCall, Text::causeInvalidCall},
     {Cause::overflow, Text::causeOverflow},
     {Cause::subscriptOutOfRange, Text::causeSubscriptOutOfRange},
@@ -38,8 +38,8 @@ constexpr CauseRow rows[] = {
 } // namespace
 
 std::string_view causeText(const StringTable& texts, Cause cause) {
-    const auto* row = std::ranges::find(rows, cause, &CauseRow::cause);
-    return texts[row == std::end(rows) ? Text::causeAccessFailed : row->text];
+    const auto* row = std::ranges::find(causeRows, cause, &CauseRow::cause);
+    return texts[row == std::end(causeRows) ? Text::causeAccessFailed : row->text];
 }
 
 } // namespace tarnel

@@ -10,7 +10,7 @@
 namespace tarnel {
 namespace {
 
-const std::string line = "kind = \"line\"\nstation = \"NDB2\"\ncourse = 90\n";
+const std::string lineTask = "kind = \"line\"\nstation = \"NDB2\"\ncourse = 90\n";
 const std::string holding = "kind = \"holding\"\nstation = \"LOC\"\ncourse = 360\n";
 const std::string wind = "kind = \"wind\"\nstation = \"VOR2\"\ncourse = 0\n";
 const std::string arc =
@@ -33,12 +33,12 @@ std::string refused(const std::string& keys) {
 
 TEST(PlanTask, TakesWhatItsKeysSay) {
     const std::pair<std::string, Task> tasks[] = {
-        {line, LineTask{.station = Slot::ndb2, .course = 90}},
-        {line + "cut = 45",
+        {lineTask, LineTask{.station = Slot::ndb2, .course = 90}},
+        {lineTask + "cut = 45",
          LineTask{.station = Slot::ndb2, .course = 90, .joins = true, .cut = 45}},
-        {line + "cut = 45\njoins = false",
+        {lineTask + "cut = 45\njoins = false",
          LineTask{.station = Slot::ndb2, .course = 90, .cut = 45}},
-        {line + "way = \"outbound\"\njoins = true",
+        {lineTask + "way = \"outbound\"\njoins = true",
          LineTask{.station = Slot::ndb2, .course = 90, .inbound = false, .joins = true}},
         {holding, HoldTask{.fix = Slot::localizer, .inbound = 360}},
         {holding + "turns = \"left\"\nminutes = 1.5",
@@ -50,7 +50,7 @@ TEST(PlanTask, TakesWhatItsKeysSay) {
     for (const auto& [words, limits] : {std::pair("wide", Strictness::wide),
                                         {"standard", Strictness::standard},
                                         {"check ride", Strictness::checkRide}})
-        EXPECT_EQ(taskOf(line + "limits = \"" + words + "\"").limits, limits);
+        EXPECT_EQ(taskOf(lineTask + "limits = \"" + words + "\"").limits, limits);
     EXPECT_EQ(taskOf(reference).session, "plans/a.ts");
 }
 
@@ -62,7 +62,7 @@ TEST(PlanTask, HoldsEachNumberToItsRange) {
         const char* expected;
     } ranges[] = {
         {"kind = \"line\"\nstation = \"VOR1\"\n", "course", "0", "360", "-1", "361", "0 to 360"},
-        {line, "cut", "5", "120", "4.9", "120.1", "from 5 to 120"},
+        {lineTask, "cut", "5", "120", "4.9", "120.1", "from 5 to 120"},
         {"kind = \"holding\"\nstation = \"VOR1\"\n", "course", "0", "360", "-1", "0.5", "0 to 360"},
         {holding, "minutes", "0.5", "3", "0.4", "3.1", "from 0.5 to 3"},
         {wind, "minutes", "0.5", "3", "0.49", "nan", "from 0.5 to 3"},
@@ -88,11 +88,11 @@ TEST(PlanTask, HoldsEachNumberToItsRange) {
 
 TEST(PlanTask, RefusesOtherWordsKeysAndGaps) {
     const std::tuple<std::string, const char*, const char*> cases[] = {
-        {line + "limits = \"check-ride\"", "6:", "\"wide\", \"standard\" or \"check ride\""},
-        {line + "way = \"in\"", "6:", "\"inbound\" or \"outbound\""},
-        {line + "joins = 1", "6:", "'joins' as true or false"},
-        {line + "turns = \"left\"", "6:", "not 'turns'"},
-        {line + "minutes = 1", "6:", "not 'minutes'"},
+        {lineTask + "limits = \"check-ride\"", "6:", "\"wide\", \"standard\" or \"check ride\""},
+        {lineTask + "way = \"in\"", "6:", "\"inbound\" or \"outbound\""},
+        {lineTask + "joins = 1", "6:", "'joins' as true or false"},
+        {lineTask + "turns = \"left\"", "6:", "not 'turns'"},
+        {lineTask + "minutes = 1", "6:", "not 'minutes'"},
         {holding + "turns = \"Left\"", "6:", "\"left\" or \"right\""},
         {holding + "cut = 45", "6:", "not 'cut'"},
         {wind + "sense = \"clockwise\"", "6:", "not 'sense'"},

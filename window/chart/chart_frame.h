@@ -11,6 +11,9 @@ namespace tarnel {
 /// lines, areas and full colours alone, which stay sharp and small.
 enum class ChartMedium { screen, sheet };
 
+/// Of the paper below the lettering of lines and arrows.
+inline constexpr double plateOpacity = 0.85;
+
 /// `ChartFrame`: the paper's frame as the painter takes it, and the fonts of that size.
 struct ChartFrame : PaperFrame {
     ChartFrame(double paperSide, double paperTwips, double devicePixelRatio,

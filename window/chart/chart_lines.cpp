@@ -27,7 +27,6 @@ constexpr double fillNear = 0.32;
 constexpr double fillFar = 0.08;
 constexpr double paleHalf = 0.3; ///< of the filled half's opacity
 
-constexpr double plateOpacity = 0.85;
 constexpr double platePadding = 2;
 
 constexpr double airWidth = 1.6;

@@ -14,7 +14,6 @@ namespace {
 
 constexpr int barFields = 4;
 constexpr double textReach = 40; ///< more than a number or the unit takes
-constexpr double plateOpacity = 0.85;
 
 constexpr double arrowHalfLength = 13;
 constexpr double arrowHalfWidth = 6;

@@ -19,7 +19,7 @@ namespace {
 
 constexpr double padding = 8;
 constexpr double columnGap = 10;
-constexpr double plateOpacity = 0.94;
+constexpr double readoutOpacity = 0.94;
 constexpr int columnCount = 3;
 
 /// Distance, bearing and station, such as "12.3 NM", "045°" and "VOR 1".
@@ -56,7 +56,7 @@ void paintStationReadout(QPainter& painter, const ChartFrame& frame, const Chart
                           metrics.height() * static_cast<double>(rows.size()) + 2 * inset};
     const QRectF plate = toQt(plateBesidePointer(frame, readout.anchor, room));
     painter.setPen(QPen(look::day.line, 1));
-    painter.setBrush(look::faded(look::day.card, plateOpacity));
+    painter.setBrush(look::faded(look::day.card, readoutOpacity));
     painter.drawRoundedRect(plate, look::controlRadius, look::controlRadius);
     painter.setPen(look::day.ink);
     double top = plate.top() + inset;

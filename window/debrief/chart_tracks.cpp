@@ -7,11 +7,11 @@ namespace tarnel {
 
 namespace {
 
-constexpr double finest = 0.6; ///< px, of what is left out of a curve
+constexpr double trackStep = 0.6; ///< px, of what is left out of a curve
 
 void append(QPolygonF& curve, QPointF to) {
-    if (curve.isEmpty() || std::abs(to.x() - curve.back().x()) >= finest ||
-        std::abs(to.y() - curve.back().y()) >= finest)
+    if (curve.isEmpty() || std::abs(to.x() - curve.back().x()) >= trackStep ||
+        std::abs(to.y() - curve.back().y()) >= trackStep)
         curve.append(to);
 }
 

@@ -13,7 +13,7 @@ constexpr double narrowCaptionWidth = 40;
 constexpr double readoutWidth = 80;
 constexpr double narrowReadoutWidth = 58;
 constexpr double narrowPlot = 560; ///< below that captions and read-outs are narrow
-constexpr double columnGap = 8;
+constexpr double plotColumnGap = 8;
 constexpr double phasesHeight = 34;
 constexpr double lowPhasesHeight = 20; ///< a name alone
 constexpr double lowPlot = 230;
@@ -23,7 +23,7 @@ constexpr double rowGap = 6;
 constexpr double leastLabelGap = 12; ///< px, from one number to the next
 constexpr double mostBands = 4;      ///< a row shows so many times what is allowed
 constexpr double leastMinuteGap = 44;
-constexpr double finest = 0.4; ///< px, of what is left out of a curve
+constexpr double curveStep = 0.4; ///< px, of what is left out of a curve
 
 /// The next round number from `value` upwards.
 double roundUp(double value) {
@@ -136,8 +136,8 @@ class CurvePen {
             curves.emplace_back();
         QPolygonF& curve = curves.back();
         const bool first = !std::exchange(down, true);
-        if (first || std::abs(to.x() - curve.back().x()) >= finest ||
-            std::abs(to.y() - curve.back().y()) >= finest)
+        if (first || std::abs(to.x() - curve.back().x()) >= curveStep ||
+            std::abs(to.y() - curve.back().y()) >= curveStep)
             curve.append(to);
     }
 
@@ -252,7 +252,7 @@ PlotLayout layOutPlot(const PlotScene& scene, QSizeF size, double scale) {
     const bool narrow = layout.narrow = size.width() < narrowPlot * scale;
     const double left = (narrow ? narrowCaptionWidth : captionWidth) * scale;
     const double right = (narrow ? narrowReadoutWidth : readoutWidth) * scale;
-    const double gap = columnGap * scale;
+    const double gap = plotColumnGap * scale;
     const double head = (size.height() < lowPlot * scale ? lowPhasesHeight : phasesHeight) * scale;
     layout.phases = {left, 0, std::max(1.0, size.width() - left - right - gap), head};
     layout.axis = {left, size.height() - axisHeight * scale, layout.phases.width(),

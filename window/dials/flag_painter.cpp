@@ -10,7 +10,7 @@ namespace tarnel {
 namespace {
 
 constexpr double pointTwips = 20;
-constexpr double rounding = 0.18; ///< of an em
+constexpr double flagRounding = 0.18; ///< of an em
 
 double emOf(const Label& label, double scale) {
     return label.fontPoints * pointTwips * scale;
@@ -23,14 +23,14 @@ QPointF placeOf(const Label& label, double scale) {
 void paintShadow(QPainter& painter, const QRectF& flag, double em) {
     painter.setPen(Qt::NoPen);
     painter.setBrush(look::faded(Qt::black, 0.45));
-    painter.drawRoundedRect(flag.translated(0, em * 0.08), em * rounding, em * rounding);
+    painter.drawRoundedRect(flag.translated(0, em * 0.08), em * flagRounding, em * flagRounding);
 }
 
 void paintEdge(QPainter& painter, const QRectF& flag, double em) {
     constexpr double edge = 0.07;
     painter.setPen(QPen(look::shapeEdge, em * edge));
     painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(flag, em * rounding, em * rounding);
+    painter.drawRoundedRect(flag, em * flagRounding, em * flagRounding);
     painter.setPen(Qt::NoPen);
 }
 
@@ -54,7 +54,7 @@ void paintBarberFlag(QPainter& painter, const Label& label, double scale) {
     const QRectF flag(placeOf(label, scale), QSizeF(em * width, em * height));
     paintShadow(painter, flag, em);
     QPainterPath outline;
-    outline.addRoundedRect(flag, em * rounding, em * rounding);
+    outline.addRoundedRect(flag, em * flagRounding, em * flagRounding);
     painter.fillPath(outline, look::rgb(0xF4F5F5));
     painter.save();
     painter.setClipPath(outline);
@@ -78,7 +78,7 @@ void paintWordFlag(QPainter& painter, const Label& label, double scale) {
         QSizeF(em * width, em * (row * static_cast<double>(letters.size()) + margin)));
     paintShadow(painter, flag, em);
     painter.setBrush(look::flagRed);
-    painter.drawRoundedRect(flag, em * rounding, em * rounding);
+    painter.drawRoundedRect(flag, em * flagRounding, em * flagRounding);
     paintEdge(painter, flag, em);
     painter.setFont(look::font(em * 0.95, QFont::Bold));
     painter.setPen(Qt::white);

@@ -16,7 +16,7 @@ namespace tarnel {
 namespace {
 
 /// How much of the width each panel takes, in thousandths.
-constexpr std::array<int, 7> shares = {185, 135, 135, 135, 150, 145, 115};
+constexpr std::array<int, 7> panelShares = {185, 135, 135, 135, 150, 145, 115};
 constexpr int noticeMilliseconds = 8000;
 
 } // namespace
@@ -54,12 +54,12 @@ StatusPanels::StatusPanels(TrainerControls& form, TextPanel& flightNotice, FormB
 }
 
 int StatusPanels::linesAt(int width) const {
-    constexpr int allShares = 1000;
+    constexpr int allPanelShares = 1000;
     const QLabel& time = *panels.back();
     time.ensurePolished();
     const int needed = time.fontMetrics().horizontalAdvance(QStringLiteral("59h59min59sec")) +
                        2 * time.fontMetrics().averageCharWidth();
-    return width * shares.back() < needed * allShares ? 2 : 1;
+    return width * panelShares.back() < needed * allPanelShares ? 2 : 1;
 }
 
 /// In two lines all columns are alike, and time stands at the right of the second.
@@ -73,7 +73,7 @@ void StatusPanels::arrange(int lines) {
         grid->addWidget(panel, i / columns, isTime ? columns - 1 : i % columns);
         grid->setColumnStretch(i, i >= columns ? 0
                                   : lines > 1  ? 1
-                                               : shares[static_cast<std::size_t>(i)]);
+                                               : panelShares[static_cast<std::size_t>(i)]);
     }
     grid->addWidget(notice, 0, 0, lines, columns);
 }

@@ -18,7 +18,7 @@ namespace {
 constexpr int shownTrend = 8;
 constexpr int widestBar = 76;
 constexpr int narrowestBar = 30;
-constexpr int inset = 8;
+constexpr int cellInset = 8;
 constexpr int percentRole = Qt::UserRole;
 constexpr int historyRole = Qt::UserRole + 1;
 constexpr int inkRole = Qt::UserRole + 3;
@@ -77,7 +77,7 @@ class CellPainter : public QStyledItemDelegate {
         font.setBold(index.data(Qt::FontRole).toBool() || (chosen && index.column() == 0));
         painter.setFont(font);
         painter.setPen(colourOf(static_cast<CellInk>(index.data(inkRole).toInt())));
-        const QRect place = option.rect.adjusted(inset, 0, -inset, 0);
+        const QRect place = option.rect.adjusted(cellInset, 0, -cellInset, 0);
         const auto side = index.column() == 0 ? Qt::AlignLeft : Qt::AlignRight;
         const QString text = index.data(Qt::DisplayRole).toString();
         if (!index.data(historyRole).isValid())
@@ -90,7 +90,7 @@ class CellPainter : public QStyledItemDelegate {
         constexpr double whole = 100;
         if (!percent.isValid())
             return;
-        const QRectF bar(cell.left() + inset, cell.center().y() - thickness / 2.0 + 1,
+        const QRectF bar(cell.left() + cellInset, cell.center().y() - thickness / 2.0 + 1,
                          barIn(cell.width()), thickness);
         painter.setPen(Qt::NoPen);
         painter.setBrush(look::colours().hairline);
@@ -107,7 +107,7 @@ class CellPainter : public QStyledItemDelegate {
         constexpr int air = 6;
         if (history.isEmpty())
             return;
-        const QRectF area = QRectF(cell).adjusted(inset, air, -inset, -air);
+        const QRectF area = QRectF(cell).adjusted(cellInset, air, -cellInset, -air);
         QPolygonF line;
         for (qsizetype i = 0; i < history.size(); ++i)
             if (!history[i].isNull())
@@ -246,13 +246,13 @@ void ExerciseTable::shareOut() {
         bold.setBold(true);
         return std::max(fontMetrics().horizontalAdvance(textOf(texts, header)),
                         QFontMetrics(bold).horizontalAdvance(longest)) +
-               2 * inset + 2;
+               2 * cellInset + 2;
     };
     setColumnHidden(trend, width() < narrow);
     setColumnHidden(change, false);
     const std::array<std::pair<Column, int>, 5> widths = {{
         {count, wide(Text::rightOfAsked, QStringLiteral("188 / 188"))},
-        {share, (width() < narrow ? narrowestBar : widestBar) + inset +
+        {share, (width() < narrow ? narrowestBar : widestBar) + cellInset +
                     wide(Text::csvRight, QStringLiteral("100 %"))},
         {change, wide(Text::change, QStringLiteral("▲ 88"))},
         {time, wide(Text::timeTaken, QStringLiteral("888 s"))},
@@ -268,7 +268,7 @@ void ExerciseTable::shareOut() {
         setColumnWidth(trend, static_cast<int>(left * trendShare));
         left -= columnWidth(trend);
     }
-    const int needed = widestName() + 2 * inset + 2;
+    const int needed = widestName() + 2 * cellInset + 2;
     if (left < needed) { // the plot shows the change, too
         left += columnWidth(change);
         setColumnHidden(change, true);

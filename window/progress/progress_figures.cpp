@@ -13,11 +13,10 @@ namespace tarnel {
 
 namespace {
 
-constexpr int inset = 14;
-constexpr std::int64_t second = 1000;
+constexpr std::int64_t millisecondsASecond = 1000;
 
 std::int64_t inSeconds(const Tally& tally) {
-    return (tally.milliseconds + second / 2) / second;
+    return (tally.milliseconds + millisecondsASecond / 2) / millisecondsASecond;
 }
 
 } // namespace
@@ -30,7 +29,7 @@ bool isFaultless(const LoggedFlight& flight) {
 ProgressFigures::ProgressFigures(const StringTable& table, QWidget* parent)
     : QWidget(parent), texts(table) {
     auto* grid = new QGridLayout(this);
-    grid->setContentsMargins(inset, 8, inset, 8);
+    grid->setContentsMargins(cardInset, 8, cardInset, 8);
     grid->setHorizontalSpacing(8);
     grid->setVerticalSpacing(0);
     right = makeFigure(*grid, 0);

@@ -69,10 +69,9 @@ ProgressPage::ProgressPage(ProgressModel progressModel, QWidget* parent)
 
 /// In one line, or with large texts in as many as it takes.
 QWidget* ProgressPage::makeHeader() {
-    constexpr int inset = 14;
     auto* header = new Card(this);
     auto* frame = new QHBoxLayout(header);
-    frame->setContentsMargins(inset, 8, 8, 8);
+    frame->setContentsMargins(cardInset, 8, 8, 8);
     auto* line = new WrapLayout(WrapLayout::Manner::flowing, 2 * look::gap, look::gap);
     frame->addLayout(line);
     auto* title = new QLabel(textOf(model.texts, Text::progress), header);

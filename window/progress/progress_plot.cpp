@@ -15,9 +15,7 @@ namespace tarnel {
 
 namespace {
 
-constexpr int inset = 14;
-constexpr double leftShare = 5.4; ///< heights of text left of the curves
-constexpr double second = 1000;
+constexpr double leftHeights = 5.4; ///< heights of text left of the curves
 constexpr double dot = 3.2;
 
 std::optional<double> share(const Tally& tally) {
@@ -26,7 +24,7 @@ std::optional<double> share(const Tally& tally) {
 }
 
 std::optional<double> seconds(const Tally& tally) {
-    return tally.asked > 0 ? std::optional(static_cast<double>(tally.milliseconds) / second)
+    return tally.asked > 0 ? std::optional(static_cast<double>(tally.milliseconds) / 1000)
                            : std::nullopt;
 }
 
@@ -80,7 +78,7 @@ QString ProgressPlot::spoken() const {
         if (const auto percent = tally.percent())
             told += QStringLiteral("; %1: %2 %, ").arg(axis->mark(span)).arg(*percent) +
                     textOf(texts, Text::seconds)
-                        .arg(std::lround(static_cast<double>(tally.milliseconds) / second));
+                        .arg(std::lround(static_cast<double>(tally.milliseconds) / 1000));
     }
     return told;
 }
@@ -91,9 +89,9 @@ void ProgressPlot::paintEvent(QPaintEvent* /*event*/) {
     if (!shown)
         return;
     const double line = fontMetrics().height();
-    const double left = inset + leftShare * line;
-    const QRectF inner(left, inset + 2 * line, width() - left - 3 * line,
-                       height() - 2.0 * inset - 3.4 * line);
+    const double left = cardInset + leftHeights * line;
+    const QRectF inner(left, cardInset + 2 * line, width() - left - 3 * line,
+                       height() - 2.0 * cardInset - 3.4 * line);
     constexpr double shareOfRight = 0.56;
     const double gap = line;
     const Area right{
@@ -121,18 +119,18 @@ void ProgressPlot::paintHeader(QPainter& painter) const {
     painter.setFont(title);
     painter.setPen(look::colours().ink);
     const double line = QFontMetricsF(title).height();
-    painter.drawText(QPointF(inset, inset + line * 0.8),
+    painter.drawText(QPointF(cardInset, cardInset + line * 0.8),
                      QString::fromStdString(exerciseName(shown->exercise, texts)));
     painter.setFont(font());
     const QFontMetricsF metrics(font());
-    double end = width() - inset;
-    const double middle = inset + line * 0.55;
+    double end = width() - cardInset;
+    const double middle = cardInset + line * 0.55;
     const auto entry = [&](Text words, const QPen& pen, bool bar) {
         constexpr double sample = 22;
         const QString text = textOf(texts, words);
         end -= metrics.horizontalAdvance(text);
         painter.setPen(look::colours().ink);
-        painter.drawText(QPointF(end, inset + line * 0.8), text);
+        painter.drawText(QPointF(end, cardInset + line * 0.8), text);
         end -= sample + 6;
         if (bar)
             painter.fillRect(QRectF(end + sample - 10, middle - 6, 9, 12),
@@ -158,11 +156,11 @@ void ProgressPlot::paintScale(QPainter& painter, const Area& area, Text caption,
     bold.setBold(true);
     painter.setFont(bold);
     painter.setPen(look::colours().ink);
-    painter.drawText(QPointF(inset, area.place.top() + metrics.ascent() / 2),
+    painter.drawText(QPointF(cardInset, area.place.top() + metrics.ascent() / 2),
                      textOf(texts, caption));
     painter.setFont(font());
     painter.setPen(look::colours().secondaryInk);
-    painter.drawText(QPointF(inset, area.place.top() + metrics.height() * 1.4),
+    painter.drawText(QPointF(cardInset, area.place.top() + metrics.height() * 1.4),
                      textOf(texts, unit));
     for (int i = 0; i <= lines; ++i) {
         const double y = area.place.bottom() - area.place.height() * i / lines;

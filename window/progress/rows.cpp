@@ -1,5 +1,6 @@
 #include "window/progress/rows.h"
 
+#include "window/widgets/card.h"
 #include "window/widgets/wrap_layout.h"
 
 #include <QFrame>
@@ -12,8 +13,6 @@
 namespace tarnel {
 
 namespace {
-
-constexpr int inset = 14;
 
 /// A text that ends in dots where there is no room for all of it; its tool tip has the rest.
 class CutLabel : public QLabel {
@@ -40,7 +39,7 @@ class CutLabel : public QLabel {
 
 QVBoxLayout* cardColumn(QWidget& card) {
     auto* column = new QVBoxLayout(&card);
-    column->setContentsMargins(inset, 10, inset, 10);
+    column->setContentsMargins(cardInset, 10, cardInset, 10);
     column->setSpacing(6);
     return column;
 }

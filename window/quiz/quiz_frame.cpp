@@ -22,8 +22,8 @@ namespace tarnel {
 
 namespace {
 
-constexpr int inset = 10;
-constexpr int partGap = 5;
+constexpr int frameInset = 10;
+constexpr int framePartGap = 5;
 constexpr int lineGap = 2; ///< above the line below the header
 constexpr int buttonGap = 8;
 constexpr int titleGap = 6;
@@ -46,8 +46,8 @@ QuizFrame::QuizFrame(ExercisePanel& panel, const StringTable& table, FormBinding
     : QWidget(parent), asked(panel), texts(table) {
     setObjectName(nameOf(panel.frame));
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(inset, inset - 2, inset, inset);
-    column->setSpacing(partGap);
+    column->setContentsMargins(frameInset, frameInset - 2, frameInset, frameInset);
+    column->setSpacing(framePartGap);
     column->addLayout(makeHeader(binding));
     addTexts(*column);
     column->addWidget(questionArea = makeRows(binding), 1);
@@ -258,12 +258,12 @@ int QuizFrame::wantedHeight(int width) const {
 }
 
 int QuizFrame::watchedHeight(int frameWidth, int heightOfAll) const {
-    const int width = frameWidth - 2 * inset;
+    const int width = frameWidth - 2 * frameInset;
     int rows = 0;
     for (const QuizRow* row : questions)
         if (row->asked())
             rows += row->compactHeightFor(width) + quiz::compactGap;
-    return heightOfAll - grid->totalHeightForWidth(width) + rows + partGap +
+    return heightOfAll - grid->totalHeightForWidth(width) + rows + framePartGap +
            flightBar->layout()->totalHeightForWidth(width);
 }
 

@@ -6,6 +6,9 @@
 
 namespace tarnel {
 
+/// Pixels between the side of a card and what it holds.
+inline constexpr int cardInset = 14;
+
 /// Paints the card that a part of the left column stands on.
 inline void paintCard(QPainter& painter, const QRect& area) {
     painter.setRenderHint(QPainter::Antialiasing);
