@@ -4,6 +4,9 @@
 
 set -euo pipefail
 
+# Lets ccache keep what is compiled with precompiled headers.
+export CCACHE_SLOPPINESS=pch_defines,time_macros
+
 say() {
     printf '%s\n' "$*"
 }

@@ -1,5 +1,7 @@
 #include "authoring/wording.h"
 
+#include "core/station_geometry.h"
+
 #include <cmath>
 #include <string_view>
 
