@@ -76,7 +76,7 @@ class Sheets {
           page(painter, file.resolution() / 25.4),
           style(look),
           pictures(look.pictures),
-          dials(pictures) {}
+          dials(pictures, Numerals::text) {}
 
     void question(const PrintedQuestion& asked, int number, int count);
     void solutions(const std::vector<PrintedQuestion>& questions);

@@ -8,14 +8,14 @@ class QPainter;
 
 namespace tarnel {
 
-/// How the numerals of a card are painted: as shapes, or as text, of which a drawing takes the
-/// hundredth part. Text has no edge, but is painted in the edge's colour first.
-enum class Numerals { shapes, text };
+/// How the numerals of a card are painted: as pixels that turn, or as text, of which a drawing
+/// takes the hundredth part. Text has no edge, but is painted in the edge's colour first.
+enum class Numerals { pixels, text };
 
 /// Paints an instrument into a square: its background, card, needles and flags, not its knobs.
 class InstrumentPainter {
   public:
-    explicit InstrumentPainter(PictureStore& store, Numerals painted = Numerals::shapes)
+    explicit InstrumentPainter(PictureStore& store, Numerals painted = Numerals::pixels)
         : pictures(store), numeralsAs(painted) {}
 
     void paint(QPainter& painter, const InstrumentPicture& picture, double side);
