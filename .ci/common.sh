@@ -85,8 +85,11 @@ cached() {
 # Eight files of a folder are compiled as one, which takes a third of the time, as most of it goes to
 # the headers that they share: for what is built whole each time. Whether each file has all that it
 # needs, a build one by one shows.
-# shellcheck disable=SC2034
 in_batches=(CMAKE_UNITY_BUILD=ON CMAKE_UNITY_BUILD_BATCH_SIZE=8)
+# What build-sanitize/ is configured with.
+# shellcheck disable=SC2034,SC2054
+sanitized=("${in_batches[@]}" TARNEL_TESTS=ON TARNEL_SANITIZE=address,undefined
+    CMAKE_BUILD_TYPE=Debug "CMAKE_CXX_FLAGS_DEBUG=-O1 -g1")
 
 # configure FOLDER NAME=VALUE...: configures a build folder unless it already stands like that. The
 # mark is there only after a complete run of cmake and holds the place it was run in: without it, or
