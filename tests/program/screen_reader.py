@@ -11,6 +11,7 @@ import pyatspi
 from gi.repository import GLib
 
 REST_SECONDS = 3
+FLIGHT_SECONDS = 6
 ANSWER_SECONDS = 1
 ANNOUNCE_SECONDS = 20
 START_SECONDS = 60
@@ -123,12 +124,25 @@ def use_the_controls():
     expect(heading.currentValue == 90, f"the heading dial stands at {heading.currentValue}")
 
 
+def fly_and_read():
+    hsi = find(pyatspi.ROLE_IMAGE, "HSI")
+    before = hsi.description
+    press(pyatspi.ROLE_PUSH_BUTTON, "Start SIM")
+    events.clear()
+    readings = [said for kind, _, said in listen(FLIGHT_SECONDS) if said == "HSI"]
+    press(pyatspi.ROLE_PUSH_BUTTON, "Stop SIM")
+    expect(1 <= len(readings) <= FLIGHT_SECONDS + 1, f"{len(readings)} readings of the HSI in flight")
+    expect(hsi.description != before, "the HSI says the same after a flight")
+    listen(REST_SECONDS)
+
+
 def answer_a_question():
     press(pyatspi.ROLE_MENU_ITEM, "HSI Holding", shown=False)
     expect(announced_by_press("Holding", pyatspi.ROLE_PUSH_BUTTON, "Next"),
            "a question is not announced")
     expect(announced_by_press("Entry: ", pyatspi.ROLE_RADIO_BUTTON, "Entry: Direct"),
            "a verdict is not announced")
+    listen(REST_SECONDS)
     expect_silence("beside an open question")
 
 
@@ -140,6 +154,7 @@ try:
     look_over_the_tree()
     expect_silence("at rest")
     use_the_controls()
+    fly_and_read()
     expect(announced_by_press("Welcome", pyatspi.ROLE_MENU_ITEM, "Introduction 1", shown=False),
            "a comment is not announced")
     listen(REST_SECONDS)

@@ -3,6 +3,8 @@
 #include "window/dials/spoken_reading.h"
 #include "window/student_fixture.h"
 
+#include <QAccessible>
+
 namespace tarnel {
 
 namespace {
@@ -70,7 +72,9 @@ TEST_F(Student, HearsWhichStationIsRead) {
     open();
     const auto heard = [this](const char* name) {
         settle();
-        return find<QWidget>(name).accessibleDescription().toStdString();
+        return QAccessible::queryAccessibleInterface(&find<QWidget>(name))
+            ->text(QAccessible::Description)
+            .toStdString();
     };
     const auto contains = [](const std::string& text, const std::string& part) {
         return text.find(part) != std::string::npos;

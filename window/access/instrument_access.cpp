@@ -61,6 +61,11 @@ class DialKnob : public Part {
 InstrumentAccess::InstrumentAccess(InstrumentView& instrument)
     : Whole(&instrument, QAccessible::Graphic), view(instrument) {}
 
+/// Read when it is asked for: in flight it is never the same for long.
+QString InstrumentAccess::text(QAccessible::Text kind) const {
+    return kind == QAccessible::Description ? view.spoken() : Whole::text(kind);
+}
+
 int InstrumentAccess::partCount() const {
     return static_cast<int>(view.knobs().size());
 }

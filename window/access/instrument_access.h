@@ -12,6 +12,8 @@ class InstrumentAccess : public Whole {
   public:
     explicit InstrumentAccess(InstrumentView& instrument);
 
+    [[nodiscard]] QString text(QAccessible::Text kind) const override;
+
   protected:
     [[nodiscard]] int partCount() const override;
     [[nodiscard]] Part* makePart(int index) const override;

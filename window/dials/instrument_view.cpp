@@ -6,6 +6,7 @@
 #include "window/widgets/spoken.h"
 #include "window/widgets/text_of.h"
 
+#include <QAccessible>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -35,6 +36,9 @@ Qt::CursorShape cursorOver(InstrumentArea area, bool pressed) {
     return Qt::ArrowCursor;
 }
 
+/// Flight moves the needles many times a second; nobody hears so fast.
+constexpr int millisecondsAReading = 1000;
+
 /// Over nothing that a release could click.
 constexpr Point offTheFace{-1, -1};
 
@@ -51,6 +55,12 @@ InstrumentView::InstrumentView(UserControl_1& control, PictureStore& store,
       hold(*this, [this] { letGo(offTheFace); }) {
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
+    betweenReadings.setSingleShot(true);
+    betweenReadings.setInterval(millisecondsAReading);
+    connect(&betweenReadings, &QTimer::timeout, this, [this] {
+        if (saidIsOld)
+            speak();
+    });
     shown = present();
     speak();
 }
@@ -71,21 +81,38 @@ void InstrumentView::refresh() {
         return;
     shown = now;
     keepFocusUsable();
-    speak();
+    speakInTime();
     update();
 }
 
-/// The reading, behind the name of what has the keyboard.
 QString InstrumentView::spoken() const {
+    if (isHidden())
+        return {};
     QString reading = QString::fromStdString(spokenReading(instrument, shown.stations, texts));
     const QString knob = knobName(focusedArea());
     return knob.isEmpty() ? reading : knob + QStringLiteral(", ") + reading;
 }
 
-/// A covered instrument says nothing.
+/// Tells who listens that there is another reading.
 void InstrumentView::speak() {
     setSpokenName(*this, textOf(texts, spokenKind(instrument.Display)));
-    setSpokenDescription(*this, isHidden() ? QString() : spoken());
+    saidIsOld = false;
+    if (!QAccessible::isActive())
+        return;
+    const QString now = spoken();
+    if (now == said)
+        return;
+    said = now;
+    betweenReadings.start();
+    QAccessibleEvent event(this, QAccessible::DescriptionChanged);
+    QAccessible::updateAccessibility(&event);
+}
+
+void InstrumentView::speakInTime() {
+    if (betweenReadings.isActive())
+        saidIsOld = true;
+    else
+        speak();
 }
 
 void InstrumentView::showEvent(QShowEvent* /*event*/) {
@@ -95,7 +122,7 @@ void InstrumentView::showEvent(QShowEvent* /*event*/) {
 
 void InstrumentView::hideEvent(QHideEvent* /*event*/) {
     if (isHidden())
-        setSpokenDescription(*this, {});
+        speak();
 }
 
 Point InstrumentView::twipsAt(QPointF at) const {
@@ -106,6 +133,7 @@ Point InstrumentView::twipsAt(QPointF at) const {
 void InstrumentView::change(const std::function<void()>& action) {
     guard(action);
     refresh();
+    speak();
 }
 
 void InstrumentView::paintEvent(QPaintEvent* /*event*/) {

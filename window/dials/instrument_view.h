@@ -10,6 +10,7 @@
 #include "window/widgets/mouse_hold.h"
 #include "window/widgets/panel_input.h"
 
+#include <QTimer>
 #include <QWidget>
 
 namespace tarnel {
@@ -28,6 +29,9 @@ class InstrumentView : public QWidget {
 
     /// To be called often: paints again only if the instrument shows something else.
     void refresh();
+
+    /// The reading, behind the name of what has the keyboard; nothing under a cover.
+    [[nodiscard]] QString spoken() const;
 
     /// What has the keyboard while the view has it.
     [[nodiscard]] InstrumentArea focusedArea() const;
@@ -87,7 +91,7 @@ class InstrumentView : public QWidget {
     void paintKnobs(QPainter& painter);
     void paintSelector(QPainter& painter);
     void speak();
-    [[nodiscard]] QString spoken() const;
+    void speakInTime();
     [[nodiscard]] QString tipOf(InstrumentArea area) const;
     void change(const std::function<void()>& action);
 
@@ -99,6 +103,9 @@ class InstrumentView : public QWidget {
     WheelNotches notches;
     MouseHold hold;
     Shown shown;
+    QString said;           ///< what a screen reader was sent last
+    bool saidIsOld = false; ///< the dial has changed since
+    QTimer betweenReadings;
     InstrumentArea hovered = InstrumentArea::none;
     InstrumentArea pressed = InstrumentArea::none;
     InstrumentArea focused = InstrumentArea::none;

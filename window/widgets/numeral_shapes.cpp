@@ -15,9 +15,6 @@ namespace {
 
 constexpr double pointTwips = 20;
 constexpr double outlineEm = 100; ///< large, since outlines are hinted to whole pixels
-/// Smaller, as two outlines are united to half a unit or so: an edge needs no more points.
-constexpr double edgeEm = 30;
-constexpr double edgeShare = numeralTextEdge / 2 / outlineEm; ///< of an em, around a numeral
 constexpr double cardinalWeight =
     look::card_share::cardinalHeight / look::card_share::numeralHeight;
 
@@ -41,27 +38,6 @@ QPainterPath letteringOf(const std::string& caption) {
     return path;
 }
 
-/// A numeral, and a shape that is a little larger all around: one em high, about their middles.
-struct NumeralOutline {
-    QPainterPath body;
-    QPainterPath edge;
-};
-
-NumeralOutline outlineOf(const std::string& caption) {
-    const QPainterPath path = letteringOf(caption);
-    const QPointF middle = path.boundingRect().center();
-    QTransform toOneEm = QTransform::fromScale(1 / outlineEm, 1 / outlineEm);
-    toOneEm.translate(-middle.x(), -middle.y());
-    const QPainterPath body = toOneEm.map(path);
-    const QTransform toEdgeEm = QTransform::fromScale(edgeEm, edgeEm);
-    const QPainterPath inside = toEdgeEm.map(body);
-    QPainterPathStroker stroker;
-    stroker.setWidth(2 * edgeShare * edgeEm);
-    stroker.setJoinStyle(Qt::RoundJoin);
-    const QPainterPath edge = stroker.createStroke(inside).united(inside);
-    return {body, toEdgeEm.inverted().map(edge)};
-}
-
 /// Twips.
 double emOf(const Label& numeral) {
     return numeral.fontPoints * pointTwips * (isCardinal(numeral.caption) ? cardinalWeight : 1);
@@ -82,18 +58,21 @@ const NumeralShapes::Cell& NumeralShapes::cellOf(const std::string& caption, dou
     Cell& cell = cells[caption];
     if (cell.pixelsAnEm == pixelsAnEm)
         return cell;
-    const NumeralOutline outline = outlineOf(caption);
-    const QTransform toPixels = QTransform::fromScale(pixelsAnEm, pixelsAnEm);
-    const QRectF edge = toPixels.mapRect(outline.edge.boundingRect());
-    const QSize half(qCeil(edge.width() / 2) + 1, qCeil(edge.height() / 2) + 1);
+    const QPainterPath lettering = letteringOf(caption);
+    const QRectF area = lettering.boundingRect();
+    const double pixels = pixelsAnEm / outlineEm;
+    const QSize half(qCeil((area.width() + numeralTextEdge) * pixels / 2) + 1,
+                     qCeil((area.height() + numeralTextEdge) * pixels / 2) + 1);
     cell = {QPixmap(half * 2), pixelsAnEm};
     cell.pixels.fill(Qt::transparent);
     QPainter painter(&cell.pixels);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(half.width(), half.height());
-    painter.setTransform(toPixels, true);
-    painter.fillPath(outline.edge, look::shapeEdge);
-    painter.fillPath(outline.body, look::ticks);
+    painter.scale(pixels, pixels);
+    painter.translate(-area.center());
+    painter.strokePath(lettering, QPen(look::shapeEdge, numeralTextEdge, Qt::SolidLine, Qt::FlatCap,
+                                       Qt::RoundJoin));
+    painter.fillPath(lettering, look::ticks);
     return cell;
 }
 
