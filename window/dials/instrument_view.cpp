@@ -57,10 +57,7 @@ InstrumentView::InstrumentView(UserControl_1& control, PictureStore& store,
     setMouseTracking(true);
     betweenReadings.setSingleShot(true);
     betweenReadings.setInterval(millisecondsAReading);
-    connect(&betweenReadings, &QTimer::timeout, this, [this] {
-        if (saidIsOld)
-            speak();
-    });
+    connect(&betweenReadings, &QTimer::timeout, this, [this] { speak(); });
     shown = present();
     speak();
 }
@@ -81,7 +78,8 @@ void InstrumentView::refresh() {
         return;
     shown = now;
     keepFocusUsable();
-    speakInTime();
+    if (!betweenReadings.isActive())
+        speak();
     update();
 }
 
@@ -96,7 +94,6 @@ QString InstrumentView::spoken() const {
 /// Tells who listens that there is another reading.
 void InstrumentView::speak() {
     setSpokenName(*this, textOf(texts, spokenKind(instrument.Display)));
-    saidIsOld = false;
     if (!QAccessible::isActive())
         return;
     const QString now = spoken();
@@ -106,13 +103,6 @@ void InstrumentView::speak() {
     betweenReadings.start();
     QAccessibleEvent event(this, QAccessible::DescriptionChanged);
     QAccessible::updateAccessibility(&event);
-}
-
-void InstrumentView::speakInTime() {
-    if (betweenReadings.isActive())
-        saidIsOld = true;
-    else
-        speak();
 }
 
 void InstrumentView::showEvent(QShowEvent* /*event*/) {

@@ -91,7 +91,6 @@ class InstrumentView : public QWidget {
     void paintKnobs(QPainter& painter);
     void paintSelector(QPainter& painter);
     void speak();
-    void speakInTime();
     [[nodiscard]] QString tipOf(InstrumentArea area) const;
     void change(const std::function<void()>& action);
 
@@ -103,8 +102,7 @@ class InstrumentView : public QWidget {
     WheelNotches notches;
     MouseHold hold;
     Shown shown;
-    QString said;           ///< what a screen reader was sent last
-    bool saidIsOld = false; ///< the dial has changed since
+    QString said; ///< what a screen reader was sent last
     QTimer betweenReadings;
     InstrumentArea hovered = InstrumentArea::none;
     InstrumentArea pressed = InstrumentArea::none;
