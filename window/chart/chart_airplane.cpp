@@ -7,7 +7,7 @@
 #include <QPainterPath>
 #include <QTransform>
 
-#include <cmath>
+#include <algorithm>
 
 namespace tarnel {
 
@@ -63,26 +63,63 @@ QTransform alongLines(const ChartFrame& frame, const AirplaneLines& lines) {
     return {right.x(), right.y(), back.x(), back.y(), centre.x(), centre.y()};
 }
 
+/// In pixels on the chart.
+void paintShape(QPainter& painter, const QPainterPath& shape, double symbolScale, Colour colour) {
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(look::faded(look::paper, haloOpacity), haloWidth * symbolScale,
+                        Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPath(shape);
+    painter.setBrush(look::paper);
+    painter.setPen(QPen(look::fromSurface(colour), outlineWidth * symbolScale, Qt::SolidLine,
+                        Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPath(shape);
+}
+
 } // namespace
 
-QRectF airplaneArea(const ChartFrame& frame, const AirplaneLines& lines) {
+/// Twice as fine as the screen, since it is turned.
+void ChartAirplane::fitTo(const ChartFrame& frame, Colour colour) {
+    const double finer = 2 * frame.pixelRatio;
+    const double scale = frame.pixelsPerTwip * finer;
+    if (pixelsPerTwip == scale && symbolScale == frame.symbolScale && ink == colour)
+        return;
+    pixelsPerTwip = scale;
+    symbolScale = frame.symbolScale;
+    ink = colour;
+    const QPainterPath shape = QTransform::fromScale(scale, scale).map(silhouette());
+    const QRectF area = shape.boundingRect();
+    const double edge = haloWidth * symbolScale * finer;
+    const QSize half(qCeil(std::max(-area.left(), area.right()) + edge),
+                     qCeil(std::max(-area.top(), area.bottom()) + edge));
+    pixels = QPixmap(half * 2);
+    pixels.fill(Qt::transparent);
+    QPainter painter(&pixels);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(half.width(), half.height());
+    paintShape(painter, shape, symbolScale * finer, colour);
+}
+
+QRectF ChartAirplane::area(const ChartFrame& frame, const AirplaneLines& lines) {
     if (!lines.fuselage.visible)
         return {};
     return alongLines(frame, lines).mapRect(silhouette().boundingRect());
 }
 
-void paintAirplane(QPainter& painter, const ChartFrame& frame, const AirplaneLines& lines) {
-    if (!airplaneArea(frame, lines).intersects(frame.paper))
+void ChartAirplane::paint(QPainter& painter, const ChartFrame& frame, const AirplaneLines& lines) {
+    if (!area(frame, lines).intersects(frame.paper))
         return;
-    const QPainterPath outline = alongLines(frame, lines).map(silhouette());
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(look::faded(look::paper, haloOpacity), haloWidth * frame.symbolScale,
-                        Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.drawPath(outline);
-    painter.setBrush(look::paper);
-    painter.setPen(QPen(look::fromSurface(lines.fuselage.colour), outlineWidth * frame.symbolScale,
-                        Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.drawPath(outline);
+    const QTransform place = alongLines(frame, lines);
+    const Colour colour = lines.fuselage.colour;
+    if (frame.medium == ChartMedium::sheet)
+        return paintShape(painter, place.map(silhouette()), frame.symbolScale, colour);
+    fitTo(frame, colour);
+    painter.save();
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.setTransform(place, true);
+    painter.scale(1 / pixelsPerTwip, 1 / pixelsPerTwip);
+    painter.drawPixmap(QPointF(-pixels.width() / 2.0, -pixels.height() / 2.0), pixels);
+    painter.restore();
 }
 
 } // namespace tarnel

@@ -3,6 +3,7 @@
 #include "look/look.h"
 #include "window/chart/view_switch.h"
 #include "window/widgets/icons.h"
+#include "window/widgets/kept_buttons.h"
 #include "window/widgets/text_of.h"
 
 #include <QHBoxLayout>
@@ -37,7 +38,7 @@ ChartControls::ChartControls(ChartDisplay& chartDisplay, BoxDesk& boxDesk, QWidg
 }
 
 QToolButton* ChartControls::addZoom(const char* name, Text caption, Text tip, int steps) {
-    auto* button = new QToolButton(this);
+    auto* button = new KeptButton<QToolButton>(this);
     button->setObjectName(QString::fromLatin1(name));
     button->setAccessibleName(textOf(boxes.texts, caption));
     button->setToolTip(textOf(boxes.texts, tip));

@@ -3,6 +3,7 @@
 #include "look/look.h"
 #include "window/chart/chart_lines.h"
 #include "window/chart/chart_overlays.h"
+#include "window/widgets/rounded_fill.h"
 
 #include <QPainter>
 
@@ -59,9 +60,7 @@ bool ChartGround::keeps(const std::vector<Dot>& dots) const {
 
 void ChartGround::paintAll(QPainter& painter, const ChartFrame& frame, const Shown& now,
                            const std::vector<Dot>& dots) {
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(look::paper);
-    painter.drawRoundedRect(frame.paper, look::paperRadius, look::paperRadius);
+    fillRounded(painter, frame.paper, look::paperRadius, look::paper);
     painter.save();
     painter.setClipRect(frame.paper);
     paintGrid(painter, frame, now.grid);

@@ -1,6 +1,7 @@
 #include "window/chart/chart_overlays.h"
 
 #include "look/look.h"
+#include "window/widgets/rounded_fill.h"
 
 #include <QPainter>
 #include <QVarLengthArray>
@@ -23,9 +24,7 @@ constexpr double pillOpacity = 0.95;
 constexpr int gridBuffer = 256;
 
 void paintPlate(QPainter& painter, const Box& plate) {
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(look::faded(look::paper, plateOpacity));
-    painter.drawRoundedRect(toQt(plate), look::paperRadius, look::paperRadius);
+    fillRounded(painter, toQt(plate), look::paperRadius, look::faded(look::paper, plateOpacity));
 }
 
 void paintGridLines(QPainter& painter, const std::vector<Stroke>& lines) {

@@ -2,7 +2,6 @@
 
 #include "core/number_text.h"
 #include "look/look.h"
-#include "window/chart/chart_airplane.h"
 #include "window/chart/readout_plate.h"
 #include "window/widgets/text_of.h"
 
@@ -131,7 +130,7 @@ void ChartPainter::layOut(const Words& said, const ScaleBar& scale) {
         room.names[slot] = nameText(slot).room;
     const Box foot = layered() ? layer->foot(layerPlace()) : scale.plate;
     lettering.layOut({sim.picture, frame, foot, sim.referenceReading.known && !layered(),
-                      toPaper(airplaneArea(frame, sim.picture.airplane)),
+                      toPaper(ChartAirplane::area(frame, sim.picture.airplane)),
                       frame.spot(sim.aircraft.place.wide)},
                      room);
 }
@@ -146,7 +145,7 @@ void ChartPainter::paintLines(QPainter& painter) {
             symbols.paint(painter, frame, picture.symbols[slot], slot, rotation());
 }
 
-void ChartPainter::paintLettering(QPainter& painter, const Words& said) const {
+void ChartPainter::paintLettering(QPainter& painter, const Words& said) {
     const ChartPicture& picture = sim.picture;
     if (lettering.radialI2)
         paintRadialLettering(painter, frame, picture.radialsI2.course, said.radialI2,
@@ -156,7 +155,7 @@ void ChartPainter::paintLettering(QPainter& painter, const Words& said) const {
                              *lettering.radialI3);
     paintNames(painter);
     paintSpeedVectors(painter, frame, picture.speedVectors, said.speeds, lettering);
-    paintAirplane(painter, frame, picture.airplane);
+    airplane.paint(painter, frame, picture.airplane);
     if (!lettering.wind.empty())
         paintWindLabel(painter, said.wind);
 }

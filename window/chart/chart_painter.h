@@ -3,6 +3,7 @@
 #include "engine/user_control_2.h"
 #include "paper/chart_lettering.h"
 #include "strings/string_table.h"
+#include "window/chart/chart_airplane.h"
 #include "window/chart/chart_dots.h"
 #include "window/chart/chart_frame.h"
 #include "window/chart/chart_ground.h"
@@ -59,7 +60,7 @@ class ChartPainter {
     [[nodiscard]] LayerPlace layerPlace() const;
 
     void paintLines(QPainter& painter);
-    void paintLettering(QPainter& painter, const Words& words) const;
+    void paintLettering(QPainter& painter, const Words& words);
     void paintNames(QPainter& painter) const;
     void paintName(QPainter& painter, const NameLabel& label, std::size_t slot) const;
     void paintWindLabel(QPainter& painter, const QString& text) const;
@@ -71,6 +72,7 @@ class ChartPainter {
     ChartSymbols symbols;
     ChartGround ground;
     ChartDots ahead;
+    ChartAirplane airplane;
     std::array<NameText, slotCount> nameTexts;
     ChartLettering lettering;
 };

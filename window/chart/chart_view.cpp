@@ -7,6 +7,7 @@
 #include "window/chart/chart_keyboard.h"
 #include "window/chart/reference_lamps.h"
 #include "window/chart/spoken_place.h"
+#include "window/widgets/ground_around.h"
 #include "window/widgets/spoken.h"
 #include "window/widgets/text_of.h"
 
@@ -41,6 +42,7 @@ ChartView::ChartView(UserControl2& simulation, const StringTable& table, QWidget
     keys = new ChartKeyboard(sim, texts, *this);
     setFocusPolicy(Qt::TabFocus);
     setMouseTracking(true);
+    setAttribute(Qt::WA_OpaquePaintEvent);
     setSpokenRole(*this, QAccessible::Canvas);
     setSpokenName(*this, spokenChart());
     showCursor();
@@ -85,6 +87,7 @@ QString ChartView::spokenChart() const {
 /// be seen is noted where the whole chart is asked to paint.
 void ChartView::paintEvent(QPaintEvent* /*event*/) {
     QPainter onWidget(this);
+    fillAround(onWidget, *this, side(), look::paperRadius, look::colours().desktop);
     painter.paint(onWidget, side(), devicePixelRatioF());
     keys->paint(onWidget, side(), devicePixelRatioF());
     if (!hasFocus())
@@ -108,8 +111,9 @@ void ChartView::showCursor() {
     const Qt::CursorShape wanted = overStation ? Qt::PointingHandCursor
                                    : canAct    ? Qt::CrossCursor
                                                : Qt::ArrowCursor;
-    if (cursor().shape() != wanted)
+    if (wanted != shownCursor)
         setCursor(wanted);
+    shownCursor = wanted;
 }
 
 Point ChartView::toTwips(QPointF at) const {

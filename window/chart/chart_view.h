@@ -88,6 +88,7 @@ class ChartView : public QWidget {
     std::unique_ptr<ChartLayer> layer; ///< null without one
     std::uint64_t shownLayer = 0;      ///< the layer's
     std::pair<std::uint64_t, bool> spoken{~std::uint64_t{0}, false}; ///< what the words are of
+    std::optional<Qt::CursorShape> shownCursor;
     int wheelRest = 0;
     MouseHold hold{*this, [this] { letGo(); }};
     std::optional<QPointF> pointer; ///< while it is over the chart

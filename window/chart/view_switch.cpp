@@ -1,6 +1,6 @@
 #include "window/chart/view_switch.h"
 
-#include "window/widgets/choice_button.h"
+#include "window/widgets/kept_buttons.h"
 #include "window/widgets/text_of.h"
 
 #include <QHBoxLayout>
@@ -27,7 +27,7 @@ ViewSwitch::ViewSwitch(ChartDisplay& chartDisplay, BoxDesk& boxDesk, QWidget* pa
 }
 
 QPushButton* ViewSwitch::addView(const char* name, const char* segment, Text caption, bool up) {
-    auto* button = new ChoiceButton(segmentPadding, this);
+    auto* button = new KeptButton<ChoiceButton>(segmentPadding, this);
     button->setText(textOf(boxes.texts, caption));
     button->setObjectName(QString::fromLatin1(name));
     button->setProperty("segment", segment);

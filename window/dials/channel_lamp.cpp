@@ -4,6 +4,7 @@
 
 #include <QPainter>
 #include <QRadialGradient>
+#include <QStyleOption>
 
 #include <algorithm>
 
@@ -33,13 +34,21 @@ void ChannelLamp::setLit(bool shines) {
     update();
 }
 
-/// A lens and its word in a well: it tells, and looks less like a key than like an annunciator.
+/// Kept, since the dial below it turns its needles many times a second.
 void ChannelLamp::paintEvent(QPaintEvent* /*event*/) {
+    QStyleOption option;
+    option.initFrom(this);
+    option.state.setFlag(QStyle::State_Sunken, isDown());
+    QPainter painter(this);
+    kept.paint(painter, rect(), {option.state, text(), lit},
+               [this](QPainter& face) { paintFace(face); });
+}
+
+/// A lens and its word in a well: it tells, and looks less like a key than like an annunciator.
+void ChannelLamp::paintFace(QPainter& painter) const {
     const double high = height();
     const double round = high * insetShare;
     const QRectF well = rect().toRectF().adjusted(0.5, 0.5, -0.5, -0.5);
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
     const QColor light =
         isEnabled() ? look::measured
                     : look::over(look::digitWell, look::measured, look::switchedOffOpacity);

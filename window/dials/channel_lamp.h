@@ -1,6 +1,9 @@
 #pragma once
 
+#include "window/widgets/kept_painting.h"
+
 #include <QAbstractButton>
+#include <QStyle>
 
 namespace tarnel {
 
@@ -20,6 +23,16 @@ class ChannelLamp : public QAbstractButton {
     void leaveEvent(QEvent* event) override;
 
   private:
+    struct Face {
+        QStyle::State state;
+        QString text;
+        bool lit;
+        bool operator==(const Face&) const = default;
+    };
+
+    void paintFace(QPainter& painter) const;
+
+    KeptPainting<Face> kept;
     bool lit = false;
 };
 

@@ -21,7 +21,22 @@ struct Scene {
     double side;
     double scale; ///< pixels a twip
     NeedleShapes shapes;
+    bool keeps; ///< on a screen: what comes again is kept as pixels
+
+    [[nodiscard]] Scene on(QPainter& other) const {
+        return {other, picture, side, scale, shapes, keeps};
+    }
 };
+
+/// Paints a part that seldom changes: what `draw(scene)` paints within `place`.
+template <class Key, class Draw>
+void paintKept(const Scene& scene, KeptPainting<Key>& kept, const QRectF& place, const Key& key,
+               const Draw& draw) {
+    if (!scene.keeps)
+        return draw(scene);
+    kept.paint(scene.painter, place.toAlignedRect(), key,
+               [&](QPainter& painter) { draw(scene.on(painter)); });
+}
 
 constexpr double longTickWeight = 1.45;
 constexpr double shortTickWeight = 1.1;
@@ -135,6 +150,18 @@ void paintHeadingBug(const Scene& scene) {
         drawRaised(scene, scene.shapes.headingBug(), look::headingBug);
 }
 
+/// What the dots cover, with their rings.
+QRectF dotsArea(const Scene& scene) {
+    QRectF area;
+    for (const Round& dot : scene.picture.Shape2) {
+        const double reach = dot.diameter * scene.scale;
+        const QPointF at = scene.shapes.place(dot.centre);
+        if (dot.visible)
+            area |= QRectF(at.x() - reach, at.y() - reach, 2 * reach, 2 * reach);
+    }
+    return area;
+}
+
 void paintDots(const Scene& scene) {
     constexpr double centreOpacity = 0.45;
     constexpr double ringShare = 0.0045;
@@ -197,12 +224,21 @@ void paintDeviation(const Scene& scene) {
         drawRaised(scene, {{scene.shapes.bar(picture.Line24, longTickWeight)}, {}}, look::ticks);
 }
 
+bool hasHub(const InstrumentPicture& picture) {
+    return picture.Line3to6.front().visible && !hasCourseArrow(picture);
+}
+
+/// With its shadow.
+QRectF hubArea(const Scene& scene) {
+    constexpr double reach = 1.3;
+    const double half = scene.side * hubRadius * reach;
+    return {scene.side / 2 - half, scene.side / 2 - half, 2 * half, 2 * half};
+}
+
 void paintHub(const Scene& scene) {
     constexpr double capShare = 0.88;
     constexpr double shadowShare = 1.08;
     constexpr double shadowDrop = 0.15;
-    if (!scene.picture.Line3to6.front().visible || hasCourseArrow(scene.picture))
-        return;
     const QPointF centre(scene.side / 2, scene.side / 2);
     const double radius = scene.side * hubRadius;
     const double top = centre.y() - radius;
@@ -244,19 +280,28 @@ void InstrumentPainter::paint(QPainter& painter, const InstrumentPicture& pictur
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     const double scale = side / picture.size;
-    const Scene scene{painter, picture, side, scale, NeedleShapes(picture, scale)};
-    paintBackground(scene, pictures);
-    paintTicks(scene);
+    const Scene scene{painter,
+                      picture,
+                      side,
+                      scale,
+                      NeedleShapes(picture, scale),
+                      numeralsAs == Numerals::pixels};
+    paintKept(scene, ground, QRectF(0, 0, side, side), {picture.Image1.file, picture.Line1},
+              [this](const Scene& below) {
+                  paintBackground(below, pictures);
+                  paintTicks(below);
+              });
     paintHeadingBug(scene);
-    paintDots(scene);
+    paintKept(scene, dots, dotsArea(scene), picture.Shape2, paintDots);
     paintSecondNeedle(scene);
     paintFirstNeedle(scene);
     paintDeviation(scene);
-    if (numeralsAs == Numerals::text)
-        writeNumerals(scene);
-    else
+    if (scene.keeps)
         paintNumerals(scene, numerals);
-    paintHub(scene);
+    else
+        writeNumerals(scene);
+    if (hasHub(picture))
+        paintKept(scene, hub, hubArea(scene), {}, paintHub);
     paintAircraft(scene);
     paintFlags(scene);
     painter.restore();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "instruments/instrument_picture.h"
+#include "window/widgets/kept_painting.h"
 #include "window/widgets/numeral_shapes.h"
 #include "window/widgets/picture_store.h"
 
@@ -21,9 +22,23 @@ class InstrumentPainter {
     void paint(QPainter& painter, const InstrumentPicture& picture, double side);
 
   private:
+    // What parts that seldom change depend on, besides their place.
+    struct Ground {
+        std::string file; ///< of the background
+        decltype(InstrumentPicture::Line1) ticks;
+        bool operator==(const Ground&) const = default;
+    };
+    using Dots = decltype(InstrumentPicture::Shape2);
+    struct Hub {
+        bool operator==(const Hub&) const = default;
+    };
+
     PictureStore& pictures;
     Numerals numeralsAs;
     NumeralShapes numerals;
+    KeptPainting<Ground> ground;
+    KeptPainting<Dots> dots;
+    KeptPainting<Hub> hub;
 };
 
 } // namespace tarnel

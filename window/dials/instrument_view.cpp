@@ -2,6 +2,7 @@
 
 #include "core/angle.h"
 #include "look/panel_look.h"
+#include "window/widgets/ground_around.h"
 #include "window/widgets/knob_drawing.h"
 #include "window/widgets/spoken.h"
 #include "window/widgets/text_of.h"
@@ -67,6 +68,12 @@ QSize InstrumentView::sizeHint() const {
     return {side, side};
 }
 
+void InstrumentView::setGround(const QBrush& around) {
+    ground = around;
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    update();
+}
+
 InstrumentView::Shown InstrumentView::present() const {
     return {instrument.picture.surface.revision(), instrument.Display, instrument.c_HDGbug,
             instrument.c_MouseOBS, stations ? stations() : SpokenStations{}};
@@ -128,6 +135,7 @@ void InstrumentView::change(const std::function<void()>& action) {
 
 void InstrumentView::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
+    fillAround(painter, *this, side(), side() * look::bezelRadiusShare, ground);
     instrumentPainter.paint(painter, instrument.picture, side());
     paintKnobs(painter);
     paintSelector(painter);

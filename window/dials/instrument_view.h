@@ -10,6 +10,7 @@
 #include "window/widgets/mouse_hold.h"
 #include "window/widgets/panel_input.h"
 
+#include <QBrush>
 #include <QTimer>
 #include <QWidget>
 
@@ -46,6 +47,9 @@ class InstrumentView : public QWidget {
     /// Turns a knob as wheel and keys do, and does what Space does on it.
     void turnKnob(InstrumentArea knob, int steps);
     void clickKnob(InstrumentArea knob);
+
+    /// What lies around the bezel's corners, in the view's own place.
+    void setGround(const QBrush& around);
 
     ModelGuard guard = unguarded();
     /// What the needles follow, for the spoken reading. May be empty.
@@ -102,6 +106,7 @@ class InstrumentView : public QWidget {
     WheelNotches notches;
     MouseHold hold;
     Shown shown;
+    QBrush ground;
     QString said; ///< what a screen reader was sent last
     QTimer betweenReadings;
     InstrumentArea hovered = InstrumentArea::none;

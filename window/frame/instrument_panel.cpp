@@ -127,6 +127,7 @@ void InstrumentPanel::layOut(const WindowLayout& layout) {
     for (std::size_t i = 0; i < instruments.size(); ++i) {
         headers[i]->setGeometry(layout.headers[i]);
         instruments[i]->setGeometry(layout.instruments[i]);
+        instruments[i]->setGround(groundAt(layout.instruments[i].topLeft()));
         layOutChannelLamp(i, layout.instruments[i]);
         plates[i]->setGeometry(layout.instruments[i]);
     }
@@ -161,11 +162,18 @@ void InstrumentPanel::refresh() {
         module->refresh();
 }
 
+/// The panel's own ground as a part at `place` sees it.
+QBrush InstrumentPanel::groundAt(QPoint place) const {
+    QBrush ground(look::downward(0, height(), look::panelTop, look::panelBottom));
+    ground.setTransform(QTransform::fromTranslate(-place.x(), -place.y()));
+    return ground;
+}
+
 void InstrumentPanel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(look::downward(0, height(), look::panelTop, look::panelBottom));
+    painter.setBrush(groundAt({}));
     painter.drawRoundedRect(rect(), look::panelRadius, look::panelRadius);
 }
 

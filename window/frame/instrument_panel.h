@@ -57,6 +57,7 @@ class InstrumentPanel : public QWidget {
     void makeInstruments(FormBinding& binding, PictureStore& pictures, const ModelGuard& guard);
     void makeModules(FormBinding& binding, PictureStore& pictures, const ModelGuard& guard);
     void nameModules();
+    [[nodiscard]] QBrush groundAt(QPoint place) const;
     [[nodiscard]] SpokenStations stationsOf(const InstrumentPosition& position) const;
     void coverInstruments();
     void showChannelLamps();

@@ -108,7 +108,7 @@ void DigitDisplay::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    paintWell(painter);
+    keptWell.paint(painter, rect(), scale, [this](QPainter& face) { paintWell(face); });
     if (dimmed)
         painter.setOpacity(look::switchedOffOpacity);
     paintLabel(painter);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "instruments/digit_readout.h"
+#include "window/widgets/kept_painting.h"
 
 #include <QString>
 #include <QWidget>
@@ -67,6 +68,7 @@ class DigitDisplay : public QWidget {
     DigitStyle style;
     std::vector<std::int16_t> shown;
     double scale = 1;
+    KeptPainting<double> keptWell; ///< at a scale
     bool dimmed = false;
     bool labelShown = true;
     bool pointShown = true;

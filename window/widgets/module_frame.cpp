@@ -94,9 +94,11 @@ void ModuleFrame::place() {
 
 void ModuleFrame::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
+    kept.paint(painter, rect(), {units, moduleScale, dimmed}, [this](QPainter& face) {
+        paintPlate(face);
+        paintTexts(face);
+    });
     painter.setRenderHint(QPainter::Antialiasing);
-    paintPlate(painter);
-    paintTexts(painter);
     paintMore(painter);
 }
 

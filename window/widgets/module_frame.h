@@ -1,5 +1,6 @@
 #pragma once
 
+#include "window/widgets/kept_painting.h"
 #include "window/widgets/model_guard.h"
 
 #include <QRectF>
@@ -32,6 +33,7 @@ class ModuleFrame : public QWidget {
     struct Unit {
         QString text;
         double right = 0;
+        bool operator==(const Unit&) const = default;
     };
 
     /// Gives the parts their places within `body`.
@@ -49,10 +51,18 @@ class ModuleFrame : public QWidget {
   private:
     [[nodiscard]] double captionHeight() const;
     void place();
+    struct Face {
+        std::vector<Unit> units;
+        double scale;
+        bool dimmed;
+        bool operator==(const Face&) const = default;
+    };
+
     void paintPlate(QPainter& painter) const;
     void paintTexts(QPainter& painter) const;
 
     QString caption;
+    KeptPainting<Face> kept; ///< below digits that change many times a second
     std::vector<Unit> units;
     double moduleScale = 1;
     bool dimmed = false;
