@@ -36,6 +36,8 @@ void OptionButton::choose() {
 void OptionButton::show() {
     if (chosen())
         return;
+    if (group.chosen)
+        group.chosen->touch();
     group.chosen = this;
     touch();
 }

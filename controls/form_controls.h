@@ -45,6 +45,9 @@ class FormControl {
     [[nodiscard]] bool visible() const { return isVisible; }
     [[nodiscard]] bool enabled() const { return isEnabled; }
 
+    /// Counts this control's own changes.
+    [[nodiscard]] std::uint64_t revision() const { return changes; }
+
     void setCaption(Text caption) { change(captionText, std::optional(caption)); }
     void setTip(Text tip) { change(tipText, std::optional(tip)); }
     void setVisible(bool visible) { change(isVisible, visible); }
@@ -57,15 +60,19 @@ class FormControl {
         if (field == value)
             return false;
         field = value;
-        form.touch();
+        touch();
         return true;
     }
 
     /// Counts a change that was made past `change`.
-    void touch() { form.touch(); }
+    void touch() {
+        ++changes;
+        form.touch();
+    }
 
   private:
     FormState& form;
+    std::uint64_t changes = 0;
     std::string_view controlName;
     std::optional<Text> captionText;
     std::optional<Text> tipText;

@@ -138,10 +138,11 @@ void CommentCard::refresh() {
         writer->setFocus();
     practice->setVisible(practicePanel.frame.visible());
     practice->setEnabled(practicePanel.frame.enabled());
-    const QString spoken =
-        textOf(boxes.texts, Text::comment) + QStringLiteral(": ") + comment->text();
-    if (!written || place->accessibleName() == spoken)
+    if (!written || comment->text() == spokenComment)
         return;
+    spokenComment = comment->text();
+    const QString spoken =
+        textOf(boxes.texts, Text::comment) + QStringLiteral(": ") + *spokenComment;
     place->setAccessibleName(spoken);
     announce(*this, spoken);
 }

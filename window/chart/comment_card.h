@@ -8,6 +8,7 @@
 #include <QWidget>
 
 #include <initializer_list>
+#include <optional>
 
 class QBoxLayout;
 class QLabel;
@@ -58,6 +59,7 @@ class CommentCard : public QWidget {
     QWidget* commentRow = nullptr;
     CommentMark* mark = nullptr;
     QLabel* comment = nullptr;
+    std::optional<QString> spokenComment;
     QScrollArea* place = nullptr;
     QWidget* writer = nullptr;
     QWidget* practice = nullptr;

@@ -3,7 +3,6 @@
 #include "look/look.h"
 #include "window/widgets/announce.h"
 
-#include <QGridLayout>
 #include <QLabel>
 #include <QPainter>
 #include <QStyle>
@@ -17,6 +16,8 @@ namespace {
 
 /// How much of the width each panel takes, in thousandths.
 constexpr std::array<int, 7> panelShares = {185, 135, 135, 135, 150, 145, 115};
+constexpr int allPanelShares = 1000;
+constexpr int edge = 1; ///< px, the line above
 constexpr int noticeMilliseconds = 8000;
 
 } // namespace
@@ -28,20 +29,14 @@ StatusPanels::StatusPanels(TrainerControls& form, TextPanel& flightNotice, FormB
     const std::array<TextPanel*, 7> order = {
         &form.sessionPanel, &form.windPanel, &form.hidePanel,      &form.tracePanel,
         &form.vectorsPanel, &form.modePanel, &form.flightTimePanel};
-    grid = new QGridLayout(this);
-    grid->setContentsMargins(0, 0, 0, 0);
-    grid->setSpacing(0);
     for (TextPanel* panel : order) {
         auto* label = new QLabel(this);
-        label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
         binding.bind(*panel, *label);
         panels.push_back(label);
     }
     panels.back()->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     notice = new QLabel(this); // lies over them for a moment
-    notice->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
     binding.bind(flightNotice, *notice);
-    arrange(1);
     noticeEnd.setSingleShot(true);
     connect(&noticeEnd, &QTimer::timeout, this,
             [&flightNotice] { flightNotice.setVisible(false); });
@@ -54,7 +49,6 @@ StatusPanels::StatusPanels(TrainerControls& form, TextPanel& flightNotice, FormB
 }
 
 int StatusPanels::linesAt(int width) const {
-    constexpr int allPanelShares = 1000;
     const QLabel& time = *panels.back();
     time.ensurePolished();
     const int needed = time.fontMetrics().horizontalAdvance(QStringLiteral("59h59min59sec")) +
@@ -63,25 +57,32 @@ int StatusPanels::linesAt(int width) const {
 }
 
 /// In two lines all columns are alike, and time stands at the right of the second.
-void StatusPanels::arrange(int lines) {
-    arranged = lines;
+void StatusPanels::arrange() {
     const auto count = static_cast<int>(panels.size());
+    const int lines = linesAt(width());
     const int columns = lines == 1 ? count : (count + 1) / 2;
+    const QRect inner = rect().adjusted(0, edge, 0, 0);
+    const int high = inner.height() / lines;
+    int share = 0;
     for (int i = 0; i < count; ++i) {
-        const bool isTime = lines > 1 && i + 1 == count;
-        QLabel* panel = panels[static_cast<std::size_t>(i)];
-        grid->addWidget(panel, i / columns, isTime ? columns - 1 : i % columns);
-        grid->setColumnStretch(i, i >= columns ? 0
-                                  : lines > 1  ? 1
-                                               : panelShares[static_cast<std::size_t>(i)]);
+        QRect place(0, inner.top() + i / columns * high, 0, high);
+        if (lines == 1) {
+            place.setLeft(width() * share / allPanelShares);
+            share += panelShares[static_cast<std::size_t>(i)];
+            place.setRight(width() * share / allPanelShares - 1);
+        } else {
+            const int column = i + 1 == count ? columns - 1 : i % columns;
+            place.setLeft(width() * column / columns);
+            place.setRight(width() * (column + 1) / columns - 1);
+        }
+        panels[static_cast<std::size_t>(i)]->setGeometry(place);
     }
-    grid->addWidget(notice, 0, 0, lines, columns);
+    notice->setGeometry(inner);
 }
 
 void StatusPanels::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
-    if (const int lines = linesAt(width()); lines != arranged)
-        arrange(lines);
+    arrange();
 }
 
 void StatusPanels::paintEvent(QPaintEvent*) {

@@ -8,12 +8,12 @@
 
 #include <vector>
 
-class QGridLayout;
 class QLabel;
 
 namespace tarnel {
 
-/// `StatusPanels`: the status bar: session, modes and flight time side by side.
+/// `StatusPanels`: the status bar: session, modes and flight time side by side. It places them
+/// itself: a layout would be reckoned anew with every second of flight.
 class StatusPanels : public QWidget {
     Q_OBJECT
 
@@ -29,11 +29,9 @@ class StatusPanels : public QWidget {
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    void arrange(int lines);
+    void arrange();
 
-    QGridLayout* grid = nullptr;
     QLabel* notice = nullptr;
-    int arranged = 0;
     std::vector<QLabel*> panels;
     QTimer noticeEnd;
 };

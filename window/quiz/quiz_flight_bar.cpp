@@ -4,10 +4,10 @@
 #include "window/widgets/icons.h"
 #include "window/widgets/replay_bar.h"
 #include "window/widgets/segment_row.h"
+#include "window/widgets/steady_label.h"
 #include "window/widgets/wrap_layout.h"
 
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QPushButton>
 #include <QToolButton>
 
@@ -54,7 +54,7 @@ QLayout* QuizFlightBar::makeReplayRow(FormBinding& binding) {
     keepPlace(*bar);
     binding.bind(model.controls.replayPage.bar, *bar);
     row->addWidget(bar, 1);
-    clock = new QLabel(this);
+    clock = new SteadyLabel(this);
     clock->setProperty("secondary", true);
     keepPlace(*clock);
     binding.bind(model.controls.replayPage.clock, *clock);
@@ -77,7 +77,9 @@ void QuizFlightBar::addSign(QBoxLayout& row, FormBinding& binding, OptionButton&
 
 void QuizFlightBar::follow() {
     const Sign sign = model.flight.flies() ? Sign::stop : Sign::play;
-    startButton->setIcon(signIcon(sign, inkOnAccent));
+    if (sign != shownSign)
+        startButton->setIcon(signIcon(sign, inkOnAccent));
+    shownSign = sign;
     startButton->setVisible(model.exercise.studentFlies());
     clock->setVisible(model.controls.replayPage.bar.visible());
 }

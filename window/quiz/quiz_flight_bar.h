@@ -5,12 +5,15 @@
 
 #include <QWidget>
 
+#include <optional>
+
 class QBoxLayout;
 class QPushButton;
 
 namespace tarnel {
 
 enum class Sign;
+class SteadyLabel;
 
 /// `QuizFlightBar`: what a student needs while he flies a question or watches its solution: start,
 /// speeds, the replay's place and the way back, in as many lines as they need.
@@ -35,7 +38,8 @@ class QuizFlightBar : public QWidget {
 
     QuizModel model;
     QWidget* speeds = nullptr;
-    QLabel* clock = nullptr;
+    SteadyLabel* clock = nullptr;
+    std::optional<Sign> shownSign; ///< on the start button
     QPushButton* startButton = nullptr;
     QPushButton* backButton = nullptr;
 };

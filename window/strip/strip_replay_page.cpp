@@ -3,9 +3,9 @@
 #include "look/look.h"
 #include "window/widgets/icons.h"
 #include "window/widgets/replay_bar.h"
+#include "window/widgets/steady_label.h"
 
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -57,7 +57,7 @@ QWidget* StripReplayPage::makeTimeline() {
     auto* bar = new ReplayBar(timeline);
     binding.bind(model.controls.replayPage.bar, *bar);
     row->addWidget(bar, 1);
-    auto* clock = new QLabel(timeline);
+    auto* clock = new SteadyLabel(timeline);
     clock->setProperty("secondary", true);
     binding.bind(model.controls.replayPage.clock, *clock);
     row->addWidget(clock);

@@ -5,6 +5,7 @@
 #include "window/widgets/quiz_list.h"
 #include "window/widgets/replay_bar.h"
 #include "window/widgets/spoken.h"
+#include "window/widgets/steady_label.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -50,6 +51,18 @@ void FormBinding::follow(std::function<void()> update) {
     updates.push_back(std::move(update));
 }
 
+void FormBinding::follow(const FormControl& control, std::function<void()> update) {
+    update();
+    followers.push_back({&control, std::move(update), control.revision()});
+}
+
+void FormBinding::byHand(const std::function<void()>& action) {
+    guarded(action);
+    shown = form.revision() - 1;
+    for (Follower& follower : followers)
+        follower.shown = follower.control->revision() - 1;
+}
+
 QString FormBinding::captionOf(const FormControl& control) const {
     return control.caption() ? textOf(texts, *control.caption()) : QString();
 }
@@ -74,8 +87,8 @@ void FormBinding::showCommon(const FormControl& control, QWidget& widget) const 
 
 void FormBinding::bind(CommandButton& control, QAbstractButton& button) {
     connect(&button, &QAbstractButton::clicked, this,
-            [this, &control] { guarded([&control] { control.click(); }); });
-    follow([this, &control, &button] {
+            [this, &control] { byHand([&control] { control.click(); }); });
+    follow(control, [this, &control, &button] {
         showCommon(control, button);
         button.setText(withMnemonicOf(button, captionOf(control)));
     });
@@ -83,9 +96,9 @@ void FormBinding::bind(CommandButton& control, QAbstractButton& button) {
 
 void FormBinding::bind(CommandButton& control, QAction& action) {
     connect(&action, &QAction::triggered, this,
-            [this, &control] { guarded([&control] { control.click(); }); });
+            [this, &control] { byHand([&control] { control.click(); }); });
     action.setObjectName(nameOf(control));
-    follow([&control, &action] { action.setEnabled(control.enabled()); });
+    follow(control, [&control, &action] { action.setEnabled(control.enabled()); });
 }
 
 void FormBinding::bind(CheckBox& control, QAbstractButton& button) {
@@ -96,10 +109,10 @@ void FormBinding::bind(CheckBox& control, QAbstractButton& button, std::function
     button.setCheckable(true);
     connect(&button, &QAbstractButton::clicked, this,
             [this, &control, &button, click = std::move(click)] {
-                guarded(click);
+                byHand(click);
                 showValue(button, control.value());
             });
-    follow([this, &control, &button] {
+    follow(control, [this, &control, &button] {
         showCommon(control, button);
         button.setText(withMnemonicOf(button, captionOf(control)));
         showValue(button, control.value());
@@ -109,10 +122,10 @@ void FormBinding::bind(CheckBox& control, QAbstractButton& button, std::function
 void FormBinding::bind(CheckBox& control, QAction& action) {
     action.setCheckable(true);
     connect(&action, &QAction::triggered, this, [this, &control, &action] {
-        guarded([&control] { control.click(); });
+        byHand([&control] { control.click(); });
         action.setChecked(control.value() == 1);
     });
-    follow([&control, &action] {
+    follow(control, [&control, &action] {
         action.setEnabled(control.enabled());
         action.setChecked(control.value() == 1);
     });
@@ -135,10 +148,10 @@ void FormBinding::bindOption(OptionButton& control, QAbstractButton& button,
                              std::function<QString()> caption) {
     button.setCheckable(true);
     connect(&button, &QAbstractButton::clicked, this, [this, &control, &button] {
-        guarded([&control] { control.click(); });
+        byHand([&control] { control.click(); });
         showChosen(button, control.chosen());
     });
-    follow([this, &control, &button, caption = std::move(caption)] {
+    follow(control, [this, &control, &button, caption = std::move(caption)] {
         showCommon(control, button);
         button.setText(caption());
         showChosen(button, control.chosen());
@@ -149,16 +162,16 @@ void FormBinding::bind(const std::vector<OptionButton*>& options, QTabBar& tabs)
     for (const OptionButton* option : options)
         tabs.setTabData(tabs.addTab(captionOf(*option)), nameOf(*option));
     connect(&tabs, &QTabBar::currentChanged, this, [this, options](int index) {
-        guarded([&] { options[static_cast<std::size_t>(index)]->click(); });
+        byHand([&] { options[static_cast<std::size_t>(index)]->click(); });
     });
-    follow([this, options, &tabs] {
-        const QSignalBlocker quiet(&tabs);
-        for (std::size_t i = 0; i < options.size(); ++i)
-            showTab(*options[i], tabs, static_cast<int>(i));
-    });
+    for (std::size_t i = 0; i < options.size(); ++i)
+        follow(*options[i], [this, option = options[i], &tabs, index = static_cast<int>(i)] {
+            showTab(*option, tabs, index);
+        });
 }
 
 void FormBinding::showTab(const OptionButton& option, QTabBar& tabs, int index) const {
+    const QSignalBlocker quiet(&tabs);
     tabs.setTabVisible(index, option.visible());
     if (tabs.isTabEnabled(index) != option.enabled())
         tabs.setTabEnabled(index, option.enabled());
@@ -172,8 +185,8 @@ void FormBinding::bind(SelectionList& control, QComboBox& list) {
     for (const Text entry : control.entries())
         list.addItem(textOf(texts, entry));
     connect(&list, &QComboBox::activated, this,
-            [this, &control](int index) { guarded([&] { control.pick(index); }); });
-    follow([this, &control, &list] {
+            [this, &control](int index) { byHand([&] { control.pick(index); }); });
+    follow(control, [this, &control, &list] {
         showCommon(control, list);
         if (control.tip())
             setSpokenName(list, textOf(texts, *control.tip()));
@@ -183,12 +196,12 @@ void FormBinding::bind(SelectionList& control, QComboBox& list) {
 
 void FormBinding::bind(TextList& control, QuizList& list) {
     list.onBrowse = [this, &control](int index) {
-        guarded([&control, index] { control.select(index); });
+        byHand([&control, index] { control.select(index); });
     };
     list.onConfirm = [this, &control](int index) {
-        guarded([&control, index] { control.pick(index); });
+        byHand([&control, index] { control.pick(index); });
     };
-    follow([this, &control, &list] {
+    follow(control, [this, &control, &list] {
         showCommon(control, list);
         QStringList entries;
         for (const std::string& entry : control.entries())
@@ -200,7 +213,7 @@ void FormBinding::bind(TextList& control, QuizList& list) {
 
 void FormBinding::bind(TextPanel& control, QLabel& label) {
     label.setTextFormat(Qt::PlainText);
-    follow([this, &control, &label] {
+    follow(control, [this, &control, &label] {
         showCommon(control, label);
         label.setText(QString::fromStdString(control.text()));
         if (!control.tipText().empty())
@@ -210,11 +223,16 @@ void FormBinding::bind(TextPanel& control, QLabel& label) {
     });
 }
 
+void FormBinding::bind(TextPanel& control, SteadyLabel& label) {
+    bind(control, static_cast<QLabel&>(label));
+    follow(control, [&label] { label.fit(); });
+}
+
 void FormBinding::bind(ScrollBar& control, ReplayBar& bar) {
     bar.onScroll = [this, &control](int value) {
         guarded([&control, value] { control.scrollTo(value); });
     };
-    follow([this, &control, &bar] {
+    follow(control, [this, &control, &bar] {
         showCommon(control, bar);
         bar.showPlace(control.max(), control.value());
     });
@@ -222,9 +240,9 @@ void FormBinding::bind(ScrollBar& control, ReplayBar& bar) {
 
 void FormBinding::bind(TextField& control, QLineEdit& field) {
     connect(&field, &QLineEdit::textEdited, this, [this, &control](const QString& text) {
-        guarded([&control, &text] { control.type(text.toStdString()); });
+        byHand([&control, &text] { control.type(text.toStdString()); });
     });
-    follow([this, &control, &field] {
+    follow(control, [this, &control, &field] {
         showCommon(control, field);
         if (const QString text = QString::fromStdString(control.text()); text != field.text())
             field.setText(text);
@@ -235,6 +253,11 @@ void FormBinding::refresh() {
     if (shown == form.revision())
         return;
     shown = form.revision();
+    for (Follower& follower : followers)
+        if (const std::uint64_t now = follower.control->revision(); now != follower.shown) {
+            follower.shown = now;
+            follower.update();
+        }
     for (const auto& update : updates)
         update();
 }

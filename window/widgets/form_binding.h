@@ -28,6 +28,7 @@ namespace tarnel {
 
 class QuizList;
 class ReplayBar;
+class SteadyLabel;
 
 /// The name of `control` as Qt wants it.
 [[nodiscard]] QString nameOf(const FormControl& control);
@@ -58,6 +59,7 @@ class FormBinding : public QObject {
     void bind(SelectionList& control, QComboBox& list);
     void bind(TextList& control, QuizList& list);
     void bind(TextPanel& control, QLabel& label);
+    void bind(TextPanel& control, SteadyLabel& label);
     void bind(ScrollBar& control, ReplayBar& bar);
     void bind(TextField& control, QLineEdit& field);
 
@@ -67,6 +69,17 @@ class FormBinding : public QObject {
     void refresh();
 
   private:
+    /// A widget of a control, with what makes it equal to that.
+    struct Follower {
+        const FormControl* control;
+        std::function<void()> update;
+        std::uint64_t shown; ///< the control's revision
+    };
+
+    void follow(const FormControl& control, std::function<void()> update);
+    /// Runs what a hand does to a widget. The control may refuse it, and others may answer: all
+    /// widgets are brought up to date.
+    void byHand(const std::function<void()>& action);
     void bindOption(OptionButton& control, QAbstractButton& button,
                     std::function<QString()> caption);
     void showTab(const OptionButton& option, QTabBar& tabs, int index) const;
@@ -77,6 +90,7 @@ class FormBinding : public QObject {
     const StringTable& texts;
     const FormState& form;
     ModelGuard guarded;
+    std::vector<Follower> followers;
     std::vector<std::function<void()>> updates;
     std::map<const FormControl*, char> letters;
     std::uint64_t shown = 0;
