@@ -15,7 +15,7 @@ class CouplingPulse : public QObject {
 
   public:
     /// Ticks without an event until it rests. A change needs two or three to get everywhere.
-    static constexpr int ticksToRest = 20;
+    static constexpr int ticksToRest = 6;
 
     /// `tick` must leave nothing to the next one that no event and no timer brings about.
     explicit CouplingPulse(std::function<void()> tick);

@@ -9,7 +9,8 @@ namespace tarnel {
 
 namespace {
 
-constexpr int frameMilliseconds = 16;
+/// As many pictures a second as a film has; each costs as much as a step of flight.
+constexpr int frameMilliseconds = 40;
 constexpr int samplesPerMinute = 45; ///< a page of the bar
 
 } // namespace
@@ -21,12 +22,14 @@ ReplayBar::ReplayBar(QWidget* parent) : QSlider(Qt::Horizontal, parent) {
     frame.setSingleShot(true);
     frame.setTimerType(Qt::PreciseTimer);
     frame.setInterval(frameMilliseconds);
-    connect(&frame, &QTimer::timeout, this, &ReplayBar::ask);
-    connect(this, &QSlider::valueChanged, this, [this] { isSliderDown() ? ask() : askNow(); });
+    connect(&frame, &QTimer::timeout, this, &ReplayBar::followHand);
+    connect(this, &QSlider::valueChanged, this, [this](int sample) {
+        if (onScroll)
+            onScroll(sample);
+    });
 }
 
 void ReplayBar::showPlace(int max, int value) {
-    asked = value;
     if (maximum() == max && this->value() == value)
         return;
     const QSignalBlocker quiet(this);
@@ -36,17 +39,11 @@ void ReplayBar::showPlace(int max, int value) {
     update();
 }
 
-void ReplayBar::ask() {
-    if (frame.isActive() || value() == asked)
+void ReplayBar::followHand() {
+    if (frame.isActive() || value() == wanted)
         return;
-    askNow();
     frame.start();
-}
-
-void ReplayBar::askNow() {
-    asked = value();
-    if (onScroll)
-        onScroll(asked);
+    setValue(wanted);
 }
 
 int ReplayBar::sampleAt(const QMouseEvent& event) const {
@@ -66,13 +63,15 @@ void ReplayBar::mousePressEvent(QMouseEvent* event) {
         return;
     hold.begin();
     setSliderDown(true);
-    setValue(sampleAt(*event));
+    wanted = sampleAt(*event);
+    followHand();
     event->accept();
 }
 
 void ReplayBar::mouseMoveEvent(QMouseEvent* event) {
+    wanted = sampleAt(*event);
     if (isSliderDown())
-        setValue(sampleAt(*event));
+        followHand();
     event->accept();
 }
 
@@ -87,8 +86,6 @@ void ReplayBar::mouseReleaseEvent(QMouseEvent* event) {
     hold.end();
     letGo();
     setValue(sampleAt(*event));
-    if (value() != asked)
-        askNow();
     event->accept();
 }
 

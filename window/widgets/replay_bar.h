@@ -17,7 +17,7 @@ class ReplayBar : public QSlider {
   public:
     explicit ReplayBar(QWidget* parent = nullptr);
 
-    /// Called with each sample that the user goes to, 60 times a second at most while dragging.
+    /// Called with each sample that the user goes to, 25 times a second at most while dragging.
     std::function<void(int)> onScroll;
 
     /// Shows a range and a value that came about elsewhere.
@@ -29,14 +29,13 @@ class ReplayBar : public QSlider {
     void mouseReleaseEvent(QMouseEvent* event) override;
 
   private:
-    void ask();
-    void askNow();
+    void followHand();
     [[nodiscard]] int sampleAt(const QMouseEvent& event) const;
     void letGo();
 
     MouseHold hold{*this, [this] { letGo(); }};
     QTimer frame;
-    int asked = 0; ///< the sample last asked for
+    int wanted = 0; ///< the sample under the hand that drags
 };
 
 } // namespace tarnel
