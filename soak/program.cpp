@@ -56,11 +56,24 @@ void Program::keepCount() {
     };
 }
 
-/// What was left to be deleted later goes only where the outermost loop runs.
+/// How often what is shown has changed.
+std::array<std::uint64_t, 4> Program::changes() const {
+    return {form.state.revision(), form.UserControl11.picture.surface.revision(),
+            form.inst2.instrument.picture.surface.revision(),
+            form.inst3.instrument.picture.surface.revision()};
+}
+
+/// The coupling has to be done with a change in a tick less than it has. What was left to be
+/// deleted later goes only where the outermost loop runs.
 void Program::settle() {
-    form.Timer1();
-    form.Timer1();
-    window.refresh();
+    const auto beat = [this](int ticks) {
+        for (int i = 0; i < ticks; ++i)
+            form.Timer1();
+        window.refresh();
+        return changes();
+    };
+    if (beat(CouplingPulse::ticks - 1) != beat(CouplingPulse::ticks))
+        throw Fault("the coupling was not done with a change in all its ticks");
     QApplication::processEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }

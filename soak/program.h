@@ -4,8 +4,10 @@
 #include "shell/form_1.h"
 #include "soak/answering_world.h"
 #include "soak/hand.h"
+#include "window/frame/coupling_pulse.h"
 #include "window/frame/main_window.h"
 
+#include <array>
 #include <cstdint>
 #include <string>
 
@@ -65,6 +67,7 @@ class Program {
     MainWindow window;
 
   private:
+    [[nodiscard]] std::array<std::uint64_t, 4> changes() const;
     void keepCount();
     void closeOthers();
     QAction& exit();

@@ -6,14 +6,15 @@ namespace tarnel {
 
 namespace {
 
-constexpr int beatMilliseconds = 1;
+constexpr int afterMilliseconds = 1;
 
 } // namespace
 
-CouplingPulse::CouplingPulse(std::function<void()> what) : tick(std::move(what)) {
+CouplingPulse::CouplingPulse(std::function<void()> beat) {
     timer.setTimerType(Qt::PreciseTimer);
-    timer.setInterval(beatMilliseconds);
-    connect(&timer, &QTimer::timeout, this, &CouplingPulse::beat);
+    timer.setInterval(afterMilliseconds);
+    timer.setSingleShot(true);
+    connect(&timer, &QTimer::timeout, this, std::move(beat));
 }
 
 void CouplingPulse::start() {
@@ -21,20 +22,11 @@ void CouplingPulse::start() {
     timer.start();
 }
 
-/// Only its own beat is no reason to go on.
+/// Only its own beat is no reason for another.
 bool CouplingPulse::eventFilter(QObject* watched, QEvent* /*event*/) {
-    if (watched != &timer) {
-        quietTicks = 0;
-        if (!timer.isActive())
-            timer.start();
-    }
+    if (watched != &timer && !timer.isActive())
+        timer.start();
     return false;
-}
-
-void CouplingPulse::beat() {
-    tick();
-    if (++quietTicks >= ticksToRest)
-        timer.stop();
 }
 
 } // namespace tarnel

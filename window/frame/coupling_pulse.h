@@ -7,18 +7,17 @@
 
 namespace tarnel {
 
-/// `CouplingPulse`: runs the coupling a thousand times a second while something may change, and
-/// rests while nothing comes. Any event of the program wakes it: the hand's, a timer's, a
-/// message's.
+/// `CouplingPulse`: runs the coupling a millisecond after something has happened, and rests while
+/// nothing comes. Any event of the program wakes it: the hand's, a timer's, a message's.
 class CouplingPulse : public QObject {
     Q_OBJECT
 
   public:
-    /// Ticks without an event until it rests. A change needs two or three to get everywhere.
-    static constexpr int ticksToRest = 6;
+    /// Ticks of the coupling that a beat runs: one more than any change needs to get everywhere.
+    static constexpr int ticks = 4;
 
-    /// `tick` must leave nothing to the next one that no event and no timer brings about.
-    explicit CouplingPulse(std::function<void()> tick);
+    /// `beat` must leave nothing to the next one that no event and no timer brings about.
+    explicit CouplingPulse(std::function<void()> beat);
 
     void start();
     [[nodiscard]] bool rests() const { return !timer.isActive(); }
@@ -27,11 +26,7 @@ class CouplingPulse : public QObject {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    void beat();
-
-    std::function<void()> tick;
     QTimer timer;
-    int quietTicks = 0;
 };
 
 } // namespace tarnel

@@ -57,7 +57,7 @@ MainWindow::MainWindow(Form1& owner)
       guard([&owner](const std::function<void()>& action) { owner.guarded(action); }),
       binding(owner.texts, owner.state, guard),
       pictures(QString::fromStdString(owner.UserControl11.c_MainAppPath.get())),
-      pulse([this] { couplingTick(); }) {
+      pulse([this] { beat(); }) {
     installAccessibility(form.texts);
     setObjectName(QStringLiteral("Form1"));
     setWindowTitle(textOf(form.texts, Text::windowTitle));
@@ -416,8 +416,9 @@ void MainWindow::followClocks() {
     follow(blinkTimer, form.markBlinks(), blinkMilliseconds);
 }
 
-void MainWindow::couplingTick() {
-    form.Timer1();
+void MainWindow::beat() {
+    for (int i = 0; i < CouplingPulse::ticks; ++i)
+        form.Timer1();
     followClocks();
     refresh();
 }

@@ -79,7 +79,7 @@ class MainWindow : public QMainWindow {
     void followDebrief();
     void focusStart();
     [[nodiscard]] ColumnWishes columnWishes() const;
-    void couplingTick();
+    void beat();
     void followClocks();
     static void follow(QTimer& timer, bool runs, int interval);
     [[nodiscard]] PanelSizes panelSizes() const;
