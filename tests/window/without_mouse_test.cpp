@@ -125,6 +125,22 @@ TEST_F(WithoutMouse, PlacesAndTurnsTheAircraftAndHearsWhere) {
     EXPECT_NE(aircraft(), before);
     press(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(aircraft(), before);
+    press(Qt::Key_PageDown);
+    press(Qt::Key_PageUp);
+    press(Qt::Key_Left, Qt::ShiftModifier, 2);
+    press(Qt::Key_Right, Qt::ControlModifier, 3);
+    press(Qt::Key_Return);
+    const auto stations = [this] {
+        return QAccessible::queryAccessibleInterface(&chart())
+            ->text(QAccessible::Description)
+            .toStdString();
+    };
+    EXPECT_THAT(stations(), testing::StartsWith("270\u00b0, 9.7 NM from VOR 1 " + vor + ", "));
+    form->chartPage.hide.click();
+    EXPECT_EQ(stations(), "") << "a hidden aircraft is nowhere";
+    form->chartPage.hide.click();
+    press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(aircraft(), before);
     press(Qt::Key_2, Qt::ControlModifier);
     press(Qt::Key_Right, Qt::ShiftModifier);
     EXPECT_EQ(said(), "heading 010");

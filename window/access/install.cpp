@@ -1,11 +1,13 @@
 #include "window/access/install.h"
 
 #include "window/access/button_access.h"
+#include "window/access/chart_access.h"
 #include "window/access/dme_access.h"
 #include "window/access/instrument_access.h"
 #include "window/access/knob_access.h"
 #include "window/access/list_access.h"
 #include "window/access/tab_access.h"
+#include "window/chart/chart_view.h"
 #include "window/dials/instrument_view.h"
 #include "window/radios/dme_selector.h"
 #include "window/widgets/knob_widget.h"
@@ -22,7 +24,7 @@ namespace {
 
 const StringTable* table = nullptr;
 
-/// What is turned or chosen on the panel.
+/// What is turned, chosen or read on the panel and the chart.
 QAccessibleInterface* panelPart(QWidget& widget) {
     if (auto* knob = qobject_cast<KnobWidget*>(&widget))
         return new KnobAccess(*knob);
@@ -32,6 +34,8 @@ QAccessibleInterface* panelPart(QWidget& widget) {
         return new InstrumentAccess(*instrument);
     if (auto* selector = qobject_cast<DmeSelector*>(&widget))
         return new DmeAccess(*selector);
+    if (auto* chart = qobject_cast<ChartView*>(&widget))
+        return new ChartAccess(*chart);
     return nullptr;
 }
 

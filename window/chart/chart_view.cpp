@@ -2,7 +2,9 @@
 
 #include "core/number_text.h"
 #include "core/rounding.h"
+#include "core/station_geometry.h"
 #include "look/look.h"
+#include "panel/signal_name.h"
 #include "paper/plates.h"
 #include "window/chart/chart_keyboard.h"
 #include "window/chart/reference_lamps.h"
@@ -75,12 +77,32 @@ void ChartView::speak() {
 }
 
 QString ChartView::spokenChart() const {
-    if (sim.c_AirplaneEN != 1 || sim.placeIsSecret())
+    if (hidesAircraft())
         return textOf(texts, Text::spokenChartHidden);
     const GeoPosition at = sim.aircraft.published();
     const auto heading = static_cast<std::int64_t>(roundToEven(sim.aircraft.trueHeading)) % 360;
     return textOf(texts, Text::spokenChart)
         .arg(spokenPosition(at, texts), QString::fromStdString(zeroPadded(heading, 3)));
+}
+
+QString ChartView::spokenStations() const {
+    if (hidesAircraft())
+        return {};
+    QStringList stations;
+    for (std::size_t i = 0; i < slotCount; ++i) {
+        const auto slot = static_cast<Slot>(i);
+        const StationSymbol& symbol = sim.picture.symbols[i];
+        if (!symbol.visible || symbol.image == SymbolImage::none)
+            continue;
+        const FromStation seen =
+            fromStation(toPlain(sim.stations[i].position), sim.aircraft.published());
+        stations << textOf(texts, Text::crosshairFromStation)
+                        .arg(QString::fromStdString(threeDigits(seen.radial)),
+                             QString::number(seen.distance, 'f', 1),
+                             textOf(texts, signalName(slot)) + QLatin1Char(' ') +
+                                 QString::fromStdString(sim.slot(slot).name));
+    }
+    return stations.join(QStringLiteral(", "));
 }
 
 /// Also called for a part alone, when something that lies over the chart paints again: what is to

@@ -33,6 +33,9 @@ class ChartView : public QWidget {
     /// What a screen reader says: where the aircraft is and where it heads.
     void speak();
     [[nodiscard]] QString spokenChart() const;
+    /// Where the aircraft stands as seen from each station on the chart; nothing while that may not
+    /// be known.
+    [[nodiscard]] QString spokenStations() const;
 
     /// What lies on the chart in the place of the trace while it is shown.
     void setLayer(std::unique_ptr<ChartLayer> shown) {
@@ -72,6 +75,9 @@ class ChartView : public QWidget {
 
   private:
     [[nodiscard]] Point toTwips(QPointF at) const;
+    [[nodiscard]] bool hidesAircraft() const {
+        return sim.c_AirplaneEN != 1 || sim.placeIsSecret();
+    }
     [[nodiscard]] double side() const { return std::min(width(), height()); }
     [[nodiscard]] bool mayEdit() const;
     [[nodiscard]] std::optional<Slot> stationAt(QPointF at) const;

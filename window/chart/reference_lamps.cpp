@@ -6,11 +6,14 @@
 
 #include <QPainter>
 
+#include <algorithm>
+
 namespace tarnel {
 
 namespace {
 
-// Lengths on a plate of 152 x 34.
+// Lengths on a plate of this size.
+constexpr double plateWidth = 152;
 constexpr double plateHeight = 34;
 constexpr double lampSide = 11;
 constexpr double lampTop = 6;
@@ -86,7 +89,7 @@ void ReferenceLamps::paintEvent(QPaintEvent* /*event*/) {
     painter.setPen(QPen(hasFocus() ? look::day.accent : look::day.line, hasFocus() ? 2 : 1));
     painter.setBrush(look::day.card);
     painter.drawRoundedRect(plate, look::paperRadius, look::paperRadius);
-    const double scale = height() / plateHeight;
+    const double scale = std::min(width() / plateWidth, height() / plateHeight);
     painter.scale(scale, scale);
     for (std::size_t i = 0; i < shown.size(); ++i) {
         const bool lit = shown[i] != Lamp::dark;
