@@ -91,6 +91,10 @@ QList<QAction*> entriesOf(const QMenuBar& bar) {
 
 } // namespace
 
+Hand::Hand(const Given& what) : given(what) {
+    watchForPopups();
+}
+
 QList<QWidget*> Hand::reachable(const QWidget& root) const {
     QList<QWidget*> all;
     for (QWidget* widget : root.findChildren<QWidget*>())
@@ -160,7 +164,6 @@ QPoint Hand::placeIn(const QWidget& widget) {
 }
 
 void Hand::click(QWidget& widget, QPoint at, Qt::MouseButton button) {
-    expectPopup();
     if (QWindow* window = widget.window()->windowHandle())
         QTest::mouseClick(window, button, {}, widget.mapTo(widget.window(), at));
 }
@@ -170,7 +173,6 @@ void Hand::drag(QWidget& widget, QPoint from, QPoint to, Qt::MouseButton button)
     QWindow* window = widget.window()->windowHandle();
     if (!window)
         return;
-    expectPopup();
     const QPoint corner = widget.mapTo(widget.window(), QPoint());
     QTest::mousePress(window, button, {}, corner + from);
     for (int i = 1; i <= steps; ++i)
@@ -211,7 +213,6 @@ void Hand::useKey() {
     else if (given.dice.once(6))
         key = Qt::ALT | static_cast<Qt::Key>(Qt::Key_A + given.dice.below(26));
     given.trail.note("key " + QKeySequence(key).toString().toStdString());
-    expectPopup();
     QTest::keyClick(window, key.key(), key.keyboardModifiers());
     answerPopups();
 }
@@ -253,7 +254,6 @@ void Hand::useFreely(QWidget& widget) {
         wheel(target);
         break;
     case 3:
-        expectPopup();
         if (QWindow* window = target.window()->windowHandle())
             QTest::mouseDClick(window, Qt::LeftButton, {},
                                target.mapTo(target.window(), placeIn(target)));
@@ -265,9 +265,13 @@ void Hand::useFreely(QWidget& widget) {
     }
 }
 
-/// A menu of a button has a loop of its own: what answers it has to come out of that.
-void Hand::expectPopup() {
-    QTimer::singleShot(0, &life, [this] { answerPopups(); });
+/// A menu of a button has a loop of its own, and a double click opens it twice: what answers it has
+/// to come out of that loop each time, also while another is answered.
+void Hand::watchForPopups() {
+    QTimer::singleShot(0, &life, [this] {
+        watchForPopups();
+        answerPopups();
+    });
 }
 
 void Hand::answerPopups() {
@@ -302,7 +306,6 @@ void Hand::answerMenu(QMenu& menu) {
     if (!chosen->menu())
         given.entries.used(nameOf(*chosen));
     given.trail.note("pick " + nameOf(*chosen));
-    expectPopup();
     if (QWindow* window = menu.windowHandle())
         QTest::mouseClick(window, Qt::LeftButton, {}, menu.actionGeometry(chosen).center());
 }
@@ -310,7 +313,6 @@ void Hand::answerMenu(QMenu& menu) {
 void Hand::trigger(QAction& action) {
     given.entries.used(nameOf(action));
     given.trail.note("trigger " + nameOf(action));
-    expectPopup();
     action.trigger();
     answerPopups();
 }

@@ -26,7 +26,7 @@ class Hand {
         Reach& controls;
         Reach& entries; ///< of menus
     };
-    explicit Hand(const Given& what) : given(what) {}
+    explicit Hand(const Given& what);
 
     /// Uses something within one of the windows that are up, or within a dialog that blocks them:
     /// of a few by chance what was used least.
@@ -60,7 +60,7 @@ class Hand {
     void type(QWidget& field);
     void useList(QComboBox& list);
     void useFreely(QWidget& widget);
-    void expectPopup();
+    void watchForPopups();
 
     Given given;
     QObject life; ///< what comes later does not come after it

@@ -72,8 +72,12 @@ void Program::settle() {
         window.refresh();
         return changes();
     };
-    if (beat(CouplingPulse::ticks - 1) != beat(CouplingPulse::ticks))
-        throw Fault("the coupling was not done with a change in all its ticks");
+    const auto before = beat(CouplingPulse::ticks - 1);
+    const auto after = beat(CouplingPulse::ticks);
+    constexpr const char* places[] = {"form", "chart", "instrument 2", "instrument 3"};
+    for (std::size_t i = 0; i < after.size(); ++i)
+        if (before[i] != after[i])
+            throw Fault(std::string("the coupling was not done in all its ticks: ") + places[i]);
     QApplication::processEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
