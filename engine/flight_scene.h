@@ -34,6 +34,8 @@ class FlightScene {
     void step(bool flies);
     /// Brings them up to date where the aircraft is.
     void refresh() { step(false); }
+    /// Publishes what the receivers have of the stations where the aircraft is.
+    void measure();
     /// Turns the aircraft as far as the last step's turn rate takes it in one tick.
     void turnByTick();
     /// Turns the aircraft at once. Degrees, 0 to 360.
@@ -91,7 +93,6 @@ class FlightScene {
     void layOutVectors();
     void drawFlownTrace();
     void showTurnsAhead();
-    void measure();
     [[nodiscard]] bool traceShown() const {
         return given.chart.c_TraceEN == 1 && given.chart.c_AirplaneEN == 1;
     }

@@ -128,7 +128,7 @@ void UserControl2::connect() {
 void UserControl2::connectChart() {
     for (auto* property : {&Turn_Rate, &c_TAS, &c_SpeedVectorEN, &c_TraceAheadEN})
         property->onSet([this] { scene.refresh(); });
-    c_Altitude.onSet([this] { scene.refresh(); });
+    c_Altitude.onSet([this] { scene.measure(); }); // twice a tick, and nothing drawn depends on it
     for (auto* property : {&c_NAV1freq, &c_NAV2freq, &c_Inst2NAVselect, &c_Inst3NAVselect})
         property->onSet([this] { scene.redrawChart(); });
     for (auto* property : {&c_obsI2, &c_obsI3, &c_LocCrs1})

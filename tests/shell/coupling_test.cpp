@@ -170,6 +170,11 @@ TEST_F(Autopilot, TakesItsHighestAltitudeWithoutAnError) {
     form.APControlFace1.stepALT(400);
     couple();
     EXPECT_EQ(told(form.APControlFace1.c_ALT, sim().c_Altitude), "42000 6000") << "pinned";
+    form.chartPage.vectors.set(2); // turns ahead
+    couple();
+    const auto drawn = sim().picture.surface.revision();
+    couple();
+    EXPECT_EQ(sim().picture.surface.revision(), drawn) << "for an altitude nothing is drawn";
     EXPECT_TRUE(world.boxes.empty());
 }
 
