@@ -10,9 +10,6 @@ namespace tarnel {
 
 namespace {
 
-/// With fewer answers to a kind of row nothing can be told.
-constexpr int fewestAnswers = 3;
-
 /// Counts the answers of one exercise as they come.
 struct Counting {
     std::vector<Tally> history;
@@ -144,7 +141,7 @@ Progress progressOf(TrainingLog& log, std::optional<int> course,
     const std::vector<LoggedCourse> courses = log.courses();
     for (const auto& [spot, counting] : spots)
         if (const SpotProgress told = counting.finish(spot, courses);
-            told.asked >= fewestAnswers && told.right < told.asked)
+            told.asked >= SpotProgress::fewest && told.right < told.asked)
             progress.spots.push_back(told);
     std::ranges::sort(progress.spots, [](const SpotProgress& a, const SpotProgress& b) {
         if (a.right * b.asked == b.right * a.asked && a.asked == b.asked)

@@ -35,6 +35,8 @@ struct ExerciseProgress {
 struct SpotProgress {
     /// As many of the latest answers to a kind of row tell how it goes.
     static constexpr int latest = 12;
+    /// With fewer answers to a kind of row nothing can be told.
+    static constexpr int fewest = 3;
 
     Text spot{};
     int asked = 0; ///< at most `latest`

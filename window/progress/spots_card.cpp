@@ -82,9 +82,10 @@ void SpotsCard::show(const Progress& progress, ExerciseType exercise, int mistak
         addRow(progress.spots[i], mayStart);
     }
     if (progress.spots.empty())
-        rows->addWidget(noteLabel(
-            textOf(texts, progress.answers == 0 ? Text::nothingAnswered : Text::noWeakSpots),
-            this));
+        rows->addWidget(noteLabel(progress.answers == 0
+                                      ? textOf(texts, Text::nothingAnswered)
+                                      : textOf(texts, Text::noWeakSpots).arg(SpotProgress::fewest),
+                                  this));
     rows->addStretch();
     const QString name = QString::fromStdString(exerciseName(exercise, texts));
     all->setEnabled(mayStart);

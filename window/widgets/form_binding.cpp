@@ -164,10 +164,9 @@ void FormBinding::bind(const std::vector<OptionButton*>& options, QTabBar& tabs)
     connect(&tabs, &QTabBar::currentChanged, this, [this, options](int index) {
         byHand([&] { options[static_cast<std::size_t>(index)]->click(); });
     });
-    for (std::size_t i = 0; i < options.size(); ++i)
-        follow(*options[i], [this, option = options[i], &tabs, index = static_cast<int>(i)] {
-            showTab(*option, tabs, index);
-        });
+    int count = 0;
+    for (const OptionButton* option : options)
+        follow(*option, [this, option, &tabs, index = count++] { showTab(*option, tabs, index); });
 }
 
 void FormBinding::showTab(const OptionButton& option, QTabBar& tabs, int index) const {
