@@ -6,6 +6,7 @@
 #include "platform/process.h"
 #include "shell/application_folder.h"
 #include "window/frame/command_line.h"
+#include "window/frame/desktop_portal.h"
 #include "window/frame/flight_guard.h"
 #include "window/frame/main_window.h"
 #include "window/frame/qt_outside_world.h"
@@ -15,6 +16,7 @@
 #include "window/widgets/text_of.h"
 
 #include <QApplication>
+#include <QDBusConnection>
 #include <QMessageBox>
 #include <QScreen>
 #include <QTextStream>
@@ -93,6 +95,9 @@ int runApplication(int argc, char** argv, const StringTable& texts) {
     const std::string folder = applicationFolder();
     dressApplication(texts, QString::fromStdString(folder));
     translateDialogs(texts);
+    std::optional<DesktopPortal> portal;
+    if (!qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS"))
+        portal.emplace(QDBusConnection::sessionBus());
     SingleInstance instance;
     const auto start = asked.newInstance ? SingleInstance::Start::first
                                          : instance.start(token + '\n' + asked.file);
