@@ -153,12 +153,12 @@ void Soak::runProgram(const StringTable& texts, double until) {
     Program program({texts, state, home.application.string(), home.files.string()});
     for (double next = hour(); hour() < until;) {
         alarm(patience);
-        doAnErrand(program, state);
-        check(program.form, program.window);
         if (hour() >= next) {
             noteFloor(program);
             next += step;
         }
+        doAnErrand(program, state);
+        check(program.form, program.window);
     }
     if (hour() - floors.back().hour > step / 2)
         noteFloor(program);
