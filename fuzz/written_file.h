@@ -1,7 +1,7 @@
 #pragma once
 
-#include <cstdlib>
-#include <filesystem>
+#include "support/temporary_folder.h"
+
 #include <fstream>
 #include <string>
 
@@ -11,20 +11,16 @@ namespace tarnel {
 /// goes at the end.
 class WrittenFile {
   public:
-    explicit WrittenFile(const std::string& name) : file(folder / name) {}
-    ~WrittenFile() { std::filesystem::remove_all(folder); }
-    WrittenFile(const WrittenFile&) = delete;
-    WrittenFile& operator=(const WrittenFile&) = delete;
+    explicit WrittenFile(const std::string& name) : file(folder.at / name) {}
 
     /// The path, once it holds `bytes`.
     std::string with(const std::string& bytes) const {
         std::ofstream(file, std::ios::binary) << bytes;
-        return file.string();
+        return textOf(file);
     }
 
   private:
-    std::string pattern = (std::filesystem::temp_directory_path() / "tarnel-XXXXXX").string();
-    std::filesystem::path folder = mkdtemp(pattern.data());
+    TemporaryFolder folder;
     std::filesystem::path file;
 };
 
