@@ -12,9 +12,9 @@ namespace tarnel {
 
 namespace {
 
-constexpr const char* service = "org.freedesktop.portal.Desktop";
-constexpr const char* path = "/org/freedesktop/portal/desktop";
-constexpr const char* interface = "org.freedesktop.portal.Settings";
+constexpr const char* portalService = "org.freedesktop.portal.Desktop";
+constexpr const char* portalPath = "/org/freedesktop/portal/desktop";
+constexpr const char* portalSettings = "org.freedesktop.portal.Settings";
 constexpr const char* appearance = "org.freedesktop.appearance";
 constexpr const char* colourScheme = "color-scheme";
 constexpr uint preferDark = 1;
@@ -31,14 +31,14 @@ QVariant unwrapped(QVariant value) {
 DesktopPortal::DesktopPortal(QDBusConnection itsBus) : bus(std::move(itsBus)) {
     if (!bus.isConnected())
         return;
-    bus.connect(service, path, interface, QStringLiteral("SettingChanged"), this,
+    bus.connect(portalService, portalPath, portalSettings, QStringLiteral("SettingChanged"), this,
                 SLOT(hear(QDBusMessage)));
     ask();
 }
 
 void DesktopPortal::ask() {
-    QDBusMessage question =
-        QDBusMessage::createMethodCall(service, path, interface, QStringLiteral("Read"));
+    QDBusMessage question = QDBusMessage::createMethodCall(portalService, portalPath,
+                                                           portalSettings, QStringLiteral("Read"));
     question << QString::fromLatin1(appearance) << QString::fromLatin1(colourScheme);
     auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(question), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
