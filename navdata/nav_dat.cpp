@@ -90,6 +90,10 @@ Common takeCommon(Row& row) {
     return common;
 }
 
+bool startsWithDigit(std::string_view line) {
+    return !line.empty() && line.front() >= '0' && line.front() <= '9';
+}
+
 bool endsInDme(std::string_view name) {
     return name.ends_with("DME") || name.ends_with("VORTAC");
 }
@@ -114,8 +118,7 @@ class NavDatReader {
 
   private:
     void readHead() {
-        if (!lines.next() || (lines.line != "I" && lines.line != "A"))
-            throw NavField::fileKind;
+        (void)lines.next(); // what kind of file it is
         if (!lines.next() || lines.line.empty())
             throw NavField::version;
         const double version = navNumber(Row(lines.line).field(), NavField::version);
@@ -234,9 +237,13 @@ class NavDatReader {
 
 } // namespace
 
+/// FlightGear leaves the first line empty.
 bool isNavDat(std::string_view text) {
-    const std::string_view first = trimmed(text.substr(0, text.find('\n')));
-    return first == "I" || first == "A";
+    Lines lines(text);
+    if (!lines.next())
+        return false;
+    const bool told = lines.line == "I" || lines.line == "A";
+    return told || (lines.line.empty() && lines.next() && startsWithDigit(lines.line));
 }
 
 NavData readNavDat(std::string_view text) {

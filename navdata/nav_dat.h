@@ -6,7 +6,8 @@
 
 namespace tarnel {
 
-/// Whether the text begins as `nav.dat` does: the first line is "I" or "A".
+/// Whether the text begins as `nav.dat` does: the first line is "I" or "A", or empty, as in
+/// FlightGear's, before one that begins with a digit.
 [[nodiscard]] bool isNavDat(std::string_view text);
 
 /// Reads such a text, which is UTF-8. Rows are read by position, as the format of their version has

@@ -11,7 +11,7 @@ namespace tarnel {
 
 /// What a line of navigation data has to hold.
 enum class NavField {
-    fileKind,  ///< "I" or "A", as in the first line of nav.dat, or OurAirports' names of columns
+    fileKind,  ///< a first line as nav.dat has it, "I" or "A", or OurAirports' names of columns
     version,   ///< 810 to 1200
     rowCode,   ///< 2 to 99
     packed,    ///< whole content of a gzip file

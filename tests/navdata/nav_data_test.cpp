@@ -68,6 +68,9 @@ TEST(NavDat, RowsAreReadAsTheirVersionHasThem) {
     EXPECT_EQ(old.navaids[3].course, 337);
     EXPECT_TRUE(old.navaids[3].hasDme); // by the row of its DME
 
+    EXPECT_EQ(read("\r\n" + earlier.substr(earlier.find("810"))).navaids.size(), 4U)
+        << "FlightGear's own begins with an empty line";
+
     const NavData now = read(packed(later.substr(0, 90)) + packed(later.substr(90)));
     ASSERT_EQ(now.navaids.size(), 3U);
     EXPECT_EQ(now.version, 1150);
