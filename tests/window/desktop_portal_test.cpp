@@ -62,6 +62,14 @@ TEST_F(Student, SeesTheWindowFollowTheWishForDarkOnTheBus) {
         EXPECT_TRUE(becomes(look::night));
         choose(desktop, "org.freedesktop.appearance", 0);
         EXPECT_TRUE(becomes(look::day));
+        QApplication::setPalette(look::paletteOf(look::night));
+        ASSERT_TRUE(becomes(look::night));
+        choose(desktop, "org.freedesktop.appearance", 1);
+        choose(desktop, "org.freedesktop.appearance", 0);
+        EXPECT_FALSE(QTest::qWaitFor([] { return look::colours() == look::day; }, 100))
+            << "a palette of the desktop goes before its wish";
+        QApplication::setPalette(QPalette());
+        EXPECT_TRUE(becomes(look::day));
     }
     for (const char* name : {"desktop", "early", "tarnel"})
         QDBusConnection::disconnectFromBus(name);
